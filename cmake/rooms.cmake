@@ -1,0 +1,38 @@
+# A room is a folder of sources that becomes a static library of its own. Its work lies in the
+# folder, its windows in the subfolder forms/. A room may use the rooms that it names here.
+
+# tova_room(NAME FOLDER LIBRARIES...): every .cpp directly in src/FOLDER.
+function(tova_room name folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp
+                                      ${CMAKE_SOURCE_DIR}/src/${folder}/*.h)
+  file(GLOB resources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${folder}/*.qrc)
+  if(NOT sources)
+    return()
+  endif()
+  add_library(${name} STATIC ${sources} ${resources})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON LINKER_LANGUAGE CXX)
+  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  foreach(library IN LISTS ARGN)
+    if(NOT library MATCHES "^tova_" OR TARGET ${library})
+      target_link_libraries(${name} PUBLIC ${library})
+    endif()
+  endforeach()
+endfunction()
+
+# tova_test(FOLDER LIBRARIES...): one GoogleTest program per folder of tests/, offscreen.
+function(tova_test folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  string(REPLACE "/" "_" name "test_${folder}")
+  add_executable(${name} ${sources})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE
+    TOVA_TESTDATEN="${CMAKE_SOURCE_DIR}/tests/${folder}" TOVA_QUELLEN="${CMAKE_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=Europe/Berlin" TIMEOUT 600)
+endfunction()

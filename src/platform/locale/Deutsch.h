@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <optional>
+
+// Numbers and dates in their German form. The forms are the program's own, whatever the machine
+// is set to.
+namespace Deutsch {
+
+// A date as people write it: d.m.yyyy or d.m.yy (00-29 is 20xx, 30-99 is 19xx), day first. Nothing
+// is guessed: what is not a real calendar day between the years 100 and 9999 gives no date.
+// Blanks around the text don't count.
+std::optional<QDate> datum(QStringView text);
+
+// "dd.mm.yyyy"; an empty text for a date that is none.
+QString datumText(QDate datum);
+
+// A number with a fixed count of decimals (0 to 15) and a decimal comma, without grouping. A half
+// is rounded away from zero, on the decimal digits that the number prints: 1.005 gives "1,01".
+QString zahl(double wert, int nachkommastellen);
+
+// The same with groups of thousands and a plain blank before the sign: "-1.234,50 €".
+QString waehrung(double wert);
+
+// The shortest text that gives the number back, with a decimal comma and never an exponent below
+// 1e15: 3.5 gives "3,5", 12 gives "12".
+QString schlicht(double wert);
+
+// The number value of a text: a leading number with a decimal point, blanks skipped, 0 when there
+// is none. "1,5" gives 1, "1e3" gives 1000. Never fails and never gives inf or nan.
+double val(QStringView text);
+
+// The nearest 32-bit float as the shortest decimal that gives it: 3.3333333 gives 3.3333333, and
+// 3.33f gives 3.33 and not 3.3299999237.
+double einfach(double wert);
+
+// Four decimals, a half to the even digit.
+double waehrungswert(double wert);
+
+// A whole number, a half to the even one. 2.5 gives 2, 3.5 gives 4.
+double gerade(double wert);
+
+}  // namespace Deutsch
