@@ -18,21 +18,27 @@ QString datumText(QDate datum);
 
 // A number with a fixed count of decimals (0 to 15) and a decimal comma, without grouping. A half
 // is rounded away from zero, on the decimal digits that the number prints: 1.005 gives "1,01".
+// Infinite and not a number count as 0; never "-0,00".
 QString zahl(double wert, int nachkommastellen);
 
 // The same with groups of thousands and a plain blank before the sign: "-1.234,50 €".
 QString waehrung(double wert);
+
+// With a decimal point and two decimals, cut to the width (its left part stays), filled with blanks
+// on the left: the form of numbers in the settings file.
+QString festeZahl(int breite, double zahl);
 
 // The shortest text that gives the number back, with a decimal comma and never an exponent below
 // 1e15: 3.5 gives "3,5", 12 gives "12".
 QString schlicht(double wert);
 
 // The number value of a text: a leading number with a decimal point, blanks skipped, 0 when there
-// is none. "1,5" gives 1, "1e3" gives 1000. Never fails and never gives inf or nan.
+// is none. "1,5" gives 1, "1e3" gives 1000. Never fails and never gives inf or nan: a number too
+// big gives the largest double.
 double val(QStringView text);
 
 // The nearest 32-bit float as the shortest decimal that gives it: 3.3333333 gives 3.3333333, and
-// 3.33f gives 3.33 and not 3.3299999237.
+// 3.33f gives 3.33 and not 3.3299999237. A number beyond the range of a float stays as it is.
 double einfach(double wert);
 
 // Four decimals, a half to the even digit.
