@@ -7,15 +7,43 @@
 
 #include "platform/database/Datenblock.h"
 
-// Turns a statement of the tables' own dialect into the engine's.
+// Turns a statement of the tables' own dialect into the engine's. What it gives depends on the
+// tables there are: whoever keeps translations drops them when a statement changed the schema.
 namespace Dialekt {
 
-// The declared fields of a table; empty when there is no such table.
+// The declared fields of a table; empty when there is no such table. Asked for names in any letter
+// case (umlauts too).
 using Katalog = std::function<std::vector<Spalte>(const QString& tabelle)>;
 
+// What else is known of the tables. Each part may be left out.
+struct Auskunft {
+  // The name of a table as it was declared. Needed for a name whose umlauts stand in the other
+  // letter case ("KÖNIGINWECHSEL"); without it names go to the engine as they are given.
+  std::function<QString(const QString& tabelle)> tabellenname;
+  // Whether an index begins with this field. Both names come as declared. Where one does, "select
+  // distinct F from T order by F" jumps from value to value instead of reading all rows.
+  std::function<bool(const QString& tabelle, const QString& feld)> beginntIndex;
+};
+
+// How the rows of a transform statement become the cross table. Each row holds, in this order:
+//
+//   gruppen columns   the left columns of the cross table as they stand behind "select", with
+//                     their names: the group values and totals over the whole group (such as
+//                     "count(*) as Anzahl"). They are the same in all rows of one table row.
+//   pivot value       null, number or text; its declared type is the field's
+//   cell value        what stands behind "transform"; never computed twice for one cell
+//   row number        1, 2, 3, ... of the row in the cross table, without gaps
+//   column number     1, 2, 3, ... of the pivot column, without gaps, ascending by pivot value,
+//                     null first, text by the collation
+//
+// Rows come by row number, then by column number. So the cross table has as many rows as the last
+// row's row number, gruppen + the greatest column number columns, and this row goes to
+// (row number - 1, gruppen + column number - 1); cells that no row goes to stay null. The heading
+// of a pivot column is the pivot value of the first row that has its number ("<>" for null): in
+// another row the same value may be spelled in other letter case. No rows: the gruppen columns
+// alone.
 struct Kreuztabelle {
-  // rows of: group columns..., pivot value, cell value
-  int gruppen = 0;        // number of leading columns that name a row of the cross table
+  int gruppen = 0;  // number of left columns
 };
 
 struct Uebersetzt {
@@ -25,10 +53,15 @@ struct Uebersetzt {
   bool schreibt = false;      // insert, update, delete
   bool aendertSchema = false; // create, alter, drop
   // The one table of a select without joins and groups; empty otherwise. Its rows can be changed.
+  // Spelled as declared.
   QString tabelle;
+  // Number of "?" in the statement. The engine's statement takes the same values in the same order.
+  int werte = 0;
 };
 
-// Throws Datenbankfehler (Art::Anweisung) for what can't be read.
-Uebersetzt uebersetze(const QString& anweisung, const Katalog& katalog);
+// Throws Datenbankfehler (Art::Anweisung) for what can't be read. The text is the engine's for
+// "prepare"; it needs the functions and the collation of Funktionen.h.
+Uebersetzt uebersetze(const QString& anweisung, const Katalog& katalog,
+                      const Auskunft& auskunft = {});
 
 }  // namespace Dialekt
