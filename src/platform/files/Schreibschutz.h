@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QStringList>
+
+// Files that carry a write protection: the owner may not write them.
+namespace Schreibschutz {
+
+// The full paths of the protected files directly in the folder, by name. A folder that isn't there
+// or can't be listed gives none.
+QStringList dateien(const QString& ordner);
+
+// Takes the protection off. Gives the files on which that failed; a file that has gone meanwhile
+// is no failure.
+QStringList entfernen(const QStringList& dateien);
+
+}  // namespace Schreibschutz
