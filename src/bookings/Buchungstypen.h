@@ -39,7 +39,7 @@ struct Buchungsslot {
   int laenge = 0;              // most characters; 0 for a note
   int nachkommastellen = 0;    // of Dezimal
   qint64 bis = 0;              // limit of Ganzzahl
-  QString ersterText;          // put in when the slot is dressed; not for Auswahl
+  QString ersterText = {};     // put in when the slot is dressed; not for Auswahl
   bool geld = false;           // shown with the currency as its unit
   QString listenTabelle = {};  // source of the pick list; empty: no pick list
   QString listenFeld = {};

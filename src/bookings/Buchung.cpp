@@ -1,0 +1,198 @@
+#include "bookings/Buchung.h"
+
+#include <QScopeGuard>
+#include <functional>
+
+#include "bookings/Rechnen.h"
+#include "core/globals.h"
+#include "data/helpers.h"
+#include "platform/database/Recordset.h"
+#include "platform/locale/Deutsch.h"
+
+using namespace TZ_Variablen;
+
+namespace {
+
+constexpr int Honigernte = 1;
+constexpr int Arbeiten = 5;
+
+const QString Neu = QStringLiteral("-1");
+
+double zahl(const Buchung& buchung, int slot) {
+  return ZahlLesen(buchung.texte[static_cast<size_t>(slot)]);
+}
+
+QString text(const Buchung& buchung, int slot) {
+  return TextLesen(buchung.texte[static_cast<size_t>(slot)]);
+}
+
+QDate datum(const Buchung& buchung) {
+  const QDate tag = DatumLesen(buchung.texte[0]);
+  if (!tag.isValid())
+    throw Datenbankfehler(Datenbankfehler::Art::Wertebereich,
+                          "Das Datum der Buchung ist nicht korrekt.");
+  return tag;
+}
+
+// The texts of the appointments that a booking settles: of the options that name its table, and
+// for Arbeiten of the options that name its kind of work. The same for all colonies of a run.
+QStringList erledigteTermine(Database& datenbank, const Buchung& buchung) {
+  QStringList termine;
+  const auto sammle = [&](const QString& anweisung, const QString& wert) {
+    Recordset option = datenbank.OpenRecordset(anweisung, {wert});
+    for (; !option.AmEnde(); option.MoveNext())
+      termine.append(TextLesen(option.Wert("Arbeitsart")));
+  };
+  sammle("select * from Arbeitsplanoptionen where Auto_erledigt_Buchung = ?",
+         buchungstyp(buchung.art).tabelle);
+  if (buchung.art == Arbeiten && !text(buchung, 1).isEmpty())
+    sammle("select * from Arbeitsplanoptionen where Auto_erledigt_Arbeitsart = ?",
+           text(buchung, 1));
+  return termine;
+}
+
+void termineErledigen(Database& datenbank, const QStringList& termine, QDate bis, qint64 volkId) {
+  for (const QString& termin : termine)
+    datenbank.Execute(
+        "update Termine set Erledigt = 'J' where Termin = ? and Datum <= ? and Volk_ID = ?",
+        {termin, bis, volkId});
+}
+
+// Slot 1 was entered in combs and becomes kilograms. A value that still is the one computed from
+// the combs follows; one that was typed stays.
+void honigwabenUmrechnen(Buchung& buchung) {
+  const double kgJeWabe = Deutsch::einfach(EinstellungenWert[5]);
+  if (EinstellungenZahl[73] != 1 || !(kgJeWabe > 0)) return;
+  const Slotaenderung vonWaben = *geldvorgabe(buchung.art, 1, buchung.texte);
+  QString& wert = buchung.texte[static_cast<size_t>(vonWaben.slot)];
+  // The entry field cuts what is longer than it.
+  const int laenge = buchungstyp(buchung.art).platz(vonWaben.slot)->laenge;
+  const bool berechnet = wert.left(laenge) == vonWaben.text.left(laenge);
+  buchung.texte[1] = ZahlFormat(Deutsch::einfach(zahl(buchung, 1) * kgJeWabe), 2);
+  if (berechnet) wert = geldvorgabe(buchung.art, 1, buchung.texte)->text;
+}
+
+QVariant feldwert(const Buchung& buchung, const Buchungsslot& slot) {
+  switch (slot.art) {
+    case Slotart::Dezimal:
+      return zahl(buchung, slot.nummer);
+    case Slotart::Ganzzahl:
+      return GanzLesen(buchung.texte[static_cast<size_t>(slot.nummer)]);
+    default:
+      return text(buchung, slot.nummer);
+  }
+}
+
+void felderSchreiben(Recordset& zeile, const Buchung& buchung, int anzahlMarkiert) {
+  const bool teilen = EinstellungenZahl[72] == 1 && anzahlMarkiert >= 2;
+  for (const Buchungsslot& slot : buchungstyp(buchung.art).plaetze) {
+    if (teilen && slot.geteilt)
+      zeile[slot.feld] =
+          ZahlLesen(ZahlFormat(Deutsch::einfach(zahl(buchung, slot.nummer) / anzahlMarkiert), 2));
+    else
+      zeile[slot.feld] = feldwert(buchung, slot);
+  }
+}
+
+// One movement for one harvest, however many colonies it came from.
+void honiglagerSchreiben(Database& datenbank, const Buchung& buchung, int anzahlMarkiert) {
+  const double menge = zahl(buchung, 1);
+  if (!(menge > 0) || EinstellungenZahl[68] != 1 || SammelFolgevolk) return;
+  // Undivided, each colony was booked the whole quantity.
+  const double zugang =
+      EinstellungenZahl[72] == 0 ? Deutsch::einfach(menge * anzahlMarkiert) : menge;
+  Recordset lager = datenbank.OpenRecordset("select * from Honiglager where ID = 0");
+  lager.AddNew();
+  lager["Datum"] = datum(buchung);
+  lager["Produkt"] = text(buchung, 2);
+  lager["Zugang"] = zugang;
+  lager["Abgang"] = 0;
+  lager["Charge"] = text(buchung, 7);
+  lager["Bemerkung"] = QString("");
+  lager["EVK_ID"] = 0;
+  lager["Abfülldatum"] = QVariant();
+  lager.Update();
+}
+
+Recordset zeileOeffnen(Database& datenbank, const QString& tabelle, qint64 volkId,
+                       const QString& buchungId) {
+  QString abfrage = "select top 1 * from " + tabelle + " where Volk_ID = ?";
+  QVariantList werte{volkId};
+  if (buchungId != Neu) {
+    abfrage += " and ID = ?";
+    werte.append(buchungId.toLongLong());
+  }
+  return datenbank.OpenRecordset(abfrage, werte);
+}
+
+void volkMerken(QString& geaenderteVoelker, const QString& volkId) {
+  const QString eintrag = "/" + volkId + "/";
+  if (!geaenderteVoelker.contains(eintrag)) geaenderteVoelker += eintrag;
+}
+
+// The steps of one booking. The appointments come first and stay closed whatever happens to the
+// row; the movement of the honey store is written just before the row.
+void schreiben(Database& datenbank, Buchung& buchung, const QString& volkId,
+               const QString& buchungId, Buchungskontext& kontext, const QStringList& termine) {
+  const QDate tag = datum(buchung);
+  const qint64 volk = volkId.toLongLong();
+  const bool neu = buchungId == Neu;
+  termineErledigen(datenbank, termine, tag, volk);
+
+  Recordset zeile = zeileOeffnen(datenbank, buchungstyp(buchung.art).tabelle, volk, buchungId);
+  if (neu) {
+    zeile.AddNew();
+  } else {
+    zeile.MoveFirst();
+    zeile.Edit();
+  }
+  if (buchung.art == Honigernte && neu) honigwabenUmrechnen(buchung);
+  felderSchreiben(zeile, buchung, kontext.anzahlMarkiert);
+  if (buchung.art == Honigernte && neu)
+    honiglagerSchreiben(datenbank, buchung, kontext.anzahlMarkiert);
+  zeile["Datum"] = tag;
+  zeile["Volk_ID"] = volk;
+  zeile.Update();
+
+  ListeNeuLesen = 1;
+  volkMerken(kontext.geaenderteVoelker, volkId);
+}
+
+// Runs the writes as one commit. When the engine has thrown them all away, nothing of them may
+// show: booking and context are as before, so that a second try doesn't multiply combs again.
+void sammeln(Database& datenbank, Buchung& buchung, Buchungskontext& kontext,
+             const std::function<void()>& aktion) {
+  const Buchung buchungVorher = buchung;
+  const Buchungskontext kontextVorher = kontext;
+  datum(buchung);  // no date: nothing at all is written
+  try {
+    datenbank.Sammelschreiben(aktion);
+  } catch (const Datenbankfehler& fehler) {
+    if (fehler.allesVerworfen()) {
+      buchung = buchungVorher;
+      kontext = kontextVorher;
+    }
+    throw;
+  }
+}
+
+}  // namespace
+
+void BuchungSpeichern(Database& datenbank, Buchung& buchung, const QString& volkId,
+                      const QString& buchungId, Buchungskontext& kontext) {
+  sammeln(datenbank, buchung, kontext, [&] {
+    schreiben(datenbank, buchung, volkId, buchungId, kontext, erledigteTermine(datenbank, buchung));
+  });
+}
+
+void BuchungslaufSpeichern(Database& datenbank, Buchung& buchung, const QStringList& volkIds,
+                           Buchungskontext& kontext) {
+  const auto aufraeumen = qScopeGuard([] { SammelFolgevolk = false; });
+  sammeln(datenbank, buchung, kontext, [&] {
+    const QStringList termine = erledigteTermine(datenbank, buchung);
+    for (const QString& volkId : volkIds) {
+      schreiben(datenbank, buchung, volkId, Neu, kontext, termine);
+      SammelFolgevolk = true;
+    }
+  });
+}

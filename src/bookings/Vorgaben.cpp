@@ -1,0 +1,84 @@
+#include "bookings/Vorgaben.h"
+
+#include "data/helpers.h"
+#include "platform/database/Recordset.h"
+#include "platform/locale/Deutsch.h"
+
+namespace {
+
+QString eingabe(const Slottexte& texte, int slot) {
+  return TextLesen(texte[static_cast<size_t>(slot)]);
+}
+
+// The newest booking of all colonies counts.
+Recordset neueste(Database& datenbank, const QString& tabelle, const QStringList& felder,
+                  const QVariantList& werte) {
+  return datenbank.OpenRecordset("select top 1 * from " + tabelle + " where " +
+                                     felder.join(" = ? and ") + " = ? order by Datum DESC",
+                                 werte);
+}
+
+QList<Slotaenderung> behandlung(Database& datenbank, int slot, const Slottexte& texte) {
+  const QString text = eingabe(texte, slot);
+  if (text.isEmpty()) return {};
+  Recordset zeile =
+      neueste(datenbank, "Behandlung", {slot == 1 ? "Behandlungsart" : "Mittel"}, {text});
+  if (zeile.RecordCount() == 0) return {};
+
+  QList<Slotaenderung> vorgaben;
+  if (slot == 1) vorgaben.append({2, TextLesen(zeile.Wert("Mittel"))});
+  vorgaben.append({3, ZahlFormat(ZahlLesen(zeile.Wert("Menge_g")), 0)});
+  vorgaben.append({4, TextLesen(zeile.Wert("Zulassungsnr"))});
+  vorgaben.append({5, ZahlFormat(ZahlLesen(zeile.Wert("Wartezeit")), 0)});
+  return vorgaben;
+}
+
+// What makes two harvests comparable, and where quantity and value of a type stand.
+struct Preisregel {
+  int art;
+  QList<int> ausloeser;
+  QList<int> guete;  // slots whose fields name the grade
+  int menge;
+  int wert;
+};
+
+const QList<Preisregel>& preisregeln() {
+  static const QList<Preisregel> regeln{
+      {1, {1, 2, 3}, {2, 3}, 1, 6},
+      {2, {1, 2}, {2}, 1, 5},
+      {3, {1, 2}, {2}, 1, 5},
+      {4, {1, 2, 3}, {1, 3}, 2, 6},
+  };
+  return regeln;
+}
+
+QList<Slotaenderung> letzterPreis(Database& datenbank, const Preisregel& regel,
+                                  const Slottexte& texte) {
+  const Buchungstyp& typ = buchungstyp(regel.art);
+  QStringList felder;
+  QVariantList werte;
+  for (const int slot : regel.guete) {
+    felder.append(typ.platz(slot)->feld);
+    werte.append(eingabe(texte, slot));
+  }
+  Recordset zeile = neueste(datenbank, typ.tabelle, felder, werte);
+  if (zeile.RecordCount() == 0) return {};
+
+  const double menge = zeile.Wert(typ.platz(regel.menge)->feld).toDouble();
+  if (!(menge > 0)) return {};
+  const double wert = zeile.Wert(typ.platz(regel.wert)->feld).toDouble();
+  const double eingegeben = ZahlLesen(texte[static_cast<size_t>(regel.menge)]);
+  // Single precision: 5 x (0.45 / 10) is 0.225 and not a little less.
+  return {{regel.wert, ZahlFormat(Deutsch::einfach(eingegeben * (wert / menge)), 2)}};
+}
+
+}  // namespace
+
+QList<Slotaenderung> vorgabenBeimVerlassen(Database& datenbank, int art, int slot,
+                                           const Slottexte& texte) {
+  if (art == 8 && (slot == 1 || slot == 2)) return behandlung(datenbank, slot, texte);
+  for (const Preisregel& regel : preisregeln())
+    if (regel.art == art && regel.ausloeser.contains(slot))
+      return letzterPreis(datenbank, regel, texte);
+  return {};
+}
