@@ -5,9 +5,11 @@
 // The settings file Einstellungen.TV2 in AppPfad: 173 lines, strictly by position, for the three
 // slot stores of TZ_Variablen.
 
-// Reads the file. Stops at a line that can't be read or at the file's end and keeps what it has;
-// the remaining slots stay. Lines behind the 173rd are ignored. No file: nothing happens.
-// An empty EinstellungenText 4 becomes " | ".
+// Reads the file. Stops at a line that can't be read (one of the first 101 that is no 16-bit whole
+// number, one of the next 11 that is no number) or at the file's end and keeps what it has; the
+// remaining slots stay. Lines behind the 173rd are ignored. No file: nothing happens. An empty
+// EinstellungenText 4 becomes " | ". Throws Dateifehler for a file that may not be read: writing
+// the settings later would replace it.
 void EinstellungenLesen();
 
 // Writes the file anew, whole or not at all: a crash while writing leaves the old one. Line breaks
