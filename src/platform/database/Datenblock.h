@@ -45,10 +45,13 @@ class Datenblock {
   int spaltenNummer(QStringView name) const;
 
   bool istNull(int zeile, int spalte) const;
-  // Null, a qint64, a double, a QString or, in a column of type Datum, a QDate.
+  bool istText(int zeile, int spalte) const;  // a text or a date
+  // Null, a qint64, a double, a QString or, in a column of type Datum, a QDate. A text of exactly the
+  // form yyyy-mm-dd in a column of type Ausdruck (max(Datum)) counts as a date here and in anzeige.
   QVariant wert(int zeile, int spalte) const;
   // The text of a text or date cell as it lies in memory; empty for null and for numbers.
   QByteArrayView rohtext(int zeile, int spalte) const;
+  size_t textbytes() const { return m_texte.size(); }
   // A number as such, a text by its leading number, null as 0.
   double zahl(int zeile, int spalte) const;
   qint64 ganzzahl(int zeile, int spalte) const;
@@ -90,6 +93,8 @@ class Datenblock::Bauer {
   Bauer(const Bauer&) = delete;
   Bauer& operator=(const Bauer&) = delete;
 
+  // Room for this many cells and bytes of text, when they are known beforehand.
+  void reserviere(size_t zellen, size_t textbytes);
   void null();
   void ganz(qint64 wert);
   void gleitkomma(double wert);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QStringList>
 #include <QVariant>
 #include <map>
+#include <memory>
 
 #include "platform/database/Datenbank.h"
 
@@ -47,8 +49,10 @@ class Recordset {
 
  private:
   friend class Database;
-  Recordset(std::shared_ptr<Verbindung> verbindung, QString tabelle, Daten daten);
+  Recordset(std::shared_ptr<Verbindung> verbindung, QString tabelle, QStringList felder,
+            Daten daten);
   struct Daten_;
+  Daten_& daten() const;  // throws when closed
   std::shared_ptr<Daten_> d;
   bool m_noMatch = true;
 };
@@ -63,6 +67,12 @@ class Recordset::Feld {
   void setValue(const QVariant& wert);
   Feld& operator=(const QVariant& wert) {
     setValue(wert);
+    return *this;
+  }
+  // From field to field the value goes over, as it reads.
+  Feld(const Feld&) = default;
+  Feld& operator=(const Feld& anderes) {
+    if (this != &anderes) setValue(anderes.Value());
     return *this;
   }
 

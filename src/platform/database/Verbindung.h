@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QHash>
+#include <QStringList>
+#include <QVariant>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "platform/database/Anweisungen.h"
+#include "platform/database/Datenbankfehler.h"
+#include "platform/database/Datenblock.h"
+
+struct sqlite3;
+
+// The rows of a statement and what is needed to write them back.
+struct Leseergebnis {
+  Daten daten;
+  QString tabelle;     // the one table behind the rows; empty when they can't be changed
+  QStringList felder;  // that table's field behind each column, empty for an expression
+};
+
+// The one connection to a file with its caches of translations, prepared statements and the
+// catalogue. Everything throws Datenbankfehler.
+class Verbindung {
+ public:
+  enum class Modus { Neu, Schreiben, NurLesen };
+
+  // Opens and sets up; doesn't check what the file is.
+  Verbindung(const QString& pfad, Modus modus);
+  ~Verbindung();
+  Verbindung(const Verbindung&) = delete;
+  Verbindung& operator=(const Verbindung&) = delete;
+
+  const QString& pfad() const { return m_pfad; }
+  bool offen() const { return m_db != nullptr; }
+  // What a running Sammelschreiben has written so far is kept.
+  void schliesse();
+  // Whether the file was renamed or deleted under the connection.
+  bool verschoben() const;
+  bool nurLesend() const;
+  bool istDatei(const QString& pfad) const;  // whether the path leads to this connection's file
+
+  // Database's operations of the same names, in the tables' own dialect.
+  qint64 execute(const QString& anweisung, const QVariantList& werte);
+  Leseergebnis lies(const QString& anweisung, const QVariantList& werte);
+  void sammelschreiben(const std::function<void()>& aktion);
+  QString uebersetzung(const QString& anweisung);
+  qint64 letzteID() const;
+  const std::vector<Spalte>& felder(const QString& tabelle);
+  const QStringList& tabellen();
+
+  // Runs a statement of the engine's own that writes rows, prepared once per text. Returns the
+  // number of rows changed.
+  qint64 schreibeRoh(const QString& sql, const QVariantList& werte);
+  // Runs a setting or a control statement of the engine and gives its first value as a text. Also
+  // the tests' way to a full disk (max_page_count) and to the engine's own check of the file.
+  QByteArray steuere(const QByteArray& sql);
+
+  // The open connection to a file, nullptr when this process has none.
+  static Verbindung* zu(const QString& pfad);
+
+ private:
+  std::shared_ptr<Anweisung> uebersetzeUndBereite(const QString& text);
+  std::shared_ptr<Anweisung> bereite(const QString& text, Dialekt::Uebersetzt uebersetzt);
+  void ermittleSpalten(Anweisung& a);
+  void pruefeNeuBereitet(Anweisung& a);
+  void binde(Anweisung& a, const QVariantList& werte);
+  bool schritt(Anweisung& a);
+  Daten liesZeilen(Anweisung& a);
+  void pruefeNutzbar(const QString& anweisung) const;
+  void schreibeFest();
+  [[noreturn]] void wirf(int code, const QString& anweisung, bool beimVorbereiten = false);
+  void vergiss();
+
+  QString m_pfad;
+  QString m_ort;  // the path without links and detours
+  sqlite3* m_db = nullptr;
+  Anweisungen m_anweisungen;
+  QHash<QString, std::vector<Spalte>> m_felder;
+  std::optional<QStringList> m_tabellen;
+  int m_tiefe = 0;  // how many Sammelschreiben are running inside one another
+  // The failure with which the engine threw the running Sammelschreiben away.
+  std::optional<Datenbankfehler> m_verlust;
+};
