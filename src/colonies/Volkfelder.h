@@ -11,16 +11,16 @@ struct Volkfeld {
   enum class Art { Text, Ganzzahl, Dezimal, Waehrung, Datum };
 
   Volkarray array = Volkarray::sevt;
-  int index = 0;              // within its array
-  QString feld;               // of Bienenvolk
+  int index = 0;  // within its array
+  QString feld;   // of Bienenvolk
   QString beschriftung;
   Art art = Art::Text;
-  int maxLaenge = 0;          // characters
-  int nachkommastellen = 0;   // Dezimal and Waehrung
-  QString einheit;            // shown behind the input; may be empty
-  QString listenTabelle;      // where the pick list comes from; empty: no pick list
-  int gruppe = 0;             // index into volkgruppen()
-  qint64 bis = 0;             // Ganzzahl: greatest number
+  int maxLaenge = 0;         // characters
+  int nachkommastellen = 0;  // Dezimal and Waehrung
+  QString einheit;           // shown behind the input; may be empty
+  QString listenTabelle;     // where the pick list comes from; empty: no pick list
+  int gruppe = 0;            // index into volkgruppen()
+  qint64 bis = 0;            // Ganzzahl: greatest number
 
   // The statement of the pick list; empty without one.
   QString listenAnweisung() const;
