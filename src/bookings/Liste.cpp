@@ -32,8 +32,8 @@ QString slottext(const Buchungsslot& slot, const QVariant& wert) {
 
 }  // namespace
 
-Abfrage buchungsAbfrage(int art, const QString& volkId, Anzeigebereich bereich) {
-  Abfrage abfrage{listenAbfrage(art) + " where Volk_ID = ?", {volkId.toLongLong()}};
+Buchungsabfrage buchungsAbfrage(int art, const QString& volkId, Anzeigebereich bereich) {
+  Buchungsabfrage abfrage{listenAbfrage(art) + " where Volk_ID = ?", {volkId.toLongLong()}};
   if (bereich != Anzeigebereich::Alles) {
     const int jahr = DatumLesen(TZ_Variablen::HeuteText).year();
     const int von = bereich == Anzeigebereich::AktuellesUndLetztesJahr ? jahr - 1 : jahr;
@@ -45,7 +45,7 @@ Abfrage buchungsAbfrage(int art, const QString& volkId, Anzeigebereich bereich) 
 }
 
 Daten buchungenLesen(Database& datenbank, int art, const QString& volkId, Anzeigebereich bereich) {
-  const Abfrage abfrage = buchungsAbfrage(art, volkId, bereich);
+  const Buchungsabfrage abfrage = buchungsAbfrage(art, volkId, bereich);
   return datenbank.Lesen(abfrage.anweisung, abfrage.werte);
 }
 

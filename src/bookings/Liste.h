@@ -10,13 +10,13 @@ enum class Anzeigebereich {  // the numbers of the buttons anzeige(n) and of Ein
   AktuellesUndLetztesJahr = 2
 };
 
-struct Abfrage {
+struct Buchungsabfrage {
   QString anweisung;
   QVariantList werte;
 };
 
 // The type's list query with the colony, the range (years by HeuteText) and the order by date.
-Abfrage buchungsAbfrage(int art, const QString& volkId, Anzeigebereich bereich);
+Buchungsabfrage buchungsAbfrage(int art, const QString& volkId, Anzeigebereich bereich);
 // Its rows, the newest booking last. Throws Datenbankfehler.
 Daten buchungenLesen(Database& datenbank, int art, const QString& volkId, Anzeigebereich bereich);
 
