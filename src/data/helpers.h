@@ -8,7 +8,8 @@
 
 // A field value or text as a number. Null and empty give 0. The last point is the decimal point
 // ("1.234" is 1.234), the first comma becomes one; signs and letters fall away, so a negative
-// number loses its sign. ZahlLesen gives single precision as its shortest decimal.
+// number loses its sign. ZahlLesen gives single precision as its shortest decimal. A number too big
+// for the precision gives 0.
 double ZahlLesen(const QVariant& wert);
 double ZahlLesenDoppelt(const QVariant& wert);
 // "0,00"
@@ -31,7 +32,7 @@ int ZifferTaste(int code);                            // the code itself, or 0 t
 // The date literal #mm/dd/yyyy#. The text becomes "dd.mm.yyyy" when it is a date; one that is none
 // is cut apart all the same and gives a literal that fails.
 QString SqlDatum(QString& datum);
-QString SqlDatum(QString&& datum);
+QString SqlDatum(const QString& datum);
 // A full "dd.mm.yyyy" from what the user typed, or an empty text.
 QString DatumErgaenzen(const QString& eingabe);
 // The sort key yyyymmdd.
