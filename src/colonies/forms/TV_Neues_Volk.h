@@ -7,6 +7,7 @@
 
 class Eingabefeld;
 class QCheckBox;
+class QFormLayout;
 class QPushButton;
 class QTabWidget;
 
@@ -25,9 +26,11 @@ class TV_Neues_Volk : public Formular {
 
  private:
   void aufbauen();
-  QWidget* reiterBauen(int reiter);
-  QWidget* gruppeBauen(int gruppe);
+  QWidget* reiterBauen(int nummer);
+  QWidget* gruppeBauen(int nummer);
+  void feldBauen(const Volkfeld& f, QFormLayout* zeilen);
   QWidget* knoepfeBauen();
+  void knoepfeVerbinden();
   void reihenfolgeSetzen();
 
   void listenFuellen();
@@ -35,16 +38,17 @@ class TV_Neues_Volk : public Formular {
   void zeigeEingabe(const Volkeingabe& eingabe);
   Volkeingabe eingabe() const;
   Eingabefeld* feld(const Volkfeld& f) const;
+  void fokusAuf(Eingabefeld* feld);  // on its tab
+  Eingabefeld* erstesFeld(int reiterNummer) const;
 
   bool speichern();  // checks first; false when it told reasons
-  void speichernUndSchliessen();
   void speichernUndWeiter(int index);
   void standardSichern();
   bool istNeu() const;
 
   Database m_db;
-  qint64 m_id = 0;          // of the loaded colony; 0 for a new one
-  Volkeingabe m_geladen;    // the inputs as they were on loading
+  qint64 m_id = 0;        // of the loaded colony; 0 for a new one
+  Volkeingabe m_geladen;  // the inputs as they were on loading
   std::array<Eingabefeld*, SevtAnzahl> sevt{};
   std::array<Eingabefeld*, SevtxAnzahl> sevtx{};
   QCheckBox* kon = nullptr;
