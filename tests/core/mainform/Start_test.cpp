@@ -1,0 +1,186 @@
+#include "core/mainform/Start.h"
+
+#include <QFile>
+
+#include "Umfeld.h"
+#include "core/mainform/Liste.h"
+#include "core/settings.h"
+#include "platform/files/Textdatei.h"
+
+using namespace TZ_Variablen;
+
+class Programmstart : public Umfeld {
+ protected:
+  void anlegen(const QString& name) const {
+    QFile f(datei(name));
+    ASSERT_TRUE(f.open(QFile::WriteOnly));
+    f.write("x");
+  }
+};
+
+TEST_F(Programmstart, FenstertitelNenntDieVersion) {
+  EXPECT_EQ(Start::fenstertitel(), QStringLiteral("TOVA 2.0.57 - Die Software für Imker"));
+}
+
+TEST_F(Programmstart, ZweiLeerzeichenNachDemAusrufezeichen) {
+  EXPECT_TRUE(
+      Start::schonGestartetText().startsWith("Die Anwendung wurde bereits gestartet!  Mit"));
+}
+
+TEST_F(Programmstart, DeutscheFormenBestehenAlleDreiPruefungen) {
+  EXPECT_EQ(Start::landtest(), QString());
+  EXPECT_EQ(Start::waehrungstest(), QString());
+  EXPECT_EQ(Start::datumtest(QDateTime(QDate(2024, 6, 5), QTime(7, 8, 9))), QString());
+}
+
+TEST_F(Programmstart, PfadEndetMitGenauEinemSchraegstrich) {
+  Start::pfadeSetzen(QStringLiteral("/imker/tova"));
+  EXPECT_EQ(AppPfad, QStringLiteral("/imker/tova/"));
+  EXPECT_EQ(DatenbankPfad, QStringLiteral("/imker/tova/TOVA2.MDB"));
+  Start::pfadeSetzen(QStringLiteral("/imker/tova/"));
+  EXPECT_EQ(AppPfad, QStringLiteral("/imker/tova/"));
+  EXPECT_EQ(ListeNeuLesen, 1);
+  EXPECT_EQ(ProgrammGestartet, 0);
+}
+
+TEST_F(Programmstart, OhneDateiEntstehtDieDatenbankMitStartwerten) {
+  EXPECT_FALSE(Start::datenbankVorhanden());
+  Database db = Start::datenbankOeffnen();
+  EXPECT_TRUE(Start::datenbankVorhanden());
+  EXPECT_EQ(db.Lesen("select ID from Bienenvolk")->zeilen(), 0);
+  EXPECT_EQ(db.Lesen("select ID from Arbeitsplanoptionen")->zeilen(), 18);
+}
+
+TEST_F(Programmstart, VorhandeneDatenbankWirdGeoeffnet) {
+  datenbank();
+  neu("Bienenvolk", {{"Volknr", "1"}});
+  DB.Close();
+  Arbeitsbereich.Close();
+  Database db = Start::datenbankOeffnen();
+  EXPECT_EQ(db.Lesen("select ID from Bienenvolk")->zeilen(), 1);
+  EXPECT_TRUE(DB.IsOpen());
+}
+
+TEST_F(Programmstart, FremdeDateiIstEinFehlerUndBleibtWieSieIst) {
+  anlegen("TOVA2.MDB");
+  EXPECT_THROW(Start::datenbankOeffnen(), Datenbankfehler);
+  QFile f(datei("TOVA2.MDB"));
+  ASSERT_TRUE(f.open(QFile::ReadOnly));
+  EXPECT_EQ(f.readAll(), QByteArray("x"));
+}
+
+TEST_F(Programmstart, SchreibgeschuetzteDateienWerdenGenanntUndFrei) {
+  anlegen("a.TV2");
+  anlegen("b.TV2");
+  anlegen("frei.TV2");
+  for (const char* name : {"a.TV2", "b.TV2"}) QFile::setPermissions(datei(name), QFile::ReadOwner);
+  const QStringList dateien = Start::schreibgeschuetzte();
+  ASSERT_EQ(dateien.size(), 2);
+  EXPECT_TRUE(dateien[0].endsWith("/a.TV2"));
+  EXPECT_TRUE(dateien[1].endsWith("/b.TV2"));
+  Start::schreibschutzEntfernen(dateien);
+  EXPECT_EQ(Start::schreibgeschuetzte(), QStringList());
+}
+
+TEST_F(Programmstart, SchreibschutzTextNenntDieAnzahl) {
+  EXPECT_EQ(
+      Start::schreibschutzText(2),
+      QStringLiteral("ACHTUNG!!!\r\n\r\nIm Installationsverzeichnis von TOVA befinden sich 2 "
+                     "Dateien, die mit einem Schreibschutz versehen sind. Dadurch kann es bei TOVA "
+                     "zu Funktionsstörungen kommen. Der Schreibschutz wird deshalb entfernt?"));
+}
+
+TEST_F(Programmstart, ErsterStartSetztUndSichertDieVorgaben) {
+  EinstellungenText[24].clear();
+  Start::einstellungenLaden(QDate(2024, 6, 15));
+  EXPECT_EQ(HeuteText, QStringLiteral("15.06.2024"));
+  const QMap<int, int> soll = {{13, 1}, {17, 14}, {24, 1},  {28, 2024}, {46, 1},
+                               {47, 1}, {49, 60}, {50, 14}, {55, 1},    {57, 1}};
+  for (int i = 0; i <= 100; ++i) EXPECT_EQ(EinstellungenZahl[i], soll.value(i)) << i;
+  EXPECT_EQ(EinstellungenText[4], QStringLiteral(" | "));
+  EXPECT_EQ(Textdatei::lesen(datei("Einstellungen.TV2")).size(), 173);
+}
+
+TEST_F(Programmstart, OhneEinstellungenEntstehenDieFeldlistenNeu) {
+  datenbank();
+  Start::einstellungenLaden(QDate(2024, 6, 15));
+  EXPECT_EQ(EinstellungenText[17], QString());
+  listenfelderPruefen();
+  stockkartenfelderPruefen();
+  EXPECT_TRUE(EinstellungenText[17].startsWith("select Volknr, Volkname, "));
+  EXPECT_TRUE(EinstellungenText[22].startsWith("select Datum, Volkstärke, "));
+  EXPECT_EQ(EinstellungenText[24], QString(60, u'1'));
+}
+
+TEST_F(Programmstart, VorhandeneEinstellungenWerdenGelesen) {
+  EinstellungenZahl[17] = 30;
+  EinstellungenText[33] = QStringLiteral("Volkname");
+  EinstellungenSchreiben();
+  EinstellungenZahl.fill(0);
+  EinstellungenText.fill({});
+  Start::einstellungenLaden(QDate(2024, 6, 15));
+  EXPECT_EQ(EinstellungenZahl[17], 30);
+  EXPECT_EQ(EinstellungenText[33], QStringLiteral("Volkname"));
+  EXPECT_EQ(EinstellungenZahl[50], 0);
+}
+
+TEST_F(Programmstart, AbgebrocheneEinstellungenBehaltenDatumAlsListenkopf) {
+  Textdatei::schreiben(datei("Einstellungen.TV2"), {"0", "0", "0"});
+  Start::einstellungenLaden(QDate(2024, 6, 15));
+  EXPECT_EQ(EinstellungenZahl[46], 1);
+}
+
+TEST_F(Programmstart, JederZwanzigsteStartErinnertAnNeueFassungen) {
+  QList<int> erinnert;
+  for (int start = 1; start <= 60; ++start)
+    if (Start::startZaehlen()) erinnert << start;
+  EXPECT_EQ(erinnert, QList<int>({20, 40, 60}));
+  EXPECT_EQ(EinstellungenZahl[78], 60);
+}
+
+TEST_F(Programmstart, StartzaehlerFaengtUeberDreissigtausendVonVornAn) {
+  EinstellungenZahl[78] = 30000;
+  EXPECT_FALSE(Start::startZaehlen());
+  EXPECT_EQ(EinstellungenZahl[78], 30001);
+  EXPECT_FALSE(Start::startZaehlen());
+  EXPECT_EQ(EinstellungenZahl[78], 2);
+}
+
+TEST_F(Programmstart, TerminGenauAmLetztenTagIstFaellig) {
+  datenbank();
+  EinstellungenZahl[17] = 14;
+  neu("Termine", {{"Datum", QDate(2024, 6, 30)}, {"Erledigt", "N"}});
+  EXPECT_FALSE(Start::termineFaellig(DB));
+  neu("Termine", {{"Datum", QDate(2024, 6, 29)}, {"Erledigt", "J"}});
+  EXPECT_FALSE(Start::termineFaellig(DB));
+  neu("Termine", {{"Datum", QDate(2024, 6, 29)}, {"Erledigt", "N"}});
+  EXPECT_TRUE(Start::termineFaellig(DB));
+}
+
+TEST_F(Programmstart, NurAusgegebeneBerichteWerdenGeloescht) {
+  for (const char* name : {"report-1.htm", "report-abc.htm", "report.htm", "LISTE.TXT"})
+    anlegen(name);
+  Start::berichteLoeschen();
+  EXPECT_FALSE(QFile::exists(datei("report-1.htm")));
+  EXPECT_FALSE(QFile::exists(datei("report-abc.htm")));
+  EXPECT_TRUE(QFile::exists(datei("report.htm")));
+  EXPECT_TRUE(QFile::exists(datei("LISTE.TXT")));
+}
+
+TEST_F(Programmstart, SicherungVorGenauVierzehnTagenErinnert) {
+  EinstellungenZahl[50] = 14;
+  EinstellungenText[26] = QStringLiteral("01.06.2024");
+  EXPECT_TRUE(Start::sicherungFaellig());
+  EinstellungenText[26] = QStringLiteral("02.06.2024");
+  EXPECT_FALSE(Start::sicherungFaellig());
+  EXPECT_EQ(EinstellungenText[26], QStringLiteral("02.06.2024"));
+}
+
+TEST_F(Programmstart, OhneSicherungBeginntDieFristHeute) {
+  EinstellungenZahl[50] = 14;
+  for (const char* text : {"", "nie", "31.02.2024"}) {
+    EinstellungenText[26] = QString::fromLatin1(text);
+    EXPECT_FALSE(Start::sicherungFaellig());
+    EXPECT_EQ(EinstellungenText[26], QStringLiteral("15.06.2024"));
+  }
+}
