@@ -50,8 +50,8 @@ struct Uebersetzt {
   QString sql;
   // Set for transform statements: sql then gives the grouped rows from which the table is built.
   std::optional<Kreuztabelle> kreuztabelle;
-  bool schreibt = false;      // insert, update, delete
-  bool aendertSchema = false; // create, alter, drop
+  bool schreibt = false;       // insert, update, delete
+  bool aendertSchema = false;  // create, alter, drop
   // The one table of a select without joins and groups; empty otherwise. Its rows can be changed.
   // Spelled as declared.
   QString tabelle;
