@@ -1,0 +1,55 @@
+#include "data/forms/TS_Dateiauswahl.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "core/globals.h"
+#include "platform/files/Dateimuster.h"
+
+TS_Dateiauswahl::TS_Dateiauswahl(const QString& muster, QWidget* oeffner)
+    : Formular(QStringLiteral("TS_Dateiauswahl"), QStringLiteral("Datei-Auswahl"), oeffner) {
+  auto* seite = new QVBoxLayout(this);
+  m_datei1 = new QListWidget(this);
+  m_datei1->setObjectName(QStringLiteral("Datei1"));
+  m_datei1->addItems(Dateimuster::namen(muster));
+  m_datei1->setUniformItemSizes(true);
+  m_datei1->setMinimumSize(fontMetrics().averageCharWidth() * 50, fontMetrics().height() * 14);
+
+  const QString ordner = Dateimuster::ordner(muster);
+  auto* kopf =
+      beschriften(m_datei1->count() == 0 ? QStringLiteral("Es gibt keine passende Datei.")
+                                         : QStringLiteral("&Bitte wählen Sie eine Datei aus:"),
+                  m_datei1);
+  kopf->setToolTip(QDir::toNativeSeparators(ordner));
+  seite->addWidget(kopf);
+  seite->addWidget(m_datei1);
+
+  auto* knoepfe = new QDialogButtonBox(this);
+  m_ok = knoepfe->addButton(QStringLiteral("&OK"), QDialogButtonBox::AcceptRole);
+  m_ok->setObjectName(QStringLiteral("ok"));
+  m_ok->setDefault(true);
+  auto* schliessen = knoepfe->addButton(QStringLiteral("&Schließen"), QDialogButtonBox::RejectRole);
+  schliessen->setObjectName(QStringLiteral("schliessen"));
+  schliessen->setAutoDefault(false);
+  seite->addWidget(knoepfe);
+
+  connect(knoepfe, &QDialogButtonBox::accepted, this, [this] { accept(); });
+  connect(knoepfe, &QDialogButtonBox::rejected, this, [this] { reject(); });
+  connect(m_datei1, &QListWidget::itemDoubleClicked, this, [this] { accept(); });
+  connect(m_datei1, &QListWidget::currentRowChanged, this, [this] { knopfStellen(); });
+  m_datei1->setCurrentRow(0);
+  m_datei1->setFocus();
+  knopfStellen();
+}
+
+void TS_Dateiauswahl::knopfStellen() { m_ok->setEnabled(m_datei1->currentItem() != nullptr); }
+
+void TS_Dateiauswahl::done(int ergebnis) {
+  const QListWidgetItem* gewaehlt = ergebnis == Accepted ? m_datei1->currentItem() : nullptr;
+  TZ_Variablen::DateiErgebnis = gewaehlt != nullptr ? gewaehlt->text() : QString();
+  Formular::done(ergebnis);
+}

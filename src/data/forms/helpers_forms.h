@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+// The helpers of TZ_TOVA_Subs that ask or sound something.
+
+// Whether the user may delete the marked record. Asks, unless EinstellungenZahl 55 is other than 1.
+bool LoeschenBestaetigt();
+
+// A short beep when EinstellungenZahl 14 is 1.
+void Tastenton();
+
+// The name, without its folder, of the one file that matches the pattern (platform/files/
+// Dateimuster.h), or of the user's choice of several; empty when the user chose none, "-" when
+// nothing matches.
+QString DateiWaehlen(const QString& muster, QWidget* oeffner = nullptr);
