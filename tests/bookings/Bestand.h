@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <ostream>
 
@@ -49,10 +50,21 @@ class Bestand : public testing::Test {
     TZ_Variablen::AppPfad = m_ordner.path() + "/";
     TZ_Variablen::DatenbankPfad = TZ_Variablen::AppPfad + "TOVA2.MDB";
     TZ_Variablen::HeuteText = "20.06.2026";
+    // The tables are made once; each test gets a copy of its own.
+    static const QTemporaryDir vorlage;
+    const QString leer = vorlage.path() + "/leer.mdb";
+    if (QFile::exists(leer)) {
+      QFile::copy(leer, TZ_Variablen::DatenbankPfad);
+      db() = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
+      return;
+    }
     DatenbankAnlegen();
-    schreibe("delete from Arbeitsplanoptionen");
-    for (const QString nr : {"1", "2", "3"})
-      schreibe("insert into Bienenvolk (Volknr, Akt_im_Bestand) values (?, 'X')", {nr});
+    db().Sammelschreiben([] {
+      schreibe("delete from Arbeitsplanoptionen");
+      for (const QString nr : {"1", "2", "3"})
+        schreibe("insert into Bienenvolk (Volknr, Akt_im_Bestand) values (?, 'X')", {nr});
+    });
+    QFile::copy(TZ_Variablen::DatenbankPfad, leer);
   }
   void TearDown() override {
     db().Close();
