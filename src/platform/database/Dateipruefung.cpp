@@ -127,12 +127,13 @@ void pruefeLaenge(const QByteArray& kopf, const QString& pfad) {
 
 }  // namespace
 
-void Dateipruefung::pruefe(const QString& pfad) {
+bool Dateipruefung::pruefe(const QString& pfad) {
   pruefeOrt(pfad);
   const QByteArray kopf = liesKopf(pfad);
   pruefeKennung(kopf, pfad);
   pruefeLaenge(kopf, pfad);
   pruefeSchreibbar(pfad);
+  return kopf[18] == 2 || kopf[19] == 2;
 }
 
 void Dateipruefung::keineVonTova(const QString& pfad) {

@@ -28,6 +28,12 @@ void pruefeInhalt(Verbindung& verbindung) {
   }
 }
 
+void pruefeDatei(const QString& pfad) {
+  if (!Dateipruefung::pruefe(pfad)) return;
+  Verbindung betrachtet(pfad, Verbindung::Modus::Betrachten);
+  pruefeInhalt(betrachtet);
+}
+
 void loescheMitJournal(const QString& pfad) {
   QFile::remove(pfad);
   QFile::remove(pfad + QStringLiteral("-journal"));
@@ -92,7 +98,7 @@ Database Workspace::OpenDatabase(const QString& pfad) {
     break;
   }
   // Reading a file beside the engine's back ends the locks that this process holds on it.
-  if (!Verbindung::zu(pfad)) Dateipruefung::pruefe(pfad);
+  if (!Verbindung::zu(pfad)) pruefeDatei(pfad);
   auto verbindung = std::make_shared<Verbindung>(pfad, Verbindung::Modus::Schreiben);
   pruefeInhalt(*verbindung);
   if (verbindung->nurLesend()) {
@@ -125,7 +131,7 @@ void Workspace::CompactDatabase(const QString& von, const QString& nach) {
                               .arg(QDir::toNativeSeparators(von)));
   }
   pruefeZiel(nach);
-  Dateipruefung::pruefe(von);
+  pruefeDatei(von);
   Verbindung quelle(von, Verbindung::Modus::Schreiben);
   pruefeInhalt(quelle);
   try {

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QUrl>
 #include <cmath>
 
 #include "platform/database/Enginefehler.h"
@@ -37,9 +38,16 @@ int oeffnungsart(Verbindung::Modus modus) {
     case Verbindung::Modus::Schreiben:
       return SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
     case Verbindung::Modus::NurLesen:
+      return SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
+    case Verbindung::Modus::Betrachten:
       break;
   }
-  return SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
+  return SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI;
+}
+
+QByteArray oeffnungsname(const QString& pfad, Verbindung::Modus modus) {
+  if (modus != Verbindung::Modus::Betrachten) return pfad.toUtf8();
+  return QUrl::fromLocalFile(QFileInfo(pfad).absoluteFilePath()).toEncoded() + "?immutable=1";
 }
 
 QString utf8(const char* text) { return QString::fromUtf8(text ? text : ""); }
@@ -71,6 +79,13 @@ Spalte spalteAusErklaerung(const QString& name, const QString& erklaerung, bool 
   return spalte;
 }
 
+// The file's own last error; the connection's may come from the clearing up behind it.
+int systemfehler(sqlite3* db) {
+  int fehler = 0;
+  sqlite3_file_control(db, "main", SQLITE_FCNTL_LAST_ERRNO, &fehler);
+  return fehler != 0 ? fehler : sqlite3_system_errno(db);
+}
+
 class Tiefe {
  public:
   explicit Tiefe(int& tiefe) : m_tiefe(tiefe) { ++m_tiefe; }
@@ -85,7 +100,8 @@ class Tiefe {
 }  // namespace
 
 Verbindung::Verbindung(const QString& pfad, Modus modus) : m_pfad(pfad) {
-  const int code = sqlite3_open_v2(pfad.toUtf8().constData(), &m_db, oeffnungsart(modus), nullptr);
+  const int code =
+      sqlite3_open_v2(oeffnungsname(pfad, modus).constData(), &m_db, oeffnungsart(modus), nullptr);
   try {
     if (code != SQLITE_OK) wirf(code, {});
     sqlite3_extended_result_codes(m_db, 1);
@@ -94,7 +110,6 @@ Verbindung::Verbindung(const QString& pfad, Modus modus) : m_pfad(pfad) {
     sqlite3_db_config(m_db, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(m_db, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     // Settings of the connection; none of them writes to the file.
-    sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     steuere("pragma foreign_keys = off");
     steuere("pragma temp_store = memory");
     steuere("pragma cache_size = -65536");
@@ -493,7 +508,7 @@ void Verbindung::wirf(int code, const QString& anweisung, bool beimVorbereiten) 
   lage.code = code;
   lage.beimVorbereiten = beimVorbereiten;
   lage.meldung = m_db ? utf8(sqlite3_errmsg(m_db)) : utf8(sqlite3_errstr(code));
-  lage.systemfehler = m_db ? sqlite3_system_errno(m_db) : 0;
+  lage.systemfehler = m_db ? systemfehler(m_db) : 0;
   auto fehler = Enginefehler::fehler(lage, QDir::toNativeSeparators(m_pfad), anweisung);
   if (m_tiefe > 0 && !m_verlust && sqlite3_get_autocommit(m_db)) {
     Enginefehler::allesVerworfen(fehler);

@@ -24,7 +24,8 @@ struct Leseergebnis {
 // catalogue. Everything throws Datenbankfehler.
 class Verbindung {
  public:
-  enum class Modus { Neu, Schreiben, NurLesen };
+  // Betrachten reads the file as it lies there: without locks, journals or any trace beside it.
+  enum class Modus { Neu, Schreiben, NurLesen, Betrachten };
 
   // Opens and sets up; doesn't check what the file is.
   Verbindung(const QString& pfad, Modus modus);
