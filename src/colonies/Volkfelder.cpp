@@ -6,16 +6,16 @@ namespace {
 
 using Art = Volkfeld::Art;
 
-enum Reiter { Stammdaten, ZugangAbgang, Bewertung, Waben, FutterErnte };
+enum Reiter { Stammdaten, BeuteWaben, BewertungFutter };
 enum Gruppe {
   GVolk,
-  GBeute,
-  GKoenigin,
   GZugang,
+  GKoenigin,
   GAbgang,
-  GBewertung,
-  GWaben,
+  GBeute,
   GBrut,
+  GWaben,
+  GBewertung,
   GFutter,
   GErnte
 };
@@ -153,23 +153,23 @@ const QList<Volkfeld>& volkfelder() {
 
 const QList<Volkgruppe>& volkgruppen() {
   static const QList<Volkgruppe> gruppen = {
-      {"Volk", Stammdaten, 0, 0},
-      {"Beute", Stammdaten, 0, 1},
-      {"Königin", Stammdaten, 1, 0},
-      {"Zugang", ZugangAbgang, 0, 0},
-      {"Abgang", ZugangAbgang, 1, 0},
-      {"Bewertung", Bewertung, 0, 0},
-      {"Waben", Waben, 0, 0},
-      {"Zustand der Waben", Waben, 1, 0},
-      {"Futtervorrat", FutterErnte, 0, 0},
-      {"Ernte und Behandlung", FutterErnte, 1, 0},
+      {"Volk", Stammdaten, 0},
+      {"Zugang", Stammdaten, 0},
+      {"Königin", Stammdaten, 1},
+      {"Abgang", Stammdaten, 1},
+      {"Beute", BeuteWaben, 0},
+      {"Zustand der Waben", BeuteWaben, 0},
+      {"Waben", BeuteWaben, 1},
+      {"Bewertung", BewertungFutter, 0},
+      {"Futtervorrat", BewertungFutter, 1},
+      {"Ernte und Behandlung", BewertungFutter, 1},
   };
   return gruppen;
 }
 
 const QStringList& volkreiter() {
-  static const QStringList reiter = {"&Stammdaten", "&Zugang und Abgang", "&Bewertung", "&Waben",
-                                     "&Futter und Ernte"};
+  static const QStringList reiter = {"&Stammdaten", "&Beute und Waben",
+                                     "Be&wertung, Futter und Ernte"};
   return reiter;
 }
 

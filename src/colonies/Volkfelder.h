@@ -26,12 +26,12 @@ struct Volkfeld {
   QString listenAnweisung() const;
 };
 
-// A frame on the form: its caption, its tab and its place there.
+// A frame on the form: its caption, its tab and its column there. Frames of a column stand below
+// each other in the order of the list.
 struct Volkgruppe {
   QString titel;
   int reiter = 0;  // index into volkreiter()
   int spalte = 0;
-  int zeile = 0;
 };
 
 constexpr int SevtAnzahl = 20;

@@ -81,17 +81,15 @@ void TV_Neues_Volk::aufbauen() {
 
 QWidget* TV_Neues_Volk::reiterBauen(int nummer) {
   auto* seite = new QWidget;
-  auto* gitter = new QGridLayout(seite);
-  int zeilen = 0;
-  for (int g = 0; g < volkgruppen().size(); ++g) {
-    const Volkgruppe& gruppe = volkgruppen().at(g);
-    if (gruppe.reiter != nummer) continue;
-    // A frame that stands alone in its column reaches down beside the others.
-    gitter->addWidget(gruppeBauen(g), gruppe.zeile, gruppe.spalte);
-    gitter->setColumnStretch(gruppe.spalte, 1);
-    zeilen = qMax(zeilen, gruppe.zeile + 1);
+  auto* spalten = new QHBoxLayout(seite);
+  for (int spalte = 0; spalte < 2; ++spalte) {
+    auto* rahmen = new QVBoxLayout;
+    for (int g = 0; g < volkgruppen().size(); ++g)
+      if (volkgruppen().at(g).reiter == nummer && volkgruppen().at(g).spalte == spalte)
+        rahmen->addWidget(gruppeBauen(g));
+    rahmen->addStretch(1);
+    spalten->addLayout(rahmen, 1);
   }
-  gitter->setRowStretch(zeilen, 1);
   return seite;
 }
 
