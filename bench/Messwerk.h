@@ -1,0 +1,61 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+
+#include <QString>
+#include <QStringList>
+#include <stdexcept>
+
+// What the benchmarks share. Each measures one piece of work twice in one run: by the program's own
+// routine ("Name/programm/N") and by a bare SQLite loop that does the least possible
+// ("Name/blank/N"). The closing table gives the ratio.
+
+// The folder of a copy of the sample operation of this size, made once and kept in the build.
+// Opens it as the program does (AppPfad, DB, main list); the copy is the program's own until the
+// next call.
+void betriebOeffnen(int voelker);
+
+// Runs the registered benchmarks and prints the table of ratios; the program's exit code.
+int messen(int argc, char** argv);
+
+// A second, bare connection to the open database.
+class Blank {
+ public:
+  explicit Blank(const QString& pfad);
+  ~Blank();
+  Blank(const Blank&) = delete;
+  Blank& operator=(const Blank&) = delete;
+
+  class Anweisung {
+   public:
+    Anweisung(sqlite3* db, const char* sql) : m_db(db) {
+      if (sqlite3_prepare_v3(db, sql, -1, SQLITE_PREPARE_PERSISTENT, &m_s, nullptr) != SQLITE_OK)
+        throw std::runtime_error(std::string(sql) + ": " + sqlite3_errmsg(db));
+    }
+    ~Anweisung() { sqlite3_finalize(m_s); }
+    Anweisung(const Anweisung&) = delete;
+    Anweisung& operator=(const Anweisung&) = delete;
+
+    void binde(int nummer, qint64 wert) { sqlite3_bind_int64(m_s, nummer, wert); }
+    void binde(int nummer, double wert) { sqlite3_bind_double(m_s, nummer, wert); }
+    void binde(int nummer, const char* wert) {
+      sqlite3_bind_text(m_s, nummer, wert, -1, SQLITE_STATIC);
+    }
+    // Steps to the end and touches every cell; returns the number of rows.
+    int lese();
+    void fuehreAus() {
+      if (lese() < 0) throw std::runtime_error(sqlite3_errmsg(m_db));
+    }
+
+   private:
+    sqlite3* m_db;
+    sqlite3_stmt* m_s = nullptr;
+  };
+
+  sqlite3* db() const { return m_db; }
+  void fuehreAus(const char* sql);
+
+ private:
+  sqlite3* m_db = nullptr;
+};

@@ -1,0 +1,10 @@
+#include <QApplication>
+#include <cstdlib>
+
+#include "Messwerk.h"
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication app(argc, argv);
+  return messen(argc, argv);
+}

@@ -1,0 +1,123 @@
+#include "Begleiter.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QTableView>
+#include <QTest>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int taktMs = 60;
+constexpr int geduld = 300;  // beats until a form that doesn't come ends the tour
+
+[[noreturn]] void abbrechen(const QString& grund) {
+  std::fprintf(stderr, "The tour stops: %s\n", qPrintable(grund));
+  std::exit(1);
+}
+
+QWidget* oberstes() {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  for (QWidget* fenster : QApplication::topLevelWidgets())
+    if (fenster->isVisible() && fenster->objectName() == QLatin1String("TA_TOVA")) return fenster;
+  return nullptr;
+}
+
+template <typename T>
+T* finde(QWidget* form, const QString& name) {
+  T* ding = form->findChild<T*>(name);
+  if (!ding) abbrechen(QStringLiteral("%1 has no %2").arg(form->objectName(), name));
+  return ding;
+}
+
+}  // namespace
+
+Begleiter::Begleiter(const QString& bildordner) : m_bildordner(bildordner) {
+  QDir().mkpath(bildordner);
+  QObject::connect(&m_takt, &QTimer::timeout, &m_takt, [this] { weiter(); });
+}
+
+Begleiter& Begleiter::schritt(const QString& form, Aktion aktion) {
+  m_schritte << Schritt{form, std::move(aktion)};
+  return *this;
+}
+
+Begleiter& Begleiter::bild(const QString& form, const QString& name) {
+  return schritt(form, [this, name](QWidget* fenster) { fotografieren(fenster, name); });
+}
+
+void Begleiter::starten() { m_takt.start(taktMs); }
+
+QString Begleiter::offen() const {
+  return m_naechster < m_schritte.size() ? m_schritte[m_naechster].form : QString();
+}
+
+void Begleiter::weiter() {
+  if (m_naechster >= m_schritte.size()) {
+    m_takt.stop();
+    return;
+  }
+  const Schritt schritt = m_schritte[m_naechster];
+  QWidget* fenster = oberstes();
+  if (!fenster || fenster->objectName() != schritt.form) {
+    if (++m_gewartet > geduld)
+      abbrechen(
+          QStringLiteral("waiting for %1, on top is %2")
+              .arg(schritt.form, fenster ? fenster->objectName() : QStringLiteral("nothing")));
+    return;
+  }
+  m_gewartet = 0;
+  ++m_naechster;  // before the action: it may open a form and come back only when that closes
+  schritt.aktion(fenster);
+}
+
+void Begleiter::fotografieren(QWidget* form, const QString& name) {
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  form->grab().save(QDir(m_bildordner).filePath(name + ".png"));
+}
+
+void Hand::tippen(QWidget* form, const QString& feld, const QString& text) {
+  QWidget* eingabe = finde<QWidget>(form, feld);
+  eingabe->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(eingabe, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(eingabe, Qt::Key_Delete);
+  // Umlauts have no key of their own here; they come as an input method gives them.
+  for (const QChar& zeichen : text) {
+    if (zeichen.unicode() < 128) {
+      QTest::keyClick(eingabe, zeichen.toLatin1());
+    } else {
+      QKeyEvent taste(QEvent::KeyPress, 0, Qt::NoModifier, QString(zeichen));
+      QCoreApplication::sendEvent(eingabe, &taste);
+    }
+  }
+  QTest::keyClick(eingabe, Qt::Key_Tab);
+}
+
+void Hand::druecken(QWidget* form, const QString& knopf) {
+  auto* taste = finde<QAbstractButton>(form, knopf);
+  if (!taste->isEnabled()) abbrechen(knopf + " is disabled");
+  QTest::mouseClick(taste, Qt::LeftButton, Qt::NoModifier,
+                    QPoint(qMin(12, taste->width() / 2), taste->height() / 2));
+}
+
+void Hand::waehlen(QWidget* form, const QString& eintrag) {
+  auto* aktion = finde<QAction>(form, eintrag);
+  if (!aktion->isEnabled()) abbrechen(eintrag + " is disabled");
+  aktion->trigger();
+}
+
+void Hand::markieren(QWidget* form, const QString& gitter, const QList<int>& zeilen) {
+  auto* tabelle = finde<QTableView>(form, gitter);
+  bool erste = true;
+  for (const int zeile : zeilen) {
+    const QModelIndex index = tabelle->model()->index(zeile, 0);
+    tabelle->scrollTo(index);
+    QTest::mouseClick(tabelle->viewport(), Qt::LeftButton,
+                      erste ? Qt::NoModifier : Qt::ControlModifier,
+                      tabelle->visualRect(index).center());
+    erste = false;
+  }
+}

@@ -1,0 +1,163 @@
+// The guided tour: drives the real forms through a beekeeper's day and leaves a picture of each.
+// usage: tour FOLDER_FOR_PICTURES
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QTemporaryDir>
+#include <cstdio>
+
+#include "Begleiter.h"
+#include "Betrieb.h"
+#include "core/globals.h"
+#include "core/mainform/forms/TA_TOVA.h"
+#include "platform/controls/Gestaltung.h"
+
+namespace {
+
+const QDate heute(2026, 6, 20);
+
+// Opens the program on a folder, walks the steps and closes it. False when it didn't come to the
+// end.
+bool besuchen(const QString& ordner, Begleiter& begleiter) {
+  bool fertig = false;
+  {
+    TA_TOVA hauptformular;
+    if (!hauptformular.laden({ordner, heute, [] { return true; }})) return false;
+    hauptformular.resize(1366, 768);
+    QEventLoop schleife;
+    begleiter.schritt("TA_TOVA", [&](QWidget* fenster) {
+      fenster->close();
+      fertig = true;
+      schleife.quit();
+    });
+    begleiter.starten();
+    hauptformular.show();
+    schleife.exec();
+  }
+  TZ_Variablen::DB.Close();
+  TZ_Variablen::Arbeitsbereich.Close();
+  return fertig;
+}
+
+void volkEintippen(QWidget* form, const QString& name, const QString& rasse, const QString& ort) {
+  Hand::tippen(form, "sevt_1", name);
+  Hand::tippen(form, "sevt_2", rasse);
+  Hand::tippen(form, "sevt_3", ort);
+  Hand::tippen(form, "sevt_7", "Zander");
+  Hand::tippen(form, "sevt_10", "1.4");
+  Hand::tippen(form, "sevt_5", "weiß");
+}
+
+// From the empty folder to colonies, an inspection, a harvest over marked colonies, the panel.
+bool ersterTag(const QString& bilder) {
+  QTemporaryDir ordner;
+  Begleiter tag(bilder);
+  tag.schritt("TH_Hilfe_Wieanfangen", [&](QWidget* form) {
+    tag.fotografieren(form, "01_erste_schritte");
+    Hand::druecken(form, "schritt_2");
+  });
+  const QStringList namen = {"Auguste", "Berta", "Clothilde", "Dorothea"};
+  for (const QString& name : namen)
+    tag.schritt("TV_Neues_Volk", [&, name](QWidget* form) {
+      volkEintippen(form, name, "Carnica", "Hausgarten");
+      if (name == namen.first()) tag.fotografieren(form, "02_neues_volk");
+      Hand::druecken(form, "oknächster_0");
+    });
+  tag.schritt("TV_Neues_Volk", [](QWidget* form) { Hand::druecken(form, "cmdabbrechen"); });
+  tag.schritt("TH_Hilfe_Wieanfangen", [](QWidget* form) { form->close(); });
+  tag.schritt("TA_TOVA", [&](QWidget* form) {
+    tag.fotografieren(form, "03_vier_voelker");
+    Hand::markieren(form, "datali", {0});
+    Hand::waehlen(form, "XE_stockkarte");
+  });
+  tag.schritt("TE_Eingabe", [&](QWidget* form) {
+    for (int slot = 1; slot <= 9; ++slot)
+      Hand::tippen(form, QStringLiteral("sevt_%1").arg(slot), "3,5");
+    Hand::tippen(form, "sevt_12", "4");
+    Hand::tippen(form, "sevt_13", "6");
+    Hand::tippen(form, "sevt_14", "1");
+    Hand::tippen(form, "sevt_18", "2");
+    Hand::tippen(form, "sevt_27", "Königin gesehen");
+    tag.fotografieren(form, "04_durchsicht");
+    Hand::druecken(form, "neu_0");
+    tag.fotografieren(form, "05_durchsicht_gebucht");
+    Hand::druecken(form, "cmdschließen");
+  });
+  tag.schritt("TA_TOVA", [&](QWidget* form) {
+    Hand::markieren(form, "datali", {0, 1, 2});
+    Hand::waehlen(form, "XE_honigernte");
+  });
+  tag.schritt("TE_Eingabe", [&](QWidget* form) {
+    Hand::tippen(form, "sevt_1", "12,5");
+    Hand::tippen(form, "sevt_2", "Frühtracht");
+    Hand::tippen(form, "sevt_3", "I");
+    Hand::tippen(form, "sevt_7", "2026/1");
+    tag.fotografieren(form, "06_honigernte");
+    Hand::druecken(form, "neu_0");
+    tag.fotografieren(form, "08_honigernte_gebucht");
+    Hand::druecken(form, "cmdschließen");
+  });
+  tag.schritt("frage", [&](QWidget* form) {
+    tag.fotografieren(form, "07_drei_voelker");
+    Hand::druecken(form, "ja");
+  });
+  tag.schritt("TA_TOVA", [&](QWidget* form) {
+    Hand::druecken(form, "cmdok");
+    tag.fotografieren(form, "09_volk_info");
+  });
+  return besuchen(ordner.path(), tag);
+}
+
+// The same forms with three seasons behind them.
+bool imDrittenJahr(const QString& bilder) {
+  QTemporaryDir ordner;
+  Betriebsgroesse groesse;
+  groesse.heute = heute;
+  betriebAnlegen(ordner.path(), groesse);
+  TZ_Variablen::DB.Close();
+  TZ_Variablen::Arbeitsbereich.Close();
+
+  Begleiter tag(bilder);
+  tag.schritt("TA_TOVA", [&](QWidget* form) {
+    Hand::markieren(form, "datali", {2});
+    Hand::druecken(form, "cmdok");
+    tag.fotografieren(form, "hauptformular");
+    Hand::waehlen(form, "XV_volkändern");
+  });
+  tag.schritt("TV_Neues_Volk", [&](QWidget* form) {
+    tag.fotografieren(form, "volk_ändern");
+    Hand::druecken(form, "cmdabbrechen");
+  });
+  static const QStringList eintraege = {
+      "XE_stockkarte",    "XE_honigernte",       "XE_wachsernte", "XE_pollenernte",
+      "XE_sonstigeernte", "XE_arbeiten",         "XE_wanderung",  "XE_gewichtsmessung",
+      "XE_behandlung",    "XE_Königinenwechsel", "XE_Notizen"};
+  for (const QString& eintrag : eintraege) {
+    tag.schritt("TA_TOVA", [eintrag](QWidget* form) { Hand::waehlen(form, eintrag); });
+    tag.schritt("TE_Eingabe", [&tag, eintrag](QWidget* form) {
+      tag.fotografieren(form, "eingabe_" + eintrag.mid(3).toLower());
+      Hand::druecken(form, "cmdschließen");
+    });
+  }
+  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::waehlen(form, "hilfestartmenue"); });
+  tag.schritt("TH_Hilfe", [&](QWidget* form) {
+    tag.fotografieren(form, "hilfe");
+    form->close();
+  });
+  return besuchen(ordner.path(), tag);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: tour FOLDER_FOR_PICTURES\n");
+    return 2;
+  }
+  QApplication app(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  gestalten(app);
+  const QString bilder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
+  return ersterTag(bilder) && imDrittenJahr(bilder) ? 0 : 1;
+}
