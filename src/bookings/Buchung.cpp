@@ -2,6 +2,7 @@
 
 #include <QScopeGuard>
 #include <functional>
+#include <optional>
 
 #include "bookings/Rechnen.h"
 #include "core/globals.h"
@@ -83,15 +84,18 @@ QVariant feldwert(const Buchung& buchung, const Buchungsslot& slot) {
   }
 }
 
-void felderSchreiben(Recordset& zeile, const Buchung& buchung, int anzahlMarkiert) {
+// What the slots write, in the order of the type's slots.
+QVariantList feldwerte(const Buchung& buchung, int anzahlMarkiert) {
   const bool teilen = EinstellungenZahl[72] == 1 && anzahlMarkiert >= 2;
+  QVariantList werte;
   for (const Buchungsslot& slot : buchungstyp(buchung.art).plaetze) {
     if (teilen && slot.geteilt)
-      zeile[slot.feld] =
-          ZahlLesen(ZahlFormat(Deutsch::einfach(zahl(buchung, slot.nummer) / anzahlMarkiert), 2));
+      werte.append(
+          ZahlLesen(ZahlFormat(Deutsch::einfach(zahl(buchung, slot.nummer) / anzahlMarkiert), 2)));
     else
-      zeile[slot.feld] = feldwert(buchung, slot);
+      werte.append(feldwert(buchung, slot));
   }
+  return werte;
 }
 
 // One movement for one harvest, however many colonies it came from.
@@ -130,33 +134,65 @@ void volkMerken(QString& geaenderteVoelker, const QString& volkId) {
   if (!geaenderteVoelker.contains(eintrag)) geaenderteVoelker += eintrag;
 }
 
-// The steps of one booking. The appointments come first and stay closed whatever happens to the
-// row; the movement of the honey store is written just before the row.
-void schreiben(Database& datenbank, Buchung& buchung, const QString& volkId,
-               const QString& buchungId, Buchungskontext& kontext, const QStringList& termine) {
-  const QDate tag = datum(buchung);
-  const qint64 volk = volkId.toLongLong();
-  const bool neu = buchungId == Neu;
-  termineErledigen(datenbank, termine, tag, volk);
+// Writes bookings, one after the other. What can't differ from colony to colony is read once: the
+// options, the recordset through which rows are added, and the values of texts that stay the same.
+class Schreiber {
+ public:
+  Schreiber(Database& datenbank, Buchung& buchung, Buchungskontext& kontext)
+      : m_datenbank(datenbank),
+        m_buchung(buchung),
+        m_kontext(kontext),
+        m_typ(buchungstyp(buchung.art)),
+        m_tag(datum(buchung)),
+        m_termine(erledigteTermine(datenbank, buchung)) {}
 
-  Recordset zeile = zeileOeffnen(datenbank, buchungstyp(buchung.art).tabelle, volk, buchungId);
-  if (neu) {
-    zeile.AddNew();
-  } else {
-    zeile.MoveFirst();
-    zeile.Edit();
+  // The steps of one booking. The appointments come first and stay closed whatever happens to the
+  // row; the movement of the honey store is written just before the row.
+  void schreibe(const QString& volkId, const QString& buchungId) {
+    const qint64 volk = volkId.toLongLong();
+    const bool neueErnte = m_buchung.art == Honigernte && buchungId == Neu;
+    termineErledigen(m_datenbank, m_termine, m_tag, volk);
+    oeffne(volk, buchungId);
+    if (neueErnte) honigwabenUmrechnen(m_buchung);
+    felderSchreiben();
+    if (neueErnte) honiglagerSchreiben(m_datenbank, m_buchung, m_kontext.anzahlMarkiert);
+    (*m_zeile)["Datum"] = m_tag;
+    (*m_zeile)["Volk_ID"] = volk;
+    m_zeile->Update();
+    ListeNeuLesen = 1;
+    volkMerken(m_kontext.geaenderteVoelker, volkId);
   }
-  if (buchung.art == Honigernte && neu) honigwabenUmrechnen(buchung);
-  felderSchreiben(zeile, buchung, kontext.anzahlMarkiert);
-  if (buchung.art == Honigernte && neu)
-    honiglagerSchreiben(datenbank, buchung, kontext.anzahlMarkiert);
-  zeile["Datum"] = tag;
-  zeile["Volk_ID"] = volk;
-  zeile.Update();
 
-  ListeNeuLesen = 1;
-  volkMerken(kontext.geaenderteVoelker, volkId);
-}
+ private:
+  void oeffne(qint64 volk, const QString& buchungId) {
+    if (buchungId == Neu) {
+      if (!m_zeile) m_zeile = zeileOeffnen(m_datenbank, m_typ.tabelle, volk, Neu);
+      m_zeile->AddNew();
+    } else {
+      m_zeile = zeileOeffnen(m_datenbank, m_typ.tabelle, volk, buchungId);
+      m_zeile->MoveFirst();
+      m_zeile->Edit();
+    }
+  }
+  void felderSchreiben() {
+    if (m_werte.isEmpty() || m_gelesen != m_buchung.texte) {
+      m_werte = feldwerte(m_buchung, m_kontext.anzahlMarkiert);
+      m_gelesen = m_buchung.texte;
+    }
+    for (qsizetype i = 0; i < m_typ.plaetze.size(); ++i)
+      (*m_zeile)[m_typ.plaetze[i].feld] = m_werte[i];
+  }
+
+  Database& m_datenbank;
+  Buchung& m_buchung;
+  Buchungskontext& m_kontext;
+  const Buchungstyp& m_typ;
+  const QDate m_tag;
+  const QStringList m_termine;
+  std::optional<Recordset> m_zeile;
+  Slottexte m_gelesen;  // the texts that m_werte come from
+  QVariantList m_werte;
+};
 
 // Runs the writes as one commit. When the engine has thrown them all away, nothing of them may
 // show: booking and context are as before, so that a second try doesn't multiply combs again.
@@ -180,18 +216,17 @@ void sammeln(Database& datenbank, Buchung& buchung, Buchungskontext& kontext,
 
 void BuchungSpeichern(Database& datenbank, Buchung& buchung, const QString& volkId,
                       const QString& buchungId, Buchungskontext& kontext) {
-  sammeln(datenbank, buchung, kontext, [&] {
-    schreiben(datenbank, buchung, volkId, buchungId, kontext, erledigteTermine(datenbank, buchung));
-  });
+  sammeln(datenbank, buchung, kontext,
+          [&] { Schreiber(datenbank, buchung, kontext).schreibe(volkId, buchungId); });
 }
 
 void BuchungslaufSpeichern(Database& datenbank, Buchung& buchung, const QStringList& volkIds,
                            Buchungskontext& kontext) {
   const auto aufraeumen = qScopeGuard([] { SammelFolgevolk = false; });
   sammeln(datenbank, buchung, kontext, [&] {
-    const QStringList termine = erledigteTermine(datenbank, buchung);
+    Schreiber schreiber(datenbank, buchung, kontext);
     for (const QString& volkId : volkIds) {
-      schreiben(datenbank, buchung, volkId, Neu, kontext, termine);
+      schreiber.schreibe(volkId, Neu);
       SammelFolgevolk = true;
     }
   });
