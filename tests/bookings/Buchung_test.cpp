@@ -1,6 +1,9 @@
 #include "bookings/Buchung.h"
 
+#include <QFileInfo>
+
 #include "Bestand.h"
+#include "platform/database/Dateigrenze.h"
 
 using TZ_Variablen::ListeNeuLesen;
 
@@ -237,4 +240,44 @@ TEST_F(Buchen, FehlerNachDenTerminenLaesstDieTermineErledigt) {
   EXPECT_EQ(anzahl("Arbeiten"), 0);
   EXPECT_EQ(wert("select Erledigt from Termine"), "J");
   EXPECT_FALSE(TZ_Variablen::SammelFolgevolk);
+}
+
+TEST_F(Buchen, VolleScheibeVerwirftDenLaufUndStelltDieEingabeWiederHer) {
+  neu(buchung(5, "04.06.2026", {{1, "vorher"}}));
+  TZ_Variablen::EinstellungenZahl[73] = 1;
+  TZ_Variablen::EinstellungenWert[5] = 1;
+  QStringList voelker;
+  for (int i = 1; i <= 2000; ++i) voelker.append(QString::number(i));
+  m_kontext.anzahlMarkiert = 2000;
+  const Buchung eingabe = buchung(1, "05.06.2026", {{1, "3"}, {2, QString(20, 'x')}});
+  Buchung b = eingabe;
+  bool verworfen = false;
+  try {
+    const Dateigrenze voll(static_cast<rlim_t>(QFileInfo(TZ_Variablen::DatenbankPfad).size()) +
+                           4096);
+    BuchungslaufSpeichern(db(), b, voelker, m_kontext);
+  } catch (const Datenbankfehler& fehler) {
+    verworfen = fehler.allesVerworfen();
+  }
+  EXPECT_TRUE(verworfen);
+  EXPECT_EQ(anzahl("Honigernte"), 0);
+  EXPECT_EQ(spalte("select Arbeitsart from Arbeiten"), "vorher");
+  EXPECT_EQ(b.texte, eingabe.texte);  // a second try starts from 3 combs again
+  EXPECT_EQ(m_kontext.geaenderteVoelker, "/1/");
+  EXPECT_FALSE(TZ_Variablen::SammelFolgevolk);
+}
+
+TEST_F(Buchen, OptionenGeltenAuchFuerDenLaufAlsGanzes) {
+  schreibe(
+      "insert into Arbeitsplanoptionen (Arbeitsart, Auto_erledigt_Buchung) values ('T', "
+      "'Honigernte')");
+  for (const int volk : {1, 2})
+    schreibe("insert into Termine (Datum, Termin, Erledigt, Volk_ID) values (?, 'T', 'N', ?)",
+             {QDate(2026, 1, 1), volk});
+  TZ_Variablen::EinstellungenZahl[73] = 1;
+  TZ_Variablen::EinstellungenWert[5] = 2;
+  lauf(buchung(1, "05.06.2026", {{1, "3"}, {2, "Raps"}}), {"1", "2"});
+  EXPECT_EQ(spalte("select Erledigt from Termine"), "J|J");
+  EXPECT_EQ(spalte("select Menge_kg from Honigernte order by ID"), "6|12");
+  EXPECT_EQ(spalte("select Honigsorte from Honigernte order by ID"), "Raps|Raps");
 }
