@@ -14,7 +14,8 @@ namespace Ereignis {
 // Runs the action; tells a failure over the given window. True when it came to its end.
 bool ausfuehren(QWidget* fenster, const std::function<void()>& aktion);
 
-// connect() with the guard around the handler: wenn(knopf, &QPushButton::clicked, this, [this]{...}).
+// connect() with the guard around the handler: wenn(knopf, &QPushButton::clicked, this,
+// [this]{...}).
 template <typename Sender, typename Signal, typename Handler>
 QMetaObject::Connection wenn(const Sender* sender, Signal signal, QWidget* fenster,
                              Handler handler) {

@@ -28,6 +28,9 @@ class Formular : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void done(int ergebnis) override;
+
+ private:
+  bool m_geometrieGeladen = false;
 };
 
 // Column widths, geometry and splits of windows, by key, in one file of the program folder.

@@ -8,7 +8,11 @@
 class GridModell;
 
 // The data grid: a block of rows, sorted by header click, several rows markable, widths kept per
-// layout key. Rows count from 0 in the order shown; no row is -1. Columns go by name.
+// layout key. Rows count from 0 in the order shown; no row is -1. Columns go by name (letter case
+// doesn't count). The current row carries a frame, the marked rows are coloured.
+//
+// Keys: arrows, page keys, Home and End move, Shift and Ctrl mark, Ctrl+A marks all, letters search
+// in the sorted column (else the first), Enter is a double click, Ctrl+C copies the marked rows.
 class Grid : public QTableView {
   Q_OBJECT
 
@@ -28,22 +32,24 @@ class Grid : public QTableView {
   void setSpalteVerborgen(const QString& spalte, bool ja);
 
   int aktuelleZeile() const;
-  void setAktuelleZeile(int zeile);         // marks it alone and scrolls to it
-  QList<int> markierteZeilen() const;       // ascending
+  void setAktuelleZeile(int zeile);    // marks it alone and scrolls to it
+  QList<int> markierteZeilen() const;  // ascending
   void setMarkierteZeilen(const QList<int>& zeilen);
-  // The first row for which "Feld = wert" holds, -1 without one.
+  // The first row for which "Feld = wert" holds (several joined by "and"), -1 without one. Throws
+  // Datenbankfehler for a condition that can't be read or names no column of the rows.
   int findeZeile(const QString& bedingung) const;
 
-  // Numbers as numbers, dates as dates, texts by the collation; equal rows keep their order.
+  // Numbers as numbers, dates as dates, texts by the collation; null and empty first; equal rows
+  // keep their order. The current record and the marked ones stay; zeileGewechselt isn't sent.
   void sortiere(int spalte, Qt::SortOrder richtung);
   int sortierSpalte() const;  // -1: as the rows came
   Qt::SortOrder sortierRichtung() const;
 
   // Deletes the record behind the row from the table (by its column ID), then the row; the next
-  // row becomes current. Throws Datenbankfehler; the row then stays.
+  // row becomes current and zeileGewechselt tells it. Throws Datenbankfehler; the row then stays.
   void loescheZeile(int zeile, Database& datenbank, const QString& tabelle);
 
-  // The fixed first column: text for a row of the block as shown.
+  // The fixed first column: text for a row as shown. Without a function there is none.
   void setErsteSpalte(std::function<QString(int zeile)> text);
 
   // Widths: kept under the key, restored by setDaten for a block with as many columns; a column
@@ -52,8 +58,8 @@ class Grid : public QTableView {
   static constexpr int KleinsteBreite = 25;
 
  Q_SIGNALS:
-  void zeileGewechselt(int zeile);
-  void zeileAngeklickt(int zeile);       // click or key on a row, also the current one
+  void zeileGewechselt(int zeile);  // another record is current, -1 for none
+  void zeileAngeklickt(int zeile);  // click or key on a row, also the current one
   void zeileDoppelgeklickt(int zeile);
   void markierungGeaendert();
   void vomBenutzerSortiert(int spalte, Qt::SortOrder richtung);
@@ -61,12 +67,44 @@ class Grid : public QTableView {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  void keyboardSearch(const QString& zeichen) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
+  bool eventFilter(QObject* objekt, QEvent* event) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
+  QModelIndex moveCursor(CursorAction aktion, Qt::KeyboardModifiers tasten) override;
 
  private:
+  void verbinden();
+  void vomKopfSortiert(int spalte, Qt::SortOrder richtung);
+  void zeigeSortierung();
   void breitenLaden();
   void breitenSichern();
+  void breitenAnpassen();
+  void breiteGeaendert(int spalte, int breite);
+  void zeilenhoeheAnpassen();
+  void verborgeneAnwenden();
+  void kopieren();
+  int ersteSichtbareSpalte() const;
+  QModelIndex zielIndex(int zeile) const;
 
   GridModell* m_modell;
   QString m_layoutSchluessel;
-  bool m_breitenGesperrt = false;
+  bool m_breitenGesperrt = false;   // widths are being set by the program
+  bool m_breitenGeaendert = false;  // while the user draws: to be stored when he lets go
+  bool m_breitenEigene = false;     // restored or drawn: not to be worked out anew
+  QList<int> m_breiten;             // of all columns, hidden ones too
+  QStringList m_spaltennamen;
+  QStringList m_verborgen;  // column names in lower case
+  int m_sortierSpalte = -1;
+  Qt::SortOrder m_sortierRichtung = Qt::AscendingOrder;
+  bool m_wechselGesperrt = false;
+  bool m_imFokus = false;
+  bool m_tasteGedrueckt = false;
+  QString m_suchtext;
+  qint64 m_suchzeit = 0;
 };

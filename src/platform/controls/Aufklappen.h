@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QPoint>
+#include <QScreen>
+#include <QWidget>
+
+// Where a window that opens at a field goes: below it, above it where there is no room, always on
+// the screen.
+inline QPoint aufklappOrt(const QWidget* feld, QSize groesse) {
+  const QRect schirm = feld->screen()->availableGeometry();
+  QPoint ort = feld->mapToGlobal(QPoint(0, feld->height()));
+  if (ort.y() + groesse.height() > schirm.bottom())
+    ort.setY(feld->mapToGlobal(QPoint(0, 0)).y() - groesse.height());
+  ort.setY(std::max(schirm.top(), ort.y()));
+  ort.setX(std::max(schirm.left(), std::min(ort.x(), schirm.right() - groesse.width())));
+  return ort;
+}

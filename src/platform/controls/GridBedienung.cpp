@@ -1,0 +1,239 @@
+// The grid's keys, mouse and column widths.
+
+#include <QClipboard>
+#include <QDateTime>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QToolTip>
+
+#include "platform/controls/Formular.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/GridModell.h"
+
+namespace {
+
+constexpr qint64 SuchpauseMs = 1000;  // after a longer one a letter begins a new search
+constexpr int GemesseneZeilen = 100;
+constexpr int GroessteBreite = 280;
+constexpr int Rand = 14;
+constexpr int SortierpfeilBreite = 14;
+
+}  // namespace
+
+// ---- keys and mouse ----
+
+void Grid::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (aktuelleZeile() < 0) {
+      event->ignore();  // the form's default button
+      return;
+    }
+    event->accept();
+    if (!event->isAutoRepeat()) Q_EMIT zeileDoppelgeklickt(aktuelleZeile());
+    return;
+  }
+  if (event->matches(QKeySequence::Copy)) {
+    kopieren();
+    event->accept();
+    return;
+  }
+  const int vorher = aktuelleZeile();
+  QTableView::keyPressEvent(event);
+  // A key that moved, or could have moved at an end of the list, is a key on a row.
+  switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_Space:
+      m_tasteGedrueckt = true;
+      break;
+    default:
+      m_tasteGedrueckt = m_tasteGedrueckt || aktuelleZeile() != vorher;
+  }
+}
+
+void Grid::keyReleaseEvent(QKeyEvent* event) {
+  QTableView::keyReleaseEvent(event);
+  if (event->isAutoRepeat() || !m_tasteGedrueckt) return;
+  m_tasteGedrueckt = false;
+  if (aktuelleZeile() >= 0) Q_EMIT zeileAngeklickt(aktuelleZeile());
+}
+
+void Grid::keyboardSearch(const QString& zeichen) {
+  if (zeilen() == 0 || zeichen.isEmpty()) return;
+  const qint64 jetzt = QDateTime::currentMSecsSinceEpoch();
+  if (jetzt - m_suchzeit > SuchpauseMs) m_suchtext.clear();
+  m_suchzeit = jetzt;
+  // The same letter again goes to the next row that begins with it.
+  const bool weiter = m_suchtext.isEmpty() || m_suchtext == zeichen;
+  if (m_suchtext != zeichen) m_suchtext += zeichen;
+  const int spalte = m_sortierSpalte >= 0 ? m_sortierSpalte : ersteSichtbareSpalte();
+  const int start = std::max(aktuelleZeile(), weiter ? -1 : 0) + (weiter ? 1 : 0);
+  for (int i = 0; i < zeilen(); ++i) {
+    const int zeile = (start + i) % zeilen();
+    if (!m_modell->text(zeile, spalte).startsWith(m_suchtext, Qt::CaseInsensitive)) continue;
+    setAktuelleZeile(zeile);
+    return;
+  }
+}
+
+void Grid::mousePressEvent(QMouseEvent* event) {
+  // A click below the last row keeps what is marked.
+  if (!indexAt(event->pos()).isValid()) {
+    setFocus(Qt::MouseFocusReason);
+    event->accept();
+    return;
+  }
+  QTableView::mousePressEvent(event);
+}
+
+void Grid::focusInEvent(QFocusEvent* event) {
+  m_imFokus = true;  // coming into the list makes no row current
+  QTableView::focusInEvent(event);
+  m_imFokus = false;
+  viewport()->update();
+}
+
+QModelIndex Grid::moveCursor(CursorAction aktion, Qt::KeyboardModifiers tasten) {
+  if (m_imFokus) return {};
+  if (zeilen() > 0 && aktion == MoveHome) return zielIndex(0);
+  if (zeilen() > 0 && aktion == MoveEnd) return zielIndex(zeilen() - 1);
+  return QTableView::moveCursor(aktion, tasten);
+}
+
+// Shift alone marks from the anchor to here and nothing else; with Ctrl the rest stays marked.
+QItemSelectionModel::SelectionFlags Grid::selectionCommand(const QModelIndex& index,
+                                                           const QEvent* event) const {
+  auto befehl = QTableView::selectionCommand(index, event);
+  const bool strecke =
+      befehl & QItemSelectionModel::Select && befehl & QItemSelectionModel::Current;
+  const bool strg = event != nullptr && event->isInputEvent() &&
+                    static_cast<const QInputEvent*>(event)->modifiers() & Qt::ControlModifier;
+  if (strecke && !strg) befehl |= QItemSelectionModel::Clear;
+  return befehl;
+}
+
+bool Grid::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* hilfe = static_cast<QHelpEvent*>(event);
+    const QModelIndex i = indexAt(hilfe->pos());
+    const QString text = i.isValid() ? m_modell->text(i.row(), i.column()) : QString();
+    const bool abgeschnitten =
+        i.isValid() && fontMetrics().horizontalAdvance(text) + 8 > columnWidth(i.column());
+    if (abgeschnitten)
+      QToolTip::showText(hilfe->globalPos(), text, viewport(), visualRect(i));
+    else
+      QToolTip::hideText();
+    return true;
+  }
+  return QTableView::viewportEvent(event);
+}
+
+void Grid::kopieren() {
+  QStringList zeilentexte;
+  for (const int zeile : markierteZeilen()) {
+    QStringList zellen;
+    for (int i = 0; i < spalten(); ++i)
+      if (!isColumnHidden(i))
+        zellen += m_modell->data(m_modell->index(zeile, i), Qt::DisplayRole).toString();
+    zeilentexte += zellen.join(u'\t');
+  }
+  if (!zeilentexte.isEmpty()) QGuiApplication::clipboard()->setText(zeilentexte.join(u'\n'));
+}
+
+void Grid::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    zeilenhoeheAnpassen();
+}
+
+void Grid::zeilenhoeheAnpassen() {
+  const int hoehe = fontMetrics().height() + 6;
+  verticalHeader()->setMinimumSectionSize(hoehe);
+  verticalHeader()->setDefaultSectionSize(hoehe);
+}
+
+// ---- column widths ----
+
+void Grid::setLayoutSchluessel(const QString& schluessel) {
+  m_layoutSchluessel = schluessel;
+  if (spalten() > 0) breitenLaden();
+}
+
+// Kept widths come first, then the ones drawn since, then what the texts need.
+void Grid::breitenLaden() {
+  QList<int> breiten;
+  if (!m_layoutSchluessel.isEmpty())
+    for (const QVariant& wert :
+         Fensterablage::lesen(QStringLiteral("Spaltenbreiten/") + m_layoutSchluessel).toList())
+      breiten += std::max(wert.toInt(), KleinsteBreite);
+  const bool gemerkt = !breiten.isEmpty() && breiten.size() == spalten();
+  if (!gemerkt && m_breitenEigene && m_breiten.size() == spalten()) {
+    breiten = m_breiten;
+  } else if (!gemerkt) {
+    breitenAnpassen();
+    return;
+  }
+  m_breitenEigene = true;
+  m_breiten = breiten;
+  verborgeneAnwenden();
+}
+
+// As wide as the heading and the longest of the first texts, within a limit.
+void Grid::breitenAnpassen() {
+  const QFontMetrics mass(font());
+  const QFontMetrics kopfmass(horizontalHeader()->font());
+  const int zeilen = std::min(this->zeilen(), GemesseneZeilen);
+  m_breiten.clear();
+  for (int spalte = 0; spalte < spalten(); ++spalte) {
+    int breite = kopfmass.horizontalAdvance(m_modell->ueberschrift(spalte)) + SortierpfeilBreite;
+    qsizetype laengster = 0;
+    for (int zeile = 0; zeile < zeilen && breite < GroessteBreite; ++zeile) {
+      const QString text = m_modell->text(zeile, spalte);
+      if (text.size() * 4 < laengster * 3) continue;  // can't be the widest; measuring is dear
+      laengster = std::max(laengster, text.size());
+      breite = std::max(breite, mass.horizontalAdvance(text));
+    }
+    m_breiten += std::clamp(breite + Rand, KleinsteBreite, GroessteBreite);
+  }
+  verborgeneAnwenden();
+}
+
+void Grid::breiteGeaendert(int spalte, int breite) {
+  if (m_breitenGesperrt || spalte < 0 || spalte >= spalten() || isColumnHidden(spalte)) return;
+  if (breite < KleinsteBreite) {
+    m_breitenGesperrt = true;
+    setColumnWidth(spalte, KleinsteBreite);
+    m_breitenGesperrt = false;
+    breite = KleinsteBreite;
+  }
+  while (m_breiten.size() < spalten()) m_breiten += columnWidth(static_cast<int>(m_breiten.size()));
+  m_breiten[spalte] = breite;
+  m_breitenEigene = m_breitenGeaendert = true;
+  if (!(QGuiApplication::mouseButtons() & Qt::LeftButton)) breitenSichern();
+}
+
+void Grid::breitenSichern() {
+  m_breitenGeaendert = false;
+  if (m_layoutSchluessel.isEmpty()) return;
+  QVariantList werte;
+  for (const int breite : m_breiten) werte += breite;
+  Fensterablage::schreiben(QStringLiteral("Spaltenbreiten/") + m_layoutSchluessel, werte);
+}
+
+bool Grid::eventFilter(QObject* objekt, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease && objekt == horizontalHeader()->viewport() &&
+      m_breitenGeaendert)
+    breitenSichern();
+  return QTableView::eventFilter(objekt, event);
+}
+
+void Grid::hideEvent(QHideEvent* event) {
+  if (m_breitenGeaendert) breitenSichern();
+  QTableView::hideEvent(event);
+}

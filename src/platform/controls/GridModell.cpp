@@ -1,0 +1,191 @@
+#include "platform/controls/GridModell.h"
+
+#include <algorithm>
+#include <cstring>
+#include <numeric>
+
+#include "platform/database/Kollation.h"
+#include "platform/database/Suchbedingung.h"
+
+namespace {
+
+// What a cell sorts by: empty, then numbers, then texts (dates sort as the text "yyyy-mm-dd").
+struct Schluessel {
+  enum class Rang : quint8 { Leer, Zahl, Text } rang = Rang::Leer;
+  double zahl = 0;
+  QByteArray text;
+};
+
+int vergleiche(const Schluessel& a, const Schluessel& b) {
+  if (a.rang != b.rang) return a.rang < b.rang ? -1 : 1;
+  if (a.rang == Schluessel::Rang::Zahl) return a.zahl < b.zahl ? -1 : (a.zahl > b.zahl ? 1 : 0);
+  if (a.rang == Schluessel::Rang::Leer) return 0;
+  const auto laenge = static_cast<size_t>(std::min(a.text.size(), b.text.size()));
+  const int erst = std::memcmp(a.text.constData(), b.text.constData(), laenge);
+  if (erst != 0) return erst;
+  return a.text.size() < b.text.size() ? -1 : (a.text.size() > b.text.size() ? 1 : 0);
+}
+
+Schluessel schluessel(const Datenblock& block, int zeile, int spalte) {
+  Schluessel s;
+  if (block.istNull(zeile, spalte)) return s;
+  if (!block.istText(zeile, spalte)) {
+    s.rang = Schluessel::Rang::Zahl;
+    s.zahl = block.zahl(zeile, spalte);
+    return s;
+  }
+  const QByteArrayView roh = block.rohtext(zeile, spalte);
+  if (roh.isEmpty()) return s;
+  s.rang = Schluessel::Rang::Text;
+  s.text = block.spalte(spalte).typ == Feldtyp::Datum
+               ? roh.toByteArray()
+               : Kollation::schluessel(QString::fromUtf8(roh));
+  return s;
+}
+
+QString einzeilig(QString text) {
+  for (QChar& c : text)
+    if (c == u'\n' || c == u'\r' || c == u'\t') c = u' ';
+  return text;
+}
+
+}  // namespace
+
+void GridModell::setDaten(Daten daten) {
+  beginResetModel();
+  m_daten = std::move(daten);
+  m_ordnung.resize(m_daten ? static_cast<size_t>(m_daten->zeilen()) : 0);
+  std::iota(m_ordnung.begin(), m_ordnung.end(), 0);
+  anzeigenZuordnen();
+  endResetModel();
+}
+
+void GridModell::anzeigenZuordnen() {
+  m_spaltenanzeige.assign(static_cast<size_t>(spalten()), nullptr);
+  for (int i = 0; i < spalten(); ++i) {
+    const auto treffer = m_anzeigen.constFind(m_daten->spalte(i).name.toLower());
+    if (treffer != m_anzeigen.constEnd()) m_spaltenanzeige[static_cast<size_t>(i)] = &*treffer;
+  }
+}
+
+void GridModell::setAnzeige(const QString& spalte, Anzeige anzeige) {
+  if (anzeige)
+    m_anzeigen[spalte.toLower()] = std::move(anzeige);
+  else
+    m_anzeigen.remove(spalte.toLower());
+  anzeigenZuordnen();
+  if (zeilen() > 0 && spalten() > 0)
+    Q_EMIT dataChanged(index(0, 0), index(zeilen() - 1, spalten() - 1));
+}
+
+void GridModell::setUeberschrift(const QString& spalte, const QString& text) {
+  m_ueberschriften[spalte.toLower()] = text;
+  if (spalten() > 0) Q_EMIT headerDataChanged(Qt::Horizontal, 0, spalten() - 1);
+}
+
+void GridModell::setErsteSpalte(std::function<QString(int)> text) {
+  m_ersteSpalte = std::move(text);
+  if (zeilen() > 0) Q_EMIT headerDataChanged(Qt::Vertical, 0, zeilen() - 1);
+}
+
+QString GridModell::text(int zeile, int spalte) const {
+  const int block = blockzeile(zeile);
+  const Anzeige* anzeige = m_spaltenanzeige[static_cast<size_t>(spalte)];
+  return anzeige != nullptr ? (*anzeige)(m_daten->wert(block, spalte))
+                            : m_daten->anzeige(block, spalte);
+}
+
+QVariant GridModell::wert(int zeile, int spalte) const {
+  return m_daten->wert(blockzeile(zeile), spalte);
+}
+
+QString GridModell::ueberschrift(int spalte) const {
+  const QString name = m_daten->spalte(spalte).name;
+  return m_ueberschriften.value(name.toLower(), name);
+}
+
+std::vector<int> GridModell::sortierteOrdnung(int spalte, Qt::SortOrder richtung) const {
+  std::vector<int> neu = m_ordnung;
+  if (spalte < 0 || spalte >= spalten()) {
+    std::sort(neu.begin(), neu.end());
+    return neu;
+  }
+  std::vector<Schluessel> alle(static_cast<size_t>(m_daten->zeilen()));
+  for (const int zeile : neu)
+    alle[static_cast<size_t>(zeile)] = schluessel(*m_daten, zeile, spalte);
+  const bool auf = richtung == Qt::AscendingOrder;
+  std::stable_sort(neu.begin(), neu.end(), [&](int a, int b) {
+    const int wie = vergleiche(alle[static_cast<size_t>(a)], alle[static_cast<size_t>(b)]);
+    return auf ? wie < 0 : wie > 0;
+  });
+  return neu;
+}
+
+void GridModell::sortiere(int spalte, Qt::SortOrder richtung) {
+  if (zeilen() == 0) return;
+  Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+  const std::vector<int> alt = std::exchange(m_ordnung, sortierteOrdnung(spalte, richtung));
+  std::vector<int> wohin(static_cast<size_t>(m_daten->zeilen()), -1);
+  for (size_t i = 0; i < m_ordnung.size(); ++i)
+    wohin[static_cast<size_t>(m_ordnung[i])] = static_cast<int>(i);
+  const QModelIndexList vorher = persistentIndexList();
+  QModelIndexList nachher;
+  nachher.reserve(vorher.size());
+  for (const QModelIndex& i : vorher)
+    nachher += index(wohin[static_cast<size_t>(alt[static_cast<size_t>(i.row())])], i.column());
+  changePersistentIndexList(vorher, nachher);
+  Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+}
+
+void GridModell::entferneZeile(int zeile) {
+  beginRemoveRows({}, zeile, zeile);
+  m_ordnung.erase(m_ordnung.begin() + zeile);
+  endRemoveRows();
+}
+
+int GridModell::finde(const QString& bedingung) const {
+  if (zeilen() == 0) return -1;
+  const Suchbedingung suche(bedingung, *m_daten);
+  for (int zeile = 0; zeile < zeilen(); ++zeile)
+    if (suche.trifftZu(*m_daten, blockzeile(zeile))) return zeile;
+  return -1;
+}
+
+int GridModell::rowCount(const QModelIndex& eltern) const {
+  return eltern.isValid() ? 0 : zeilen();
+}
+
+int GridModell::columnCount(const QModelIndex& eltern) const {
+  return eltern.isValid() ? 0 : spalten();
+}
+
+bool GridModell::rechtsbuendig(int zeile, int spalte) const {
+  const Feldtyp typ = m_daten->spalte(spalte).typ;
+  if (typ != Feldtyp::Ausdruck) return istZahl(typ);
+  const int block = blockzeile(zeile);
+  return !m_daten->istNull(block, spalte) && !m_daten->istText(block, spalte);
+}
+
+QVariant GridModell::data(const QModelIndex& index, int rolle) const {
+  if (!index.isValid() || index.row() >= zeilen() || index.column() >= spalten()) return {};
+  if (rolle == Qt::DisplayRole) return einzeilig(text(index.row(), index.column()));
+  if (rolle == Qt::TextAlignmentRole)
+    return static_cast<int>(
+        (rechtsbuendig(index.row(), index.column()) ? Qt::AlignRight : Qt::AlignLeft) |
+        Qt::AlignVCenter);
+  return {};
+}
+
+QVariant GridModell::headerData(int nummer, Qt::Orientation richtung, int rolle) const {
+  if (richtung == Qt::Vertical) {
+    if (rolle == Qt::DisplayRole && m_ersteSpalte && nummer >= 0 && nummer < zeilen())
+      return m_ersteSpalte(nummer);
+    return {};
+  }
+  if (nummer < 0 || nummer >= spalten()) return {};
+  if (rolle == Qt::DisplayRole) return ueberschrift(nummer);
+  if (rolle == Qt::TextAlignmentRole)
+    return static_cast<int>(
+        (istZahl(m_daten->spalte(nummer).typ) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  return {};
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QHash>
+#include <functional>
+#include <vector>
+
+#include "platform/database/Datenblock.h"
+
+// The rows of a grid: a block, the order in which its rows are shown, and which are gone. Rows
+// count as shown. Texts are made when a cell is painted.
+class GridModell : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  using Anzeige = std::function<QString(const QVariant&)>;
+
+  using QAbstractTableModel::QAbstractTableModel;
+
+  void setDaten(Daten daten);
+  const Daten& daten() const { return m_daten; }
+  int zeilen() const { return static_cast<int>(m_ordnung.size()); }
+  int spalten() const { return m_daten ? m_daten->spalten() : 0; }
+  int blockzeile(int zeile) const { return m_ordnung[static_cast<size_t>(zeile)]; }
+
+  void setAnzeige(const QString& spalte, Anzeige anzeige);
+  void setUeberschrift(const QString& spalte, const QString& text);
+  void setErsteSpalte(std::function<QString(int)> text);
+  // The whole text of a cell; the screen shows it in one line.
+  QString text(int zeile, int spalte) const;
+  QVariant wert(int zeile, int spalte) const;
+  QString ueberschrift(int spalte) const;
+
+  // Column -1: as the rows came. Nulls and empty texts first; equal rows keep their order.
+  void sortiere(int spalte, Qt::SortOrder richtung);
+  void entferneZeile(int zeile);
+  // -1 when no row fits. Throws Datenbankfehler for a condition that can't be read.
+  int finde(const QString& bedingung) const;
+
+  int rowCount(const QModelIndex& eltern = {}) const override;
+  int columnCount(const QModelIndex& eltern = {}) const override;
+  QVariant data(const QModelIndex& index, int rolle) const override;
+  QVariant headerData(int nummer, Qt::Orientation richtung, int rolle) const override;
+
+ private:
+  bool rechtsbuendig(int zeile, int spalte) const;
+  void anzeigenZuordnen();
+  std::vector<int> sortierteOrdnung(int spalte, Qt::SortOrder richtung) const;
+
+  Daten m_daten;
+  std::vector<int> m_ordnung;                // shown row -> row of the block
+  QHash<QString, Anzeige> m_anzeigen;        // by column name in lower case
+  QHash<QString, QString> m_ueberschriften;  // likewise
+  std::vector<const Anzeige*> m_spaltenanzeige;
+  std::function<QString(int)> m_ersteSpalte;
+};
