@@ -46,9 +46,7 @@ void breiteSetzen(Eingabefeld* feld, const Volkfeld& f) {
   constexpr int Zeichen = 14;
   constexpr int Knopf = 44;
   feld->ensurePolished();
-  const int breite =
-      feld->fontMetrics().horizontalAdvance(u'0') * Zeichen + Knopf + feld->textMargins().right();
-  feld->setMaximumWidth(breite);
+  feld->setMaximumWidth(feld->fontMetrics().horizontalAdvance(u'0') * Zeichen + Knopf);
 }
 
 QString feldname(const Volkfeld& f) {
