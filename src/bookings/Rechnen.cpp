@@ -1,7 +1,6 @@
 #include "bookings/Rechnen.h"
 
 #include <algorithm>
-#include <array>
 
 #include "core/globals.h"
 #include "data/helpers.h"

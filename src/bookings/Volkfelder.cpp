@@ -1,7 +1,6 @@
 #include "bookings/Volkfelder.h"
 
 #include <QStringList>
-#include <algorithm>
 #include <utility>
 
 #include "data/helpers.h"
