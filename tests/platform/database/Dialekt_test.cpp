@@ -533,6 +533,7 @@ TEST_F(Dialekttest, KreuztabelleOhneGruppeOderPivotIstUnlesbar) {
   unlesbar("transform count(*) select Sorte from Ernte pivot Volk_ID");
   unlesbar("transform count(*) select Sorte from Ernte group by Sorte");
   unlesbar("transform Menge select Sorte from Ernte group by Sorte pivot Volk_ID");
+  unlesbar("transform count(*) select * from Ernte group by Sorte pivot Volk_ID");
   unlesbar("transform count(*) from Ernte group by Sorte pivot Volk_ID");
 }
 
