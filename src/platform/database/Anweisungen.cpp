@@ -12,6 +12,7 @@ Anweisungen::Leihe::Leihe(std::shared_ptr<Anweisung> anweisung)
 Anweisungen::Leihe::~Leihe() {
   sqlite3_reset(m_anweisung->stmt);
   sqlite3_clear_bindings(m_anweisung->stmt);
+  m_anweisung->texte.clear();
   m_anweisung->inBenutzung = false;
 }
 

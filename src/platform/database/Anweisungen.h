@@ -17,8 +17,9 @@ struct Anweisung {
   // (empty for expressions).
   std::shared_ptr<const std::vector<Spalte>> spalten;
   QStringList felder;
-  int vorbereitungen = 0;   // how often the engine has prepared it anew
-  size_t letzteZellen = 0;  // size of the last result, to make room for the next one
+  std::vector<QByteArray> texte;  // the bound ones, which the engine reads while it runs
+  int vorbereitungen = 0;         // how often the engine has prepared it anew
+  size_t letzteZellen = 0;        // size of the last result, to make room for the next one
   size_t letzteTextbytes = 0;
   bool inBenutzung = false;
   quint64 zuletzt = 0;

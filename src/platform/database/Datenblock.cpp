@@ -187,7 +187,8 @@ void Datenblock::Bauer::wert(const QVariant& wert) {
     case QMetaType::QDateTime: {
       const QDate tag = wert.toDate();
       if (!tag.isValid()) return null();
-      return text(tag.toString(Qt::ISODate));
+      const QByteArray iso = Feldregeln::isoText(tag);
+      return text(iso.constData(), iso.size());
     }
     default:
       return text(wert.toString());

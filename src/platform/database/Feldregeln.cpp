@@ -223,6 +223,38 @@ int Feldregeln::zeichen(QStringView text) {
   return anzahl;
 }
 
+bool Feldregeln::ganzPasst(Feldtyp typ, qint64 wert) {
+  if (typ == Feldtyp::Kurz) return wert >= -32768 && wert <= 32767;
+  return (typ == Feldtyp::Lang || typ == Feldtyp::Zaehler) && wert >= -2147483648LL &&
+         wert <= 2147483647LL;
+}
+
+bool Feldregeln::textPasst(Feldtyp typ, int laenge, QByteArrayView text) {
+  if (typ == Feldtyp::Memo) return true;
+  if (typ == Feldtyp::Text) return laenge <= 0 || text.size() <= laenge;  // bytes >= characters
+  return typ == Feldtyp::Datum && isoDatum(text).year() >= 100;
+}
+
+QByteArray Feldregeln::isoText(QDate tag) {
+  int jahr = 0;
+  int monat = 0;
+  int nummer = 0;
+  tag.getDate(&jahr, &monat, &nummer);
+  if (jahr < 0 || jahr > 9999) return tag.toString(Qt::ISODate).toLatin1();
+  const auto ziffer = [](int wert) { return static_cast<char>('0' + wert % 10); };
+  const char text[10] = {ziffer(jahr / 1000),
+                         ziffer(jahr / 100),
+                         ziffer(jahr / 10),
+                         ziffer(jahr),
+                         '-',
+                         ziffer(monat / 10),
+                         ziffer(monat),
+                         '-',
+                         ziffer(nummer / 10),
+                         ziffer(nummer)};
+  return {text, sizeof text};
+}
+
 QDate Feldregeln::isoDatum(QByteArrayView text) {
   if (text.size() != 10 || text[4] != '-' || text[7] != '-') return {};
   const auto zahl = [text](int von, int bis) {

@@ -22,6 +22,13 @@ QVariant pruefe(const Spalte& spalte, const QVariant& wert);
 // Characters as a user counts them, not UTF-16 units.
 int zeichen(QStringView text);
 
+// Quick answers for the common case: whether a value goes into a field of this type as it is. False
+// means that pruefe has to decide. Text is UTF-8, a date "yyyy-mm-dd".
+bool ganzPasst(Feldtyp typ, qint64 wert);
+bool textPasst(Feldtyp typ, int laenge, QByteArrayView text);
+
+// A day between the years 100 and 9999 as "yyyy-mm-dd".
+QByteArray isoText(QDate tag);
 // A text of exactly the form "yyyy-mm-dd" that is a real day; else an invalid date.
 QDate isoDatum(QByteArrayView text);
 

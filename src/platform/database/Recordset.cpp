@@ -1,6 +1,7 @@
 #include "platform/database/Recordset.h"
 
 #include <QHash>
+#include <numeric>
 
 #include "platform/database/Feldregeln.h"
 #include "platform/database/Suchbedingung.h"
@@ -28,10 +29,11 @@ bool gleich(const QVariant& links, const QVariant& rechts) {
 
 }  // namespace
 
-// The block is immutable: what is written afterwards lies in rows of its own that cover those of
-// the block or follow them.
+// The block is immutable: what is written afterwards lies beside it, as fields that cover those of
+// the block and as rows that follow it.
 struct Recordset::Daten_ {
-  using Zeile = std::vector<QVariant>;
+  // Fields with their values; a row has few, or all in their order.
+  using Zuweisungen = std::vector<std::pair<int, QVariant>>;
   enum class Zustand { Lesen, Neu, Aendern };
 
   std::shared_ptr<Verbindung> verbindung;
@@ -39,97 +41,155 @@ struct Recordset::Daten_ {
   QStringList felder;
   int idSpalte = -1;
   Daten block;
-  QHash<int, Zeile> geaendert;  // by row number in the block
-  std::vector<Zeile> angehaengt;
+  QHash<int, Zuweisungen> geaendert;  // by row number in the block
+  std::vector<std::vector<QVariant>> angehaengt;
   // The rows in their order once one is deleted: numbers in the block, those behind it appended.
   std::vector<int> folge;
   bool folgeGilt = false;
   int stelle = 0;
   Zustand zustand = Zustand::Lesen;
-  Zeile entwurf;
-  std::vector<bool> belegt;
+  Zuweisungen entwurf;
+  // The last insert, since a loop of AddNew fills the same fields again and again.
+  std::vector<int> letzteFelder;
+  QString letztesEinfuegen;
 
-  void pruefeOffen() const {
-    if (!block) wirf(QStringLiteral("Die Datensätze sind geschlossen."));
-  }
-  int anzahl() const {
-    return folgeGilt ? static_cast<int>(folge.size())
-                     : block->zeilen() + static_cast<int>(angehaengt.size());
-  }
+  void pruefeOffen() const;
+  void pruefeAenderbar() const;
+  int anzahl() const;
   int zeilenNummer(int ort) const { return folgeGilt ? folge[static_cast<size_t>(ort)] : ort; }
-  int aktuelleZeile() const {
-    if (stelle >= anzahl()) wirf(QStringLiteral("Es gibt keinen aktuellen Datensatz."));
-    return zeilenNummer(stelle);
-  }
-  const Zeile* eigeneZeile(int nummer) const {
-    if (nummer >= block->zeilen()) {
-      return &angehaengt[static_cast<size_t>(nummer - block->zeilen())];
-    }
-    if (geaendert.isEmpty()) return nullptr;
-    const auto gefunden = geaendert.constFind(nummer);
-    return gefunden == geaendert.constEnd() ? nullptr : &*gefunden;
-  }
-  QVariant gespeichert(int nummer, int spalte) const {
-    const Zeile* eigene = eigeneZeile(nummer);
-    return eigene ? (*eigene)[static_cast<size_t>(spalte)] : block->wert(nummer, spalte);
-  }
-  QVariant wert(int spalte) const {
-    pruefeOffen();
-    if (zustand == Zustand::Neu) return entwurf[static_cast<size_t>(spalte)];
-    if (zustand == Zustand::Aendern && belegt[static_cast<size_t>(spalte)]) {
-      return entwurf[static_cast<size_t>(spalte)];
-    }
-    return gespeichert(aktuelleZeile(), spalte);
-  }
-  void beginne(Zustand neuer) {
-    zustand = neuer;
-    entwurf.assign(static_cast<size_t>(block->spalten()), QVariant());
-    belegt.assign(static_cast<size_t>(block->spalten()), false);
-  }
-  int spalte(const QString& name) const {
-    pruefeOffen();
-    const int nummer = block->spaltenNummer(name);
-    if (nummer < 0) {
-      wirf(QStringLiteral("Das Feld \"%1\" gibt es nicht.").arg(name), Art::Anweisung);
-    }
-    return nummer;
-  }
-  void pruefeAenderbar() const {
-    pruefeOffen();
-    if (!tabelle.isEmpty() && idSpalte >= 0) return;
-    wirf(QStringLiteral("Diese Datensätze können nur gelesen werden."), Art::Anweisung);
-  }
-  qint64 id(int nummer) const { return gespeichert(nummer, idSpalte).toLongLong(); }
-  Zeile ganzeZeile(int nummer) const {
-    Zeile zeile;
-    for (int s = 0; s < block->spalten(); ++s) zeile.push_back(gespeichert(nummer, s));
-    return zeile;
-  }
-
+  int aktuelleZeile() const;
+  QVariant gespeichert(int nummer, int spalte) const;
+  QVariant wert(int spalte) const;
+  int spalte(const QString& name) const;
+  bool trifftZu(const Suchbedingung& suche, int nummer) const;
+  void beginne(Zustand neuer);
+  void weiseZu(int spalte, const QVariant& wert);
+  const QString& einfuegen();
   void fuegeEin();
   void schreibeAenderung();
+  void loesche();
+
+  static const QVariant* suche(const Zuweisungen& werte, int spalte);
 };
 
-void Recordset::Daten_::fuegeEin() {
-  QString namen;
-  QString fragen;
-  QVariantList werte;
-  Zeile zeile = entwurf;
-  for (int s = 0; s < block->spalten(); ++s) {
-    if (!belegt[static_cast<size_t>(s)]) continue;
-    QVariant& wert = zeile[static_cast<size_t>(s)];
-    wert = Feldregeln::pruefe(block->spalte(s), wert);
-    const QLatin1String komma(werte.isEmpty() ? "" : ", ");
-    namen += komma + inAnfuehrung(felder[s]);
-    fragen += komma + QLatin1Char('?');
-    werte << wert;
+void Recordset::Daten_::pruefeOffen() const {
+  if (!block) wirf(QStringLiteral("Die Datensätze sind geschlossen."));
+}
+
+void Recordset::Daten_::pruefeAenderbar() const {
+  pruefeOffen();
+  if (!tabelle.isEmpty() && idSpalte >= 0) return;
+  wirf(QStringLiteral("Diese Datensätze können nur gelesen werden."), Art::Anweisung);
+}
+
+int Recordset::Daten_::anzahl() const {
+  return folgeGilt ? static_cast<int>(folge.size())
+                   : block->zeilen() + static_cast<int>(angehaengt.size());
+}
+
+int Recordset::Daten_::aktuelleZeile() const {
+  if (stelle >= anzahl()) wirf(QStringLiteral("Es gibt keinen aktuellen Datensatz."));
+  return zeilenNummer(stelle);
+}
+
+const QVariant* Recordset::Daten_::suche(const Zuweisungen& werte, int spalte) {
+  for (const auto& [nummer, wert] : werte) {
+    if (nummer == spalte) return &wert;
   }
-  const QString kopf = QStringLiteral("insert into ") + inAnfuehrung(tabelle);
-  verbindung->schreibeRoh(werte.isEmpty()
-                              ? kopf + QStringLiteral(" default values")
-                              : kopf + QStringLiteral(" (") + namen + QStringLiteral(") values (") +
-                                    fragen + QLatin1Char(')'),
-                          werte);
+  return nullptr;
+}
+
+QVariant Recordset::Daten_::gespeichert(int nummer, int spalte) const {
+  if (nummer >= block->zeilen()) {
+    return angehaengt[static_cast<size_t>(nummer - block->zeilen())][static_cast<size_t>(spalte)];
+  }
+  if (!geaendert.isEmpty()) {
+    const auto zeile = geaendert.constFind(nummer);
+    const QVariant* wert = zeile == geaendert.constEnd() ? nullptr : suche(*zeile, spalte);
+    if (wert) return *wert;
+  }
+  return block->wert(nummer, spalte);
+}
+
+QVariant Recordset::Daten_::wert(int spalte) const {
+  pruefeOffen();
+  if (zustand != Zustand::Lesen) {
+    const QVariant* neu = suche(entwurf, spalte);
+    if (neu) return *neu;
+    if (zustand == Zustand::Neu) return {};
+  }
+  return gespeichert(aktuelleZeile(), spalte);
+}
+
+int Recordset::Daten_::spalte(const QString& name) const {
+  pruefeOffen();
+  const int nummer = block->spaltenNummer(name);
+  if (nummer < 0) {
+    wirf(QStringLiteral("Das Feld \"%1\" gibt es nicht.").arg(name), Art::Anweisung);
+  }
+  return nummer;
+}
+
+bool Recordset::Daten_::trifftZu(const Suchbedingung& suche, int nummer) const {
+  if (nummer >= block->zeilen()) {
+    return suche.trifftZu(angehaengt[static_cast<size_t>(nummer - block->zeilen())]);
+  }
+  if (geaendert.isEmpty() || !geaendert.contains(nummer)) return suche.trifftZu(*block, nummer);
+  std::vector<QVariant> zeile;
+  for (int s = 0; s < block->spalten(); ++s) zeile.push_back(gespeichert(nummer, s));
+  return suche.trifftZu(zeile);
+}
+
+void Recordset::Daten_::beginne(Zustand neuer) {
+  zustand = neuer;
+  entwurf.clear();
+}
+
+void Recordset::Daten_::weiseZu(int spalte, const QVariant& wert) {
+  for (auto& [nummer, bisher] : entwurf) {
+    if (nummer != spalte) continue;
+    bisher = wert;
+    return;
+  }
+  entwurf.emplace_back(spalte, wert);
+}
+
+const QString& Recordset::Daten_::einfuegen() {
+  const auto gleicheFelder = [this] {
+    if (letztesEinfuegen.isEmpty() || letzteFelder.size() != entwurf.size()) return false;
+    for (size_t i = 0; i < entwurf.size(); ++i) {
+      if (letzteFelder[i] != entwurf[i].first) return false;
+    }
+    return true;
+  };
+  if (gleicheFelder()) return letztesEinfuegen;
+  letzteFelder.clear();
+  QStringList namen;
+  for (const auto& [spalte, wert] : entwurf) {
+    letzteFelder.push_back(spalte);
+    namen << inAnfuehrung(felder[spalte]);
+  }
+  letztesEinfuegen = QStringLiteral("insert into ") + inAnfuehrung(tabelle);
+  if (namen.isEmpty()) {
+    letztesEinfuegen += QStringLiteral(" default values");
+  } else {
+    const QStringList fragen(namen.size(), QStringLiteral("?"));
+    letztesEinfuegen += QStringLiteral(" (") + namen.join(QLatin1String(", ")) +
+                        QStringLiteral(") values (") + fragen.join(QLatin1String(", ")) +
+                        QLatin1Char(')');
+  }
+  return letztesEinfuegen;
+}
+
+void Recordset::Daten_::fuegeEin() {
+  std::vector<QVariant> zeile(static_cast<size_t>(block->spalten()));
+  QVariantList werte;
+  werte.reserve(static_cast<qsizetype>(entwurf.size()));
+  for (const auto& [spalte, roh] : entwurf) {
+    werte << Feldregeln::pruefe(block->spalte(spalte), roh);
+    zeile[static_cast<size_t>(spalte)] = werte.constLast();
+  }
+  verbindung->schreibeRoh(einfuegen(), werte);
   zeile[static_cast<size_t>(idSpalte)] = QVariant::fromValue<qint64>(verbindung->letzteID());
   angehaengt.push_back(std::move(zeile));
   if (folgeGilt) folge.push_back(block->zeilen() + static_cast<int>(angehaengt.size()) - 1);
@@ -139,23 +199,22 @@ void Recordset::Daten_::schreibeAenderung() {
   const int nummer = aktuelleZeile();
   QString zuweisungen;
   QVariantList werte;
-  Zeile zeile = ganzeZeile(nummer);
-  for (int s = 0; s < block->spalten(); ++s) {
-    if (!belegt[static_cast<size_t>(s)]) continue;
-    const QVariant neu = Feldregeln::pruefe(block->spalte(s), entwurf[static_cast<size_t>(s)]);
-    if (gleich(neu, zeile[static_cast<size_t>(s)])) continue;
-    if (s == idSpalte) {
+  Zuweisungen neue;
+  for (const auto& [spalte, roh] : entwurf) {
+    QVariant neu = Feldregeln::pruefe(block->spalte(spalte), roh);
+    if (gleich(neu, gespeichert(nummer, spalte))) continue;
+    if (spalte == idSpalte) {
       wirf(QStringLiteral("Die Nummer eines Datensatzes (Feld \"%1\") kann nicht geändert werden.")
-               .arg(felder[s]),
+               .arg(felder[spalte]),
            Art::Anweisung);
     }
     if (!werte.isEmpty()) zuweisungen += QStringLiteral(", ");
-    zuweisungen += inAnfuehrung(felder[s]) + QStringLiteral(" = ?");
+    zuweisungen += inAnfuehrung(felder[spalte]) + QStringLiteral(" = ?");
     werte << neu;
-    zeile[static_cast<size_t>(s)] = neu;
+    neue.emplace_back(spalte, std::move(neu));
   }
   if (werte.isEmpty()) return;
-  werte << id(nummer);
+  werte << gespeichert(nummer, idSpalte);
   const qint64 geschrieben = verbindung->schreibeRoh(
       QStringLiteral("update ") + inAnfuehrung(tabelle) + QStringLiteral(" set ") + zuweisungen +
           QStringLiteral(" where ") + inAnfuehrung(felder[idSpalte]) + QStringLiteral(" = ?"),
@@ -164,10 +223,32 @@ void Recordset::Daten_::schreibeAenderung() {
     wirf(QStringLiteral("Der Datensatz ist nicht mehr vorhanden und kann nicht geändert werden."));
   }
   if (nummer >= block->zeilen()) {
-    angehaengt[static_cast<size_t>(nummer - block->zeilen())] = std::move(zeile);
-  } else {
-    geaendert.insert(nummer, std::move(zeile));
+    auto& zeile = angehaengt[static_cast<size_t>(nummer - block->zeilen())];
+    for (auto& [spalte, neu] : neue) zeile[static_cast<size_t>(spalte)] = std::move(neu);
+    return;
   }
+  Zuweisungen& bisher = geaendert[nummer];
+  for (auto& [spalte, neu] : neue) {
+    std::erase_if(bisher, [s = spalte](const auto& alt) { return alt.first == s; });
+    bisher.emplace_back(spalte, std::move(neu));
+  }
+}
+
+void Recordset::Daten_::loesche() {
+  const int nummer = aktuelleZeile();
+  const qint64 geloescht = verbindung->schreibeRoh(
+      QStringLiteral("delete from ") + inAnfuehrung(tabelle) + QStringLiteral(" where ") +
+          inAnfuehrung(felder[idSpalte]) + QStringLiteral(" = ?"),
+      {gespeichert(nummer, idSpalte)});
+  if (geloescht == 0) {
+    wirf(QStringLiteral("Der Datensatz ist nicht mehr vorhanden und kann nicht gelöscht werden."));
+  }
+  if (!folgeGilt) {
+    folge.resize(static_cast<size_t>(anzahl()));
+    std::iota(folge.begin(), folge.end(), 0);
+    folgeGilt = true;
+  }
+  folge.erase(folge.begin() + stelle);
 }
 
 Recordset::Recordset(std::shared_ptr<Verbindung> verbindung, QString tabelle, QStringList felder,
@@ -214,9 +295,7 @@ void Recordset::FindFirst(const QString& bedingung) {
   const Suchbedingung suche(bedingung, *d->block);
   const int anzahl = d->anzahl();
   for (int i = 0; i < anzahl; ++i) {
-    const int nummer = d->zeilenNummer(i);
-    const Daten_::Zeile* eigene = d->eigeneZeile(nummer);
-    if (!(eigene ? suche.trifftZu(*eigene) : suche.trifftZu(*d->block, nummer))) continue;
+    if (!d->trifftZu(suche, d->zeilenNummer(i))) continue;
     d->stelle = i;
     m_noMatch = false;
     return;
@@ -252,21 +331,7 @@ void Recordset::Update() {
 void Recordset::Delete() {
   daten().pruefeAenderbar();
   d->zustand = Daten_::Zustand::Lesen;
-  const int nummer = d->aktuelleZeile();
-  const qint64 geloescht = d->verbindung->schreibeRoh(
-      QStringLiteral("delete from ") + inAnfuehrung(d->tabelle) + QStringLiteral(" where ") +
-          inAnfuehrung(d->felder[d->idSpalte]) + QStringLiteral(" = ?"),
-      {d->id(nummer)});
-  if (geloescht == 0) {
-    wirf(QStringLiteral("Der Datensatz ist nicht mehr vorhanden und kann nicht gelöscht werden."));
-  }
-  if (!d->folgeGilt) {
-    const int anzahl = d->anzahl();
-    d->folge.reserve(static_cast<size_t>(anzahl));
-    for (int i = 0; i < anzahl; ++i) d->folge.push_back(i);
-    d->folgeGilt = true;
-  }
-  d->folge.erase(d->folge.begin() + d->stelle);
+  d->loesche();
 }
 
 void Recordset::Close() {
@@ -320,6 +385,5 @@ void Recordset::Feld::setValue(const QVariant& wert) {
              .arg(Name()),
          Art::Anweisung);
   }
-  d->entwurf[static_cast<size_t>(m_spalte)] = wert;
-  d->belegt[static_cast<size_t>(m_spalte)] = true;
+  d->weiseZu(m_spalte, wert);
 }

@@ -103,7 +103,7 @@ Suchbedingung::Suchbedingung(const QString& text, const Datenblock& block) {
     }
     const auto tag = Deutsch::datum(inhalt);
     const bool datumsfeld = block.spalte(teil.spalte).typ == Feldtyp::Datum;
-    teil.text = datumsfeld && tag ? tag->toString(Qt::ISODate).toLatin1() : inhalt.toUtf8();
+    teil.text = datumsfeld && tag ? Feldregeln::isoText(*tag) : inhalt.toUtf8();
     m_teile.push_back(std::move(teil));
   } while (leser.und());
 }
@@ -135,9 +135,8 @@ bool Suchbedingung::trifftZu(const std::vector<QVariant>& zeile) const {
       return false;
     }
     const bool zahl = wert.typeId() == QMetaType::LongLong || wert.typeId() == QMetaType::Double;
-    const QByteArray text = wert.typeId() == QMetaType::QDate
-                                ? wert.toDate().toString(Qt::ISODate).toLatin1()
-                                : wert.toString().toUtf8();
+    const QByteArray text = wert.typeId() == QMetaType::QDate ? Feldregeln::isoText(wert.toDate())
+                                                              : wert.toString().toUtf8();
     const bool gleich = zahl ? teil.zahlig && wert.toDouble() == teil.zahl : textGleich(teil, text);
     if (!gleich) return false;
   }

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "platform/database/Enginefehler.h"
+#include "platform/database/Feldregeln.h"
 #include "platform/database/Funktionen.h"
 #include "platform/database/Kreuztabelle.h"
 #include "platform/locale/Deutsch.h"
@@ -197,9 +198,8 @@ Leseergebnis Verbindung::lies(const QString& anweisung, const QVariantList& wert
 
 qint64 Verbindung::schreibeRoh(const QString& sql, const QVariantList& werte) {
   pruefeNutzbar(sql);
-  // Kept under a text of their own, since the same words may mean something else in the dialect.
-  const auto a = m_anweisungen.leihe(QChar(1) + sql, [this, &sql](const QString&) {
-    return bereite(sql, {sql, std::nullopt, true, false, {}});
+  const auto a = m_roh.leihe(sql, [this](const QString& t) {
+    return bereite(t, {t, std::nullopt, true, false, {}});
   });
   binde(*a, werte);
   while (schritt(*a)) {
@@ -230,7 +230,7 @@ QByteArray Verbindung::steuere(const QByteArray& sql) {
 
 QString Verbindung::uebersetzung(const QString& anweisung) {
   pruefeNutzbar(anweisung);
-  return Dialekt::uebersetze(anweisung, [this](const QString& t) { return felder(t); }).sql;
+  return uebersetze(anweisung).sql;
 }
 
 qint64 Verbindung::letzteID() const {
@@ -238,8 +238,22 @@ qint64 Verbindung::letzteID() const {
   return sqlite3_last_insert_rowid(m_db);
 }
 
+Dialekt::Uebersetzt Verbindung::uebersetze(const QString& text) {
+  Dialekt::Auskunft auskunft;
+  auskunft.tabellenname = [this](const QString& tabelle) {
+    for (const QString& name : tabellen()) {
+      if (name.compare(tabelle, Qt::CaseInsensitive) == 0) return name;
+    }
+    return tabelle;
+  };
+  auskunft.beginntIndex = [this](const QString& tabelle, const QString& feld) {
+    return beginntIndex(tabelle, feld);
+  };
+  return Dialekt::uebersetze(text, [this](const QString& t) { return felder(t); }, auskunft);
+}
+
 std::shared_ptr<Anweisung> Verbindung::uebersetzeUndBereite(const QString& text) {
-  auto a = bereite(text, Dialekt::uebersetze(text, [this](const QString& t) { return felder(t); }));
+  auto a = bereite(text, uebersetze(text));
   ermittleSpalten(*a);
   return a;
 }
@@ -308,9 +322,12 @@ void Verbindung::binde(Anweisung& a, const QVariantList& werte) {
                           a.text);
   }
   int nummer = 0;
-  const auto bindeText = [&a, &nummer](const QByteArray& text) {
+  a.texte.clear();
+  a.texte.reserve(static_cast<size_t>(werte.size()));  // the engine keeps pointers into it
+  const auto bindeText = [&a, &nummer](QByteArray utf8) {
+    const QByteArray& text = a.texte.emplace_back(std::move(utf8));
     return sqlite3_bind_text(a.stmt, nummer, text.constData(), static_cast<int>(text.size()),
-                             SQLITE_TRANSIENT);
+                             SQLITE_STATIC);
   };
   for (const QVariant& wert : werte) {
     ++nummer;
@@ -345,8 +362,8 @@ void Verbindung::binde(Anweisung& a, const QVariantList& werte) {
       case QMetaType::QDate:
       case QMetaType::QDateTime: {
         const QDate tag = wert.toDate();
-        code = tag.isValid() ? bindeText(tag.toString(Qt::ISODate).toLatin1())
-                             : sqlite3_bind_null(a.stmt, nummer);
+        code =
+            tag.isValid() ? bindeText(Feldregeln::isoText(tag)) : sqlite3_bind_null(a.stmt, nummer);
         break;
       }
       default:
@@ -452,8 +469,21 @@ const std::vector<Spalte>& Verbindung::felder(const QString& tabelle) {
   return *m_felder.insert(schluessel, std::move(liste));
 }
 
+bool Verbindung::beginntIndex(const QString& tabelle, const QString& feld) {
+  const auto a = bereite(QString(), {QStringLiteral("select 1 from pragma_index_list(?) l, "
+                                                    "pragma_index_info(l.name) i "
+                                                    "where i.seqno = 0 and i.name = ?"),
+                                     std::nullopt,
+                                     false,
+                                     false,
+                                     {}});
+  binde(*a, {tabelle, feld});
+  return schritt(*a);
+}
+
 void Verbindung::vergiss() {
   m_anweisungen.leere();
+  m_roh.leere();
   m_felder.clear();
   m_tabellen.reset();
 }
@@ -513,10 +543,7 @@ void Verbindung::wirf(int code, const QString& anweisung, bool beimVorbereiten) 
   if (m_tiefe > 0 && !m_verlust && sqlite3_get_autocommit(m_db)) {
     Enginefehler::allesVerworfen(fehler);
     m_verlust = fehler;
-    // The statement still runs up to here; its cache goes when it is given back.
-    m_felder.clear();
-    m_tabellen.reset();
-    m_anweisungen.leere();
+    vergiss();
   }
   throw fehler;
 }

@@ -62,6 +62,8 @@ class Verbindung {
   static Verbindung* zu(const QString& pfad);
 
  private:
+  Dialekt::Uebersetzt uebersetze(const QString& text);
+  bool beginntIndex(const QString& tabelle, const QString& feld);
   std::shared_ptr<Anweisung> uebersetzeUndBereite(const QString& text);
   std::shared_ptr<Anweisung> bereite(const QString& text, Dialekt::Uebersetzt uebersetzt);
   void ermittleSpalten(Anweisung& a);
@@ -77,7 +79,8 @@ class Verbindung {
   QString m_pfad;
   QString m_ort;  // the path without links and detours
   sqlite3* m_db = nullptr;
-  Anweisungen m_anweisungen;
+  Anweisungen m_anweisungen;  // by their text in the tables' dialect
+  Anweisungen m_roh;          // by their text in the engine's
   QHash<QString, std::vector<Spalte>> m_felder;
   std::optional<QStringList> m_tabellen;
   int m_tiefe = 0;  // how many Sammelschreiben are running inside one another

@@ -137,3 +137,24 @@ TEST(Feldregeln, IsoDatumNimmtNurDieGenaueForm) {
   EXPECT_FALSE(Feldregeln::isoDatum("2006-02-05 ").isValid());
   EXPECT_FALSE(Feldregeln::isoDatum("05.02.2006").isValid());
 }
+
+TEST(Feldregeln, WasOhneWeiteresPasstLaesstPruefeUnveraendert) {
+  EXPECT_TRUE(Feldregeln::ganzPasst(Feldtyp::Kurz, -32768));
+  EXPECT_FALSE(Feldregeln::ganzPasst(Feldtyp::Kurz, 32768));
+  EXPECT_TRUE(Feldregeln::ganzPasst(Feldtyp::Lang, 2147483647LL));
+  EXPECT_FALSE(Feldregeln::ganzPasst(Feldtyp::Lang, 2147483648LL));
+  EXPECT_FALSE(Feldregeln::ganzPasst(Feldtyp::Text, 5));
+  EXPECT_FALSE(Feldregeln::ganzPasst(Feldtyp::Waehrung, 5));
+  EXPECT_TRUE(Feldregeln::textPasst(Feldtyp::Text, 5, "12345"));
+  EXPECT_FALSE(Feldregeln::textPasst(Feldtyp::Text, 5, "123456"));
+  EXPECT_TRUE(Feldregeln::textPasst(Feldtyp::Memo, 0, "123456"));
+  EXPECT_TRUE(Feldregeln::textPasst(Feldtyp::Datum, 0, "2006-02-05"));
+  EXPECT_FALSE(Feldregeln::textPasst(Feldtyp::Datum, 0, "05.02.2006"));
+  EXPECT_FALSE(Feldregeln::textPasst(Feldtyp::Datum, 0, "0099-01-01"));
+  EXPECT_FALSE(Feldregeln::textPasst(Feldtyp::Lang, 0, "12"));
+}
+
+TEST(Feldregeln, IsoTextHatVierStellenFuerDasJahr) {
+  EXPECT_EQ(Feldregeln::isoText(QDate(2006, 2, 5)), "2006-02-05");
+  EXPECT_EQ(Feldregeln::isoText(QDate(987, 12, 31)), "0987-12-31");
+}
