@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
@@ -10,6 +9,7 @@
 
 #include "core/globals.h"
 #include "core/settings.h"
+#include "gemeinsam/AndererBenutzer.h"
 #include "platform/files/Textdatei.h"
 
 using namespace TZ_Variablen;
@@ -328,12 +328,31 @@ TEST_F(Einstellungen, FehlenderOrdnerGibtEinenDateifehler) {
 }
 
 TEST_F(Einstellungen, SchreibgeschuetzteDateiBleibtUndWirdGemeldet) {
-  if (geteuid() == 0) GTEST_SKIP() << "the administrator may write every file";
   legZeilen(ganzeDatei());
   const QByteArray alt = bytes();
-  QFile::setPermissions(pfad(), QFileDevice::ReadOwner);
-  EXPECT_THROW(EinstellungenSchreiben(), Dateifehler);
+  const auto alle = QFileDevice::Permissions(0x7777);
+  QFile::setPermissions(m_ordner.path(), alle);
+  QFile::setPermissions(pfad(),
+                        QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther);
+  {
+    const AndererBenutzer niemand;
+    ASSERT_FALSE(niemand.darfAlles());
+    EXPECT_THROW(EinstellungenSchreiben(), Dateifehler);
+  }
   EXPECT_EQ(bytes(), alt);
+}
+
+TEST_F(Einstellungen, NichtLesbareDateiIstEinFehlerUndAendertNichts) {
+  fuelle();
+  legZeilen(ganzeDatei());
+  QFile::setPermissions(m_ordner.path(), QFileDevice::Permissions(0x7777));
+  QFile::setPermissions(pfad(),
+                        geteuid() == 0 ? QFileDevice::ReadOwner : QFileDevice::Permissions());
+  {
+    const AndererBenutzer niemand;
+    EXPECT_THROW(EinstellungenLesen(), Dateifehler);
+  }
+  EXPECT_EQ(EinstellungenZahl[0], 77);
 }
 
 TEST_F(Einstellungen, DieDesErstenStarts) {

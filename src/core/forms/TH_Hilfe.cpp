@@ -66,7 +66,8 @@ bool TH_Hilfe::lesen() {
   }
   const QString& thema = TZ_Variablen::HilfeThema;
   m_text->document()->setDefaultStyleSheet(aussehen(m_text->palette()));
-  m_text->setHtml(Hilfe::alsHtml(Hilfe::abschnitt(thema).value_or(Hilfe::ohneAbschnitt(thema))));
+  m_text->setHtml(
+      Hilfe::alsHtml(Hilfe::abschnitt(thema).value_or(Hilfe::ohneAbschnitt(thema))).trimmed());
   m_text->verticalScrollBar()->setValue(0);
   m_text->setFocus();
   return true;

@@ -13,6 +13,8 @@
 #include <functional>
 #include <random>
 
+#include "gemeinsam/AndererBenutzer.h"
+
 namespace {
 
 class TextdateiTest : public testing::Test {
@@ -172,14 +174,36 @@ TEST_F(TextdateiTest, VolleScheibeOhneAlteDateiLaesstKeineHalbeZurueck) {
   EXPECT_EQ(imOrdner(), QStringList());
 }
 
+// Reading and looking into it is allowed to all, writing to nobody.
+constexpr QFileDevice::Permissions OrdnerNurLesen = QFileDevice::ReadOwner | QFileDevice::ExeOwner |
+                                                    QFileDevice::ReadGroup | QFileDevice::ExeGroup |
+                                                    QFileDevice::ReadOther | QFileDevice::ExeOther;
+
 TEST_F(TextdateiTest, SchreibgeschuetzterOrdnerLaesstDieAlteDatei) {
-  if (geteuid() == 0) GTEST_SKIP() << "the administrator may write every folder";
   leg("alt\r\n");
-  QFile::setPermissions(m_ordner.path(), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-  EXPECT_THROW(Textdatei::schreiben(pfad(), {QStringLiteral("neu")}), Dateifehler);
-  QFile::setPermissions(m_ordner.path(),
-                        QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+  QFile::setPermissions(m_ordner.path(), OrdnerNurLesen);
+  QString text;
+  {
+    const AndererBenutzer niemand;
+    ASSERT_FALSE(niemand.darfAlles());
+    text = fehlertext([this] { Textdatei::schreiben(pfad(), {QStringLiteral("neu")}); });
+  }
+  QFile::setPermissions(m_ordner.path(), OrdnerNurLesen | QFileDevice::WriteOwner);
+  EXPECT_TRUE(text.contains(QStringLiteral("geschrieben werden darf"))) << text.toStdString();
   EXPECT_EQ(bytes(), QByteArray("alt\r\n"));
+}
+
+TEST_F(TextdateiTest, NichtLesbareDateiWirdGenannt) {
+  leg("geheim");
+  QFile::setPermissions(m_ordner.path(), OrdnerNurLesen | QFileDevice::WriteOwner);
+  QFile::setPermissions(pfad(), QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+  if (geteuid() != 0) QFile::setPermissions(pfad(), {});  // the test's own user
+  QString text;
+  {
+    const AndererBenutzer niemand;
+    text = fehlertext([this] { Textdatei::lesen(pfad()); });
+  }
+  EXPECT_TRUE(text.contains(QStringLiteral("kann nicht gelesen werden"))) << text.toStdString();
 }
 
 TEST_F(TextdateiTest, AbgeschossenesSchreibenLaesstEineGanzeDatei) {

@@ -1,0 +1,258 @@
+#include "core/mainform/Menue.h"
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "Hauptumfeld.h"
+
+using namespace TZ_Variablen;
+
+class Hauptmenue : public Hauptumfeld {
+ protected:
+  QAction* popup(int index) const { return aktion(QStringLiteral("popzeile_%1").arg(index)); }
+};
+
+TEST_F(Hauptmenue, AlleEintraegeUndTastenStehenUnterIhremNamen) {
+  voelker(1);
+  starten();
+  for (const auto& menue : Menue::menues()) {
+    EXPECT_EQ(finde<QMenu>(menue.name)->title(), menue.titel);
+    for (const auto& eintrag : menue.eintraege)
+      EXPECT_EQ(aktion(eintrag.name)->text(), eintrag.titel);
+  }
+  for (const auto& taste : Menue::tasten()) {
+    EXPECT_FALSE(aktion(taste.name)->icon().pixmap(24, 24).isNull()) << qPrintable(taste.symbol);
+    EXPECT_EQ(aktion(taste.name)->toolTip() + " ",
+              QString(Menue::eintrag(taste.eintrag).titel).remove(u'&').trimmed() + " ");
+  }
+}
+
+TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
+  voelker(2);
+  starten();
+  QStringList frei;
+  for (const auto& menue : Menue::menues())
+    for (const auto& eintrag : menue.eintraege)
+      if (aktion(eintrag.name)->isEnabled()) frei << eintrag.name;
+  EXPECT_EQ(frei, QStringList({"XV_neuevölker", "XV_volkändern", "XV_volklöschen", "XV_beenden",
+                               "XE_stockkarte", "XE_honigernte", "XE_wachsernte", "XE_pollenernte",
+                               "XE_sonstigeernte", "XE_arbeiten", "XE_wanderung",
+                               "XE_gewichtsmessung", "XE_behandlung", "XE_Königinenwechsel",
+                               "XE_Notizen", "O_Datenbankkomprimieren", "hilfewieanfangen",
+                               "hilfestartmenue", "hilfewiemacheich"}));
+  QStringList tasten;
+  for (const auto& taste : Menue::tasten())
+    if (aktion(taste.name)->isEnabled()) tasten << taste.name;
+  EXPECT_EQ(tasten, QStringList({"btn_neuesvolk", "btn_volkändern", "btn_e_stockkarte",
+                                 "btn_e_honigernte", "btn_e_wachsernte", "btn_e_arbeiten",
+                                 "btn_e_wanderung", "btn_e_behandlung"}));
+}
+
+TEST_F(Hauptmenue, OhneZeileSindVolkUndBuchungenGesperrt) {
+  voelker(1);
+  starten();
+  form->setAktuelleZeile(-1);
+  for (const char* name :
+       {"XV_volkändern",    "XV_volklöschen",     "XE_stockkarte",    "XE_honigernte",
+        "XE_wachsernte",    "XE_pollenernte",     "XE_sonstigeernte", "XE_arbeiten",
+        "XE_wanderung",     "XE_gewichtsmessung", "XE_behandlung",    "XE_Königinenwechsel",
+        "XE_Notizen",       "btn_volkändern",     "btn_e_stockkarte", "btn_e_honigernte",
+        "btn_e_wachsernte", "btn_e_arbeiten",     "btn_e_wanderung",  "btn_e_behandlung"})
+    EXPECT_FALSE(aktion(QString::fromUtf8(name))->isEnabled()) << name;
+  for (int i = 1; i <= 14; ++i) EXPECT_FALSE(popup(i)->isEnabled()) << i;
+  EXPECT_TRUE(popup(0)->isEnabled());
+  EXPECT_TRUE(aktion("XV_neuevölker")->isEnabled());
+  form->setAktuelleZeile(0);
+  for (int i = 1; i <= 14; ++i) EXPECT_TRUE(popup(i)->isEnabled()) << i;
+  EXPECT_TRUE(aktion("XE_Notizen")->isEnabled());
+}
+
+TEST_F(Hauptmenue, PopupOhneMarkierungBittetUmEinVolk) {
+  voelker(1);
+  starten();
+  form->setMarkierteZeilen({});
+  for (const int index : {1, 2, 4, 14}) {
+    probe.hinweis(
+        "Bitte markieren Sie zuerst das Volk, das Sie ändern oder löschen möchten oder bei dem "
+        "Sie Buchungen eintragen möchten!");
+    popup(index)->trigger();
+    EXPECT_EQ(probe.fehler().toStdString(), "") << index;
+  }
+}
+
+TEST_F(Hauptmenue, PopupNeuGehtAuchOhneMarkierung) {
+  voelker(1);
+  starten();
+  form->setMarkierteZeilen({});
+  Formbesuch besuch("TV_Neues_Volk");
+  popup(0)->trigger();
+  EXPECT_TRUE(besuch.war());
+  EXPECT_EQ(VolkModus, QStringLiteral("Neu"));
+}
+
+TEST_F(Hauptmenue, RechteMaustasteOeffnetDasPopup) {
+  voelker(1);
+  starten();
+  auto* menue = finde<QMenu>("popupliste");
+  const QPoint ort = zeilenmitte(0);
+  QContextMenuEvent ereignis(QContextMenuEvent::Mouse, ort, datali()->viewport()->mapToGlobal(ort));
+  QApplication::sendEvent(datali()->viewport(), &ereignis);
+  QApplication::processEvents();
+  EXPECT_TRUE(menue->isVisible());
+  menue->close();
+}
+
+TEST_F(Hauptmenue, NeuesVolkUndAendernSetzenDenModus) {
+  voelker(1);
+  starten();
+  {
+    Formbesuch besuch("TV_Neues_Volk", [](QWidget*) { EXPECT_EQ(VolkModus, "Neu"); });
+    aktion("XV_neuevölker")->trigger();
+    EXPECT_TRUE(besuch.war());
+  }
+  Formbesuch besuch("TV_Neues_Volk", [](QWidget*) { EXPECT_EQ(VolkModus, "Ändern"); });
+  aktion("XV_volkändern")->trigger();
+  EXPECT_TRUE(besuch.war());
+}
+
+TEST_F(Hauptmenue, NeuesVolkStehtNachDemSchliessenInDerListe) {
+  voelker(1);
+  starten();
+  Formbesuch besuch("TV_Neues_Volk", [](QWidget* neu) {
+    auto* nummer = neu->findChild<QLineEdit*>("sevt_0");
+    nummer->selectAll();
+    QTest::keyClicks(nummer, "99");
+    QTest::mouseClick(neu->findChild<QAbstractButton*>("ok"), Qt::LeftButton);
+  });
+  aktion("XV_neuevölker")->trigger();
+  EXPECT_TRUE(besuch.war());
+  EXPECT_EQ(nummern(), QStringList({"1", "99"}));
+  EXPECT_EQ(filtertexte()[0], QStringLiteral("Bestand (2 Völker)"));
+}
+
+TEST_F(Hauptmenue, JedeBuchungOeffnetDieEingabeMitIhrerArt) {
+  voelker(1);
+  starten();
+  const QStringList namen = {"XE_stockkarte",       "XE_honigernte",      "XE_wachsernte",
+                             "XE_pollenernte",      "XE_sonstigeernte",   "XE_arbeiten",
+                             "XE_wanderung",        "XE_gewichtsmessung", "XE_behandlung",
+                             "XE_Königinenwechsel", "XE_Notizen"};
+  QSet<QWidget*> formen;
+  for (int art = 0; art < namen.size(); ++art) {
+    int gesehen = -1;
+    Formbesuch besuch("TE_Eingabe", [&](QWidget* eingabe) {
+      gesehen = BuchungsArt;
+      formen.insert(eingabe);
+    });
+    aktion(namen[art])->trigger();
+    EXPECT_TRUE(besuch.war());
+    EXPECT_EQ(gesehen, art);
+  }
+  EXPECT_EQ(formen.size(), 1);  // one instance
+}
+
+TEST_F(Hauptmenue, TasteDerLeisteHandeltWieIhrEintrag) {
+  voelker(1);
+  starten();
+  Formbesuch besuch("TE_Eingabe", [](QWidget*) { EXPECT_EQ(BuchungsArt, 1); });
+  QTest::mouseClick(finde<QToolButton>("btn_e_honigernte"), Qt::LeftButton);
+  EXPECT_TRUE(besuch.war());
+}
+
+TEST_F(Hauptmenue, LoeschenFragtMitNeinAlsVorgabe) {
+  voelker(2);
+  starten();
+  const QString frage =
+      "Das Löschen eines Volkes entfernt das markierte Volk unwiederbringlich mit allen zu diesem "
+      "Volk gehörenden Buchungen aus der Datenbank.\n\nSoll das markierte Volk wirklich gelöscht "
+      "werden?";
+  probe.frage(frage, false, Meldungen::Vorgabe::Nein);
+  aktion("XV_volklöschen")->trigger();
+  EXPECT_EQ(nummern(), QStringList({"1", "2"}));
+  probe.frage(frage, true, Meldungen::Vorgabe::Nein);
+  popup(2)->trigger();
+  EXPECT_EQ(nummern(), QStringList({"2"}));
+  EXPECT_EQ(AktVolkID, QStringLiteral("2"));
+  EXPECT_EQ(filtertexte()[0], QStringLiteral("Bestand (1 Völker)"));
+  EXPECT_EQ(DB.Lesen("select ID from Bienenvolk")->zeilen(), 1);
+}
+
+TEST_F(Hauptmenue, NachDemLetztenVolkSindDieBuchungenGesperrt) {
+  voelker(1);
+  starten();
+  probe.frageMit("Soll das markierte Volk wirklich gelöscht werden?", true);
+  aktion("XV_volklöschen")->trigger();
+  EXPECT_EQ(form->zeilen(), 0);
+  EXPECT_FALSE(aktion("XE_stockkarte")->isEnabled());
+  EXPECT_TRUE(finde<QLabel>("leerhinweis")->isVisible());
+}
+
+TEST_F(Hauptmenue, HilfeEintraegeOeffnenIhrThema) {
+  voelker(1);
+  dateiSchreiben(
+      "HILFETOVA.HLP",
+      "Hilfe_Startmenue\r\nDas Menue\r\n#ende#\r\nHilfe_Wiemacheich\r\nSo\r\n#ende#\r\n");
+  starten();
+  for (const auto& [eintrag, thema] : {std::pair("hilfestartmenue", "Hilfe_Startmenue"),
+                                       {"hilfewiemacheich", "Hilfe_Wiemacheich"}}) {
+    Formbesuch besuch("TH_Hilfe", [&](QWidget*) { EXPECT_EQ(HilfeThema, thema); });
+    aktion(eintrag)->trigger();
+    EXPECT_TRUE(besuch.war()) << eintrag;
+  }
+}
+
+TEST_F(Hauptmenue, FehlendeHilfedateiWirdGenannt) {
+  voelker(1);
+  starten();
+  probe.hinweis("Die Hilfedatei " + datei("HILFETOVA.HLP") + " existiert nicht!");
+  aktion("hilfestartmenue")->trigger();
+}
+
+TEST_F(Hauptmenue, F1AufEinemMenueZeigtDessenThema) {
+  voelker(1);
+  dateiSchreiben("HILFETOVA.HLP", "Hilfe_Optionen\r\nText\r\n#ende#\r\n");
+  starten();
+  auto* menue = finde<QMenu>("O_Optionen");
+  menue->popup(form->mapToGlobal(QPoint(10, 10)));
+  Formbesuch besuch("TH_Hilfe", [](QWidget*) { EXPECT_EQ(HilfeThema, "Hilfe_Optionen"); });
+  QTest::keyClick(menue, Qt::Key_F1);
+  EXPECT_TRUE(besuch.war());
+}
+
+TEST_F(Hauptmenue, ErsteSchritteHabenDreiKnoepfeUndDerDritteOeffnetDasNeueVolk) {
+  voelker(1);
+  starten();
+  bool volkOffen = false;
+  Formbesuch besuch("TH_Hilfe_Wieanfangen", [&](QWidget* hilfe) {
+    EXPECT_EQ(hilfe->windowTitle(), QStringLiteral("Die ersten Schritte in TOVA"));
+    EXPECT_FALSE(hilfe->findChild<QAbstractButton*>("schritt_0")->isEnabled());
+    EXPECT_FALSE(hilfe->findChild<QAbstractButton*>("schritt_1")->isEnabled());
+    Formbesuch volk("TV_Neues_Volk", [&](QWidget*) { volkOffen = true; });
+    QTest::mouseClick(hilfe->findChild<QAbstractButton*>("schritt_2"), Qt::LeftButton);
+  });
+  aktion("hilfewieanfangen")->trigger();
+  EXPECT_TRUE(besuch.war());
+  EXPECT_TRUE(volkOffen);
+  EXPECT_EQ(VolkModus, QStringLiteral("Neu"));
+}
+
+TEST_F(Hauptmenue, ErsteSchrittePassenAuchMitGrosserSchriftAufDenSchirm) {
+  voelker(1);
+  const QFont vorher = QApplication::font();
+  QFont gross = vorher;
+  gross.setPointSizeF(vorher.pointSizeF() * 1.5);
+  QApplication::setFont(gross);
+  starten();
+  EXPECT_LE(form->minimumSizeHint().width(), 1366);
+  EXPECT_LE(form->minimumSizeHint().height(), 700);
+  Formbesuch besuch("TH_Hilfe_Wieanfangen", [](QWidget* hilfe) {
+    EXPECT_LE(hilfe->width(), 1366);
+    EXPECT_LE(hilfe->height(), 720);
+    EXPECT_GE(hilfe->height(), hilfe->minimumSizeHint().height());
+  });
+  aktion("hilfewieanfangen")->trigger();
+  EXPECT_TRUE(besuch.war());
+  QApplication::setFont(vorher);
+}

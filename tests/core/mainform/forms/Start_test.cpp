@@ -1,0 +1,230 @@
+#include <QDir>
+
+#include "Hauptumfeld.h"
+#include "core/mainform/Komprimieren.h"
+
+using namespace TZ_Variablen;
+
+class Hauptstart : public Hauptumfeld {};
+
+TEST_F(Hauptstart, ErsterStartLegtDatenbankUndEinstellungenAnUndZeigtDieErstenSchritte) {
+  ASSERT_TRUE(laden());
+  EXPECT_EQ(form->windowTitle(), QStringLiteral("TOVA 2.0.57 - Die Software für Imker"));
+  EXPECT_TRUE(QFile::exists(datei("TOVA2.MDB")));
+  EXPECT_TRUE(QFile::exists(datei("Einstellungen.TV2")));
+  EXPECT_EQ(EinstellungenZahl[50], 14);
+  EXPECT_EQ(EinstellungenZahl[44], 19);
+  EXPECT_EQ(EinstellungenZahl[45], 7);
+  EXPECT_EQ(EinstellungenZahl[56], 10);
+  EXPECT_EQ(HeuteText, QStringLiteral("15.06.2024"));
+  Formbesuch hilfe("TH_Hilfe_Wieanfangen");
+  zeigen();
+  EXPECT_TRUE(hilfe.war());
+  EXPECT_EQ(filtertexte(),
+            QStringList({"Bestand (0 Völker)", "Abgang (0 Völker)", "Alles (0 Völker)"}));
+  EXPECT_EQ(ProgrammGestartet, 1);
+}
+
+TEST_F(Hauptstart, MitVoelkernKommenDieErstenSchritteNicht) {
+  voelker(2);
+  Formbesuch hilfe("TH_Hilfe_Wieanfangen");
+  starten();
+  EXPECT_FALSE(hilfe.war());
+  EXPECT_EQ(form->aktuelleZeile(), 0);
+  EXPECT_FALSE(finde<QLabel>("leerhinweis")->isVisible());
+}
+
+TEST_F(Hauptstart, ErsteSchritteKommenNurEinmalImProgrammlauf) {
+  {
+    Formbesuch hilfe("TH_Hilfe_Wieanfangen");
+    starten();
+    EXPECT_TRUE(hilfe.war());
+  }
+  Formbesuch hilfe("TH_Hilfe_Wieanfangen");
+  form->aktivieren();
+  EXPECT_FALSE(hilfe.war());
+}
+
+TEST_F(Hauptstart, GeloeschteDatenbankEntstehtLeerUndDieEinstellungenBleiben) {
+  voelker(3);
+  starten();
+  EinstellungenZahl[17] = 77;
+  schliessen();
+  zuruecksetzen();
+  ASSERT_TRUE(QFile::remove(datei("TOVA2.MDB")));
+
+  Formbesuch hilfe("TH_Hilfe_Wieanfangen");
+  starten();
+  EXPECT_TRUE(hilfe.war());
+  EXPECT_EQ(form->zeilen(), 0);
+  EXPECT_EQ(DB.Lesen("select ID from Arbeitsplanoptionen")->zeilen(), 18);
+  EXPECT_EQ(EinstellungenZahl[17], 77);
+}
+
+TEST_F(Hauptstart, GeloeschteEinstellungenKommenMitVorgabenWieder) {
+  voelker(3);
+  starten();
+  EinstellungenZahl[17] = 77;
+  EinstellungenText[17] = QStringLiteral("select Volknr, Futterwaben, ID from Bienenvolk");
+  schliessen();
+  zuruecksetzen();
+  ASSERT_TRUE(QFile::remove(datei("Einstellungen.TV2")));
+
+  starten();
+  EXPECT_EQ(EinstellungenZahl[17], 14);
+  EXPECT_EQ(EinstellungenZahl[28], 2024);
+  EXPECT_EQ(nummern(), QStringList({"1", "2", "3"}));
+  EXPECT_TRUE(EinstellungenText[17].startsWith("select Volknr, Volkname, Volkstärke"));
+  EXPECT_TRUE(EinstellungenText[22].startsWith("select Datum, Volkstärke"));
+}
+
+TEST_F(Hauptstart, FremdeDateiBeendetMitMeldungUndBleibtWieSieIst) {
+  dateiSchreiben("TOVA2.MDB", "das ist ein Brief");
+  probe.hinweisMit("TOVA2.MDB");
+  EXPECT_FALSE(laden());
+  beenden();
+  EXPECT_EQ(dateiLesen("TOVA2.MDB"), QByteArray("das ist ein Brief"));
+  EXPECT_FALSE(QFile::exists(datei("Einstellungen.TV2")));
+}
+
+TEST_F(Hauptstart, NachDemFehlstartSchreibtAuchDasSchliessenNichts) {
+  dateiSchreiben("TOVA2.MDB", "das ist ein Brief");
+  dateiSchreiben("report-1.htm", "x");
+  probe.hinweisMit("TOVA2.MDB");
+  EXPECT_FALSE(laden());
+  form->close();
+  EXPECT_FALSE(QFile::exists(datei("Einstellungen.TV2")));
+  EXPECT_TRUE(QFile::exists(datei("report-1.htm")));
+}
+
+TEST_F(Hauptstart, ZweiterStartImSelbenOrdnerEndetMitMeldung) {
+  voelker(1);
+  starten();
+  probe.hinweis(
+      "Die Anwendung wurde bereits gestartet!  Mit der Tastenkombination CTRL+ESC können Sie alle "
+      "aktiven Programme auflisten und auswählen.");
+  TA_TOVA zweites;
+  EXPECT_FALSE(zweites.laden({m_ordner.path(), QDate(2024, 6, 15), [] { return true; }}));
+}
+
+TEST_F(Hauptstart, OhneDruckerWirdGewarntUndWeitergemacht) {
+  voelker(1);
+  probe.hinweis(
+      "Es ist kein Drucker installiert bzw. eingerichtet. Bitte installieren Sie einen Drucker, "
+      "bevor Sie mit TOVA arbeiten, weil es sonst zu Programmabbrüchen kommen kann! Falls Sie "
+      "keinen Drucker verwenden, installieren Sie bitte trotzdem einen beliebigen Druckertreiber.");
+  EXPECT_TRUE(laden(false));
+}
+
+TEST_F(Hauptstart, SchreibschutzWirdGemeldetUndEntfernt) {
+  voelker(1);
+  dateiSchreiben("LISTE.TXT", "x");
+  QFile::setPermissions(datei("LISTE.TXT"), QFile::ReadOwner);
+  probe.hinweis(
+      "ACHTUNG!!!\n\nIm Installationsverzeichnis von TOVA befinden sich 1 Dateien, die mit einem "
+      "Schreibschutz versehen sind. Dadurch kann es bei TOVA zu Funktionsstörungen kommen. Der "
+      "Schreibschutz wird deshalb entfernt?");
+  EXPECT_TRUE(laden());
+  EXPECT_TRUE(QFile::permissions(datei("LISTE.TXT")) & QFile::WriteOwner);
+}
+
+TEST_F(Hauptstart, SchreibgeschuetzteDatenbankWirdFreiUndGeht) {
+  voelker(1);
+  QFile::setPermissions(datei("TOVA2.MDB"), QFile::ReadOwner);
+  probe.hinweisMit("befinden sich 1 Dateien");
+  starten();
+  DB.Execute("update Bienenvolk set Volkname = 'frei'");
+  EXPECT_EQ(DB.Lesen("select Volkname from Bienenvolk")->anzeige(0, 0), QStringLiteral("frei"));
+}
+
+TEST_F(Hauptstart, JederStartZaehltUndDerZwanzigsteFragtNichts) {
+  voelker(1);
+  for (int start = 1; start <= 21; ++start) {
+    starten();
+    EXPECT_EQ(EinstellungenZahl[78], start);
+    schliessen();
+    zuruecksetzen();
+  }
+}
+
+TEST_F(Hauptstart, SchliessenLoeschtBerichteUndSichertDieEinstellungen) {
+  voelker(1);
+  starten();
+  dateiSchreiben("report-1.htm", "x");
+  EinstellungenZahl[17] = 33;
+  aktion("XV_beenden")->trigger();
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_FALSE(QFile::exists(datei("report-1.htm")));
+  EXPECT_EQ(EinstellungenText[26], QStringLiteral("15.06.2024"));
+  EinstellungenZahl[17] = 0;
+  EinstellungenLesen();
+  EXPECT_EQ(EinstellungenZahl[17], 33);
+}
+
+TEST_F(Hauptstart, FensterlageWirdGemerkt) {
+  voelker(1);
+  starten();
+  form->resize(933, 611);
+  schliessen();
+  zuruecksetzen();
+  ASSERT_TRUE(laden());
+  form->zeigen();
+  EXPECT_EQ(form->size(), QSize(933, 611));
+}
+
+TEST_F(Hauptstart, BeimErstenStartFuelltDasFensterDenSchirm) {
+  voelker(1);
+  ASSERT_TRUE(laden());
+  form->zeigen();
+  EXPECT_TRUE(form->isMaximized());
+}
+
+TEST_F(Hauptstart, KomprimierenMitNeinLaesstAllesWieEsIst) {
+  voelker(1);
+  starten();
+  probe.frage(komprimierenFrage(), false);
+  aktion("O_Datenbankkomprimieren")->trigger();
+  EXPECT_EQ(DB.Lesen("select ID from Bienenvolk")->zeilen(), 1);
+  EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(Hauptstart, KomprimierenBeendetOhneWeitereSchritte) {
+  voelker(1);
+  starten();
+  dateiSchreiben("report-1.htm", "x");
+  const QByteArray einstellungen = dateiLesen("Einstellungen.TV2");
+  EinstellungenZahl[17] = 33;
+  probe
+      .frage(
+          "Soll die Datenbasis wirklich komprimiert werden?\n\nDurch das komprimieren werden alle "
+          "als gelöscht markierten Datensätze endgültig aus der Datenbank entfernt. Eine "
+          "Komprimierung ist nur erforderlich, wenn Sie einige (oder eher viele) Daten gelöscht "
+          "haben!",
+          true)
+      .hinweis(
+          "Die Komprimierung wurde erfolgreich abgeschlossen.\n\nTOVA 2.0 wird nun beendet. Bitte "
+          "starten Sie TOVA neu, damit die Datenbasis geladen wird!");
+  aktion("O_Datenbankkomprimieren")->trigger();
+  EXPECT_FALSE(form->isVisible());
+  form->close();
+  EXPECT_EQ(dateiLesen("Einstellungen.TV2"), einstellungen);
+  EXPECT_TRUE(QFile::exists(datei("report-1.htm")));
+  beenden();
+  starten();
+  EXPECT_EQ(nummern(), QStringList({"1"}));
+}
+
+TEST_F(Hauptstart, MisslungenesKomprimierenBehaeltDieAlteDatei) {
+  voelker(1);
+  starten();
+  ASSERT_TRUE(QDir(m_ordner.path()).mkpath("TOVA2.$$$/voll"));
+  const QByteArray vorher = dateiLesen("TOVA2.MDB");
+  probe.frageMit("Soll die Datenbasis wirklich komprimiert werden?", true)
+      .hinweis(
+          "Bei der Komprimierung ist ein Fehler aufgetreten! Bitte beachten Sie, daß Sie nur "
+          "Access-Dateien packen können und diese Dateien von keinem Nutzer geöffnet sein darf "
+          "(auch nicht von Ihnen selbst)!");
+  aktion("O_Datenbankkomprimieren")->trigger();
+  EXPECT_TRUE(form->isVisible());
+  EXPECT_EQ(dateiLesen("TOVA2.MDB"), vorher);
+}
