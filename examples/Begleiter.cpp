@@ -37,6 +37,7 @@ T* finde(QWidget* form, const QString& name) {
 
 Begleiter::Begleiter(const QString& bildordner) : m_bildordner(bildordner) {
   QDir().mkpath(bildordner);
+  m_takt.setSingleShot(true);  // a running timer is not fired again within its own handler
   QObject::connect(&m_takt, &QTimer::timeout, &m_takt, [this] { weiter(); });
 }
 
@@ -56,10 +57,8 @@ QString Begleiter::offen() const {
 }
 
 void Begleiter::weiter() {
-  if (m_naechster >= m_schritte.size()) {
-    m_takt.stop();
-    return;
-  }
+  if (m_naechster >= m_schritte.size()) return;
+  m_takt.start(taktMs);  // first: the action may open a form and come back only when that closes
   const Schritt schritt = m_schritte[m_naechster];
   QWidget* fenster = oberstes();
   if (!fenster || fenster->objectName() != schritt.form) {
@@ -69,8 +68,13 @@ void Begleiter::weiter() {
               .arg(schritt.form, fenster ? fenster->objectName() : QStringLiteral("nothing")));
     return;
   }
+  // Only an active window's inputs learn that the focus comes and goes.
+  if (!fenster->isActiveWindow() && ++m_gewartet < 10) {
+    fenster->activateWindow();
+    return;
+  }
   m_gewartet = 0;
-  ++m_naechster;  // before the action: it may open a form and come back only when that closes
+  ++m_naechster;
   schritt.aktion(fenster);
 }
 

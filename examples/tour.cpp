@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QEventLoop>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -22,6 +23,8 @@ const QDate heute(2026, 6, 20);
 bool besuchen(const QString& ordner, Begleiter& begleiter) {
   bool fertig = false;
   {
+    QFile::copy(QCoreApplication::applicationDirPath() + "/../tova/HILFETOVA.HLP",
+                ordner + "/HILFETOVA.HLP");
     TA_TOVA hauptformular;
     if (!hauptformular.laden({ordner, heute, [] { return true; }})) return false;
     hauptformular.resize(1366, 768);
@@ -126,7 +129,7 @@ bool imDrittenJahr(const QString& bilder) {
     Hand::waehlen(form, "XV_volkändern");
   });
   tag.schritt("TV_Neues_Volk", [&](QWidget* form) {
-    tag.fotografieren(form, "volk_ändern");
+    tag.fotografieren(form, "volk_aendern");
     Hand::druecken(form, "cmdabbrechen");
   });
   static const QStringList eintraege = {
@@ -136,7 +139,7 @@ bool imDrittenJahr(const QString& bilder) {
   for (const QString& eintrag : eintraege) {
     tag.schritt("TA_TOVA", [eintrag](QWidget* form) { Hand::waehlen(form, eintrag); });
     tag.schritt("TE_Eingabe", [&tag, eintrag](QWidget* form) {
-      tag.fotografieren(form, "eingabe_" + eintrag.mid(3).toLower());
+      tag.fotografieren(form, "eingabe_" + eintrag.mid(3).toLower().replace(u'ö', "oe"));
       Hand::druecken(form, "cmdschließen");
     });
   }
