@@ -214,12 +214,29 @@ void gib(Kontext* kontext, const QVariant& wert) {
   }
 }
 
+// Most values go in as they are; the others the field's rule converts or refuses.
+bool passt(sqlite3_value* wert, Feldtyp typ, int laenge) {
+  switch (sqlite3_value_type(wert)) {
+    case SQLITE_NULL:
+      return true;
+    case SQLITE_INTEGER:
+      return Feldregeln::ganzPasst(typ, sqlite3_value_int64(wert));
+    case SQLITE_TEXT:
+      return Feldregeln::textPasst(typ, laenge, oktette(wert));
+    default:
+      return false;
+  }
+}
+
 void feld(Kontext* kontext, int, sqlite3_value** werte) {
-  if (istNull(werte[0])) return;
+  const auto typ = static_cast<Feldtyp>(sqlite3_value_int(werte[2]));
+  const int laenge = sqlite3_value_int(werte[3]);
+  if (passt(werte[0], typ, laenge)) {
+    sqlite3_result_value(kontext, werte[0]);
+    return;
+  }
   try {
-    const Spalte spalte{text(werte[1]), static_cast<Feldtyp>(sqlite3_value_int(werte[2])),
-                        sqlite3_value_int(werte[3])};
-    gib(kontext, Feldregeln::pruefe(spalte, alsVariante(werte[0], spalte.typ)));
+    gib(kontext, Feldregeln::pruefe({text(werte[1]), typ, laenge}, alsVariante(werte[0], typ)));
   } catch (const Datenbankfehler& fehler) {
     const QByteArray utf8 = fehler.text().toUtf8();
     sqlite3_result_error(kontext, utf8.constData(), static_cast<int>(utf8.size()));

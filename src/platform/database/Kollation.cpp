@@ -158,6 +158,9 @@ class Utf16 {
   bool ende() const { return m_von == m_bis; }
   char32_t einheit() const { return *m_von; }
   void weiter() { ++m_von; }
+  // Whether a unit begins a character of several units, or is the last unit of any other.
+  static bool beginntMehrere(char32_t einheit) { return QChar::isHighSurrogate(einheit); }
+  static bool stehtAllein(char32_t einheit) { return !QChar::isHighSurrogate(einheit); }
   char32_t nimm() {
     const char16_t z = *m_von++;
     if (!QChar::isHighSurrogate(z) || ende() || !QChar::isLowSurrogate(*m_von)) return z;
@@ -192,6 +195,8 @@ class Utf8 {
   bool ende() const { return m_von == m_bis; }
   char32_t einheit() const { return *m_von; }
   void weiter() { ++m_von; }
+  static bool beginntMehrere(char32_t einheit) { return einheit >= 0xC0; }
+  static bool stehtAllein(char32_t einheit) { return einheit < 0x80; }
   char32_t nimm() {
     const char32_t erstes = *m_von++;
     if (erstes < 0x80) return erstes;
@@ -273,25 +278,34 @@ int nachAkzenten(Text links, Text rechts) {
 template <class Text>
 int vergleicheTexte(Text links, Text rechts) {
   const auto& ascii = tabelle().ascii;
+  Text abLinks = links;  // from here on the quick look doesn't suffice: a whole character begins
+  Text abRechts = rechts;
   while (!links.ende() && !rechts.ende()) {
     const char32_t l = links.einheit();
     const char32_t r = rechts.einheit();
-    if (l >= 128 || r >= 128) break;
-    if (l != r && ascii[l] != ascii[r]) {
+    if (l != r) {
+      if (l >= 128 || r >= 128) break;
       // An accent behind it belongs to the same place and so doesn't change the order.
-      return ordnung(ascii[l], ascii[r]);
+      if (ascii[l] != ascii[r]) return ordnung(ascii[l], ascii[r]);
+    } else if (Text::beginntMehrere(l)) {
+      abLinks = links;
+      abRechts = rechts;
     }
     links.weiter();
     rechts.weiter();
+    if (Text::stehtAllein(l)) {
+      abLinks = links;
+      abRechts = rechts;
+    }
   }
   if (links.ende() && rechts.ende()) return 0;
-  Elemente<Text> l(links);
-  Elemente<Text> r(rechts);
+  Elemente<Text> l(abLinks);
+  Elemente<Text> r(abRechts);
   for (;;) {
     const quint32 gl = l.naechstesGewicht();
     const quint32 gr = r.naechstesGewicht();
     if (gl != gr) return ordnung(gl, gr);
-    if (gl == 0) return nachAkzenten(links, rechts);
+    if (gl == 0) return nachAkzenten(abLinks, abRechts);
   }
 }
 
