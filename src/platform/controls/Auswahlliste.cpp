@@ -31,6 +31,7 @@ Auswahlliste::Auswahlliste(QLineEdit* feld)
   lage->addWidget(m_liste);
   m_liste->setModel(m_modell);
   m_liste->setFrameShape(QFrame::NoFrame);
+  m_liste->setMinimumSize(1, 1);  // two texts take two lines
   m_liste->setUniformItemSizes(true);
   m_liste->setFocusPolicy(Qt::NoFocus);
   m_liste->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -123,6 +124,11 @@ int Auswahlliste::sucheAnfang(const QStringList& texte, const QString& anfang, i
 void Auswahlliste::zeige(const QStringList& texte, int zeile) {
   m_modell->setStringList(texte);
   m_liste->setFont(m_feld->font());
+  // The keyboard is in the field, yet the marked text is the one that Enter takes.
+  QPalette farben = QApplication::palette();
+  for (const auto rolle : {QPalette::Highlight, QPalette::HighlightedText})
+    farben.setColor(QPalette::Inactive, rolle, farben.color(QPalette::Active, rolle));
+  m_liste->setPalette(farben);
   m_liste->scrollToTop();
   anlegen();
   if (!isVisible()) {

@@ -114,8 +114,10 @@ const QStringList& Eingabefeld::angebot() const {
 }
 
 void Eingabefeld::setInhalt(const QString& text) {
+  // A number that lost a digit is another number.
+  const bool zahl = art() == Art::Dezimal || art() == Art::Ganzzahl;
   const QString neu =
-      Eingaberegel::gekuerzt(Eingaberegel::bereinigt(text), m_beschreibung.maxLaenge);
+      Eingaberegel::gekuerzt(Eingaberegel::bereinigt(text), zahl ? 0 : m_beschreibung.maxLaenge);
   const bool gleich = neu == this->text();
   m_vomProgramm = true;
   QLineEdit::setText(neu);
@@ -265,7 +267,10 @@ void Eingabefeld::setWarnung(bool ja) {
   setAccessibleDescription(ja ? QStringLiteral("Das ist kein gültiges Datum.") : QString());
 }
 
-void Eingabefeld::focusInEvent(QFocusEvent* event) { QLineEdit::focusInEvent(event); }
+void Eingabefeld::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  if (art() == Art::Auswahl) selectAll();  // a choice is one piece
+}
 
 void Eingabefeld::focusOutEvent(QFocusEvent* event) {
   if (m_aufklappliste != nullptr) m_aufklappliste->hide();

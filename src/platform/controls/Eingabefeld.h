@@ -43,11 +43,12 @@ class Eingabefeld : public QLineEdit {
   const QStringList& liste() const { return m_liste; }
   void listeOeffnen();
 
-  // Puts a text in as the program's own; longer texts are cut to maxLaenge. inhaltGeaendert is
-  // sent all the same. The rules for typing don't hold here: an old record's text is shown as it
-  // is.
+  // Puts a text in as the program's own; longer texts are cut to maxLaenge, numbers never.
+  // inhaltGeaendert is sent all the same. The rules for typing don't hold here: an old record's
+  // text is shown as it is.
   void setInhalt(const QString& text);
   void setText(const QString& text) { setInhalt(text); }
+  void clear() { setInhalt({}); }
   QString inhalt() const { return text(); }
 
   // True while the field shows a date that is none in the warning colour. What can't be completed

@@ -1,14 +1,13 @@
 #include "platform/controls/Gestaltung.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QHash>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QPainter>
-#include <QProxyStyle>
-#include <QStyleFactory>
-#include <QStyleOption>
 #include <QTranslator>
+
+#include "platform/controls/TovaStil.h"
 
 namespace {
 
@@ -43,48 +42,6 @@ class EigeneTexte : public QTranslator {
         {QStringLiteral("Delete"), QStringLiteral("Löschen")},
         {QStringLiteral("Select All"), QStringLiteral("Alles auswählen")}};
     return texte.value(QString::fromUtf8(text));
-  }
-};
-
-// Fusion with a frame two pixels wide around what has the keyboard.
-class TovaStil : public QProxyStyle {
- public:
-  TovaStil() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
-
-  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* maler,
-                     const QWidget* fenster) const override {
-    if (element == PE_FrameFocusRect) {
-      rahmen(option->rect, option->palette, maler);
-      return;
-    }
-    QProxyStyle::drawPrimitive(element, option, maler, fenster);
-    const bool eingabe = element == PE_FrameLineEdit || element == PE_PanelLineEdit;
-    const bool knopf = element == PE_PanelButtonCommand;
-    if ((eingabe || knopf) && (option->state & State_HasFocus) && hatRahmen(option, eingabe))
-      rahmen(option->rect, option->palette, maler);
-  }
-
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* fenster,
-                QStyleHintReturn* zurueck) const override {
-    if (hint == SH_UnderlineShortcut) return 1;
-    if (hint == SH_ToolTip_WakeUpDelay) return 500;
-    return QProxyStyle::styleHint(hint, option, fenster, zurueck);
-  }
-
- private:
-  static bool hatRahmen(const QStyleOption* option, bool eingabe) {
-    if (!eingabe) return true;
-    const auto* rahmen = qstyleoption_cast<const QStyleOptionFrame*>(option);
-    return rahmen == nullptr || rahmen->lineWidth > 0;
-  }
-
-  static void rahmen(const QRect& flaeche, const QPalette& palette, QPainter* maler) {
-    maler->save();
-    maler->setRenderHint(QPainter::Antialiasing);
-    maler->setBrush(Qt::NoBrush);
-    maler->setPen(QPen(palette.color(QPalette::Active, QPalette::Highlight), 2));
-    maler->drawRoundedRect(QRectF(flaeche).adjusted(1, 1, -1, -1), 2.5, 2.5);
-    maler->restore();
   }
 };
 

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QStyle>
 #include <QToolTip>
 
 #include "platform/controls/Formular.h"
@@ -17,8 +18,7 @@ namespace {
 constexpr qint64 SuchpauseMs = 1000;  // after a longer one a letter begins a new search
 constexpr int GemesseneZeilen = 100;
 constexpr int GroessteBreite = 280;
-constexpr int Rand = 14;
-constexpr int SortierpfeilBreite = 14;
+constexpr int Rand = 18;
 
 }  // namespace
 
@@ -187,11 +187,11 @@ void Grid::breitenLaden() {
 // As wide as the heading and the longest of the first texts, within a limit.
 void Grid::breitenAnpassen() {
   const QFontMetrics mass(font());
-  const QFontMetrics kopfmass(horizontalHeader()->font());
   const int zeilen = std::min(this->zeilen(), GemesseneZeilen);
   m_breiten.clear();
   for (int spalte = 0; spalte < spalten(); ++spalte) {
-    int breite = kopfmass.horizontalAdvance(m_modell->ueberschrift(spalte)) + SortierpfeilBreite;
+    // With room for the sort arrow, whether it stands there now or not.
+    int breite = horizontalHeader()->sectionSizeHint(spalte) - Rand;
     qsizetype laengster = 0;
     for (int zeile = 0; zeile < zeilen && breite < GroessteBreite; ++zeile) {
       const QString text = m_modell->text(zeile, spalte);

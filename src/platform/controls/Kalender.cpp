@@ -18,6 +18,7 @@ Kalender::Kalender(QWidget* eltern, QDate gewaehlt, QDate heute)
       m_heute(new QPushButton(this)) {
   setObjectName(QStringLiteral("kalender"));
   setAttribute(Qt::WA_DeleteOnClose);
+  setAttribute(Qt::WA_NoMouseReplay);  // a click on the field's button only closes it
   setFrameShape(QFrame::Box);
   m_kalender->setLocale(QLocale(QLocale::German, QLocale::Germany));
   m_kalender->setFirstDayOfWeek(Qt::Monday);

@@ -6,7 +6,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QStringList>
 #include <deque>
 #include <optional>
@@ -26,6 +25,8 @@ struct Meldungen::Probe::Innen {
 namespace {
 
 constexpr int MeisteZeilen = 25;  // a longer text gets a scroll bar
+constexpr int ZeichenJeZeile = 60;
+constexpr int BreiteBeimRollen = 520;
 
 Meldungen::Probe::Innen* probe = nullptr;
 
@@ -54,11 +55,19 @@ class Zeigerpause {
   bool m_aktiv;
 };
 
+// About how many lines a text takes when it is wrapped.
+qsizetype zeilenzahl(const QString& text) {
+  qsizetype zeilen = 0;
+  for (const auto& absatz : QStringView(text).split(u'\n'))
+    zeilen += 1 + absatz.size() / ZeichenJeZeile;
+  return zeilen;
+}
+
 // Very long texts scroll, so that the buttons stay on the screen.
 void rollbarMachen(QMessageBox& box) {
   auto* schild = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
   auto* raster = qobject_cast<QGridLayout*>(box.layout());
-  if (schild == nullptr || raster == nullptr || box.text().count(u'\n') < MeisteZeilen) return;
+  if (schild == nullptr || raster == nullptr || zeilenzahl(box.text()) <= MeisteZeilen) return;
   int zeile = 0, spalte = 0, zeilen = 1, spalten = 1;
   raster->getItemPosition(raster->indexOf(schild), &zeile, &spalte, &zeilen, &spalten);
   raster->removeWidget(schild);
@@ -66,11 +75,8 @@ void rollbarMachen(QMessageBox& box) {
   rolle->setFrameShape(QFrame::NoFrame);
   rolle->setWidgetResizable(true);
   rolle->setWidget(schild);
-  const QFontMetrics mass = schild->fontMetrics();
-  rolle->setMinimumSize(
-      std::min(schild->sizeHint().width() + rolle->verticalScrollBar()->sizeHint().width() + 8,
-               700),
-      mass.lineSpacing() * MeisteZeilen);
+  schild->setWordWrap(true);
+  rolle->setMinimumSize(BreiteBeimRollen, schild->fontMetrics().lineSpacing() * MeisteZeilen);
   raster->addWidget(rolle, zeile, spalte, zeilen, spalten);
 }
 

@@ -21,6 +21,7 @@ Rechner::Rechner(QWidget* eltern, double wert, std::pair<int, int> saetze,
       m_vorgang(new QLabel(this)) {
   setObjectName(QStringLiteral("rechner"));
   setAttribute(Qt::WA_DeleteOnClose);
+  setAttribute(Qt::WA_NoMouseReplay);  // a click on the field's button only closes it
   setFrameShape(QFrame::Box);
   setFocusPolicy(Qt::StrongFocus);
   setAccessibleName(QStringLiteral("Taschenrechner"));

@@ -221,6 +221,18 @@ TEST_F(EingabefeldTest, SetInhaltKuerztAufDieLaenge) {
   EXPECT_EQ(feld->inhalt(), QStringLiteral("Hon"));
 }
 
+TEST_F(EingabefeldTest, SetInhaltLaesstZahlenAlleZiffern) {
+  einrichten({Art::Ganzzahl, 2, 0, 99, {}, {}, {}});
+  feld->setInhalt(QStringLiteral("120"));
+  EXPECT_EQ(feld->inhalt(), QStringLiteral("120"));
+  feld->end(false);
+  tippe("5");
+  EXPECT_EQ(feld->inhalt(), QStringLiteral("120"));
+  einrichten(dezimal(5, 2));
+  feld->setInhalt(QStringLiteral("1234,56"));
+  EXPECT_EQ(feld->inhalt(), QStringLiteral("1234,56"));
+}
+
 TEST_F(EingabefeldTest, AlterUnpassenderInhaltBleibtUndLaesstSichLoeschen) {
   einrichten(dezimal(6, 1));
   feld->setInhalt(QStringLiteral("-3,55"));

@@ -87,6 +87,18 @@ TEST(Meldungen, SehrLangerTextPasstAufDenSchirm) {
   EXPECT_LE(groesse.height(), QGuiApplication::primaryScreen()->availableGeometry().height());
 }
 
+TEST(Meldungen, LangerTextOhneUmbruchPasstAuchAufDenSchirm) {
+  QSize groesse;
+  imDialog([&](QWidget* dialog) {
+    groesse = dialog->size();
+    taste(dialog, Qt::Key_Return);
+  });
+  Meldungen::Hinweis(QStringLiteral("Ein langer Satz ohne Zeilenumbruch. ").repeated(200));
+  const QSize schirm = QGuiApplication::primaryScreen()->availableGeometry().size();
+  EXPECT_LE(groesse.height(), schirm.height());
+  EXPECT_LE(groesse.width(), schirm.width());
+}
+
 TEST(Meldungen, UeberDerSanduhrStehtDerGewoehnlicheZeiger) {
   Qt::CursorShape zeiger = Qt::BlankCursor;
   imDialog([&](QWidget* dialog) {
