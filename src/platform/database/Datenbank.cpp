@@ -154,6 +154,8 @@ Verbindung& Database::verbindung() const {
   return *m_verbindung;
 }
 
+bool Database::IsOpen() const { return m_verbindung && m_verbindung->offen(); }
+
 const QString& Database::Name() const {
   static const QString keiner;
   return m_verbindung ? m_verbindung->pfad() : keiner;

@@ -103,7 +103,9 @@ TEST_F(WorkspaceTest, CloseEinesGriffsSchliesstNurIhn) {
 
 TEST_F(WorkspaceTest, NachDemSchliessenDesArbeitsbereichsScheiternAlleGriffe) {
   Database anderer = arbeitsbereich.OpenDatabase(pfad());
+  EXPECT_TRUE(db.IsOpen());
   arbeitsbereich.Close();
+  EXPECT_FALSE(db.IsOpen());
   ERWARTE_FEHLER(db.Execute(s("delete from Bienenvolk")), Allgemein, "geschlossen");
   ERWARTE_FEHLER(anderer.Lesen(s("select * from Bienenvolk")), Allgemein, "geschlossen");
   ERWARTE_FEHLER(db.Felder(s("Bienenvolk")), Allgemein, "geschlossen");
