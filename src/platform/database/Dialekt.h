@@ -32,16 +32,10 @@ struct Auskunft {
 //                     "count(*) as Anzahl"). They are the same in all rows of one table row.
 //   pivot value       null, number or text; its declared type is the field's
 //   cell value        what stands behind "transform"; never computed twice for one cell
-//   row number        1, 2, 3, ... of the row in the cross table, without gaps
-//   column number     1, 2, 3, ... of the pivot column, without gaps, ascending by pivot value,
-//                     null first, text by the collation
 //
-// Rows come by row number, then by column number. So the cross table has as many rows as the last
-// row's row number, gruppen + the greatest column number columns, and this row goes to
-// (row number - 1, gruppen + column number - 1); cells that no row goes to stay null. The heading
-// of a pivot column is the pivot value of the first row that has its number ("<>" for null): in
-// another row the same value may be spelled in other letter case. No rows: the gruppen columns
-// alone.
+// Rows come in the order of the groups, then ascending by pivot value, null first, text by the
+// collation. Cells that no row gives stay null. A pivot value may be spelled in other letter case
+// in another row; by the collation it is the same column.
 struct Kreuztabelle {
   int gruppen = 0;  // number of left columns
 };

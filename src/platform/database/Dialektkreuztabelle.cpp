@@ -27,7 +27,7 @@ QString kreuztabelleSql(const Auswahl& auswahl, const Ausdruck& zelle, const Aus
     gruppen += auswahl.gruppen[i].sql + QL(" AS ") + name + QL(", ");
     gleich +=
         (i > 0 ? QL(" AND ") : QL("")) + QStringLiteral("z.%1 IS c.%1 COLLATE tova").arg(name);
-    ordnung += (i > 0 ? QL(", ") : QL("")) + QStringLiteral("c.%1 COLLATE tova").arg(name);
+    ordnung += QStringLiteral("c.%1 COLLATE tova, ").arg(name);
   }
   QString links;
   QString ergebnis;
@@ -41,10 +41,8 @@ QString kreuztabelleSql(const Auswahl& auswahl, const Ausdruck& zelle, const Aus
   return QL("WITH z AS (SELECT ") + gruppen + links + grundlage + QL("), c AS (SELECT ") + gruppen +
          pivot.sql + QL(" AS p, ") + zelle.sql + QL(" AS w") + grundlage + QL(", ") +
          mitKollation(pivot) + QL(") SELECT ") + ergebnis +
-         QL("c.p AS Pivot, c.w AS Zelle, dense_rank() OVER (ORDER BY ") + ordnung +
-         QL(") AS Zeile, dense_rank() OVER (ORDER BY c.p COLLATE tova) AS Spalte "
-            "FROM c JOIN z ON ") +
-         gleich + QL(" ORDER BY Zeile, Spalte");
+         QL("c.p AS Pivot, c.w AS Zelle FROM c JOIN z ON ") + gleich + QL(" ORDER BY ") + ordnung +
+         QL("c.p COLLATE tova");
 }
 
 }  // namespace

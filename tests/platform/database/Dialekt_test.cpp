@@ -396,7 +396,7 @@ TEST_F(Dialekttest, WerteInEinerKreuztabelleGeltenInBeidenTeilen) {
   EXPECT_EQ(bank.lies("transform count(*) select Sorte, count(*) as Anzahl, ? as Titel from Ernte "
                       "where Menge > ? group by Sorte pivot Volk_ID;",
                       {"T", 5}),
-            zeilen({"a|1|T|1|1|1|1", "b|1|T|2|1|2|2"}));
+            zeilen({"a|1|T|1|1", "b|1|T|2|1"}));
 }
 
 // ---- writing ----
@@ -500,7 +500,7 @@ TEST_F(Dialekttest, NeueSpalteIstNullUndNimmtDieKollation) {
 
 // ---- cross tables ----
 
-TEST_F(Dialekttest, KreuztabelleGibtZeileSpalteUndSummen) {
+TEST_F(Dialekttest, KreuztabelleGibtGruppenSummenUndZellen) {
   bank.lies(
       "insert into Ernte(Sorte, Menge, Volk_ID) values ('Wald', 1, 10), ('Raps', 2, 9), "
       "('wald', 4, 9), ('Wald', 8, Null), ('WALD', 16, 10), (Null, 32, 9)");
@@ -509,11 +509,9 @@ TEST_F(Dialekttest, KreuztabelleGibtZeileSpalteUndSummen) {
       "group by Sorte pivot Volk_ID;");
   ASSERT_TRUE(u.kreuztabelle);
   EXPECT_EQ(u.kreuztabelle->gruppen, 3);
-  EXPECT_EQ(bank.roh(u.sql),
-            zeilen({"<>|1|32.0|9|32.0|1|2", "Raps|1|2.0|9|2.0|2|2", "Wald|4|7.25|<>|8.0|3|1",
-                    "Wald|4|7.25|9|4.0|3|2", "Wald|4|7.25|10|17.0|3|3"}));
-  EXPECT_EQ(bank.spalten,
-            zeilen({"Sorte", "Anzahl", "Mittel", "Pivot", "Zelle", "Zeile", "Spalte"}));
+  EXPECT_EQ(bank.roh(u.sql), zeilen({"<>|1|32.0|9|32.0", "Raps|1|2.0|9|2.0", "Wald|4|7.25|<>|8.0",
+                                     "Wald|4|7.25|9|4.0", "Wald|4|7.25|10|17.0"}));
+  EXPECT_EQ(bank.spalten, zeilen({"Sorte", "Anzahl", "Mittel", "Pivot", "Zelle"}));
   EXPECT_EQ(bank.typen[0], "TEXT (20)");
   EXPECT_EQ(bank.typen[3], "LONG INT");
 }
@@ -525,8 +523,7 @@ TEST_F(Dialekttest, KreuztabelleUeberTextUndZweiGruppen) {
       "(Null, #01/01/2006#, 2)");
   EXPECT_EQ(bank.lies("transform count(*) select Volk_ID, year(Datum) as Jahr from Ernte "
                       "group by Volk_ID, year(Datum) pivot Sorte"),
-            zeilen({"1|2006|b|1|1|4", "1|2007|B|1|2|4", "2|2006|<>|1|3|1", "2|2006|a|1|3|2",
-                    "2|2006|ä|1|3|3"}));
+            zeilen({"1|2006|b|1", "1|2007|B|1", "2|2006|<>|1", "2|2006|a|1", "2|2006|ä|1"}));
 }
 
 TEST_F(Dialekttest, KreuztabelleOhneGruppeOderPivotIstUnlesbar) {
