@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "bookings/Rechnen.h"
+#include "bookings/Vorgaben.h"
 #include "core/globals.h"
 #include "data/helpers.h"
 #include "platform/database/Recordset.h"
@@ -59,18 +60,36 @@ void termineErledigen(Database& datenbank, const QStringList& termine, QDate bis
         {termin, bis, volkId});
 }
 
-// Slot 1 was entered in combs and becomes kilograms. A value that still is the one computed from
-// the combs follows; one that was typed stays.
-void honigwabenUmrechnen(Buchung& buchung) {
+// What the form put into Honigwert for the quantity in slot 1, or that it was typed.
+struct Wertregel {
+  enum class Art { Getippt, Faktor, LetzterPreis };
+  Art art = Art::Getippt;
+  double preis = 0;  // of LetzterPreis, per kg
+};
+
+Wertregel wertregel(Database& datenbank, const Buchung& buchung) {
+  const auto stehtDa = [&](const Slotaenderung& vorgabe) {
+    return buchung.texte[static_cast<size_t>(vorgabe.slot)] == vorgabe.text;
+  };
+  if (stehtDa(*geldvorgabe(buchung.art, 1, buchung.texte))) return {Wertregel::Art::Faktor};
+  const auto preis = letzterPreis(datenbank, buchung.art, buchung.texte);
+  if (preis && stehtDa(wertZumPreis(buchung.art, buchung.texte, *preis)))
+    return {Wertregel::Art::LetzterPreis, *preis};
+  return {};
+}
+
+// Slot 1 was entered in combs and becomes kilograms. A value that the form put in for the combs
+// follows; one that was typed stays. The first colony of a run decides which it is.
+void honigwabenUmrechnen(Database& datenbank, Buchung& buchung, std::optional<Wertregel>& regel) {
   const double kgJeWabe = Deutsch::einfach(EinstellungenWert[5]);
   if (EinstellungenZahl[73] != 1 || !(kgJeWabe > 0)) return;
-  const Slotaenderung vonWaben = *geldvorgabe(buchung.art, 1, buchung.texte);
-  QString& wert = buchung.texte[static_cast<size_t>(vonWaben.slot)];
-  // The entry field cuts what is longer than it.
-  const int laenge = buchungstyp(buchung.art).platz(vonWaben.slot)->laenge;
-  const bool berechnet = wert.left(laenge) == vonWaben.text.left(laenge);
+  if (!regel) regel = wertregel(datenbank, buchung);
   buchung.texte[1] = ZahlFormat(Deutsch::einfach(zahl(buchung, 1) * kgJeWabe), 2);
-  if (berechnet) wert = geldvorgabe(buchung.art, 1, buchung.texte)->text;
+  if (regel->art == Wertregel::Art::Getippt) return;
+  const Slotaenderung wert = regel->art == Wertregel::Art::Faktor
+                                 ? *geldvorgabe(buchung.art, 1, buchung.texte)
+                                 : wertZumPreis(buchung.art, buchung.texte, regel->preis);
+  buchung.texte[static_cast<size_t>(wert.slot)] = wert.text;
 }
 
 QVariant feldwert(const Buchung& buchung, const Buchungsslot& slot) {
@@ -153,7 +172,7 @@ class Schreiber {
     const bool neueErnte = m_buchung.art == Honigernte && buchungId == Neu;
     termineErledigen(m_datenbank, m_termine, m_tag, volk);
     oeffne(volk, buchungId);
-    if (neueErnte) honigwabenUmrechnen(m_buchung);
+    if (neueErnte) honigwabenUmrechnen(m_datenbank, m_buchung, m_wertregel);
     felderSchreiben();
     if (neueErnte) honiglagerSchreiben(m_datenbank, m_buchung, m_kontext.anzahlMarkiert);
     (*m_zeile)["Datum"] = m_tag;
@@ -190,6 +209,7 @@ class Schreiber {
   const QDate m_tag;
   const QStringList m_termine;
   std::optional<Recordset> m_zeile;
+  std::optional<Wertregel> m_wertregel;
   Slottexte m_gelesen;  // the texts that m_werte come from
   QVariantList m_werte;
 };

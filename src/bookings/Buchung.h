@@ -21,8 +21,9 @@ struct Buchungskontext {
 // enters the colony in geaenderteVoelker. buchungId is "-1" for a new booking.
 //
 // A new honey harvest entered in combs changes the text of slot 1 (and of slot 6, where it still is
-// the value computed from slot 1), and it stays changed: in a run the second colony multiplies
-// once more. The form shows the changed texts afterwards, also after a failure.
+// the value that the form put in for slot 1, by the factor or the last price), and it stays
+// changed: in a run the second colony multiplies once more. The form shows the changed texts
+// afterwards, also after a failure.
 //
 // Throws Datenbankfehler, also when slot 0 is no date or the row to change is gone. What was
 // written before the failure stays.

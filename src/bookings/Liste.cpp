@@ -59,11 +59,6 @@ QList<Slotaenderung> zeilentexte(const Datenblock& daten, int zeile, int art) {
   return texte;
 }
 
-QString buchungsId(const Datenblock& daten, int zeile) {
-  const int spalte = daten.spaltenNummer(u"ID");
-  return spalte < 0 ? QString() : QString::number(daten.ganzzahl(zeile, spalte));
-}
-
 QString listenUeberschrift(const QString& volknr, const QString& volkname) {
   return "Bewegungsdaten für das Volk:  " + volknr + " / " + volkname;
 }

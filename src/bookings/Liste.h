@@ -24,8 +24,6 @@ Daten buchungenLesen(Database& datenbank, int art, const QString& volkId, Anzeig
 // have the slot's decimals (more where the value has more), an empty field gives the slot's first
 // text. A field that the list doesn't have is left out.
 QList<Slotaenderung> zeilentexte(const Datenblock& daten, int zeile, int art);
-// The booking's ID; "" when the list has no ID.
-QString buchungsId(const Datenblock& daten, int zeile);
 
 // "Bewegungsdaten für das Volk:  3 / Anna"
 QString listenUeberschrift(const QString& volknr, const QString& volkname);

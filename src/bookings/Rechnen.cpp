@@ -18,9 +18,12 @@ double zahl(const Slottexte& texte, int slot) {
   return ZahlLesen(texte[static_cast<size_t>(slot)]);
 }
 
-int ganz(const Slottexte& texte, int slot) {
-  return static_cast<int>(Deutsch::gerade(zahl(texte, slot)));
+// A mask file can bring any number; two of these still add up within an int.
+int gerundet(double wert) {
+  return static_cast<int>(Deutsch::gerade(std::min(wert, 999'999'999.0)));
 }
+
+int ganz(const Slottexte& texte, int slot) { return gerundet(zahl(texte, slot)); }
 
 struct Geldregel {
   int art;
@@ -47,7 +50,7 @@ QList<Slotaenderung> wabenrechnung(int geaenderterSlot, const Slottexte& texte,
 
   double summe = 0;
   for (const int slot : GezaehlteWaben) summe += zahl(texte, slot);
-  const int waben = static_cast<int>(Deutsch::gerade(summe));
+  const int waben = gerundet(summe);
   QList<Slotaenderung> folgen{{Waben, QString::number(waben)}};
 
   if (wabenJeMagazin >= 1) {

@@ -52,9 +52,17 @@ const QList<Preisregel>& preisregeln() {
   return regeln;
 }
 
-QList<Slotaenderung> letzterPreis(Database& datenbank, const Preisregel& regel,
-                                  const Slottexte& texte) {
-  const Buchungstyp& typ = buchungstyp(regel.art);
+const Preisregel* preisregel(int art) {
+  for (const Preisregel& regel : preisregeln())
+    if (regel.art == art) return &regel;
+  return nullptr;
+}
+
+}  // namespace
+
+std::optional<double> letzterPreis(Database& datenbank, int art, const Slottexte& texte) {
+  const Preisregel& regel = *preisregel(art);
+  const Buchungstyp& typ = buchungstyp(art);
   QStringList felder;
   QVariantList werte;
   for (const int slot : regel.guete) {
@@ -62,23 +70,25 @@ QList<Slotaenderung> letzterPreis(Database& datenbank, const Preisregel& regel,
     werte.append(eingabe(texte, slot));
   }
   Recordset zeile = neueste(datenbank, typ.tabelle, felder, werte);
-  if (zeile.RecordCount() == 0) return {};
-
+  if (zeile.RecordCount() == 0) return std::nullopt;
   const double menge = zeile.Wert(typ.platz(regel.menge)->feld).toDouble();
-  if (!(menge > 0)) return {};
-  const double wert = zeile.Wert(typ.platz(regel.wert)->feld).toDouble();
-  const double eingegeben = ZahlLesen(texte[static_cast<size_t>(regel.menge)]);
-  // Single precision: 5 x (0.45 / 10) is 0.225 and not a little less.
-  return {{regel.wert, ZahlFormat(Deutsch::einfach(eingegeben * (wert / menge)), 2)}};
+  if (!(menge > 0)) return std::nullopt;
+  return zeile.Wert(typ.platz(regel.wert)->feld).toDouble() / menge;
 }
 
-}  // namespace
+Slotaenderung wertZumPreis(int art, const Slottexte& texte, double preis) {
+  const Preisregel& regel = *preisregel(art);
+  const double menge = ZahlLesen(texte[static_cast<size_t>(regel.menge)]);
+  // Single precision: 5 x (0.45 / 10) is 0.225 and not a little less.
+  return {regel.wert, ZahlFormat(Deutsch::einfach(menge * preis), 2)};
+}
 
 QList<Slotaenderung> vorgabenBeimVerlassen(Database& datenbank, int art, int slot,
                                            const Slottexte& texte) {
   if (art == 8 && (slot == 1 || slot == 2)) return behandlung(datenbank, slot, texte);
-  for (const Preisregel& regel : preisregeln())
-    if (regel.art == art && regel.ausloeser.contains(slot))
-      return letzterPreis(datenbank, regel, texte);
-  return {};
+  const Preisregel* regel = preisregel(art);
+  if (regel == nullptr || !regel->ausloeser.contains(slot)) return {};
+  const auto preis = letzterPreis(datenbank, art, texte);
+  if (!preis) return {};
+  return {wertZumPreis(art, texte, *preis)};
 }

@@ -138,6 +138,13 @@ TEST_F(Buchen, ZahlenImDeutschenFormat) {
   EXPECT_EQ(feld("Gewichtsmessung", "Gewicht_kg"), "1234,5");
 }
 
+TEST_F(Buchen, GanzeZahlenSindDerZahlwertIhresTextes) {
+  neu(buchung(0, "05.06.2026", {{11, "12,7"}, {12, "120"}, {13, "x"}}));
+  EXPECT_EQ(feld("Stockkarte", "Waben"), "12");
+  EXPECT_EQ(feld("Stockkarte", "Honigwaben"), "120");
+  EXPECT_EQ(feld("Stockkarte", "Brutwaben"), "0");
+}
+
 TEST_F(Buchen, KurzesDatumIstEines) {
   neu(buchung(5, "5.6.26", {{1, "a"}}));
   EXPECT_EQ(feld("Arbeiten", "Datum"), "05.06.2026");

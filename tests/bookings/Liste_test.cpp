@@ -127,12 +127,6 @@ TEST_F(Buchungsliste, StockkarteZeigtNurDieEingestelltenFelder) {
   EXPECT_EQ(einzige(0), (Aenderungen{{0, "05.06.2026"}, {1, "3,5"}, {11, "12"}}));
 }
 
-TEST_F(Buchungsliste, BuchungsnummerDerZeile) {
-  arbeit("a", {2026, 5, 1}, 2);
-  arbeit("b", {2026, 5, 1});
-  EXPECT_EQ(buchungsId(*buchungenLesen(db(), 5, "1", Anzeigebereich::Alles), 0), "2");
-}
-
 TEST_F(Buchungsliste, UeberschriftUndLayoutname) {
   EXPECT_EQ(listenUeberschrift("3", "Anna"), "Bewegungsdaten für das Volk:  3 / Anna");
   EXPECT_EQ(listenLayout(0), "0bewegungsdaten");

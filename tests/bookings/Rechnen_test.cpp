@@ -64,6 +64,17 @@ TEST(Wabenrechnung, FuenfundneunzigWabenGebenDieMagazineVonNeunzig) {
             (Aenderungen{{11, "95"}, {10, "9"}}));
 }
 
+TEST(Wabenrechnung, HundertWabenUndMehrBehaltenAlleZiffern) {
+  EXPECT_EQ(wabenrechnung(13, waben(60, 60, 0, 0, 0, 0, 0), 10),
+            (Aenderungen{{11, "120"}, {10, "9"}}));
+}
+
+TEST(Wabenrechnung, RiesigeZahlAusEinerMaskeSprengtNichts) {
+  const Slottexte texte = slottexte({{12, "99999999999"}, {18, "99999999999"}});
+  EXPECT_EQ(wabenrechnung(12, texte, 10), (Aenderungen{{11, "999999999"}, {10, "9"}}));
+  EXPECT_EQ(wabenbilanz({}, texte), "MW: 0 (999999999)   WZ: 0 (0)");
+}
+
 TEST(Wabenrechnung, MittelwaendeZaehlenFuerMagazineNieFuerWaben) {
   EXPECT_EQ(wabenrechnung(18, waben(10, 0, 0, 0, 0, 0, 0), 10),
             (Aenderungen{{11, "10"}, {10, "1"}}));

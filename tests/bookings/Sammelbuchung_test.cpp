@@ -241,6 +241,20 @@ TEST_F(Sammelbuchung, NurHonigRechnetWabenUm) {
   EXPECT_EQ(feld("Wachsernte", "Menge_kg"), "3");
 }
 
+TEST_F(Sammelbuchung, HonigwertNachDemLetztenPreisFolgtDenKilo) {
+  wabenAn(2);
+  EinstellungenWert[0] = 5;
+  schreibe(
+      "insert into Honigernte (Honigsorte, Qualität, Menge_kg, Honig_Wert, Datum, Volk_ID) values "
+      "('Ra`ps', '', 10, 80, ?, 3)",
+      {QDate(2025, 6, 1)});
+  Buchung b = honig("3");
+  b.texte[6] = "24,00";  // 3 x 8, put in on leaving the slot
+  const Buchung danach = lauf(b, {"1", "2"});
+  EXPECT_EQ(spalte("select Honig_Wert from Honigernte order by ID"), "80,00|48,00|96,00");
+  EXPECT_EQ(danach.texte[6], "96,00");
+}
+
 TEST_F(Sammelbuchung, BerechneterHonigwertFolgtDenKiloGetippterBleibt) {
   wabenAn(2);
   EinstellungenWert[0] = 5;
