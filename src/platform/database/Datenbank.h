@@ -20,7 +20,7 @@ class Database {
  public:
   Database() = default;
 
-  bool IsOpen() const;  // false too when the workspace has closed the connection
+  bool IsOpen() const;          // false too when the workspace has closed the connection
   const QString& Name() const;  // the file's path
 
   // Runs a statement that gives no rows. Commits by itself, except inside a Sammelschreiben.
