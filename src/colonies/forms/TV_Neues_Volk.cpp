@@ -13,6 +13,15 @@
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Meldungen.h"
 
+namespace {
+
+[[noreturn]] void volkFehlt() {
+  throw Datenbankfehler(Datenbankfehler::Art::Allgemein,
+                        "Das markierte Volk ist in der Datenbank nicht mehr vorhanden.");
+}
+
+}  // namespace
+
 TV_Neues_Volk::TV_Neues_Volk(QWidget* oeffner)
     : Formular("TV_Neues_Volk", "Neues Volk eingeben", oeffner) {
   aufbauen();
@@ -33,6 +42,7 @@ void TV_Neues_Volk::laden() {
                                   : QString("Speichern, &nächstes Volk"));
   oknächster[1]->setVisible(!istNeu());
   listenFuellen();
+  sevt[0]->setInhalt({});  // numbers are counted on from one opening only
   datenLaden();
   fokusAuf(sevt[0]);
 }
@@ -60,9 +70,7 @@ void TV_Neues_Volk::datenLaden() {
   Hauptliste* liste = hauptliste();
   const qint64 id = liste->zelle(liste->aktuelleZeile(), "ID").toLongLong();
   const std::optional<Volkeingabe> volk = volkLaden(m_db, id);
-  if (!volk)
-    throw Datenbankfehler(Datenbankfehler::Art::Allgemein,
-                          "Das markierte Volk ist in der Datenbank nicht mehr vorhanden.");
+  if (!volk) volkFehlt();
   m_id = id;
   zeigeEingabe(*volk);
 }
@@ -147,6 +155,7 @@ bool volkLoeschenMitFrage(QWidget* fenster) {
                         Meldungen::Vorgabe::Nein, fenster))
     return false;
   const qint64 id = liste->zelle(zeile, "ID").toLongLong();
+  if (id == 0) volkFehlt();  // 0 would take the appointments that belong to no colony
   try {
     TZ_Variablen::DB.Sammelschreiben([&] {
       VolkLoeschen(TZ_Variablen::DB, id);

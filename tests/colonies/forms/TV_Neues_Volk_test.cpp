@@ -176,6 +176,25 @@ TEST_F(TVNeuesVolk, OhneSlot57BleibtDieNummerLeer) {
   EXPECT_EQ(inhalt("sevt_0"), "");
 }
 
+// The form stays one instance, but the count goes on from what this opening saw.
+TEST_F(TVNeuesVolk, WiederGeoeffnetBeginntDieNummerVonVorn) {
+  neu();
+  tippe("sevt_0", "41");
+  klicke("cmdabbrechen");
+  form->laden();
+  EXPECT_EQ(inhalt("sevt_0"), "1");
+}
+
+TEST_F(TVNeuesVolk, NachDemAendernZaehltDasNeueVolkNichtWeiter) {
+  neuesVolk("7");
+  aendern();
+  EXPECT_EQ(inhalt("sevt_0"), "7");
+  klicke("cmdabbrechen");
+  TZ_Variablen::VolkModus = "Neu";
+  form->laden();
+  EXPECT_EQ(inhalt("sevt_0"), "1");
+}
+
 TEST_F(TVNeuesVolk, StandardwerteWerdenGesichertUndVorgegeben) {
   neu();
   tippe("sevt_2", "Carnica");
@@ -456,6 +475,17 @@ TEST_F(VolkLoeschenMitFrage, JaLoeschtNurDasAktuelleVolkMitAllemWasDazugehoert) 
   EXPECT_EQ(anzahl("Bienenvolk", "ID = " + QString::number(m_zweites)), 0);
   EXPECT_EQ(buchungen(), 12);
   EXPECT_EQ(liste->zeilen(), 2);
+}
+
+TEST_F(VolkLoeschenMitFrage, ListeOhneIdLoeschtKeineTermineOhneVolk) {
+  db().Execute("insert into Termine(Datum, Termin, Erledigt, Volk_ID) values (?, 'T', 'N', 0)",
+               {QDate(2006, 7, 1)});
+  liste.reset();
+  liste = std::make_unique<Testliste>("select Volknr from Bienenvolk order by ID");
+  erwarteFrage(true);
+  EXPECT_THROW(volkLoeschenMitFrage(nullptr), Datenbankfehler);
+  EXPECT_EQ(anzahl("Bienenvolk"), 3);
+  EXPECT_EQ(buchungen(), 25);
 }
 
 TEST_F(VolkLoeschenMitFrage, OhneAktuelleZeileGeschiehtNichts) {
