@@ -12,15 +12,15 @@ struct Option {
   QString ende;
   qint64 frist = 0;
   bool volkabhängig = false;
-  QString buchung;     // booking table that settles the option
-  QString arbeit;      // work type that settles it
-  QString termintext;  // the work type as it stands
+  QString buchung;      // booking table that settles the option
+  QString arbeit;       // work type that settles it
+  QVariant termintext;  // the work type as it stands, null too
 };
 
 Option lies(const Recordset& rs) {
   Option o;
   o.arbeitsart = TextLesen(rs.Wert("Arbeitsart"));
-  o.termintext = rs.Wert("Arbeitsart").toString();
+  o.termintext = rs.Wert("Arbeitsart");
   o.start = TextLesen(rs.Wert("Startzeitraum"));
   o.ende = TextLesen(rs.Wert("Endzeitraum"));
   o.frist = static_cast<qint64>(ZahlLesen(rs.Wert(QStringLiteral("Wiederholungsfrist_Tage"))));
@@ -69,7 +69,7 @@ QDate berechneSchwelle(Database& db, const Option& option, qint64 volkId, QDate 
   return schwelle;
 }
 
-void eintragen(Database& db, const QList<QDate>& tage, const QString& text, qint64 volkId) {
+void eintragen(Database& db, const QList<QDate>& tage, const QVariant& text, qint64 volkId) {
   Recordset termine = db.OpenRecordset("select top 1 * from Termine");
   for (const QDate& tag : tage) {
     termine.AddNew();

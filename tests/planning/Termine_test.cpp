@@ -197,6 +197,24 @@ TEST_F(Termine, ZeileTraegtArbeitsartOffenUndVolk) {
   EXPECT_EQ(zeile->wert(0, 3).toLongLong(), Volk);
 }
 
+TEST_F(Termine, ArbeitsartStehtImTerminWieSieIst) {
+  heute("20.06.2006");
+  TermineBerechnen(db(), option("Rund um's Volk ", "24.06", 0, "24.06"), Volk);
+  EXPECT_EQ(wert("select Termin from Termine").toString(), "Rund um's Volk ");
+}
+
+TEST_F(Termine, FehlendeArbeitsartBleibtNull) {
+  heute("20.06.2006");
+  const qint64 id = option("", "24.06", 0, "24.06");
+  TermineBerechnen(db(), id, Volk);
+  EXPECT_FALSE(wert("select Termin from Termine").isNull());
+  db().Execute("delete from Termine");
+  db().Execute("update Arbeitsplanoptionen set Arbeitsart = ? where ID = ?", {QVariant(), id});
+  TermineBerechnen(db(), id, Volk);
+  EXPECT_EQ(anzahl("Termine"), 1);
+  EXPECT_TRUE(wert("select Termin from Termine").isNull());
+}
+
 TEST_F(Termine, SchalttagLiegtInDerSerie) {
   heute("01.01.2008");
   TermineBerechnen(db(), option("Winter", "20.02", 9, "10.03"), Volk);
