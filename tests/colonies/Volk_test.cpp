@@ -382,10 +382,12 @@ TEST_F(Standortfrage, GleicherStandortFragtNicht) {
 }
 
 TEST_F(Standortfrage, NeuesVolkBekommtKeineWanderung) {
+  wanderung(0, QDate(2006, 5, 2), "Wald");  // of no colony, so of no new one either
   Volkeingabe e = eingabe("1");
   e.sevt[3] = "Heide";
   speichereNeu(e);
-  EXPECT_EQ(anzahl("Wanderung"), 0);
+  EXPECT_EQ(wert("select Standort from Bienenvolk").toString(), "Heide");
+  EXPECT_EQ(anzahl("Wanderung"), 1);
   EXPECT_TRUE(boxen.isEmpty());
 }
 

@@ -82,6 +82,14 @@ TEST_F(Standardwerte, DateiHatZwanzigZeilenInFesterReihe) {
   EXPECT_EQ(Textdatei::lesen(TZ_Variablen::AppPfad + "TV_Neues_Volk.TV2"), erwartet);
 }
 
+TEST_F(Standardwerte, VolkImBestandStehtAlsEinsInZeileSiebzehn) {
+  Volkeingabe e = beispiel();
+  e.kon = true;
+  volkStandardSchreiben(e);
+  EXPECT_EQ(Textdatei::lesen(volkStandardDatei()).at(16), "1");
+  EXPECT_TRUE(volkNeu("").kon);
+}
+
 TEST_F(Standardwerte, GeschriebenesKommtZurueck) {
   volkStandardSchreiben(beispiel());
   const Volkeingabe neu = volkNeu("");
