@@ -110,6 +110,11 @@ void schreibschutzEntfernen(const QStringList& dateien) {
                                      "der Dateiverwaltung Ihres Rechners."));
 }
 
+void resteLoeschen() {
+  Textdatei::resteLoeschen(
+      AppPfad, {QStringLiteral("*.TV2"), QStringLiteral("LISTE.TXT"), QStringLiteral("TOVA2.LAY")});
+}
+
 void einstellungenLaden(QDate heute) {
   HeuteText = Deutsch::datumText(heute);
   EinstellungenZahl[46] = 1;

@@ -35,6 +35,10 @@ QString schreibschutzText(qsizetype anzahl);
 // Clears the attribute. Throws Dateifehler for the first file that keeps it, after trying all.
 void schreibschutzEntfernen(const QStringList& dateien);
 
+// Deletes what saves of a killed program have left in the program folder. Throws Dateifehler for
+// the first file that stays, after trying all.
+void resteLoeschen();
+
 // HeuteText, then the settings: read when the file exists, otherwise the defaults, saved at once.
 // Throws Dateifehler.
 void einstellungenLaden(QDate heute);

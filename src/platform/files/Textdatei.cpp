@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <array>
 
@@ -127,6 +128,25 @@ void schreiben(const QString& pfad, const QStringList& zeilen) {
 
 void schreibenGanz(const QString& pfad, const QString& text) {
   bytesSchreiben(pfad, nachCp1252(text));
+}
+
+void resteLoeschen(const QString& ordner, const QStringList& namen) {
+  // Six letters that are no word: neither all small, all capital nor small behind one capital.
+  static const QRegularExpression zufall(
+      QStringLiteral("\\.(?![A-Z]?[a-z]+\\z|[A-Z]+\\z)[A-Za-z]{6}\\z"));
+  QStringList muster;
+  for (const QString& name : namen) muster += name + QStringLiteral(".??????");
+  QString geblieben;
+  const QDir verzeichnis(ordner);
+  for (const QString& name : verzeichnis.entryList(muster, QDir::Files | QDir::Hidden)) {
+    if (!zufall.match(name).hasMatch()) continue;
+    const QString pfad = verzeichnis.filePath(name);
+    if (!QFile::remove(pfad) && geblieben.isEmpty()) geblieben = pfad;
+  }
+  if (!geblieben.isEmpty())
+    throw Dateifehler(QStringLiteral("Die Datei %1 konnte nicht gelöscht werden. Bitte prüfen Sie, "
+                                     "ob Sie die Datei löschen dürfen.")
+                          .arg(nativ(geblieben)));
 }
 
 QByteArray nachCp1252(QStringView text) {

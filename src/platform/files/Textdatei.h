@@ -29,6 +29,12 @@ QString lesenGanz(const QString& pfad);  // as it stands, line ends as in the fi
 void schreiben(const QString& pfad, const QStringList& zeilen);
 void schreibenGanz(const QString& pfad, const QString& text);
 
+// Deletes what writes of a killed program have left beside these files of the folder (names, with
+// * and ?): "<name>.XXXXXX" with six random letters. What people call a copy ("<name>.backup")
+// stays, and with it the one remainder in twenty that looks like a word. Throws Dateifehler for the
+// first one that can't be deleted, after trying all.
+void resteLoeschen(const QString& ordner, const QStringList& namen);
+
 QByteArray nachCp1252(QStringView text);
 QString vonCp1252(QByteArrayView bytes);
 

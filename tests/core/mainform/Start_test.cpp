@@ -1,5 +1,6 @@
 #include "core/mainform/Start.h"
 
+#include <QDir>
 #include <QFile>
 
 #include "Umfeld.h"
@@ -88,6 +89,16 @@ TEST_F(Programmstart, SchreibschutzTextNenntDieAnzahl) {
       QStringLiteral("ACHTUNG!!!\r\n\r\nIm Installationsverzeichnis von TOVA befinden sich 2 "
                      "Dateien, die mit einem Schreibschutz versehen sind. Dadurch kann es bei TOVA "
                      "zu Funktionsstörungen kommen. Der Schreibschutz wird deshalb entfernt?"));
+}
+
+TEST_F(Programmstart, ResteAbgeschossenerSicherungenVerschwinden) {
+  for (const char* name :
+       {"Einstellungen.TV2.aBcDeF", "TV_Neues_Volk.TV2.xYzabc", "LISTE.TXT.QrsTuv",
+        "TOVA2.LAY.pQRstu", "Einstellungen.TV2", "Einstellungen.TV2.backup", "TOVA2.MDB.aBcDeF"})
+    anlegen(name);
+  Start::resteLoeschen();
+  EXPECT_EQ(QDir(m_ordner.path()).entryList(QDir::Files, QDir::Name),
+            QStringList({"Einstellungen.TV2", "Einstellungen.TV2.backup", "TOVA2.MDB.aBcDeF"}));
 }
 
 TEST_F(Programmstart, ErsterStartSetztUndSichertDieVorgaben) {

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QThread>
 #include <csignal>
@@ -228,6 +229,45 @@ TEST_F(TextdateiTest, AbgeschossenesSchreibenLaesstEineGanzeDatei) {
     const QString danach = Textdatei::lesenGanz(pfad());
     ASSERT_TRUE(danach == a || danach == b) << danach.size();
   }
+  Textdatei::resteLoeschen(m_ordner.path(), {QStringLiteral("Probe.TV2")});
+  static const QRegularExpression wort(
+      QStringLiteral("\\AProbe\\.TV2(\\.[A-Z]?[a-z]+|\\.[A-Z]+)?\\z"));
+  for (const QString& name : imOrdner())
+    EXPECT_TRUE(wort.match(name).hasMatch()) << name.toStdString();
+}
+
+TEST_F(TextdateiTest, ResteEinesAbgeschossenenSchreibensVerschwindenKopienBleiben) {
+  const QStringList reste = {"Probe.TV2.aBcDeF", "Probe.TV2.ABcdef", "Probe.TV2.abcdeF"};
+  const QStringList bleiben = {"Probe.TV2",         "Probe.TV2.backup",  "Probe.TV2.Backup",
+                               "Probe.TV2.BACKUP",  "Probe.TV2.aBcDe",   "Probe.TV2.aBcDeFg",
+                               "Probe.TV2.aBcDe1",  "Probe.TV2.alt.neu", "Rechnung.txt.aBcDeF",
+                               "xProbe.TV2.aBcDeF", "Probe.TV2aBcDeF"};
+  for (const QString& name : reste + bleiben) {
+    QFile datei(m_ordner.filePath(name));
+    ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+  }
+  Textdatei::resteLoeschen(m_ordner.path(), {QStringLiteral("Probe.TV2")});
+  QStringList soll = bleiben;
+  QStringList ist = imOrdner();
+  soll.sort();
+  ist.sort();
+  EXPECT_EQ(ist, soll);
+}
+
+TEST_F(TextdateiTest, EinRestDerBleibtWirdGenannt) {
+  const QString rest = m_ordner.filePath(QStringLiteral("Probe.TV2.aBcDeF"));
+  QFile datei(rest);
+  ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+  datei.close();
+  QFile::setPermissions(m_ordner.path(), OrdnerNurLesen);
+  QString text;
+  {
+    const AndererBenutzer niemand;
+    text = fehlertext(
+        [this] { Textdatei::resteLoeschen(m_ordner.path(), {QStringLiteral("*.TV2")}); });
+  }
+  QFile::setPermissions(m_ordner.path(), OrdnerNurLesen | QFileDevice::WriteOwner);
+  EXPECT_TRUE(text.contains(rest)) << text.toStdString();
 }
 
 TEST_F(TextdateiTest, ZufaelligeBytesLassenSichLesenUndWiederSchreiben) {
