@@ -42,7 +42,9 @@ void DatenbankAnlegen() {
     entfernen(werdend);
     throw;
   }
-  if (!QFile::rename(werdend, DatenbankPfad)) {
+  // A journal left by an earlier database of this name would be played back into the new one.
+  const QString rest = DatenbankPfad + QStringLiteral("-journal");
+  if ((QFile::exists(rest) && !QFile::remove(rest)) || !QFile::rename(werdend, DatenbankPfad)) {
     entfernen(werdend);
     throw Datenbankfehler(
         Datenbankfehler::Art::NurLesen,

@@ -7,7 +7,9 @@
 
 #include "core/globals.h"
 #include "core/settings.h"
+#include "data/helpers.h"
 #include "platform/database/Recordset.h"
+#include "platform/database/Verbindung.h"
 
 using namespace TZ_Variablen;
 
@@ -28,6 +30,16 @@ class Schema : public ::testing::Test {
   static QString wert(const QString& anweisung, int spalte = 0) {
     const Daten daten = DB.Lesen(anweisung);
     return daten->zeilen() == 0 ? QStringLiteral("<keine Zeile>") : daten->anzeige(0, spalte);
+  }
+  static QStringList zeilen(const QString& anweisung) {
+    const Daten daten = DB.Lesen(anweisung);
+    QStringList liste;
+    for (int z = 0; z < daten->zeilen(); ++z) {
+      QStringList felder;
+      for (int s = 0; s < daten->spalten(); ++s) felder << daten->anzeige(z, s);
+      liste << felder.join('|');
+    }
+    return liste;
   }
 
   QTemporaryDir m_ordner;
@@ -101,37 +113,38 @@ TEST_F(Schema, EinIndexNameGehoertZuGenauEinerTabelle) {
 
 TEST_F(Schema, ElfPflanzenInIhrerReihenfolge) {
   DatenbankAnlegen();
-  const Daten p = DB.Lesen("select * from Pflanzen order by ID");
-  ASSERT_EQ(p->zeilen(), 11);
-  EXPECT_EQ(p->anzeige(0, 0), "Efeu");
-  EXPECT_EQ(p->anzeige(0, 1), "15.09.2006");
-  EXPECT_EQ(p->anzeige(0, 2), "20.11.2006");
-  EXPECT_EQ(p->anzeige(0, 3), "5");
-  EXPECT_EQ(p->anzeige(0, 4), "2");
-  EXPECT_EQ(p->anzeige(3, 0), "Küblerweide");
-  EXPECT_EQ(p->anzeige(9, 4), "0");
-  EXPECT_EQ(p->anzeige(10, 0), "Goldrute");
-  EXPECT_EQ(p->wert(10, 2).toDate(), QDate(2006, 9, 30));
+  EXPECT_EQ(
+      zeilen("select Pflanze, Weidezeit_von, Weidezeit_bis, Nektarstufe, Pollenstufe "
+             "from Pflanzen order by ID"),
+      (QStringList{"Efeu|15.09.2006|20.11.2006|5|2", "Schneeheide|15.01.2006|20.03.2006|5|5",
+                   "Haselnuss|15.01.2006|10.03.2006|0|4", "Küblerweide|10.03.2006|10.04.2006|4|7",
+                   "Krokus|10.02.2006|10.04.2006|5|5", "Kirsche|20.03.2006|10.05.2006|7|3",
+                   "Löwenzahn|01.04.2006|20.05.2006|6|8", "Bergahorn|01.05.2006|30.06.2006|4|2",
+                   "Winterlinde|20.06.2006|31.07.2006|7|2", "Fichte|15.05.2006|31.07.2006|7|0",
+                   "Goldrute|20.07.2006|30.09.2006|3|3"}));
+  EXPECT_EQ(DB.Lesen("select Weidezeit_bis from Pflanzen order by ID")->wert(10, 0).toDate(),
+            QDate(2006, 9, 30));
 }
 
 TEST_F(Schema, AchtzehnArbeitsplanoptionenUndNurHonigernteWirdDurchEineBuchungErledigt) {
   DatenbankAnlegen();
-  const Daten o = DB.Lesen(
-      "select Arbeitsart, Startzeitraum, Wiederholungsfrist_Tage, Endzeitraum, Volkabhängig, "
-      "Auto_erledigt_Buchung, Auto_erledigt_Arbeitsart from Arbeitsplanoptionen order by ID");
-  ASSERT_EQ(o->zeilen(), 18);
-  EXPECT_EQ(o->anzeige(0, 0), "Schwarmkontrolle");
-  EXPECT_EQ(o->anzeige(17, 0), "Winterkontrolle");
-  EXPECT_EQ(o->anzeige(17, 1), "01.11");
-  EXPECT_EQ(o->anzeige(17, 2), "14");
-  EXPECT_EQ(o->anzeige(17, 3), "15.05");
-  for (int i = 0; i < 18; ++i) {
-    EXPECT_EQ(o->anzeige(i, 5), i == 9 ? "Honigernte" : "") << i;
-    EXPECT_FALSE(o->istNull(i, 5)) << i;
-    EXPECT_FALSE(o->istNull(i, 6)) << i;
-  }
-  EXPECT_EQ(wert("select count(*) from Arbeitsplanoptionen where Volkabhängig = 'J'"), "12");
-  EXPECT_EQ(wert("select count(*) from Arbeitsplanoptionen where Volkabhängig = 'N'"), "6");
+  EXPECT_EQ(zeilen("select Arbeitsart, Startzeitraum, Wiederholungsfrist_Tage, Endzeitraum, "
+                   "Volkabhängig, Auto_erledigt_Buchung from Arbeitsplanoptionen order by ID"),
+            (QStringList{
+                "Schwarmkontrolle|01.05|9|30.06|J|", "Varroakontrolle|01.05|9|30.09|J|",
+                "Varroa-Winterbekämpfung|15.12|0|15.12|J|", "Rähmchen bauen|01.11|0|01.11|N|",
+                "Waben schmelzen|01.08|0|01.08|N|", "Beuten reparieren|01.12|0|01.12|N|",
+                "Beuten bauen|01.12|0|01.12|N|", "Frühjahrskontrolle|01.03|9|30.04|J|",
+                "Erweiterungskontrolle|01.04|9|31.07|J|", "Honigernte|01.06|14|31.08|J|Honigernte",
+                "Kerzenproduktion|01.11|0|01.11|N|", "Fütterung|01.09|0|01.09|J|",
+                "Drohnenbrutentnahme|01.05|14|31.07|J|", "Wassertränke errichten|15.03|0|15.03|N|",
+                "Brutkontrolle|01.04|9|31.08|J|", "Jahreserstkontrolle|15.03|0|15.03|J|",
+                "Einwinterung|15.09|0|15.09|J|", "Winterkontrolle|01.11|14|15.05|J|"}));
+  // What is empty is a text and not null.
+  EXPECT_EQ(wert("select count(*) from Arbeitsplanoptionen where Auto_erledigt_Buchung = ''"),
+            "17");
+  EXPECT_EQ(wert("select count(*) from Arbeitsplanoptionen where Auto_erledigt_Arbeitsart = ''"),
+            "18");
 }
 
 TEST_F(Schema, KeineAndereTabelleHatStartzeilen) {
@@ -172,6 +185,19 @@ TEST_F(Schema, SelektionWirdInEinerAnweisungGeleert) {
   EXPECT_EQ(wert("select count(*) from Bienenvolk where Selektiert = ''"), "2");
 }
 
+TEST_F(Schema, EinDatumOhneWertLiestSichAlsLeererText) {
+  DatenbankAnlegen();
+  for (const QString& tabelle : DB.Tabellen())
+    for (const Spalte& feld : DB.Felder(tabelle)) {
+      if (feld.typ != Feldtyp::Datum) continue;
+      DB.Execute("delete from " + tabelle);
+      DB.Execute("insert into " + tabelle + "(" + feld.name + ") values (null)");
+      const Recordset zeile = DB.OpenRecordset("select * from " + tabelle);
+      EXPECT_FALSE(zeile.Wert(feld.name).isValid()) << feld.name.toStdString();
+      EXPECT_EQ(TextLesen(zeile.Wert(feld.name)), QString()) << feld.name.toStdString();
+    }
+}
+
 TEST_F(Schema, AnlegenLaesstNurDieFertigeDateiZurueck) {
   DatenbankAnlegen();
   EXPECT_TRUE(QFile::exists(DatenbankPfad));
@@ -185,6 +211,30 @@ TEST_F(Schema, EinAbgebrochenesAnlegenStoertDasNaechsteNicht) {
   rest.close();
   DatenbankAnlegen();
   EXPECT_EQ(DB.Tabellen().size(), 27);
+}
+
+TEST_F(Schema, DasJournalEinerVerlorenenDatenbankGehtNichtInDieNeue) {
+  const auto notizen = [](int anzahl, QChar zeichen) {
+    for (int i = 0; i < anzahl; ++i)
+      DB.Execute("insert into Notizen(NOTIZ) values (?)", {QString(500, zeichen)});
+  };
+  DatenbankAnlegen();
+  DB.Sammelschreiben([&] { notizen(500, 'a'); });
+  // A small cache makes the engine write before the end: the journal becomes one that counts.
+  Verbindung::zu(DatenbankPfad)->steuere("pragma cache_size = 10");
+  DB.Sammelschreiben([&] {
+    DB.Execute("update Notizen set NOTIZ = 'b'");
+    notizen(500, 'c');
+    ASSERT_TRUE(QFile::copy(DatenbankPfad + "-journal", AppPfad + "journal"));
+  });
+  DB.Close();
+  Arbeitsbereich.Close();
+  ASSERT_TRUE(QFile::remove(DatenbankPfad));
+  ASSERT_TRUE(QFile::rename(AppPfad + "journal", DatenbankPfad + "-journal"));
+  DatenbankAnlegen();
+  EXPECT_EQ(Verbindung::zu(DatenbankPfad)->steuere("pragma quick_check(1)"), "ok");
+  EXPECT_EQ(wert("select count(*) from Notizen"), "0");
+  EXPECT_EQ(wert("select count(*) from Pflanzen"), "11");
 }
 
 TEST_F(Schema, AnlegenInEinemFehlendenOrdnerScheitertMitMeldung) {
@@ -281,6 +331,19 @@ TEST_F(Erweiterung, DanachZeigtDasInfoFensterAllesUndDieEinstellungenSindGesiche
   EinstellungenText[24].clear();
   EinstellungenLesen();
   EXPECT_EQ(EinstellungenText[24], QString(60, '1'));
+}
+
+TEST_F(Erweiterung, EinFehlerLaesstDieSchritteDavorInKraft) {
+  DB.Execute("create table DIBVerschluss(ID COUNTER)");
+  EinstellungenText[24] = "000";
+  EXPECT_THROW(SchemaErweitern(), Datenbankfehler);
+  EXPECT_EQ(wert("select Waben_je_Magazin from Bienenvolk"), "12");
+  EXPECT_EQ(wert("select PTop from Standorte"), "250");
+  EXPECT_EQ(wert("select PLeft from Standorte"), "0");
+  EXPECT_EQ(DB.Felder("DIBVerschluss").size(), 1U);
+  EXPECT_THROW(DB.Lesen("select Charge from Honigernte"), Datenbankfehler);
+  EXPECT_EQ(EinstellungenText[24], "000");
+  EXPECT_FALSE(QFile::exists(AppPfad + "Einstellungen.TV2"));
 }
 
 TEST_F(Erweiterung, EineAbgebrocheneErweiterungWirdNichtFortgesetzt) {
