@@ -12,8 +12,8 @@
 class Testliste : public Hauptliste {
  public:
   // The colonies in stock; another statement gives other rows or another order.
-  explicit Testliste(QString anweisung =
-                         QStringLiteral("select * from Bienenvolk where Akt_im_Bestand = 'X'"))
+  explicit Testliste(
+      QString anweisung = QStringLiteral("select * from Bienenvolk where Akt_im_Bestand = 'X'"))
       : m_anweisung(std::move(anweisung)), m_vorher(hauptliste()) {
     setHauptliste(this);
     datenvölkerlesen();

@@ -1,0 +1,277 @@
+// Loading, showing and computing; what the buttons do stands in TE_Eingabe_Aktionen.cpp.
+#include "bookings/forms/TE_Eingabe.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTimer>
+
+#include "bookings/Liste.h"
+#include "bookings/Volkfelder.h"
+#include "bookings/Vorgaben.h"
+#include "bookings/forms/Slotfelder.h"
+#include "core/globals.h"
+#include "core/main_list.h"
+#include "data/helpers.h"
+#include "platform/controls/Eingabefeld.h"
+#include "platform/controls/Ereignis.h"
+#include "platform/controls/Grid.h"
+#include "platform/locale/Deutsch.h"
+
+using namespace TZ_Variablen;
+
+namespace {
+
+const QString TeilerSchluessel = QStringLiteral("Teiler/TE_Eingabe");
+constexpr int AnzeigeSlot = 67;  // of EinstellungenZahl
+
+bool istEingabetaste(const QKeyEvent& taste) {
+  return taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter;
+}
+
+void zeigeAktuelleZeile(Grid* grid) {
+  const int seitlich = grid->horizontalScrollBar()->value();
+  if (grid->currentIndex().isValid()) grid->scrollTo(grid->currentIndex());
+  grid->horizontalScrollBar()->setValue(seitlich);
+}
+
+Daten leererBlock() { return Datenblock::Bauer(std::vector<Spalte>{}).fertig(); }
+
+}  // namespace
+
+void TE_Eingabe::verbinden() {
+  using Ereignis::wenn;
+  wenn(m_opti, &QButtonGroup::idClicked, this, [this](int art) { artGewaehlt(art); });
+  wenn(m_anzeige, &QButtonGroup::idClicked, this, [this](int n) { anzeigeGewaehlt(n); });
+  wenn(m_volkli, &Grid::zeileAngeklickt, this, [this](int zeile) { volkAngeklickt(zeile); });
+  wenn(m_li, &Grid::zeileAngeklickt, this, [this](int zeile) { zeileZeigen(zeile); });
+  wenn(m_kom, &QComboBox::activated, this, [this](int index) { standortGewaehlt(index); });
+  for (int i = 0; i < 2; ++i) {
+    wenn(m_neu[i], &QPushButton::clicked, this, [this, i] { neu(i); });
+    wenn(m_nextvolk[i], &QPushButton::clicked, this, [this, i] { nachbarvolk(i); });
+  }
+  wenn(m_loeschen, &QPushButton::clicked, this, [this] { loeschen(); });
+  wenn(m_standard[0], &QPushButton::clicked, this, [this] { maskeSichernUndMelden(); });
+  wenn(m_standard[1], &QPushButton::clicked, this, [this] { maskeHolen(); });
+  wenn(m_comhilfe, &QPushButton::clicked, this, [this] { hilfeZeigen(); });
+  wenn(m_cmdschliessen, &QPushButton::clicked, this, [this] { reject(); });
+  for (int slot = 1; slot < AnzahlSlots; ++slot) {
+    if (slot == NotizSlot) continue;
+    Eingabefeld* feld = m_slots->feld(slot);
+    wenn(feld, &Eingabefeld::inhaltGeaendert, this, [this, slot] { slotGeaendert(slot); });
+    wenn(feld, &Eingabefeld::verlassen, this, [this, slot] { vorgabenHolen(slot); });
+    wenn(feld, &Eingabefeld::ausListeGewaehlt, this, [this, slot] {
+      if (BuchungsArt == 8 && (slot == 1 || slot == 2)) vorgabenHolen(slot);
+    });
+  }
+  // The rows of both colony lists stand in the same order.
+  m_volkli->horizontalHeader()->setSectionsClickable(false);
+  for (QObject* objekt : QList<QObject*>{m_volkli, m_volkli->viewport(), m_li, m_li->viewport(),
+                                         m_kom, m_slots->notiz()})
+    objekt->installEventFilter(this);
+}
+
+// Enter books from the slots and the buttons; from a list it only leads back to the entry. A note
+// takes it as a new line and is booked with Ctrl+Enter.
+bool TE_Eingabe::eventFilter(QObject* objekt, QEvent* event) {
+  for (Grid* grid : {m_li, m_volkli})  // the slots leave a list more or less room
+    if (objekt == grid->viewport() && event->type() == QEvent::Resize)
+      QTimer::singleShot(0, grid, [grid] { zeigeAktuelleZeile(grid); });
+  if (objekt == m_volkli->viewport()) {
+    if (event->type() == QEvent::MouseButtonPress) m_volkPerTaste = false;
+    // Marking by drawing the mouse over rows is no click on one; it is over when the mouse lets go.
+    if (event->type() == QEvent::MouseButtonRelease)
+      QTimer::singleShot(0, this,
+                         [this] { Ereignis::ausfuehren(this, [this] { gezogenMarkiert(); }); });
+  }
+  if (event->type() == QEvent::KeyPress) {
+    const auto& taste = static_cast<const QKeyEvent&>(*event);
+    if (objekt == m_volkli) m_volkPerTaste = true;
+    if (istEingabetaste(taste)) {
+      if (objekt == m_slots->notiz()) {
+        if (!(taste.modifiers() & Qt::ControlModifier)) return false;
+        m_neu[0]->click();
+        return true;
+      }
+      m_slots->feld(0)->setFocus();
+      return true;
+    }
+  }
+  return Formular::eventFilter(objekt, event);
+}
+
+// A key held down a moment too long must not book twice.
+void TE_Eingabe::keyPressEvent(QKeyEvent* event) {
+  if (istEingabetaste(*event) && event->isAutoRepeat())
+    event->accept();
+  else
+    Formular::keyPressEvent(event);
+}
+
+void TE_Eingabe::showEvent(QShowEvent* event) {
+  Formular::showEvent(event);
+  if (event->spontaneous() || m_offen) return;
+  m_offen = true;
+  m_teiler->restoreState(Fensterablage::lesen(TeilerSchluessel).toByteArray());
+  const bool geladen = Ereignis::ausfuehren(this, [this] { laden(); });
+  // Without the tables there is nothing to enter.
+  if (!geladen && !m_datenbank.IsOpen()) QTimer::singleShot(0, this, [this] { reject(); });
+}
+
+void TE_Eingabe::laden() {
+  const Ereignis::Sanduhr sanduhr;
+  const Fuellen fuellen(m_fuellt);
+  m_geaenderteVoelker.clear();
+  m_slotarten.fill(Slotart::Text);
+  m_basis = {};
+  m_slots->zuruecksetzen(HeuteText);
+  const int bereich = EinstellungenZahl[AnzeigeSlot];
+  m_anzeige->button(bereich == 1 || bereich == 2 ? bereich : 0)->setChecked(true);
+  m_opti->button(BuchungsArt)->setChecked(true);
+  m_datenbank = Arbeitsbereich.OpenDatabase(DatenbankPfad);
+  volkliFuellen();
+
+  m_kom->clear();
+  const Daten standorte =
+      m_datenbank.Lesen("select distinct Standort from Bienenvolk order by Standort");
+  for (int zeile = 0; zeile < standorte->zeilen(); ++zeile) {
+    const QString text = TextLesen(standorte->wert(zeile, 0));
+    if (m_kom->findText(text) < 0) m_kom->addItem(text);  // no site is null or an empty text
+  }
+  m_kom->setCurrentIndex(-1);
+  MaskeAufbauen();
+}
+
+// Built once: moving from colony to colony only moves the row.
+void TE_Eingabe::volkliFuellen() {
+  const Hauptliste& haupt = *hauptliste();
+  const QStringList namen{"Volknr", "Volkname", "Standort"};
+  std::vector<Spalte> spalten;
+  for (const QString& name : namen) spalten.push_back({name, Feldtyp::Text, 0});
+  Datenblock::Bauer bauer(spalten);
+  for (int zeile = 0; zeile < haupt.zeilen(); ++zeile)
+    for (const QString& name : namen) bauer.text(QStringView(haupt.zelle(zeile, name)));
+  m_volkli->setDaten(bauer.fertig());
+  m_volkli->setAktuelleZeile(haupt.aktuelleZeile());
+  m_volkli->setMarkierteZeilen(haupt.markierteZeilen());
+}
+
+void TE_Eingabe::MaskeAufbauen() {
+  const Fuellen fuellen(m_fuellt);
+  setUpdatesEnabled(false);  // one repaint for the whole change
+  const auto zeichnen = qScopeGuard([this] { setUpdatesEnabled(true); });
+
+  const Buchungstyp& typ = buchungstyp(BuchungsArt);
+  m_slots->alleVerbergen();
+  for (const Buchungsslot& slot : typ.plaetze) FeldEinrichten(slot);
+  if (m_angeordnet != typ.art) m_slots->anordnen(typ);
+  m_angeordnet = typ.art;
+  BuchungenLaden();
+  m_slots->feld(0)->setFocus();
+}
+
+void TE_Eingabe::FeldEinrichten(const Buchungsslot& slot) {
+  m_slots->einrichten(slot, pickliste(m_datenbank, slot));
+  m_slotarten[static_cast<size_t>(slot.nummer)] = slot.art;
+}
+
+void TE_Eingabe::BuchungenLaden() {
+  const Ereignis::Sanduhr sanduhr;
+  const Fuellen fuellen(m_fuellt);
+  QList<QWidget*> gesperrt{m_comhilfe, m_cmdschliessen, m_volkli};
+  for (QAbstractButton* knopf : m_opti->buttons()) gesperrt.append(knopf);
+  for (QWidget* control : gesperrt) control->setEnabled(false);
+  const auto freigeben = qScopeGuard([&] {
+    for (QWidget* control : gesperrt) control->setEnabled(true);
+  });
+
+  m_slots->bezeingabeart()->setText(buchungstyp(BuchungsArt).beschriftung);
+  const Hauptliste& haupt = *hauptliste();
+  const int volk = haupt.aktuelleZeile();
+  m_wabenJeMagazin =
+      static_cast<int>(Deutsch::gerade(ZahlLesen(haupt.zelle(volk, "Waben_je_Magazin"))));
+  m_ueberschrift->setText(
+      listenUeberschrift(haupt.zelle(volk, "Volknr"), haupt.zelle(volk, "Volkname")));
+  listeBinden();
+
+  const QString datum = m_slots->text(0);
+  m_basis = {};
+  if (m_li->zeilen() > 0) {
+    m_li->setAktuelleZeile(m_li->zeilen() - 1);
+    zeileZeigen(m_li->aktuelleZeile());
+    m_slots->setText(0, datum);
+  }
+  m_slots->bezmw()->clear();
+}
+
+// The list shows the bookings of the current colony, or nothing at all: never rows of another type.
+void TE_Eingabe::listeBinden() {
+  m_li->setLayoutSchluessel("Tova/ColWidths/" + listenLayout(BuchungsArt));
+  auto leeren = qScopeGuard([this] {
+    m_daten = leererBlock();
+    m_li->setDaten(m_daten);
+  });
+  const auto bereich = static_cast<Anzeigebereich>(m_anzeige->checkedId());
+  m_daten = buchungenLesen(m_datenbank, BuchungsArt, volkId(), bereich);
+  leeren.dismiss();
+  m_li->setDaten(m_daten);
+}
+
+// The user may have sorted the list: the row is read as it is shown.
+void TE_Eingabe::zeileZeigen(int zeile) {
+  if (zeile < 0 || zeile >= m_li->zeilen()) return;
+  const Fuellen fuellen(m_fuellt);
+  std::vector<Spalte> spalten;
+  for (int i = 0; i < m_daten->spalten(); ++i) spalten.push_back(m_daten->spalte(i));
+  Datenblock::Bauer bauer(spalten);
+  for (const Spalte& spalte : spalten) bauer.wert(m_li->wert(zeile, spalte.name));
+  einsetzen(zeilentexte(*bauer.fertig(), 0, BuchungsArt));
+  if (BuchungsArt == 0) m_basis = wabenstand(m_slots->texte());
+  m_slots->bezmw()->clear();
+}
+
+void TE_Eingabe::slotGeaendert(int nummer) {
+  if (m_fuellt > 0 || !m_offen) return;
+  einsetzen(folgeaenderungen(BuchungsArt, nummer, m_slots->texte(), m_wabenJeMagazin));
+  if (BuchungsArt == 0) m_slots->bezmw()->setText(wabenbilanz(m_basis, m_slots->texte()));
+}
+
+// Only when the user leaves a slot; the program moves the focus too.
+void TE_Eingabe::vorgabenHolen(int nummer) {
+  if (m_fuellt > 0 || !m_offen || !m_datenbank.IsOpen()) return;
+  einsetzen(vorgabenBeimVerlassen(m_datenbank, BuchungsArt, nummer, m_slots->texte()));
+}
+
+void TE_Eingabe::einsetzen(const QList<Slotaenderung>& aenderungen) {
+  for (const Slotaenderung& aenderung : aenderungen)
+    m_slots->setText(aenderung.slot, aenderung.text);
+}
+
+QString TE_Eingabe::volkId() const {
+  return hauptliste()->zelle(hauptliste()->aktuelleZeile(), "ID");
+}
+
+void TE_Eingabe::done(int ergebnis) {
+  if (m_offen) {
+    m_offen = false;
+    Fensterablage::schreiben(TeilerSchluessel, m_teiler->saveState());
+    Ereignis::ausfuehren(this, [this] { abschliessen(); });
+    m_daten = leererBlock();
+    m_li->setDaten(m_daten);
+    m_datenbank.Close();
+  }
+  Formular::done(ergebnis);
+}
+
+void TE_Eingabe::abschliessen() {
+  if (ListeNeuLesen != 1 || !m_datenbank.IsOpen()) return;
+  const Ereignis::Sanduhr sanduhr;
+  VolkfelderNachziehen(m_datenbank, m_geaenderteVoelker);
+}

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <array>
+#include <exception>
+
+#include "bookings/Buchung.h"
+#include "bookings/Masken.h"
+#include "bookings/Pruefungen.h"
+#include "bookings/Rechnen.h"
+#include "platform/controls/Formular.h"
+
+class Grid;
+class QButtonGroup;
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QSplitter;
+class Slotfelder;
+
+// The one form through which every dated event of a colony is entered, changed and deleted. The
+// opener sets BuchungsArt and calls zeigen(). The colonies are those of hauptliste(), whose current
+// row and marking the form mirrors and drives.
+class TE_Eingabe : public Formular {
+ public:
+  explicit TE_Eingabe(QWidget* oeffner);
+
+  void done(int ergebnis) override;  // every way out: button, frame, Esc
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* objekt, QEvent* event) override;
+
+ private:
+  // TE_Eingabe_Aufbau.cpp
+  QWidget* baueVoelker();
+  QWidget* baueBuchung();
+  QWidget* baueArten();
+  QLayout* baueKnoepfe();
+  QWidget* baueListe();
+  void tabFolgeSetzen();
+
+  // TE_Eingabe.cpp
+  void verbinden();
+  void laden();
+  void volkliFuellen();
+  void MaskeAufbauen();
+  void FeldEinrichten(const Buchungsslot& slot);
+  void BuchungenLaden();
+  void listeBinden();
+  void zeileZeigen(int zeile);
+  void slotGeaendert(int nummer);
+  void vorgabenHolen(int nummer);
+  void einsetzen(const QList<Slotaenderung>& aenderungen);
+  void abschliessen();
+  QString volkId() const;
+
+  // TE_Eingabe_Aktionen.cpp
+  void neu(int index);
+  void neuBuchen();
+  void aendern();
+  void nachFehler(std::exception_ptr fehler, const Buchung& buchung, const QString& buchungId);
+  bool zugestimmt(const Pruefergebnis& ergebnis);
+  void datumVervollstaendigen();
+  void loeschen();
+  void maskeSichernUndMelden();
+  void maskeHolen();
+  void anzeigeGewaehlt(int bereich);
+  void artGewaehlt(int art);
+  void nachbarvolk(int richtung);
+  void volkAngeklickt(int zeile);
+  void gezogenMarkiert();
+  void standortGewaehlt(int index);
+
+  // Texts that the program puts in are no entry of the user: nothing is computed from them.
+  class Fuellen {
+   public:
+    explicit Fuellen(int& zaehler) : m_zaehler(zaehler) { ++m_zaehler; }
+    ~Fuellen() { --m_zaehler; }
+    Fuellen(const Fuellen&) = delete;
+    Fuellen& operator=(const Fuellen&) = delete;
+
+   private:
+    int& m_zaehler;
+  };
+
+  Database m_datenbank;
+  QString m_geaenderteVoelker;
+  Wabenstand m_basis;  // MW_Basis, WZ_Basis
+  int m_wabenJeMagazin = 0;
+  Slotarten m_slotarten{};
+  Daten m_daten;  // the rows behind li
+  bool m_offen = false;
+  int m_fuellt = 0;
+  int m_angeordnet = -1;        // the type that the slots are laid out for
+  bool m_volkPerTaste = false;  // the last move in volkli came from the keyboard
+
+  QSplitter* m_teiler = nullptr;
+  Slotfelder* m_slots = nullptr;
+  QButtonGroup* m_opti = nullptr;
+  QButtonGroup* m_anzeige = nullptr;
+  QLabel* m_ueberschrift = nullptr;
+  Grid* m_li = nullptr;
+  Grid* m_volkli = nullptr;
+  QComboBox* m_kom = nullptr;
+  std::array<QPushButton*, 2> m_nextvolk{};
+  std::array<QPushButton*, 2> m_neu{};
+  std::array<QPushButton*, 2> m_standard{};
+  QPushButton* m_loeschen = nullptr;
+  QPushButton* m_comhilfe = nullptr;
+  QPushButton* m_cmdschliessen = nullptr;
+};

@@ -1,0 +1,205 @@
+// The controls of TE_Eingabe and their layout.
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "bookings/forms/Slotfelder.h"
+#include "bookings/forms/TE_Eingabe.h"
+#include "platform/controls/Eingabefeld.h"
+#include "platform/controls/Grid.h"
+
+namespace {
+
+QString name(const char* stamm, int index) { return QString(stamm) + "_" + QString::number(index); }
+
+QPushButton* knopf(const QString& objekt, const QString& text, const QString& hinweis = {}) {
+  auto* ergebnis = new QPushButton(text);
+  ergebnis->setObjectName(objekt);
+  ergebnis->setToolTip(hinweis);
+  return ergebnis;
+}
+
+QRadioButton* wahl(QButtonGroup* gruppe, const char* stamm, int index, const QString& text) {
+  auto* ergebnis = new QRadioButton(text);
+  ergebnis->setObjectName(name(stamm, index));
+  gruppe->addButton(ergebnis, index);
+  return ergebnis;
+}
+
+QFrame* linie() {
+  auto* ergebnis = new QFrame;
+  ergebnis->setFrameShape(QFrame::HLine);
+  ergebnis->setFrameShadow(QFrame::Sunken);
+  return ergebnis;
+}
+
+// A button for what is done a hundred times a day.
+void gross(QPushButton* knopf) {
+  QFont schrift = knopf->font();
+  schrift.setBold(true);
+  knopf->setFont(schrift);
+  const QFontMetrics metrik(schrift);
+  knopf->setMinimumSize(metrik.horizontalAdvance("Löschen") + metrik.height() * 3 / 2,
+                        metrik.height() * 7 / 4);
+}
+
+}  // namespace
+
+// Left the colonies, right what is booked for them.
+TE_Eingabe::TE_Eingabe(QWidget* oeffner)
+    : Formular("TE_Eingabe", "Eingabe (Bewegungsdaten)", oeffner) {
+  auto* zeile = new QHBoxLayout(this);
+  m_teiler = new QSplitter;
+  m_teiler->setObjectName("teiler");
+  m_teiler->addWidget(baueVoelker());
+  m_teiler->addWidget(baueBuchung());
+  m_teiler->setStretchFactor(0, 1);
+  m_teiler->setStretchFactor(1, 3);
+  m_teiler->setChildrenCollapsible(false);
+  m_teiler->setSizes({300, 700});
+  m_teiler->setHandleWidth(2 * fontMetrics().averageCharWidth());
+  zeile->addWidget(m_teiler);
+  tabFolgeSetzen();
+  verbinden();
+  // Room for long names and a dozen bookings, where the screen has it.
+  const QSize schirm = screen()->availableSize() - QSize(20, 60);
+  const QSize wunsch(140 * fontMetrics().averageCharWidth(), 44 * fontMetrics().height());
+  resize(wunsch.boundedTo(schirm));
+}
+
+QWidget* TE_Eingabe::baueVoelker() {
+  m_kom = new QComboBox;
+  m_kom->setObjectName("kom");
+  m_kom->setPlaceholderText("Standort wählen");
+  m_kom->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  m_kom->setMinimumContentsLength(7);
+  m_kom->setMinimumWidth(10 * fontMetrics().averageCharWidth());
+  m_kom->setMaxVisibleItems(20);
+
+  m_volkli = new Grid;
+  m_volkli->setObjectName("volkli");
+  m_volkli->setAccessibleName("Völker");
+  m_volkli->setLayoutSchluessel("TE_Eingabe/volkli");
+  m_volkli->setMinimumWidth(18 * fontMetrics().averageCharWidth());
+
+  m_nextvolk[0] = knopf("nextvolk1_0", "&Voriges", "Vorheriges Volk");
+  m_nextvolk[1] = knopf("nextvolk1_1", "Nä&chstes", "Nächstes Volk");
+
+  auto* wechsel = new QHBoxLayout;
+  wechsel->addWidget(m_nextvolk[0]);
+  wechsel->addWidget(m_nextvolk[1]);
+
+  auto* standort = new QHBoxLayout;
+  standort->addWidget(Formular::beschriften("S&tandort", m_kom));
+  m_kom->setAccessibleName("Standort");
+  standort->addWidget(m_kom, 1);
+
+  auto* seite = new QWidget;
+  auto* spalte = new QVBoxLayout(seite);
+  spalte->setContentsMargins(0, 0, 0, 0);
+  spalte->addLayout(standort);
+  spalte->addWidget(m_volkli, 1);
+  spalte->addLayout(wechsel);
+  return seite;
+}
+
+QWidget* TE_Eingabe::baueBuchung() {
+  m_slots = new Slotfelder(this);
+  auto* seite = new QWidget;
+  auto* spalte = new QVBoxLayout(seite);
+  spalte->setContentsMargins(0, 0, 0, 0);
+  spalte->addWidget(baueArten());
+  spalte->addWidget(linie());
+  spalte->addWidget(m_slots);
+  spalte->addLayout(baueKnoepfe());
+  spalte->addWidget(baueListe(), 1);
+  return seite;
+}
+
+QWidget* TE_Eingabe::baueArten() {
+  constexpr int JeZeile = 6;
+  auto* seite = new QWidget;
+  seite->setObjectName("arten");
+  seite->setAccessibleName("Art der Eingabe");
+  auto* raster = new QGridLayout(seite);
+  raster->setContentsMargins(0, 0, 0, 0);
+  raster->setVerticalSpacing(fontMetrics().height() / 5);
+  m_opti = new QButtonGroup(this);
+  for (int art = 0; art < 11; ++art)
+    raster->addWidget(wahl(m_opti, "opti", art, buchungstyp(art).beschriftung), art / JeZeile,
+                      art % JeZeile);
+  return seite;
+}
+
+QLayout* TE_Eingabe::baueKnoepfe() {
+  m_neu[0] = knopf("neu_0", "&Neu", "Als neue Buchung eintragen (Eingabetaste)");
+  m_neu[1] = knopf("neu_1", "&Ändern", "Die in der Liste gewählte Buchung ändern");
+  m_loeschen = knopf("löschen", "&Löschen", "Die in der Liste gewählte Buchung löschen");
+  m_standard[0] =
+      knopf("standard_0", "Standard sichern", "Die Eingaben als Maske dieser Eingabeart aufheben");
+  m_standard[1] =
+      knopf("standard_1", "Standard einlesen", "Die aufgehobene Maske dieser Eingabeart holen");
+  m_comhilfe = knopf("comhilfe", "&Hilfe");
+  m_cmdschliessen = knopf("cmdschließen", "&Schließen");
+  m_neu[0]->setDefault(true);
+  auto* zeile = new QHBoxLayout;
+  for (QPushButton* k : {m_neu[0], m_neu[1], m_loeschen}) {
+    gross(k);
+    zeile->addWidget(k);
+  }
+  zeile->addStretch();
+  for (QPushButton* k : {m_standard[0], m_standard[1]}) zeile->addWidget(k);
+  zeile->addStretch();
+  for (QPushButton* k : {m_comhilfe, m_cmdschliessen}) zeile->addWidget(k);
+  return zeile;
+}
+
+QWidget* TE_Eingabe::baueListe() {
+  m_ueberschrift = new QLabel;
+  m_ueberschrift->setObjectName("bezbewegungsdaten");
+  m_ueberschrift->setTextFormat(Qt::PlainText);
+  // A long name must not widen the window.
+  m_ueberschrift->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  QFont schrift = m_ueberschrift->font();
+  schrift.setBold(true);
+  m_ueberschrift->setFont(schrift);
+
+  auto* kopf = new QHBoxLayout;
+  kopf->addWidget(m_ueberschrift, 1);
+  m_anzeige = new QButtonGroup(this);
+  kopf->addWidget(wahl(m_anzeige, "anzeige", 0, "Alles"));
+  kopf->addWidget(wahl(m_anzeige, "anzeige", 1, "Aktuelles Jahr"));
+  kopf->addWidget(wahl(m_anzeige, "anzeige", 2, "Akt. und letztes Jahr"));
+
+  m_li = new Grid;
+  m_li->setObjectName("li");
+  m_li->setAccessibleName("Bewegungsdaten");
+  m_li->setSelectionMode(QAbstractItemView::SingleSelection);
+  m_li->setMinimumHeight(4 * fontMetrics().height() + 40);
+
+  auto* seite = new QWidget;
+  auto* spalte = new QVBoxLayout(seite);
+  spalte->setContentsMargins(0, 0, 0, 0);
+  spalte->addLayout(kopf);
+  spalte->addWidget(m_li, 1);
+  return seite;
+}
+
+// The date, the slots in their order, Neu; then what is needed less often.
+void TE_Eingabe::tabFolgeSetzen() {
+  QList<QWidget*> folge;
+  for (int slot = 0; slot < AnzahlSlots; ++slot) folge.append(m_slots->eingabe(slot));
+  folge << m_neu[0] << m_neu[1] << m_loeschen << m_standard[0] << m_standard[1] << m_comhilfe
+        << m_cmdschliessen;
+  for (QAbstractButton* k : m_anzeige->buttons()) folge.append(k);
+  folge << m_li << m_kom << m_volkli << m_nextvolk[0] << m_nextvolk[1];
+  for (QAbstractButton* k : m_opti->buttons()) folge.append(k);
+  for (qsizetype i = 1; i < folge.size(); ++i) setTabOrder(folge[i - 1], folge[i]);
+}

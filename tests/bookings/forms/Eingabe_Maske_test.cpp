@@ -1,0 +1,279 @@
+// Opening the form, dressing the slots, the list of bookings and its range.
+#include "Eingabeprobe.h"
+
+namespace {
+
+using Maske = Eingabeprobe;
+using namespace TZ_Variablen;
+
+QList<int> bis(int letzter) {
+  QList<int> slots;
+  for (int slot = 1; slot <= letzter; ++slot) slots.append(slot);
+  return slots;
+}
+
+TEST_F(Maske, TitelUndNameStehenFest) {
+  oeffne(0);
+  EXPECT_EQ(form->windowTitle(), "Eingabe (Bewegungsdaten)");
+  EXPECT_EQ(form->objectName(), "TE_Eingabe");
+}
+
+TEST_F(Maske, JedeArtZeigtGenauIhrePlaetze) {
+  QList<int> stockkarte = bis(27);
+  stockkarte.removeAll(15);
+  const QList<QList<int>> erwartet{stockkarte, bis(8), bis(6), bis(6), bis(7), bis(4),
+                                   bis(6),     bis(4), bis(9), bis(7), {15}};
+  const QStringList ueberschriften{
+      "Stockkarte", "Honigernte",      "Wachsernte", "Pollenernte",    "Sonstige Ernte", "Arbeiten",
+      "Wanderung",  "Gewichtsmessung", "Behandlung", "Königinwechsel", "Notizen"};
+  oeffne(0);
+  for (int art = 10; art >= 0; --art) {
+    waehle("opti_" + QString::number(art));
+    EXPECT_EQ(BuchungsArt, art);
+    EXPECT_EQ(sichtbar(), erwartet[art]) << art;
+    EXPECT_EQ(schild("bezeingabeart"), ueberschriften[art]);
+    EXPECT_EQ(finde<QAbstractButton>("opti_" + QString::number(art))->text(), ueberschriften[art]);
+    EXPECT_TRUE(feld(0)->isVisible());
+    EXPECT_TRUE(hatFokus(0)) << art;
+  }
+}
+
+TEST_F(Maske, BeschriftungenUndVorlesenamenStehenAnDenFeldern) {
+  oeffne(0);
+  EXPECT_EQ(schild("bezsevt_1"), "Volksstärke");
+  EXPECT_EQ(schild("bezsevt_24"), "Futter Flssg.|Teig|Eigen");
+  EXPECT_EQ(feld(25)->accessibleName(), "Futter Teig");
+  EXPECT_EQ(feld(26)->accessibleName(), "Futter Eigen");
+  waehle("opti_6");
+  EXPECT_EQ(schild("bezsevt_5"), "Prämie erhalten JN");
+  EXPECT_EQ(feld(5)->accessibleName(), "Prämie erhalten JN");
+  waehle("opti_10");
+  EXPECT_EQ(notiz()->accessibleName(), "Notiz");
+}
+
+TEST_F(Maske, FutterfelderStehenNebeneinander) {
+  oeffne(0);
+  EXPECT_EQ(feld(24)->y(), feld(25)->y());
+  EXPECT_EQ(feld(25)->y(), feld(26)->y());
+  EXPECT_LT(feld(24)->x(), feld(25)->x());
+  EXPECT_LT(feld(25)->x(), feld(26)->x());
+}
+
+TEST_F(Maske, OhneBuchungenStehenDieErstenTexteUndDieListeIstLeer) {
+  oeffne(7);
+  EXPECT_EQ(text(0), "15.06.2026");
+  EXPECT_EQ(text(1), "0,000");
+  EXPECT_EQ(text(2), "0,00");
+  EXPECT_EQ(text(3), "0,00");
+  EXPECT_EQ(text(4), "");
+  EXPECT_EQ(li()->zeilen(), 0);
+  EXPECT_EQ(schild("bezmw"), "");
+}
+
+TEST_F(Maske, DieUeberschriftNenntNummerUndNameDesVolkes) {
+  liste = std::make_unique<Testliste>();
+  liste->setAktuelleZeile(1);
+  oeffne(1);
+  EXPECT_EQ(schild("bezbewegungsdaten"), "Bewegungsdaten für das Volk:  2 / Berta");
+}
+
+TEST_F(Maske, DieNeuesteBuchungDesVolkesIstDieVorlageMitDemDatumVonHeute) {
+  zeile("Honigernte", 1, "2026-05-20", {{"Menge_kg", 4.5}, {"Honigsorte", "Löwenzahn"}});
+  zeile("Honigernte", 1, "2026-06-01", {{"Menge_kg", 12.5}, {"Honigsorte", "Raps"}});
+  zeile("Honigernte", 1, "2026-05-25", {{"Menge_kg", 7}, {"Honigsorte", "Obstblüte"}});
+  zeile("Honigernte", 2, "2026-06-10", {{"Menge_kg", 99}, {"Honigsorte", "Wald"}});
+  oeffne(1);
+  EXPECT_EQ(li()->zeilen(), 3);
+  EXPECT_EQ(li()->aktuelleZeile(), 2);
+  EXPECT_EQ(text(0), "15.06.2026");
+  EXPECT_EQ(text(1), "12,50");
+  EXPECT_EQ(text(2), "Raps");
+}
+
+TEST_F(Maske, EinKlickAufEineBuchungZeigtSieMitIhremDatum) {
+  zeile("Honigernte", 1, "2026-05-20", {{"Menge_kg", 4.5}, {"Honigsorte", "Löwenzahn"}});
+  zeile("Honigernte", 1, "2026-06-01", {{"Menge_kg", 12.5}, {"Honigsorte", "Raps"}});
+  oeffne(1);
+  klicke(li(), 0);
+  EXPECT_EQ(text(0), "20.05.2026");
+  EXPECT_EQ(text(1), "4,50");
+  EXPECT_EQ(text(2), "Löwenzahn");
+}
+
+TEST_F(Maske, PfeiltastenInDerListeZeigenDieBuchungen) {
+  zeile("Arbeiten", 1, "2026-05-20", {{"Arbeitsart", "Füttern"}});
+  zeile("Arbeiten", 1, "2026-06-01", {{"Arbeitsart", "Schwarmkontrolle"}});
+  oeffne(5);
+  li()->setFocus();
+  taste(li(), Qt::Key_Up);
+  EXPECT_EQ(text(1), "Füttern");
+  EXPECT_EQ(text(0), "20.05.2026");
+}
+
+TEST_F(Maske, NachDemSortierenZeigtEinKlickDieAngeklickteBuchung) {
+  zeile("Honigernte", 1, "2026-05-20", {{"Menge_kg", 9}, {"Honigsorte", "Löwenzahn"}});
+  zeile("Honigernte", 1, "2026-06-01", {{"Menge_kg", 3}, {"Honigsorte", "Raps"}});
+  oeffne(1);
+  li()->sortiere(li()->spaltenNummer("Menge_kg"), Qt::AscendingOrder);
+  klicke(li(), 0);
+  EXPECT_EQ(text(1), "3,00");
+  EXPECT_EQ(text(2), "Raps");
+  klicke(li(), 1);
+  EXPECT_EQ(text(2), "Löwenzahn");
+}
+
+TEST_F(Maske, MitDerTabulatortasteDurchDieListenBleibtDasGetippteStehen) {
+  zeile("Arbeiten", 1, "2026-05-20", {{"Arbeitsart", "Füttern"}});
+  oeffne(5);
+  tippe(1, "Waben schneiden");
+  for (int i = 0; i < 40; ++i) {
+    QWidget* hier = QApplication::focusWidget();
+    ASSERT_NE(hier, nullptr);
+    QTest::keyClick(hier, Qt::Key_Tab);
+  }
+  EXPECT_EQ(text(1), "Waben schneiden");
+}
+
+TEST_F(Maske, AktuellesJahrZeigtDenErstenJanuarBisZumLetztenDezember) {
+  for (const char* tag :
+       {"2024-12-31", "2025-01-01", "2025-12-31", "2026-01-01", "2026-12-31", "2027-01-01"})
+    zeile("Arbeiten", 1, tag, {{"Arbeitsart", tag}});
+  oeffne(5);
+  EXPECT_EQ(li()->zeilen(), 6) << "Alles is the choice of a new operation";
+  waehle("anzeige_1");
+  ASSERT_EQ(li()->zeilen(), 2);
+  EXPECT_EQ(li()->zelle(0, "Arbeitsart"), "2026-01-01");
+  EXPECT_EQ(li()->zelle(1, "Arbeitsart"), "2026-12-31");
+  waehle("anzeige_2");
+  ASSERT_EQ(li()->zeilen(), 4);
+  EXPECT_EQ(li()->zelle(0, "Arbeitsart"), "2025-01-01");
+  EXPECT_EQ(li()->zelle(3, "Arbeitsart"), "2026-12-31");
+}
+
+TEST_F(Maske, DerAnzeigebereichBleibtInPlatz67UndGiltFuerAlleArten) {
+  zeile("Arbeiten", 1, "2025-05-01", {{"Arbeitsart", "alt"}});
+  zeile("Wachsernte", 1, "2025-05-01", {{"Menge_kg", 1}});
+  oeffne(5);
+  waehle("anzeige_1");
+  EXPECT_EQ(EinstellungenZahl[67], 1);
+  EXPECT_EQ(li()->zeilen(), 0);
+  waehle("opti_2");
+  EXPECT_EQ(li()->zeilen(), 0);
+  form->close();
+  oeffne(5);
+  EXPECT_TRUE(finde<QAbstractButton>("anzeige_1")->isChecked());
+  EXPECT_EQ(li()->zeilen(), 0);
+  waehle("anzeige_2");
+  EXPECT_EQ(EinstellungenZahl[67], 2);
+  EXPECT_EQ(li()->zeilen(), 1);
+  waehle("anzeige_0");
+  EXPECT_EQ(EinstellungenZahl[67], 0);
+}
+
+TEST_F(Maske, UmschaltenAufAllesBehaeltDasGetippteDatum) {
+  zeile("Arbeiten", 1, "2025-05-01", {{"Arbeitsart", "alt"}});
+  EinstellungenZahl[67] = 1;
+  oeffne(5);
+  tippe(0, "01.03.2026");
+  waehle("anzeige_0");
+  EXPECT_EQ(li()->zeilen(), 1);
+  EXPECT_EQ(text(0), "01.03.2026");
+  EXPECT_EQ(text(1), "alt");
+}
+
+TEST_F(Maske, EinArtwechselVergisstDasGetippteAberNichtDasDatum) {
+  oeffne(5);
+  tippe(0, "03.04.2026");
+  tippe(1, "Füttern");
+  waehle("opti_8");
+  EXPECT_EQ(text(0), "03.04.2026");
+  EXPECT_EQ(text(1), "");
+  waehle("opti_5");
+  EXPECT_EQ(text(0), "03.04.2026");
+  EXPECT_EQ(text(1), "");
+}
+
+TEST_F(Maske, NochEinKlickAufDieselbeArtLaesstDasGetippteStehen) {
+  oeffne(5);
+  tippe(1, "Füttern");
+  waehle("opti_5");
+  EXPECT_EQ(text(1), "Füttern");
+}
+
+TEST_F(Maske, DieAuswahllistenBietenFruehereEingabenAllerVoelkerAn) {
+  zeile("Honigernte", 2, "2024-06-01", {{"Honigsorte", "Waldhonig"}, {"Charge", "L-17"}});
+  zeile("Honigernte", 3, "2025-06-01", {{"Honigsorte", "Lindenhonig"}});
+  zeile("Honigernte", 3, "2025-07-01", {{"Honigsorte", "Waldhonig"}});
+  TZ_Variablen::DB.Execute("delete from Standorte");
+  TZ_Variablen::DB.Execute("insert into Standorte (Standort) values ('Heide')");
+  oeffne(1);
+  EXPECT_EQ(feld(2)->liste(), (QStringList{"Lindenhonig", "Waldhonig"}));
+  EXPECT_EQ(feld(7)->liste(), QStringList{"L-17"});
+  EXPECT_EQ(feld(1)->liste(), QStringList{});
+  waehle("opti_6");
+  EXPECT_EQ(feld(1)->liste(), QStringList{"Heide"});
+}
+
+TEST_F(Maske, DieStockkarteNimmtDieSpaltenDerEinstellungen) {
+  EinstellungenText[22] = "select Datum, Waben, Volk_ID, ID from Stockkarte";
+  zeile("Stockkarte", 1, "2026-05-01", {{"Waben", 17}, {"Magazine", 2}});
+  oeffne(0);
+  EXPECT_EQ(li()->spalten(), 4);
+  EXPECT_EQ(text(11), "17");
+  EXPECT_EQ(text(10), "0") << "a field that the list doesn't have keeps its first text";
+}
+
+TEST_F(Maske, EineUnlesbareSpaltenabfrageWirdGemeldetUndDieListeIstLeer) {
+  zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "Füttern"}});
+  EinstellungenText[22] = "select Unfug from Stockkarte";
+  oeffne(5);
+  EXPECT_EQ(li()->zeilen(), 1);
+  meldungen.hinweisMit("");
+  waehle("opti_0");
+  EXPECT_EQ(meldungen.fehler(), "");
+  EXPECT_EQ(li()->zeilen(), 0) << "rows of the type before would be deleted from the wrong table";
+  EXPECT_TRUE(volkli()->isEnabled());
+  EXPECT_TRUE(finde<QWidget>("cmdschließen")->isEnabled());
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  waehle("opti_5");
+  EXPECT_EQ(li()->zeilen(), 1);
+}
+
+TEST_F(Maske, OhneVoelkerGehtDieFormAufUndBuchtNichts) {
+  DB.Execute("delete from Bienenvolk");
+  oeffne(5);
+  EXPECT_EQ(volkli()->zeilen(), 0);
+  EXPECT_EQ(li()->zeilen(), 0);
+  druecke("nextvolk1_0");
+  druecke("nextvolk1_1");
+  meldungen.hinweis(
+      "Bitte markieren Sie zuerst die Völker, bei denen die Buchung ausgeführt werden soll!");
+  druecke("neu_0");
+  EXPECT_EQ(anzahl("Arbeiten"), 0);
+}
+
+TEST_F(Maske, NotizenZeigenNurDasMehrzeiligeFeldUndKommenZurueck) {
+  oeffne(10);
+  notiz()->setFocus();
+  tasten(notiz(), "Weisel gesehen");
+  taste(notiz(), Qt::Key_Return);
+  tasten(notiz(), "Brut in Ordnung");
+  EXPECT_EQ(anzahl("Notizen"), 0) << "Enter is a new line here";
+  taste(notiz(), Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(wert("select Notiz from Notizen"), "Weisel gesehen\r\nBrut in Ordnung");
+  waehle("opti_5");
+  waehle("opti_10");
+  EXPECT_EQ(notiz()->toPlainText(), "Weisel gesehen\nBrut in Ordnung");
+}
+
+TEST_F(Maske, EineDatenbankDieKeineIstWirdGemeldetUndDieFormSchliesst) {
+  liste = std::make_unique<Testliste>();
+  DatenbankPfad = AppPfad + "fehlt/TOVA2.MDB";
+  meldungen.hinweisMit("");
+  form = std::make_unique<TE_Eingabe>(nullptr);
+  form->show();
+  QTest::qWait(50);
+  EXPECT_FALSE(form->isVisible());
+}
+
+}  // namespace

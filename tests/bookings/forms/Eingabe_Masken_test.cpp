@@ -1,0 +1,211 @@
+// Saved entry masks, and what users paste and type into slots.
+#include "Eingabeprobe.h"
+#include "platform/files/Textdatei.h"
+
+namespace {
+
+using namespace TZ_Variablen;
+
+class EingabeMasken : public Eingabeprobe {
+ protected:
+  QString datei(int art) { return AppPfad + "TOVA_TE_EINGABE_STD" + QString::number(art) + ".TV2"; }
+  void sichern(int art) {
+    meldungen.hinweis("Die aktuelle Eingabemaske wurde unter dem Dateinamen " + datei(art) +
+                      " gespeichert.");
+    druecke("standard_0");
+    EXPECT_EQ(meldungen.fehler(), "");
+  }
+};
+
+TEST_F(EingabeMasken, EineMaskeKommtZurueckAberOhneDatum) {
+  oeffne(5);
+  tippe(0, "01.02.2026");
+  tippe(1, "Füttern; groß");
+  tippe(2, "1,25");
+  tippe(4, "mit Zuckerwasser");
+  sichern(5);
+  druecke("nextvolk1_1");
+  tippe(0, "03.02.2026");
+  EXPECT_EQ(text(1), "");
+  druecke("standard_1");
+  EXPECT_EQ(text(0), "03.02.2026");
+  EXPECT_EQ(text(1), "Füttern; groß");
+  EXPECT_EQ(text(2), "1,25");
+  EXPECT_EQ(text(4), "mit Zuckerwasser");
+  EXPECT_EQ(Textdatei::lesen(datei(5)).size(), 26);
+}
+
+TEST_F(EingabeMasken, DieMaskeDerWanderungHatEineZeileWeniger) {
+  oeffne(6);
+  tippe(1, "Heide");
+  feld(5)->setFocus();
+  tasten(feld(5), "J");
+  tippe(6, "früh los");
+  sichern(6);
+  EXPECT_EQ(Textdatei::lesen(datei(6)).size(), 25);
+  druecke("nextvolk1_1");
+  druecke("standard_1");
+  EXPECT_EQ(text(1), "Heide");
+  EXPECT_EQ(text(5), "") << "the choice is never kept";
+  EXPECT_EQ(text(6), "früh los");
+}
+
+TEST_F(EingabeMasken, NachDerWanderungBleibtEsInDieserOeffnungBeiFuenfundzwanzigZeilen) {
+  oeffne(6);
+  waehle("opti_7");
+  sichern(7);
+  EXPECT_EQ(Textdatei::lesen(datei(7)).size(), 25) << "slot 5 keeps its last dressing";
+  form->close();
+  oeffne(7);
+  sichern(7);
+  EXPECT_EQ(Textdatei::lesen(datei(7)).size(), 26);
+}
+
+TEST_F(EingabeMasken, DieStockkarteKommtWieGesichertAuchWennDieWabenNichtDieSummeSind) {
+  oeffne(0);
+  tippe(13, "6");
+  tippe(11, "20");
+  tippe(10, "4");
+  tippe(18, "2");
+  tippe(11, "20");
+  tippe(10, "4");
+  sichern(0);
+  druecke("nextvolk1_1");
+  druecke("standard_1");
+  EXPECT_EQ(text(10), "4");
+  EXPECT_EQ(text(11), "20");
+  EXPECT_EQ(text(13), "6");
+  EXPECT_EQ(text(18), "2");
+  EXPECT_EQ(schild("bezmw"), "");
+}
+
+TEST_F(EingabeMasken, OhneDateiGeschiehtNichts) {
+  oeffne(5);
+  tippe(1, "Füttern");
+  druecke("standard_1");
+  EXPECT_EQ(text(1), "Füttern");
+}
+
+TEST_F(EingabeMasken, EineKurzeDateiFuelltNurDieErstenPlaetze) {
+  Textdatei::schreiben(datei(5), {"Schleudern", "2,00"});
+  oeffne(5);
+  tippe(4, "bleibt");
+  druecke("standard_1");
+  EXPECT_EQ(text(1), "Schleudern");
+  EXPECT_EQ(text(2), "2,00");
+  EXPECT_EQ(text(4), "bleibt");
+}
+
+TEST_F(EingabeMasken, DieNotizWirdNieGesichert) {
+  oeffne(10);
+  notiz()->setFocus();
+  tasten(notiz(), "geheim");
+  sichern(10);
+  EXPECT_FALSE(Textdatei::lesenGanz(datei(10)).contains("geheim"));
+  notiz()->clear();
+  druecke("standard_1");
+  EXPECT_EQ(notiz()->toPlainText(), "");
+}
+
+TEST_F(EingabeMasken, EinOrdnerStattDerDateiWirdGemeldet) {
+  QDir().mkpath(datei(5));
+  oeffne(5);
+  meldungen.hinweisMit("TOVA_TE_EINGABE_STD5.TV2");
+  druecke("standard_0");
+  EXPECT_EQ(meldungen.fehler(), "");
+}
+
+class EingabeTexte : public Eingabeprobe {
+ protected:
+  // 10,000 characters with all that hurts.
+  static QString langerText() {
+    const QString stueck = QString::fromUtf8("Hans' \"Bienen\"\t`x` -- ; € ß Ä\xF0\x9F\x90\x9D\n");
+    QString text;
+    while (text.size() + stueck.size() <= 10000) text += stueck;
+    while (text.size() < 10000) text += 'z';
+    return text;
+  }
+};
+
+TEST_F(EingabeTexte, ZehntausendZeichenInEinTextfeldWerdenAufSeineLaengeGekuerzt) {
+  oeffne(5);
+  fuegeEin(feld(4), langerText());
+  // The 30th would be the first half of the bee.
+  const QString erwartet = QString::fromUtf8("Hans' \"Bienen\" `x` -- ; € ß Ä");
+  ASSERT_EQ(erwartet.size(), 29);
+  EXPECT_EQ(text(4), erwartet) << "half an emoji is none";
+  tippe(1, "Füttern");
+  druecke("neu_0");
+  const QString gespeichert = QString(erwartet).replace('\'', '`');
+  EXPECT_EQ(wert("select Bemerkung from Arbeiten"), gespeichert);
+  EXPECT_EQ(text(4), gespeichert);
+}
+
+TEST_F(EingabeTexte, EineNotizVonZehntausendZeichenKommtVollstaendigZurueck) {
+  oeffne(10);
+  fuegeEin(notiz(), langerText());
+  druecke("neu_0");
+  QString erwartet = langerText().replace('\'', '`');
+  EXPECT_EQ(notiz()->toPlainText(), erwartet);
+  EXPECT_EQ(wert("select Notiz from Notizen"), erwartet.replace('\n', "\r\n"));
+  waehle("opti_5");
+  waehle("opti_10");
+  EXPECT_EQ(notiz()->toPlainText(), langerText().replace('\'', '`'));
+}
+
+TEST_F(EingabeTexte, ZahlenBleibenZahlenWieAuchImmerSieEingegebenWerden) {
+  struct Fall {
+    const char* eingabe;
+    const char* getippt;  // what stands in the slot after typing it key by key
+    double gespeichert;
+  };
+  // No sign, no letter gets in; the point is a comma, and there is only one.
+  const Fall faelle[] = {{"12,5", "12,5", 12.5}, {"1.234,56", "1,23", 1.23},
+                         {"-3", "3", 3},         {"1e9", "19", 19},
+                         {"abc", "", 0},         {"0,005", "0,00", 0}};
+  oeffne(1);
+  for (const Fall& fall : faelle) {
+    DB.Execute("delete from Honigernte");
+    feld(1)->setFocus();
+    feld(1)->clear();
+    tasten(feld(1), fall.eingabe);
+    EXPECT_EQ(text(1), fall.getippt) << fall.eingabe;
+    druecke("neu_0");
+    EXPECT_EQ(wert("select Menge_kg from Honigernte").toDouble(), fall.gespeichert) << fall.eingabe;
+  }
+}
+
+TEST_F(EingabeTexte, EingefuegteZahlenWerdenGanzOderGarNichtGenommen) {
+  oeffne(1);
+  fuegeEin(feld(1), "1.234,56");
+  EXPECT_EQ(text(1), "1234,56");
+  druecke("neu_0");
+  EXPECT_EQ(wert("select Menge_kg from Honigernte").toDouble(), 1234.56);
+  for (const char* unfug : {"-3", "1e9", "abc", "1,2,3", "99999999999"}) {
+    fuegeEin(feld(1), "7,5");
+    fuegeEin(feld(1), unfug);
+    EXPECT_EQ(text(1), "7,5") << unfug;
+  }
+}
+
+TEST_F(EingabeTexte, GanzzahlenHaltenIhreGrenze) {
+  oeffne(0);
+  tippe(20, "100");
+  EXPECT_EQ(text(20), "100");
+  tippe(20, "101");
+  EXPECT_EQ(text(20), "10");
+  tippe(10, "12");
+  EXPECT_EQ(text(10), "1");
+  tippe(1, "12,5");
+  EXPECT_EQ(text(1), "12,5") << "a score is any decimal of four characters";
+}
+
+TEST_F(EingabeTexte, EinApostrophImListenwertStoertKeineVorgabe) {
+  zeile("Behandlung", 2, "2025-08-01", {{"Behandlungsart", "Opa`s Art"}, {"Mittel", "Rauch"}});
+  oeffne(8);
+  tippe(1, "Opa's Art");
+  taste(feld(1), Qt::Key_Tab);
+  EXPECT_EQ(text(2), "Rauch");
+}
+
+}  // namespace

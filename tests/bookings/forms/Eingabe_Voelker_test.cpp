@@ -1,0 +1,178 @@
+// The list of colonies: moving, marking, choosing a site; and the main list behind it.
+#include <QHeaderView>
+
+#include "Eingabeprobe.h"
+
+namespace {
+
+using Voelker = Eingabeprobe;
+using namespace TZ_Variablen;
+
+TEST_F(Voelker, DieListeSpiegeltReihenfolgeZeileUndMarkierung) {
+  liste = std::make_unique<Testliste>(
+      "select * from Bienenvolk where Akt_im_Bestand = 'X' order by Volkname DESC");
+  liste->setAktuelleZeile(1);
+  liste->setMarkierteZeilen({1, 2});
+  oeffne(0);
+  ASSERT_EQ(volkli()->zeilen(), 3);
+  EXPECT_EQ(volkli()->spalten(), 3);
+  EXPECT_EQ(volkli()->zelle(0, "Volkname"), "Carla");
+  EXPECT_EQ(volkli()->zelle(1, "Volknr"), "2");
+  EXPECT_EQ(volkli()->zelle(2, "Standort"), "Hof");
+  EXPECT_EQ(volkli()->aktuelleZeile(), 1);
+  EXPECT_EQ(volkli()->markierteZeilen(), (QList<int>{1, 2}));
+}
+
+TEST_F(Voelker, EinKlickMachtDasVolkAuchInDerHauptlisteAktuell) {
+  zeile("Arbeiten", 2, "2026-05-01", {{"Arbeitsart", "bei Berta"}});
+  oeffne(5);
+  tippe(1, "vergessen");
+  liste->wechselOhneHalt = 0;
+  klicke(volkli(), 1);
+  EXPECT_EQ(liste->aktuelleZeile(), 1);
+  EXPECT_EQ(AktVolkID, "2");
+  EXPECT_EQ(liste->markierteZeilen(), QList<int>{1});
+  EXPECT_EQ(liste->wechselOhneHalt, 0) << "the main list is moved with BildAnhalten set";
+  EXPECT_EQ(BildAnhalten, 0);
+  EXPECT_EQ(text(1), "bei Berta");
+  EXPECT_EQ(schild("bezbewegungsdaten"), "Bewegungsdaten für das Volk:  2 / Berta");
+  EXPECT_TRUE(hatFokus(0));
+}
+
+TEST_F(Voelker, MarkierenMitStrgUndUmschaltGehtInDieHauptliste) {
+  oeffne(5);
+  klicke(volkli(), 0);
+  klicke(volkli(), 2, Qt::ControlModifier);
+  EXPECT_EQ(liste->markierteZeilen(), (QList<int>{0, 2}));
+  EXPECT_EQ(volkli()->markierteZeilen(), (QList<int>{0, 2}));
+  EXPECT_EQ(liste->aktuelleZeile(), 2);
+  klicke(volkli(), 0);
+  klicke(volkli(), 2, Qt::ShiftModifier);
+  EXPECT_EQ(liste->markierteZeilen(), (QList<int>{0, 1, 2}));
+}
+
+TEST_F(Voelker, MarkierenMitGezogenerMausGehtInDieHauptliste) {
+  oeffne(5);
+  const auto mitte = [&](int zeile) {
+    return volkli()->visualRect(volkli()->model()->index(zeile, 0)).center();
+  };
+  QTest::mousePress(volkli()->viewport(), Qt::LeftButton, Qt::NoModifier, mitte(0));
+  for (int zeile : {1, 2}) {
+    QMouseEvent zug(QEvent::MouseMove, mitte(zeile),
+                    volkli()->viewport()->mapToGlobal(mitte(zeile)), Qt::LeftButton, Qt::LeftButton,
+                    Qt::NoModifier);
+    QApplication::sendEvent(volkli()->viewport(), &zug);
+  }
+  QTest::mouseRelease(volkli()->viewport(), Qt::LeftButton, Qt::NoModifier, mitte(2));
+  QTest::qWait(20);
+  EXPECT_EQ(volkli()->markierteZeilen(), (QList<int>{0, 1, 2}));
+  EXPECT_EQ(liste->markierteZeilen(), (QList<int>{0, 1, 2}));
+}
+
+TEST_F(Voelker, MitDerTastaturMarkierenBleibtInDerVoelkerliste) {
+  oeffne(5);
+  volkli()->setFocus();
+  taste(volkli(), Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::focusWidget(), volkli());
+  taste(volkli(), Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(liste->markierteZeilen(), (QList<int>{0, 1, 2}));
+  EXPECT_EQ(liste->aktuelleZeile(), 2);
+  taste(volkli(), Qt::Key_Return);
+  EXPECT_TRUE(hatFokus(0));
+}
+
+TEST_F(Voelker, WeiterVomLetztenVolkGehtZumErsten) {
+  oeffne(5);
+  druecke("nextvolk1_1");
+  EXPECT_EQ(liste->aktuelleZeile(), 1);
+  EXPECT_EQ(volkli()->aktuelleZeile(), 1);
+  EXPECT_EQ(liste->markierteZeilen(), QList<int>{1});
+  EXPECT_EQ(volkli()->markierteZeilen(), QList<int>{1});
+  druecke("nextvolk1_1");
+  druecke("nextvolk1_1");
+  EXPECT_EQ(liste->aktuelleZeile(), 0);
+  EXPECT_EQ(volkli()->aktuelleZeile(), 0);
+  EXPECT_TRUE(hatFokus(0));
+}
+
+TEST_F(Voelker, ZurueckVomErstenVolkGehtZumLetzten) {
+  oeffne(5);
+  druecke("nextvolk1_0");
+  EXPECT_EQ(liste->aktuelleZeile(), 2);
+  EXPECT_EQ(volkli()->aktuelleZeile(), 2);
+  EXPECT_EQ(schild("bezbewegungsdaten"), "Bewegungsdaten für das Volk:  3 / Carla");
+}
+
+TEST_F(Voelker, DasDatumBleibtBeimVolkwechsel) {
+  oeffne(5);
+  tippe(0, "02.02.2026");
+  druecke("nextvolk1_1");
+  EXPECT_EQ(text(0), "02.02.2026");
+}
+
+TEST_F(Voelker, EinStandortMarkiertSeineVoelkerInBeidenListen) {
+  liste = std::make_unique<Testliste>();
+  liste->setAktuelleZeile(1);
+  oeffne(5);
+  auto* kom = finde<QComboBox>("kom");
+  ASSERT_EQ(kom->count(), 2);
+  EXPECT_EQ(kom->itemText(0), "Hof");
+  EXPECT_EQ(kom->itemText(1), "Waldrand");
+  waehleStandort("Hof");
+  EXPECT_EQ(liste->markierteZeilen(), (QList<int>{0, 2}));
+  EXPECT_EQ(volkli()->markierteZeilen(), (QList<int>{0, 2}));
+  EXPECT_EQ(liste->aktuelleZeile(), 0);
+  EXPECT_EQ(volkli()->aktuelleZeile(), 0);
+  EXPECT_EQ(schild("bezbewegungsdaten"), "Bewegungsdaten für das Volk:  1 / Anna");
+  EXPECT_TRUE(hatFokus(0));
+}
+
+TEST_F(Voelker, EinStandortOhneVolkInDerListeLaesstKeinesAktuell) {
+  volk("4", "Dora", "Heide");
+  zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "Füttern"}});
+  liste = std::make_unique<Testliste>("select * from Bienenvolk where Volknr < '4'");
+  oeffne(5);
+  waehleStandort("Heide");
+  EXPECT_EQ(liste->aktuelleZeile(), -1);
+  EXPECT_EQ(volkli()->aktuelleZeile(), -1);
+  EXPECT_EQ(liste->markierteZeilen(), QList<int>{});
+  EXPECT_EQ(li()->zeilen(), 0);
+  EXPECT_EQ(text(1), "");
+  meldungen.hinweis(
+      "Bitte markieren Sie zuerst die Völker, bei denen die Buchung ausgeführt werden soll!");
+  druecke("neu_0");
+  druecke("nextvolk1_1");
+  EXPECT_EQ(liste->aktuelleZeile(), 0);
+}
+
+TEST_F(Voelker, DieSpaltenkoepfeDerVoelkerlisteSortierenNicht) {
+  oeffne(5);
+  auto* kopf = volkli()->horizontalHeader();
+  QTest::mouseClick(kopf->viewport(), Qt::LeftButton, Qt::NoModifier,
+                    QPoint(kopf->sectionViewportPosition(1) + 10, kopf->height() / 2));
+  QTest::mouseClick(kopf->viewport(), Qt::LeftButton, Qt::NoModifier,
+                    QPoint(kopf->sectionViewportPosition(1) + 10, kopf->height() / 2));
+  EXPECT_EQ(volkli()->zelle(0, "Volkname"), "Anna") << "rows must stand as in the main list";
+}
+
+// A block built anew for each step would stand in front of another model content.
+TEST_F(Voelker, ZehntausendVoelkerWerdenNurEinmalGelesen) {
+  DB.Sammelschreiben([&] {
+    for (int nr = 4; nr <= 10000; ++nr) volk(QString::number(nr), "Volk", "Heide");
+  });
+  oeffne(5);
+  ASSERT_EQ(volkli()->zeilen(), 10000);
+  int neuAufgebaut = 0;
+  QObject::connect(volkli()->model(), &QAbstractItemModel::modelReset, form.get(),
+                   [&] { ++neuAufgebaut; });
+  druecke("nextvolk1_0");
+  EXPECT_EQ(volkli()->aktuelleZeile(), 9999);
+  druecke("nextvolk1_1");
+  waehle("opti_1");
+  EXPECT_EQ(neuAufgebaut, 0);
+  waehleStandort("Heide");
+  EXPECT_EQ(liste->markierteZeilen().size(), 9997);
+  EXPECT_EQ(volkli()->markierteZeilen().size(), 9997);
+}
+
+}  // namespace
