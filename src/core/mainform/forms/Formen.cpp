@@ -1,0 +1,45 @@
+#include "core/mainform/forms/Formen.h"
+
+#include "bookings/forms/TE_Eingabe.h"
+#include "colonies/forms/TV_Neues_Volk.h"
+#include "core/forms/TH_Hilfe.h"
+#include "core/globals.h"
+#include "core/mainform/forms/TH_Hilfe_Wieanfangen.h"
+#include "platform/controls/Ereignis.h"
+
+using namespace TZ_Variablen;
+
+void Formen::volk(const QString& volkModus) {
+  VolkModus = volkModus;
+  if (!m_volk) {
+    const Ereignis::Sanduhr sanduhr;
+    m_volk = new TV_Neues_Volk(m_haupt);
+  }
+  m_volk->zeigen();
+}
+
+void Formen::eingabe(int buchungsArt) {
+  BuchungsArt = buchungsArt;
+  if (!m_eingabe) {
+    const Ereignis::Sanduhr sanduhr;
+    m_eingabe = new TE_Eingabe(m_haupt);
+  }
+  m_eingabe->zeigen();
+}
+
+void Formen::wieAnfangen() {
+  if (!m_wieAnfangen)
+    m_wieAnfangen = new TH_Hilfe_Wieanfangen(
+        m_haupt, {nullptr, nullptr, [this] { volk(QStringLiteral("Neu")); }});
+  m_wieAnfangen->zeigen();
+}
+
+void Formen::hilfe(QWidget* oeffner, const QString& thema) {
+  static QPointer<TH_Hilfe> hilfe;
+  HilfeThema = thema;
+  if (!hilfe)
+    hilfe = new TH_Hilfe(oeffner);
+  else if (hilfe->parentWidget() != oeffner->window())
+    hilfe->setParent(oeffner->window(), hilfe->windowFlags());
+  hilfe->zeigen();
+}

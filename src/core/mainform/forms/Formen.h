@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPointer>
+#include <QString>
+
+class QWidget;
+class TE_Eingabe;
+class TH_Hilfe_Wieanfangen;
+class TV_Neues_Volk;
+
+// The forms that open over the main form: one instance each, made on first use. Each call shows
+// the form modally and returns when it was closed.
+class Formen {
+ public:
+  explicit Formen(QWidget* haupt) : m_haupt(haupt) {}
+
+  void volk(const QString& volkModus);
+  void eingabe(int buchungsArt);
+  void wieAnfangen();
+  // Over whatever form asks for it.
+  static void hilfe(QWidget* oeffner, const QString& thema);
+
+ private:
+  QWidget* m_haupt;
+  QPointer<TV_Neues_Volk> m_volk;
+  QPointer<TE_Eingabe> m_eingabe;
+  QPointer<TH_Hilfe_Wieanfangen> m_wieAnfangen;
+};

@@ -1,0 +1,227 @@
+#include "core/mainform/forms/TA_TOVA.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QFontDatabase>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSplitter>
+#include <QToolButton>
+
+#include "core/globals.h"
+#include "core/mainform/Liste.h"
+#include "core/mainform/Start.h"
+#include "core/mainform/Volkanzeige.h"
+#include "core/mainform/forms/Symbol.h"
+#include "platform/controls/Ereignis.h"
+#include "platform/controls/Grid.h"
+
+using namespace TZ_Variablen;
+
+namespace {
+
+template <typename Widget>
+Widget* benannt(Widget* widget, const QString& name) {
+  widget->setObjectName(name);
+  return widget;
+}
+
+QToolButton* symbolknopf(const QString& name, const QString& symbolName, const QString& hinweis,
+                         QWidget* eltern) {
+  auto* knopf = benannt(new QToolButton(eltern), name);
+  knopf->setIcon(symbol(symbolName));
+  knopf->setToolTip(hinweis);
+  knopf->setAccessibleName(hinweis);
+  knopf->setFocusPolicy(Qt::TabFocus);
+  const int seite = eltern->fontMetrics().height() * 5 / 4;
+  knopf->setIconSize(QSize(seite, seite));
+  return knopf;
+}
+
+QLabel* fett(QLabel* label) {
+  QFont schrift = label->font();
+  schrift.setBold(true);
+  label->setFont(schrift);
+  return label;
+}
+
+// A fixed-width font in the size of the other texts.
+QFont festeSchrift(const QFont& vorlage) {
+  QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  schrift.setStyleHint(QFont::Monospace);
+  schrift.setFixedPitch(true);
+  schrift.setPointSizeF(vorlage.pointSizeF());
+  return schrift;
+}
+
+}  // namespace
+
+TA_TOVA::TA_TOVA() {
+  setObjectName(QStringLiteral("TA_TOVA"));
+  setWindowTitle(Start::fenstertitel());
+  setWindowIcon(symbol(QStringLiteral("tova")));
+  menuesBauen();
+  leisteBauen();
+  inhaltBauen();
+  popupBauen();
+  verbinden();
+  befehleAnpassen();
+  setHauptliste(this);
+}
+
+TA_TOVA::~TA_TOVA() {
+  if (hauptliste() == this) setHauptliste(nullptr);
+}
+
+void TA_TOVA::inhaltBauen() {
+  auto* mitte = new QWidget(this);
+  teiler = benannt(new QSplitter(Qt::Horizontal, mitte), QStringLiteral("teiler"));
+  teiler->setChildrenCollapsible(false);
+  auto* oben = new QHBoxLayout;
+  filterBauen(oben);
+  oben->addStretch();
+  knoepfeBauen(oben);
+  teiler->addWidget(listeBauen());
+  teiler->addWidget(panelBauen());
+  auto* seite = new QVBoxLayout(mitte);
+  seite->addLayout(oben);
+  seite->addWidget(teiler, 1);
+  setCentralWidget(mitte);
+}
+
+void TA_TOVA::filterBauen(QHBoxLayout* zeile) {
+  filter = new QButtonGroup(this);
+  const QStringList texte = filterbeschriftungen({});
+  for (int i = 0; i < 3; ++i) {
+    auto* knopf =
+        benannt(new QRadioButton(texte[i], this), QStringLiteral("optiverkauft_%1").arg(i));
+    filter->addButton(knopf, i);
+    zeile->addWidget(knopf);
+    optiverkauft[static_cast<size_t>(i)] = knopf;
+  }
+  optiverkauft[0]->setChecked(true);
+}
+
+void TA_TOVA::knoepfeBauen(QHBoxLayout* zeile) {
+  cmdok =
+      benannt(new QPushButton(QStringLiteral("Volk-Info anzeigen"), this), QStringLiteral("cmdok"));
+  abwaerts[0] = symbolknopf(QStringLiteral("abwaerts_0"), QStringLiteral("pfeil_runter"),
+                            QStringLiteral("Nächstes Tier"), this);
+  abwaerts[1] = symbolknopf(QStringLiteral("abwaerts_1"), QStringLiteral("pfeil_hoch"),
+                            QStringLiteral("Vorheriges Tier"), this);
+  comdrucken = symbolknopf(QStringLiteral("comdrucken"), QStringLiteral("drucken"),
+                           QStringLiteral("Tierdaten drucken"), this);
+  linksrechts = symbolknopf(QStringLiteral("linksrechts"), QStringLiteral("breite"),
+                            QStringLiteral("Textfeldbreite ändern"), this);
+  zeile->addWidget(cmdok);
+  for (QToolButton* knopf : {abwaerts[0], abwaerts[1], comdrucken, linksrechts})
+    zeile->addWidget(knopf);
+}
+
+QWidget* TA_TOVA::listeBauen() {
+  datali = benannt(new Grid(teiler), QStringLiteral("datali"));
+  datali->setAccessibleName(QStringLiteral("Völkerliste"));
+  datali->setLayoutSchluessel(QStringLiteral("TOVA/datali/ColWidths"));
+  datali->setErsteSpalte([this](int zeile) {
+    return ersteSpalte(zeile, datali->zelle(zeile, QStringLiteral("Volknr")));
+  });
+  leerhinweis = benannt(new QLabel(datali->viewport()), QStringLiteral("leerhinweis"));
+  leerhinweis->setAlignment(Qt::AlignCenter);
+  leerhinweis->setWordWrap(true);
+  leerhinweis->setForegroundRole(QPalette::PlaceholderText);
+  leerhinweis->setAttribute(Qt::WA_TransparentForMouseEvents);
+  auto* mitte = new QVBoxLayout(datali->viewport());
+  mitte->addWidget(leerhinweis);
+  return datali;
+}
+
+QWidget* TA_TOVA::panelBauen() {
+  auto* seite = new QWidget(teiler);
+  auto* spalte = new QVBoxLayout(seite);
+  spalte->setContentsMargins(0, 0, 0, 0);
+  kon = benannt(new QCheckBox(QStringLiteral("Nur akt. Jahr"), seite), QStringLiteral("kon"));
+  kon1 = benannt(new QCheckBox(QStringLiteral("Grafik zeigen"), seite), QStringLiteral("kon1"));
+  auto* schalter = new QHBoxLayout;
+  schalter->addWidget(kon);
+  schalter->addWidget(kon1);
+  schalter->addStretch();
+  spalte->addLayout(schalter);
+  spalte->addWidget(bildBauen());
+
+  text1 = benannt(new QPlainTextEdit(seite), QStringLiteral("text1"));
+  text1->setReadOnly(true);
+  text1->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  text1->setTabChangesFocus(true);
+  text1->setLineWrapMode(QPlainTextEdit::NoWrap);
+  text1->setFont(festeSchrift(font()));
+  text1->setAccessibleName(QStringLiteral("Volk-Info"));
+  text1->setPlaceholderText(
+      QStringLiteral("Wählen Sie links ein Volk und dann „Volk-Info anzeigen“,\n"
+                     "oder klicken Sie das Volk doppelt an."));
+  spalte->addWidget(text1, 1);
+  return seite;
+}
+
+QFrame* TA_TOVA::bildBauen() {
+  bild = benannt(new QFrame(teiler), QStringLiteral("bild"));
+  bild->setFrameShape(QFrame::StyledPanel);
+  auto* raster = new QGridLayout(bild);
+  raster->setHorizontalSpacing(18);
+  raster->setVerticalSpacing(2);
+  for (int i : {9, 10, 11, 19, 20})
+    bildpos[i] = benannt(new QLabel(bild), QStringLiteral("bildpos_%1").arg(i));
+  fett(bildpos[10]);
+  auto* kopf = new QHBoxLayout;
+  kopf->addWidget(bildpos[10]);
+  kopf->addWidget(bildpos[11]);
+  kopf->addStretch();
+  raster->addLayout(kopf, 0, 0, 1, 4);
+
+  honigjahr = benannt(new QLabel(bild), QStringLiteral("honigjahr"));
+  const QList<std::pair<QLabel*, int>> summen = {
+      {new QLabel(QStringLiteral("Honig (letzte):"), bild), 19},
+      {honigjahr, 9},
+      {new QLabel(QStringLiteral("Honig (alles):"), bild), 20}};
+  for (int i = 0; i < summen.size(); ++i) {
+    raster->addWidget(summen[i].first, 1, i);
+    QLabel* wert = fett(bildpos[summen[i].second]);
+    wert->setText(QStringLiteral("0,0"));
+    raster->addWidget(wert, 2, i);
+  }
+  raster->setColumnStretch(3, 1);
+  bild->hide();
+  return bild;
+}
+
+void TA_TOVA::verbinden() {
+  Ereignis::wenn(datali, &Grid::zeileGewechselt, this, [this] { zeileUebernehmen(); });
+  Ereignis::wenn(datali, &Grid::zeileDoppelgeklickt, this, [this] { VolkAnzeigen(); });
+  Ereignis::wenn(datali, &Grid::vomBenutzerSortiert, this, [](int spalte, Qt::SortOrder richtung) {
+    sortierungMerken({spalte, richtung});
+  });
+  Ereignis::wenn(cmdok, &QPushButton::clicked, this, [this] { VolkAnzeigen(); });
+  Ereignis::wenn(abwaerts[0], &QToolButton::clicked, this, [this] { wechseln(1); });
+  Ereignis::wenn(abwaerts[1], &QToolButton::clicked, this, [this] { wechseln(0); });
+  Ereignis::wenn(comdrucken, &QToolButton::clicked, this, [this] { panelListen(); });
+  Ereignis::wenn(linksrechts, &QToolButton::clicked, this, [this] { breitenUmschalten(); });
+  Ereignis::wenn(kon, &QCheckBox::toggled, this, [this] { VolkAnzeigen(); });
+  Ereignis::wenn(kon1, &QCheckBox::toggled, this, [this] { grafikUmschalten(); });
+  for (QRadioButton* knopf : optiverkauft)
+    Ereignis::wenn(knopf, &QRadioButton::clicked, this, [this] { datenvölkerlesen(); });
+}
+
+// Slot 58 gives the panel the wider part. A drag of the divider holds until the next change.
+void TA_TOVA::breitenTeilen() {
+  const bool panelBreit = EinstellungenZahl[58] != 0;
+  const int drittel = std::max(teiler->width(), 300) / 3;
+  teiler->setStretchFactor(0, panelBreit ? 1 : 2);
+  teiler->setStretchFactor(1, panelBreit ? 2 : 1);
+  teiler->setSizes(panelBreit ? QList<int>{drittel, 2 * drittel}
+                              : QList<int>{2 * drittel, drittel});
+}

@@ -1,0 +1,149 @@
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QFrame>
+#include <QLabel>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScopeGuard>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "core/globals.h"
+#include "core/mainform/Liste.h"
+#include "core/mainform/Volkanzeige.h"
+#include "core/mainform/forms/TA_TOVA.h"
+#include "data/helpers.h"
+#include "platform/controls/Ereignis.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/Meldungen.h"
+#include "platform/files/Textdatei.h"
+
+using namespace TZ_Variablen;
+
+int TA_TOVA::zeilen() const { return datali->zeilen(); }
+
+int TA_TOVA::aktuelleZeile() const { return datali->aktuelleZeile(); }
+
+void TA_TOVA::setAktuelleZeile(int zeile) {
+  datali->setAktuelleZeile(zeile);
+  zeileUebernehmen();
+}
+
+QList<int> TA_TOVA::markierteZeilen() const { return datali->markierteZeilen(); }
+
+void TA_TOVA::setMarkierteZeilen(const QList<int>& zeilen) { datali->setMarkierteZeilen(zeilen); }
+
+QString TA_TOVA::zelle(int zeile, const QString& spalte) const {
+  return zeile < 0 || zeile >= zeilen() ? QString() : datali->zelle(zeile, spalte);
+}
+
+void TA_TOVA::loescheZeile(int zeile) {
+  datali->loescheZeile(zeile, m_db, QStringLiteral("Bienenvolk"));
+  zeileUebernehmen();
+  befehleAnpassen();
+  filterBeschriften();
+}
+
+// A failing statement must not leave the program locked, nor come back at each activation.
+void TA_TOVA::datenvölkerlesen() {
+  const Ereignis::Sanduhr sanduhr;
+  const bool listeHatFokus = datali->hasFocus();
+  MenueSperren(false);
+  const auto frei = qScopeGuard([this, listeHatFokus] {
+    MenueSperren(true);
+    ListeNeuLesen = 0;
+    if (listeHatFokus) datali->setFocus();
+  });
+
+  listenfelderPruefen();
+  datali->setDaten(volkliste(m_db, static_cast<Volkfilter>(filter->checkedId())));
+  stockkartenfelderPruefen();
+  const Listensortierung sortierung = gemerkteSortierung(datali->spalten());
+  if (sortierung.spalte >= 0) datali->sortiere(sortierung.spalte, sortierung.richtung);
+  setAktuelleZeile(zeilen() > 0 ? 0 : -1);
+  befehleAnpassen();
+  filterBeschriften();
+}
+
+void TA_TOVA::filterBeschriften() {
+  const QStringList texte = filterbeschriftungen(volkanzahl(m_db));
+  for (int i = 0; i < 3; ++i) optiverkauft[static_cast<size_t>(i)]->setText(texte[i]);
+  leerhinweisSetzen();
+}
+
+void TA_TOVA::leerhinweisSetzen() {
+  leerhinweis->setVisible(zeilen() == 0);
+  leerhinweis->setText(
+      filter->checkedId() == static_cast<int>(Volkfilter::Abgang)
+          ? QStringLiteral("Von Ihren Völkern ist keines abgegangen.")
+          : QStringLiteral("Hier erscheinen Ihre Völker.\nDas erste geben Sie im Menü „Völker“ mit "
+                           "„Neue Völker eingeben“ ein."));
+}
+
+void TA_TOVA::zeileUebernehmen() {
+  AktVolkID = zelle(aktuelleZeile(), QStringLiteral("ID"));
+  if (BildAnhalten == 0) befehleAnpassen();
+}
+
+void TA_TOVA::MenueSperren(bool frei) {
+  mleiste->setEnabled(frei);
+  for (QMenu* menue : std::as_const(m_menues)) menue->setEnabled(frei);
+  for (QWidget* widget :
+       std::initializer_list<QWidget*>{cmdok, abwaerts[0], abwaerts[1], comdrucken, datali})
+    widget->setEnabled(frei);
+}
+
+void TA_TOVA::VolkAnzeigen() {
+  const int zeile = aktuelleZeile();
+  if (zeile < 0) {
+    Meldungen::Hinweis(
+        QStringLiteral(
+            "Bitte markieren Sie erst das Volk, von dem Sie die verschiedenen Daten anzeigen "
+            "möchten oder machen Sie einen Doppelklick auf das entsprechende Volk."),
+        this);
+    return;
+  }
+  const Ereignis::Sanduhr sanduhr;
+  const auto spaltenwert = [this, zeile](const QString& spalte) { return zelle(zeile, spalte); };
+  bildpos[10]->setText(spaltenwert(QStringLiteral("Volknr")));
+  bildpos[11]->setText(spaltenwert(QStringLiteral("Volkname")));
+  Volkanzeige::Honig honig;
+  if (kon1->isChecked()) honig = Volkanzeige::honig(m_db, spaltenwert(QStringLiteral("ID")));
+  bildpos[19]->setText(honig.letzte);
+  bildpos[9]->setText(honig.jahr);
+  bildpos[20]->setText(honig.alles);
+  m_text = Volkanzeige::text(m_db, spaltenwert, kon->isChecked());
+  text1->setPlainText(m_text);
+}
+
+void TA_TOVA::wechseln(int richtung) {
+  VolkWechseln(richtung);
+  VolkAnzeigen();
+}
+
+// The text output shows the file once its form exists.
+void TA_TOVA::panelListen() {
+  if (aktuelleZeile() < 0) {
+    Meldungen::Hinweis(QStringLiteral("Sie müssen zuerst ein Volk auswählen, bevor Sie die Daten "
+                                      "listen/drucken können."),
+                       this);
+    return;
+  }
+  VolkAnzeigen();
+  FormModus = m_text;
+  AusgabeDatei = AppPfad + QStringLiteral("LISTE.TXT");
+  Textdatei::schreibenGanz(AusgabeDatei, m_text);
+}
+
+void TA_TOVA::grafikUmschalten() {
+  EinstellungenZahl[69] = kon1->isChecked() ? 1 : 0;
+  bild->setVisible(kon1->isChecked());
+  if (!m_grafikGesperrt) VolkAnzeigen();
+}
+
+void TA_TOVA::breitenUmschalten() {
+  EinstellungenZahl[58] = EinstellungenZahl[58] != 0 ? 0 : 1;
+  breitenTeilen();
+}

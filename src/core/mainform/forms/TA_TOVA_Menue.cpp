@@ -1,0 +1,163 @@
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "colonies/forms/TV_Neues_Volk.h"
+#include "core/mainform/forms/Symbol.h"
+#include "core/mainform/forms/TA_TOVA.h"
+#include "platform/controls/Ereignis.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/Meldungen.h"
+
+void TA_TOVA::menuesBauen() {
+  for (const Menue::Menue& vorlage : Menue::menues()) {
+    QMenu* menue = menuBar()->addMenu(vorlage.titel);
+    menue->setObjectName(vorlage.name);
+    menue->menuAction()->setObjectName(vorlage.name);
+    menue->installEventFilter(this);
+    m_menues << menue;
+    for (const Menue::Eintrag& eintrag : vorlage.eintraege) {
+      if (eintrag.ziel == Menue::Ziel::Beenden) menue->addSeparator();
+      QAction* aktion = menue->addAction(eintrag.titel);
+      aktion->setObjectName(eintrag.name);
+      m_aktionen[eintrag.name] = aktion;
+      Ereignis::wenn(aktion, &QAction::triggered, this,
+                     [this, name = eintrag.name] { waehlen(name); });
+    }
+  }
+}
+
+void TA_TOVA::leisteBauen() {
+  mleiste = addToolBar(QStringLiteral("Werkzeugleiste"));
+  mleiste->setObjectName(QStringLiteral("mleiste"));
+  mleiste->setMovable(false);
+  mleiste->setContextMenuPolicy(Qt::PreventContextMenu);
+  QFont klein = font();
+  klein.setPointSizeF(klein.pointSizeF() * 0.85);
+  for (const Menue::Taste& taste : Menue::tasten()) {
+    if (taste.neueGruppe) mleiste->addSeparator();
+    const QString hinweis = Menue::ohneMnemonik(Menue::eintrag(taste.eintrag).titel);
+    QAction* aktion = mleiste->addAction(symbol(taste.symbol), taste.kurztext);
+    aktion->setObjectName(taste.name);
+    aktion->setToolTip(hinweis);
+    Ereignis::wenn(aktion, &QAction::triggered, this,
+                   [this, name = taste.eintrag] { waehlen(name); });
+    m_tasten << aktion;
+    QWidget* knopf = mleiste->widgetForAction(aktion);
+    knopf->setObjectName(taste.name);
+    knopf->setAccessibleName(hinweis);
+    knopf->setFont(klein);
+  }
+}
+
+// Texts under the symbols when the window is wide enough for all of them.
+void TA_TOVA::leisteAnpassen() {
+  const int symbolgroesse = fontMetrics().height() * 3 / 2;
+  mleiste->setIconSize(QSize(symbolgroesse, symbolgroesse));
+  mleiste->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  mleiste->ensurePolished();
+  if (mleiste->sizeHint().width() > width()) mleiste->setToolButtonStyle(Qt::ToolButtonIconOnly);
+}
+
+void TA_TOVA::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  leisteAnpassen();
+}
+
+void TA_TOVA::popupBauen() {
+  popupliste = new QMenu(this);
+  popupliste->setObjectName(QStringLiteral("popupliste"));
+  for (int i = 0; i < Menue::popup().size(); ++i) {
+    const Menue::Popupzeile& zeile = Menue::popup()[i];
+    QAction* aktion =
+        zeile.eintrag.isEmpty() ? popupliste->addSeparator() : popupliste->addAction(zeile.titel);
+    aktion->setObjectName(QStringLiteral("popzeile_%1").arg(i));
+    Ereignis::wenn(aktion, &QAction::triggered, this, [this, i] { popupWaehlen(i); });
+    popzeile << aktion;
+  }
+  datali->setContextMenuPolicy(Qt::CustomContextMenu);
+  Ereignis::wenn(datali, &QWidget::customContextMenuRequested, this, [this](const QPoint& ort) {
+    popupliste->popup(datali->viewport()->mapToGlobal(ort));
+  });
+}
+
+void TA_TOVA::popupWaehlen(int index) {
+  if (index >= 1 && markierteZeilen().isEmpty()) {
+    Meldungen::Hinweis(Menue::nichtsMarkiertText(), this);
+    return;
+  }
+  waehlen(Menue::popup()[index].eintrag);
+}
+
+void TA_TOVA::befehleAnpassen() {
+  const bool zeileDa = aktuelleZeile() >= 0;
+  const bool listeDa = zeilen() > 0;
+  for (const Menue::Menue& menue : Menue::menues())
+    for (const Menue::Eintrag& eintrag : menue.eintraege)
+      m_aktionen[eintrag.name]->setEnabled(
+          Menue::waehlbar(eintrag.ziel, eintrag.regel, zeileDa, listeDa));
+  for (int i = 0; i < m_tasten.size(); ++i) {
+    const Menue::Taste& taste = Menue::tasten()[i];
+    m_tasten[i]->setEnabled(
+        Menue::waehlbar(Menue::eintrag(taste.eintrag).ziel, taste.regel, zeileDa, listeDa));
+  }
+  for (int i = 1; i < popzeile.size(); ++i) popzeile[i]->setEnabled(zeileDa);
+}
+
+void TA_TOVA::waehlen(const QString& eintrag) { ausfuehren(Menue::eintrag(eintrag)); }
+
+void TA_TOVA::ausfuehren(const Menue::Eintrag& eintrag) {
+  switch (eintrag.ziel) {
+    case Menue::Ziel::NochNicht:
+      return;
+    case Menue::Ziel::NeuesVolk:
+      m_formen.volk(QStringLiteral("Neu"));
+      break;
+    case Menue::Ziel::VolkAendern:
+      m_formen.volk(QStringLiteral("Ändern"));
+      break;
+    case Menue::Ziel::VolkLoeschen:
+      volkLoeschenMitFrage(this);
+      break;
+    case Menue::Ziel::Beenden:
+      close();
+      return;
+    case Menue::Ziel::Eingabe:
+      m_formen.eingabe(eintrag.wert.toInt());
+      break;
+    case Menue::Ziel::Komprimieren:
+      komprimieren();
+      return;
+    case Menue::Ziel::WieAnfangen:
+      m_formen.wieAnfangen();
+      break;
+    case Menue::Ziel::Hilfe:
+      Formen::hilfe(this, eintrag.wert);
+      return;
+  }
+  aktivieren();
+}
+
+void TA_TOVA::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_F1) {
+    QMainWindow::keyPressEvent(event);
+    return;
+  }
+  Ereignis::ausfuehren(this, [this] { Formen::hilfe(this, QStringLiteral("Hilfe_Startmenue")); });
+}
+
+// F1 on an open menu shows that menu's topic.
+bool TA_TOVA::eventFilter(QObject* objekt, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1) {
+    for (const Menue::Menue& vorlage : Menue::menues()) {
+      if (vorlage.name != objekt->objectName()) continue;
+      static_cast<QMenu*>(objekt)->close();
+      Ereignis::ausfuehren(this, [&] { Formen::hilfe(this, vorlage.hilfethema); });
+      return true;
+    }
+  }
+  return QMainWindow::eventFilter(objekt, event);
+}

@@ -1,0 +1,102 @@
+#include "core/mainform/forms/TH_Hilfe_Wieanfangen.h"
+
+#include <QDialogButtonBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "core/mainform/forms/Symbol.h"
+#include "platform/controls/Ereignis.h"
+
+namespace {
+
+struct Schritttext {
+  const char* symbol;
+  const char* titel;
+  const char* text;
+  const char* knopf;
+};
+
+constexpr Schritttext Texte[] = {
+    {"standort", "Standorte anlegen",
+     "Tragen Sie ein, wo Ihre Völker stehen. Die Standorte stehen danach bei jedem Volk und bei "
+     "jeder Wanderung zur Auswahl.",
+     "&Standorte eingeben"},
+    {"planung", "Arbeitsplan festlegen",
+     "Wählen Sie die Arbeiten, die im Bienenjahr wiederkehren. TOVA berechnet daraus die Termine "
+     "für jedes Volk.",
+     "&Arbeitsplan öffnen"},
+    {"volk_neu", "Völker eingeben",
+     "Legen Sie Ihre Völker mit Nummer, Standort und Königin an. Danach können Sie Stockkarten, "
+     "Ernten und alle anderen Arbeiten buchen.",
+     "&Völker eingeben"},
+};
+
+QLabel* titelzeile(const QString& text, double faktor, QWidget* eltern) {
+  auto* label = new QLabel(text, eltern);
+  QFont schrift = label->font();
+  schrift.setBold(true);
+  schrift.setPointSizeF(schrift.pointSizeF() * faktor);
+  label->setFont(schrift);
+  return label;
+}
+
+}  // namespace
+
+TH_Hilfe_Wieanfangen::TH_Hilfe_Wieanfangen(QWidget* oeffner, const Schritte& schritte)
+    : Formular(QStringLiteral("TH_Hilfe_Wieanfangen"),
+               QStringLiteral("Die ersten Schritte in TOVA"), oeffner) {
+  auto* seite = new QVBoxLayout(this);
+  seite->setSpacing(12);
+  seite->addWidget(titelzeile(QStringLiteral("Willkommen bei TOVA"), 1.4, this));
+  auto* einleitung = new QLabel(
+      QStringLiteral(
+          "In drei Schritten ist Ihre Imkerei eingerichtet. Nur der dritte ist nötig, die anderen "
+          "können Sie jederzeit nachholen."),
+      this);
+  einleitung->setWordWrap(true);
+  seite->addWidget(einleitung);
+  for (int i = 0; i < 3; ++i) seite->addWidget(schrittBauen(i, schritte[static_cast<size_t>(i)]));
+  seite->addStretch();
+
+  auto* knoepfe = new QDialogButtonBox(this);
+  schliessen = knoepfe->addButton(QStringLiteral("S&chließen"), QDialogButtonBox::RejectRole);
+  schliessen->setObjectName(QStringLiteral("schliessen"));
+  seite->addWidget(knoepfe);
+  connect(knoepfe, &QDialogButtonBox::rejected, this, [this] { reject(); });
+  schritt[2]->setDefault(true);
+  schritt[2]->setFocus();
+}
+
+QWidget* TH_Hilfe_Wieanfangen::schrittBauen(int nummer, const std::function<void()>& aktion) {
+  const Schritttext& inhalt = Texte[nummer];
+  auto* karte = new QFrame(this);
+  karte->setFrameShape(QFrame::StyledPanel);
+  auto* raster = new QGridLayout(karte);
+  raster->setHorizontalSpacing(14);
+  raster->setColumnStretch(1, 1);
+
+  auto* bild = new QLabel(karte);
+  const int groesse = fontMetrics().height() * 2;
+  bild->setPixmap(symbol(QLatin1String(inhalt.symbol)).pixmap(groesse, groesse));
+  raster->addWidget(bild, 0, 0, 2, 1, Qt::AlignTop);
+  raster->addWidget(
+      titelzeile(QStringLiteral("%1. %2").arg(nummer + 1).arg(QString::fromUtf8(inhalt.titel)), 1.1,
+                 karte),
+      0, 1);
+  auto* text = new QLabel(QString::fromUtf8(inhalt.text), karte);
+  text->setWordWrap(true);
+  text->setMinimumWidth(fontMetrics().averageCharWidth() * 48);
+  raster->addWidget(text, 1, 1);
+
+  auto* knopf = new QPushButton(QString::fromUtf8(inhalt.knopf), karte);
+  knopf->setObjectName(QStringLiteral("schritt_%1").arg(nummer));
+  knopf->setAutoDefault(static_cast<bool>(aktion));
+  knopf->setEnabled(static_cast<bool>(aktion));
+  raster->addWidget(knopf, 0, 2, 2, 1, Qt::AlignVCenter);
+  if (aktion) Ereignis::wenn(knopf, &QPushButton::clicked, this, [aktion] { aktion(); });
+  schritt[static_cast<size_t>(nummer)] = knopf;
+  return karte;
+}
