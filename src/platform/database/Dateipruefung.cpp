@@ -14,7 +14,10 @@ using Art = Datenbankfehler::Art;
 constexpr int kopflaenge = 100;
 constexpr char kennung[] = "SQLite format 3";  // with its closing zero byte
 // The first bytes of the file format that earlier versions of the program used.
-constexpr char altesFormat[] = "\0\1\0\0Standard Jet DB";
+constexpr char altesFormat[] =
+    "\x00\x01\x00\x00"
+    "\x53\x74\x61\x6e\x64\x61\x72\x64"
+    "\x20\x4a\x65\x74\x20\x44\x42";
 
 [[noreturn]] void keine(const QString& text, const QString& pfad) {
   throw Datenbankfehler(Art::KeineDatenbank, text.arg(QDir::toNativeSeparators(pfad)));

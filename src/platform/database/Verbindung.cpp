@@ -17,8 +17,9 @@ constexpr int wartezeitMs = 2000;
 
 // The connections of this process, to know the file that is open already.
 QList<Verbindung*>& offeneVerbindungen() {
-  static QList<Verbindung*> liste;
-  return liste;
+  // Never destroyed: a connection of the global state may end after all static lists.
+  static auto* liste = new QList<Verbindung*>;
+  return *liste;
 }
 
 QString ortVon(const QString& pfad) {

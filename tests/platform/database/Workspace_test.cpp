@@ -162,8 +162,9 @@ TEST_F(WorkspaceTest, EineAndereBinaerdatei) {
 }
 
 TEST_F(WorkspaceTest, DieDatenbankEinerAelterenVersion) {
-  schreibeDatei(imOrdner(s("x.MDB")),
-                QByteArray("\0\1\0\0Standard Jet DB\0", 20) + QByteArray(2028, '\7'));
+  schreibeDatei(
+      imOrdner(s("x.MDB")),
+      QByteArray::fromHex("000100005374616e64617264204a657420444200") + QByteArray(2028, '\7'));
   erwarteAbgelehnt(imOrdner(s("x.MDB")), Keine, "Datenbank einer älteren TOVA-Version");
 }
 
