@@ -76,6 +76,7 @@ TA_TOVA::TA_TOVA() {
 }
 
 TA_TOVA::~TA_TOVA() {
+  datali->blockSignals(true);  // it goes after this object has lost its members
   if (hauptliste() == this) setHauptliste(nullptr);
 }
 
@@ -83,6 +84,7 @@ void TA_TOVA::inhaltBauen() {
   auto* mitte = new QWidget(this);
   teiler = benannt(new QSplitter(Qt::Horizontal, mitte), QStringLiteral("teiler"));
   teiler->setChildrenCollapsible(false);
+  teiler->setHandleWidth(9);
   auto* oben = new QHBoxLayout;
   filterBauen(oben);
   oben->addStretch();
@@ -119,6 +121,7 @@ void TA_TOVA::knoepfeBauen(QHBoxLayout* zeile) {
                            QStringLiteral("Tierdaten drucken"), this);
   linksrechts = symbolknopf(QStringLiteral("linksrechts"), QStringLiteral("breite"),
                             QStringLiteral("Textfeldbreite ändern"), this);
+  cmdok->setMinimumWidth(cmdok->sizeHint().width() + 2 * fontMetrics().averageCharWidth());
   zeile->addWidget(cmdok);
   for (QToolButton* knopf : {abwaerts[0], abwaerts[1], comdrucken, linksrechts})
     zeile->addWidget(knopf);
@@ -162,8 +165,8 @@ QWidget* TA_TOVA::panelBauen() {
   text1->setFont(festeSchrift(font()));
   text1->setAccessibleName(QStringLiteral("Volk-Info"));
   text1->setPlaceholderText(
-      QStringLiteral("Wählen Sie links ein Volk und dann „Volk-Info anzeigen“,\n"
-                     "oder klicken Sie das Volk doppelt an."));
+      QStringLiteral("Wählen Sie in der Liste ein Volk\nund dann „Volk-Info anzeigen“,\n"
+                     "oder klicken Sie es doppelt an."));
   spalte->addWidget(text1, 1);
   return seite;
 }
@@ -178,6 +181,7 @@ QFrame* TA_TOVA::bildBauen() {
     bildpos[i] = benannt(new QLabel(bild), QStringLiteral("bildpos_%1").arg(i));
   fett(bildpos[10]);
   auto* kopf = new QHBoxLayout;
+  kopf->setSpacing(10);
   kopf->addWidget(bildpos[10]);
   kopf->addWidget(bildpos[11]);
   kopf->addStretch();

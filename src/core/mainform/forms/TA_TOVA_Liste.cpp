@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScopeGuard>
@@ -49,12 +50,12 @@ void TA_TOVA::loescheZeile(int zeile) {
 // A failing statement must not leave the program locked, nor come back at each activation.
 void TA_TOVA::datenvölkerlesen() {
   const Ereignis::Sanduhr sanduhr;
-  const bool listeHatFokus = datali->hasFocus();
+  const QPointer<QWidget> imFokus = focusWidget();
   MenueSperren(false);
-  const auto frei = qScopeGuard([this, listeHatFokus] {
+  const auto frei = qScopeGuard([this, imFokus] {
     MenueSperren(true);
     ListeNeuLesen = 0;
-    if (listeHatFokus) datali->setFocus();
+    if (imFokus) imFokus->setFocus();
   });
 
   listenfelderPruefen();

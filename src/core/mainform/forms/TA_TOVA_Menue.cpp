@@ -53,13 +53,14 @@ void TA_TOVA::leisteBauen() {
   }
 }
 
-// Texts under the symbols when the window is wide enough for all of them.
+// Texts under the symbols when the window is wide enough for all of them, else larger symbols.
 void TA_TOVA::leisteAnpassen() {
-  const int symbolgroesse = fontMetrics().height() * 3 / 2;
-  mleiste->setIconSize(QSize(symbolgroesse, symbolgroesse));
+  const int hoehe = fontMetrics().height();
+  mleiste->setIconSize(QSize(hoehe, hoehe) * 1.5);
   mleiste->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  mleiste->ensurePolished();
-  if (mleiste->sizeHint().width() > width()) mleiste->setToolButtonStyle(Qt::ToolButtonIconOnly);
+  if (mleiste->sizeHint().width() <= width()) return;
+  mleiste->setToolButtonStyle(Qt::ToolButtonIconOnly);
+  mleiste->setIconSize(QSize(hoehe, hoehe) * 1.75);
 }
 
 void TA_TOVA::resizeEvent(QResizeEvent* event) {
@@ -146,7 +147,7 @@ void TA_TOVA::keyPressEvent(QKeyEvent* event) {
     QMainWindow::keyPressEvent(event);
     return;
   }
-  Ereignis::ausfuehren(this, [this] { Formen::hilfe(this, QStringLiteral("Hilfe_Startmenue")); });
+  Ereignis::ausfuehren(this, [this] { Formen::hilfe(this, objectName()); });
 }
 
 // F1 on an open menu shows that menu's topic.

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPrinterInfo>
 #include <QScopeGuard>
+#include <QScreen>
 
 #include "core/globals.h"
 #include "core/mainform/Komprimieren.h"
@@ -98,7 +99,9 @@ void TA_TOVA::einstellungenAnwenden() {
 void TA_TOVA::zeigen() {
   const QByteArray lage = Fensterablage::lesen(Fensterschluessel).toByteArray();
   if (lage.isEmpty() || !restoreGeometry(lage)) {
-    resize(1200, 720);
+    const QRect frei = screen()->availableGeometry();
+    move(frei.topLeft());
+    resize(frei.width(), frei.height() - 40);
     showMaximized();
     return;
   }
@@ -107,7 +110,10 @@ void TA_TOVA::zeigen() {
 
 void TA_TOVA::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
-  if (!event->spontaneous()) breitenTeilen();
+  if (!event->spontaneous()) {
+    breitenTeilen();
+    datali->setFocus();
+  }
   aktivierenVormerken();
 }
 

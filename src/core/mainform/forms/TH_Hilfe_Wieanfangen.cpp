@@ -43,6 +43,17 @@ QLabel* titelzeile(const QString& text, double faktor, QWidget* eltern) {
   return label;
 }
 
+// Wraps the text in at least that many characters a line and keeps the height it needs then; left
+// to themselves, nested layouts cut it off.
+void umbrechen(QLabel* label, int zeichen) {
+  label->setWordWrap(true);
+  label->setMinimumWidth(label->fontMetrics().averageCharWidth() * zeichen);
+  label->setMinimumHeight(label->heightForWidth(label->minimumWidth()));
+  QSizePolicy verhalten = label->sizePolicy();
+  verhalten.setHeightForWidth(false);
+  label->setSizePolicy(verhalten);
+}
+
 }  // namespace
 
 TH_Hilfe_Wieanfangen::TH_Hilfe_Wieanfangen(QWidget* oeffner, const Schritte& schritte)
@@ -56,7 +67,7 @@ TH_Hilfe_Wieanfangen::TH_Hilfe_Wieanfangen(QWidget* oeffner, const Schritte& sch
           "In drei Schritten ist Ihre Imkerei eingerichtet. Nur der dritte ist nötig, die anderen "
           "können Sie jederzeit nachholen."),
       this);
-  einleitung->setWordWrap(true);
+  umbrechen(einleitung, 72);
   seite->addWidget(einleitung);
   for (int i = 0; i < 3; ++i) seite->addWidget(schrittBauen(i, schritte[static_cast<size_t>(i)]));
   seite->addStretch();
@@ -87,12 +98,12 @@ QWidget* TH_Hilfe_Wieanfangen::schrittBauen(int nummer, const std::function<void
                  karte),
       0, 1);
   auto* text = new QLabel(QString::fromUtf8(inhalt.text), karte);
-  text->setWordWrap(true);
-  text->setMinimumWidth(fontMetrics().averageCharWidth() * 48);
+  umbrechen(text, 48);
   raster->addWidget(text, 1, 1);
 
   auto* knopf = new QPushButton(QString::fromUtf8(inhalt.knopf), karte);
   knopf->setObjectName(QStringLiteral("schritt_%1").arg(nummer));
+  knopf->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
   knopf->setAutoDefault(static_cast<bool>(aktion));
   knopf->setEnabled(static_cast<bool>(aktion));
   raster->addWidget(knopf, 0, 2, 2, 1, Qt::AlignVCenter);

@@ -297,6 +297,12 @@ TEST_F(Voelkerliste, MenueSperrenTrifftListeLeisteMenuesUndKnoepfe) {
   }
 }
 
+TEST_F(Voelkerliste, NachDemStartHatDieListeDenFokus) {
+  voelker(2);
+  starten();
+  EXPECT_EQ(form->focusWidget(), datali());
+}
+
 TEST_F(Voelkerliste, NeuLesenNimmtDerListeDenFokusNicht) {
   voelker(2);
   starten();

@@ -210,6 +210,15 @@ TEST_F(Hauptmenue, FehlendeHilfedateiWirdGenannt) {
   aktion("hilfestartmenue")->trigger();
 }
 
+TEST_F(Hauptmenue, F1ZeigtDieHilfeDesHauptformulars) {
+  voelker(1);
+  dateiSchreiben("HILFETOVA.HLP", "TA_TOVA\r\nText\r\n#ende#\r\n");
+  starten();
+  Formbesuch besuch("TH_Hilfe", [](QWidget*) { EXPECT_EQ(HilfeThema, "TA_TOVA"); });
+  QTest::keyClick(datali(), Qt::Key_F1);
+  EXPECT_TRUE(besuch.war());
+}
+
 TEST_F(Hauptmenue, F1AufEinemMenueZeigtDessenThema) {
   voelker(1);
   dateiSchreiben("HILFETOVA.HLP", "Hilfe_Optionen\r\nText\r\n#ende#\r\n");

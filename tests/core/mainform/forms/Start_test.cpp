@@ -161,6 +161,18 @@ TEST_F(Hauptstart, SchliessenLoeschtBerichteUndSichertDieEinstellungen) {
   EXPECT_EQ(EinstellungenZahl[17], 33);
 }
 
+TEST_F(Hauptstart, EinstellungenDieSichNichtSchreibenLassenHaltenDasSchliessenNichtAuf) {
+  voelker(1);
+  starten();
+  ASSERT_TRUE(QFile::remove(datei("Einstellungen.TV2")));
+  ASSERT_TRUE(QDir(m_ordner.path()).mkpath("Einstellungen.TV2/voll"));
+  dateiSchreiben("report-1.htm", "x");
+  probe.hinweisMit("Einstellungen.TV2");
+  aktion("XV_beenden")->trigger();
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_FALSE(QFile::exists(datei("report-1.htm")));
+}
+
 TEST_F(Hauptstart, FensterlageWirdGemerkt) {
   voelker(1);
   starten();
