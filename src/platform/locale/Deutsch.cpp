@@ -142,7 +142,19 @@ std::optional<QDate> datum(QStringView text) {
 }
 
 QString datumText(QDate datum) {
-  return datum.isValid() ? datum.toString(QStringLiteral("dd.MM.yyyy")) : QString();
+  if (!datum.isValid()) return {};
+  int jahr = 0, monat = 0, tag = 0;
+  datum.getDate(&jahr, &monat, &tag);
+  if (jahr < 0 || jahr > 9999) return datum.toString(QStringLiteral("dd.MM.yyyy"));
+  // By hand: lists show dates by the thousand.
+  QString text(10, u'.');
+  const auto setze = [&text](qsizetype ende, int stellen, int zahl) {
+    for (; stellen > 0; --stellen, zahl /= 10) text[--ende] = QChar(u'0' + zahl % 10);
+  };
+  setze(2, 2, tag);
+  setze(5, 2, monat);
+  setze(10, 4, jahr);
+  return text;
 }
 
 QString zahl(double wert, int nachkommastellen) {
