@@ -44,6 +44,10 @@ void stockkartenfelderPruefen() {
   if (!EinstellungenText[24].contains(u'1')) EinstellungenText[24] = QString(60, u'1');
 }
 
+const QString& listenfelderStandard() { return Volkfelder; }
+
+const QString& stockkartenfelderStandard() { return Stockkartenfelder; }
+
 QString volklisteAnweisung(Volkfilter filter) {
   QString anweisung = EinstellungenText[17];
   if (filter == Volkfilter::Bestand) anweisung += QStringLiteral(" where Akt_im_Bestand = 'X'");

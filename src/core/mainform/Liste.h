@@ -14,6 +14,9 @@ void listenfelderPruefen();
 // The same for the stock card's select (EinstellungenText 22); a panel selection
 // (EinstellungenText 24) without any "1" becomes sixty times "1".
 void stockkartenfelderPruefen();
+// The selects that a first start has.
+const QString& listenfelderStandard();
+const QString& stockkartenfelderStandard();
 
 // The list's statement with filter and start sort (EinstellungenText 33 and 34).
 QString volklisteAnweisung(Volkfilter filter);

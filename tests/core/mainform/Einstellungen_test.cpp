@@ -1,0 +1,351 @@
+#include "core/mainform/Einstellungen.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSet>
+
+#include "Umfeld.h"
+#include "core/mainform/Feldfolge.h"
+#include "core/mainform/Liste.h"
+#include "core/settings.h"
+#include "platform/files/Textdatei.h"
+
+using namespace TZ_Variablen;
+using Einstellungen::Stand;
+
+class Einstellungsdaten : public Umfeld {
+ protected:
+  void SetUp() override {
+    Umfeld::SetUp();
+    datenbank();
+    EinstellungenStandard(QDate(2024, 6, 15));
+    MehrwertsteuerPruefen();
+    WabenJeMagazinPruefen();
+    listenfelderPruefen();
+    stockkartenfelderPruefen();
+  }
+  static Stand stand() { return Einstellungen::lesen(DB); }
+  static void speichern(const Stand& stand) { Einstellungen::speichern(stand, DB); }
+  // Saves one input and gives what its whole-number slot then holds.
+  static int gespeichert(int sevt, const QString& text, int slot) {
+    Stand s = stand();
+    s.sevt[sevt] = text;
+    speichern(s);
+    return EinstellungenZahl[static_cast<size_t>(slot)];
+  }
+};
+
+TEST_F(Einstellungsdaten, JederSchalterHatSeinenPlatzUndText) {
+  const QList<std::tuple<int, int, QString>> erwartet = {
+      {0, 13, "Bei jedem Programmstart die Terminliste für die nächsten Tage öffnen"},
+      {1, 48, "Anzahl Datensätze anzeigen (nur bei Explorer-Auswertung)"},
+      {2, 47, "Seite x von x anzeigen (nur bei Explorer-Auswertung)"},
+      {3, 57, "Volknummer bei Eingabe automatisch hochzählen"},
+      {4, 46, "Datum bei jeder Auswertung als Listenkopf schreiben"},
+      {5, 24, "Jede erfolgreiche Eingabe mit einem Piepton bestätigen"},
+      {6, 51,
+       "Anzeige der laufenden Nummer statt der Volknummer in der ersten Spalte im Hauptmodul"},
+      {7, 55, "Löschen von Buchungen nur nach einer Sicherheitsabfrage"},
+      {8, 68,
+       "Honigernten automatisch als Zugang im Honiglager einbuchen (Nur neue Honigernten - keine "
+       "Änderungen und Löschungen)"},
+      {10, 72,
+       "Bei allen Sammelbuchungen die Mengen, Zeiten und die Kosten immer durch die Anzahl "
+       "ausgewählter Völker teilen"},
+      {11, 73,
+       "Bei neuen Buchungen für Honigernten nicht die Honigmenge, sondern die Anzahl Honigwaben "
+       "eintragen und diese intern mit folgendem Wert multiplizieren..."}};
+  ASSERT_EQ(Einstellungen::schalter().size(), erwartet.size());
+  for (const auto& [index, slot, text] : erwartet) {
+    EXPECT_EQ(Einstellungen::schalter(index).slot, slot);
+    EXPECT_EQ(Einstellungen::schalter(index).beschriftung, text);
+    for (const bool ja : {true, false}) {
+      Stand s = stand();
+      s.kon[index] = ja;
+      speichern(s);
+      EXPECT_EQ(EinstellungenZahl[static_cast<size_t>(slot)], ja ? 1 : 0) << slot;
+      EXPECT_EQ(stand().kon[index], ja) << slot;
+    }
+  }
+}
+
+TEST_F(Einstellungsdaten, JedeEingabeHatIhrenPlatzUndText) {
+  const QList<std::tuple<int, int, QString>> erwartet = {
+      {0, 50, "Anzahl Tage zwischen zwei Datensicherungen"},
+      {1, 17, "Offene Termine beim Start berechnen bis"},
+      {2, 0, "Kopftext, der bei den Auswertungen mit ausgedruckt werden soll"},
+      {3, 4, "Tabellentrennzeichen für die Text-Darstellung"},
+      {4, 49, "Anzahl Zeilen je Seite bei Explorer-Auswertung"},
+      {5, 0, "Honigwert je kg"},
+      {6, 1, "Wachswert je kg"},
+      {7, 2, "Pollenwert je g"},
+      {8, 3, "Wert sonstige Ernte je g"},
+      {9, 4, "Kostensatz je Stunde bei Buchungen"},
+      {10, 44, "MwSt-Satz 1 (linke Maustaste im Taschenrechner)"},
+      {11, 45, "MwSt-Satz 2 (rechte Maustaste im Taschenrechner)"},
+      {12, 5, "Honigmenge je Honigwabe in kg"},
+      {13, 33, "1. Sortierung"},
+      {14, 34, "2. Sortierung"},
+      {15, 56, "Standardanzahl Waben je Magazin"}};
+  ASSERT_EQ(Einstellungen::eingaben().size(), erwartet.size());
+  for (const auto& [index, slot, text] : erwartet) {
+    EXPECT_EQ(Einstellungen::eingabe(index).slot, slot) << index;
+    EXPECT_EQ(Einstellungen::eingabe(index).beschriftung, text) << index;
+  }
+}
+
+TEST_F(Einstellungsdaten, ZahlenGehenInIhrenPlatzUndZurueck) {
+  for (const auto& [sevt, slot] : {std::pair(0, 50), {1, 17}, {4, 49}, {10, 44}, {11, 45}}) {
+    EXPECT_EQ(gespeichert(sevt, "33", slot), 33) << slot;
+    EXPECT_EQ(stand().sevt[sevt], "33");
+  }
+  EXPECT_EQ(gespeichert(15, "12", 56), 12);
+}
+
+TEST_F(Einstellungsdaten, TageZwischenSicherungenEinsBis999SonstVierzehn) {
+  EXPECT_EQ(gespeichert(0, "0", 50), 14);
+  EXPECT_EQ(gespeichert(0, "", 50), 14);
+  EXPECT_EQ(gespeichert(0, "1", 50), 1);
+  EXPECT_EQ(gespeichert(0, "999", 50), 999);
+  EXPECT_EQ(gespeichert(0, "1000", 50), 14);
+}
+
+TEST_F(Einstellungsdaten, TerminhorizontEinsBis365) {
+  EXPECT_EQ(gespeichert(1, "0", 17), 14);
+  EXPECT_EQ(gespeichert(1, "1", 17), 1);
+  EXPECT_EQ(gespeichert(1, "365", 17), 365);
+  EXPECT_EQ(gespeichert(1, "366", 17), 365);
+  EXPECT_EQ(gespeichert(1, "99999999999", 17), 365);
+}
+
+TEST_F(Einstellungsdaten, ZeilenJeSeiteMindestensDreissig) {
+  EXPECT_EQ(stand().sevt[4], "60");
+  EXPECT_EQ(gespeichert(4, "29", 49), 30);
+  EXPECT_EQ(gespeichert(4, "30", 49), 30);
+  EXPECT_EQ(gespeichert(4, "9999", 49), 9999);
+  EXPECT_EQ(gespeichert(4, "70000", 49), 9999);
+}
+
+TEST_F(Einstellungsdaten, MehrwertsteuerEinsBisFuenfzig) {
+  EXPECT_EQ(stand().sevt[10], "19");
+  EXPECT_EQ(stand().sevt[11], "7");
+  for (const char* text : {"0", "51", ""}) {
+    EXPECT_EQ(gespeichert(10, text, 44), 19);
+    EXPECT_EQ(gespeichert(11, text, 45), 7);
+  }
+  EXPECT_EQ(gespeichert(10, "1", 44), 1);
+  EXPECT_EQ(gespeichert(11, "50", 45), 50);
+}
+
+TEST_F(Einstellungsdaten, WabenJeMagazinAchtBisSechzehn) {
+  EXPECT_EQ(stand().sevt[15], "10");
+  EXPECT_EQ(gespeichert(15, "7", 56), 10);
+  EXPECT_EQ(gespeichert(15, "8", 56), 8);
+  EXPECT_EQ(gespeichert(15, "16", 56), 16);
+  EXPECT_EQ(gespeichert(15, "17", 56), 10);
+}
+
+TEST_F(Einstellungsdaten, WerteMitZweiNachkommastellen) {
+  Stand s = stand();
+  EXPECT_EQ(s.sevt[5], "0,00");
+  const QList<std::pair<int, QString>> texte = {{5, "7,50"}, {6, "12,00"}, {7, "0,03"},
+                                                {8, "0,10"}, {9, "15,25"}, {12, "1,90"}};
+  for (const auto& [sevt, text] : texte) s.sevt[sevt] = text;
+  speichern(s);
+  EXPECT_EQ(EinstellungenWert[0], 7.5f);
+  EXPECT_EQ(EinstellungenWert[1], 12.0f);
+  EXPECT_EQ(EinstellungenWert[2], 0.03f);
+  EXPECT_EQ(EinstellungenWert[3], 0.1f);
+  EXPECT_EQ(EinstellungenWert[4], 15.25f);
+  EXPECT_EQ(EinstellungenWert[5], 1.9f);
+  EinstellungenWert.fill(0);
+  EinstellungenLesen();
+  for (const auto& [sevt, text] : texte) EXPECT_EQ(stand().sevt[sevt], text) << sevt;
+}
+
+TEST_F(Einstellungsdaten, KopftextUndTrennzeichenBleibenWieGetippt) {
+  Stand s = stand();
+  s.sevt[2] = "Imkerei Müller | Waldhof";
+  s.sevt[3] = "; ";
+  speichern(s);
+  EXPECT_EQ(EinstellungenText[0], QString("Imkerei Müller | Waldhof"));
+  EXPECT_EQ(EinstellungenText[4], "; ");
+  EinstellungenText[0].clear();
+  EinstellungenText[4].clear();
+  EinstellungenLesen();
+  EXPECT_EQ(stand().sevt[2], QString("Imkerei Müller | Waldhof"));
+  EXPECT_EQ(stand().sevt[3], "; ");
+}
+
+TEST_F(Einstellungsdaten, LeeresTrennzeichenWirdSenkrechterStrich) {
+  Stand s = stand();
+  s.sevt[3].clear();
+  speichern(s);
+  EXPECT_EQ(EinstellungenText[4], " | ");
+  EXPECT_EQ(Einstellungen::trennzeichen().first(), " | ");
+}
+
+TEST_F(Einstellungsdaten, ZweiteSortierungGleichDerErstenWirdGeleert) {
+  Stand s = stand();
+  s.sevt[13] = "Standort";
+  s.sevt[14] = "Standort";
+  speichern(s);
+  EXPECT_EQ(EinstellungenText[33], "Standort");
+  EXPECT_EQ(EinstellungenText[34], "");
+  s.sevt[14] = "Volknr";
+  speichern(s);
+  EXPECT_EQ(EinstellungenText[34], "Volknr");
+  EXPECT_EQ(volklisteAnweisung(Volkfilter::Alles).right(26), " order by Standort, Volknr");
+}
+
+TEST_F(Einstellungsdaten, SortierungNachUnbekanntemFeldGiltAlsKeine) {
+  EinstellungenText[33] = "Gibtsnicht";
+  EinstellungenText[34] = "volkname";
+  EXPECT_EQ(stand().sevt[13], "");
+  EXPECT_EQ(stand().sevt[14], "Volkname");
+}
+
+TEST_F(Einstellungsdaten, HakenSindEinZeichenJePosition) {
+  Stand s = stand();
+  ASSERT_EQ(s.gezeigt.size(), 45 + 11);
+  EXPECT_EQ(s.gezeigt.count(true), 56);
+  s.gezeigt[0] = false;   // Volkname
+  s.gezeigt[44] = false;  // Abnehmer
+  s.gezeigt[45] = false;  // Stockkarte
+  s.gezeigt[55] = false;  // Notizen
+  speichern(s);
+  EXPECT_EQ(EinstellungenText[24], "0" + QString(43, u'1') + "00" + QString(9, u'1') + "0");
+  EXPECT_EQ(stand().gezeigt, s.gezeigt);
+}
+
+TEST_F(Einstellungsdaten, GanzOhneHakenZeigtDieListeWiederAlles) {
+  Stand s = stand();
+  s.gezeigt.fill(false);
+  speichern(s);
+  stockkartenfelderPruefen();
+  EXPECT_EQ(stand().gezeigt.count(true), 56);
+}
+
+TEST_F(Einstellungsdaten, KurzeHakenfolgeZeigtDenRestNicht) {
+  EinstellungenText[24] = "101";
+  const Stand s = stand();
+  EXPECT_TRUE(s.gezeigt[0]);
+  EXPECT_FALSE(s.gezeigt[1]);
+  EXPECT_TRUE(s.gezeigt[2]);
+  EXPECT_EQ(s.gezeigt.count(true), 2);
+}
+
+TEST_F(Einstellungsdaten, BeschriftungenDesInfoFensters) {
+  const QStringList zeilen = Einstellungen::zeilentexte();
+  ASSERT_EQ(zeilen.size(), 45);
+  EXPECT_EQ(zeilen[0], "Volkname");
+  EXPECT_EQ(zeilen[5], QString("Summe Wände/Waben"));
+  EXPECT_EQ(zeilen[20], QString("Frühjahrsentw."));
+  EXPECT_EQ(zeilen[44], "Abnehmer");
+  EXPECT_EQ(Einstellungen::buchungstexte(),
+            QStringList({"Stockkarte", "Honigernte", "Wachsernte", "Pollenernte", "Sonstige Ernte",
+                         "Arbeiten", "Wanderung", "Gewichtsmessung", "Behandlung", "Königinwechsel",
+                         "Notizen"}));
+}
+
+TEST_F(Einstellungsdaten, VerschobeneFelderWerdenZuAnweisungen) {
+  Stand s = stand();
+  Feldfolge::verschieben(s.volkfelder, 1, -1);
+  Feldfolge::verschieben(s.stockfelder, 2, -1);
+  speichern(s);
+  EXPECT_TRUE(EinstellungenText[17].startsWith(QString("select Volkname, Volknr, Volkstärke, ")));
+  EXPECT_TRUE(EinstellungenText[17].endsWith("Selektiert, ID from Bienenvolk"));
+  EXPECT_TRUE(
+      EinstellungenText[22].startsWith(QString("select Datum, Brutstand, Volkstärke, Wabensitz")));
+  EXPECT_TRUE(EinstellungenText[22].endsWith("Bemerkung, ID from Stockkarte"));
+  EXPECT_EQ(stand().volkfelder, s.volkfelder);
+  EXPECT_EQ(stand().stockfelder, s.stockfelder);
+  const QString vorher = EinstellungenText[17];
+  listenfelderPruefen();
+  EXPECT_EQ(EinstellungenText[17], vorher);
+}
+
+TEST_F(Einstellungsdaten, GemerkteSortierungFolgtIhremFeld) {
+  EinstellungenZahl[25] = 2;  // Volkname
+  Stand s = stand();
+  Feldfolge::verschieben(s.volkfelder, 1, 1);
+  Feldfolge::verschieben(s.volkfelder, 2, 1);
+  speichern(s);
+  EXPECT_EQ(EinstellungenZahl[25], 4);
+  speichern(s);
+  EXPECT_EQ(EinstellungenZahl[25], 4);
+}
+
+TEST_F(Einstellungsdaten, SpeichernSchreibtDieDateiUndLaesstDieListeNeuLesen) {
+  ListeNeuLesen = 0;
+  ASSERT_FALSE(QFile::exists(datei("Einstellungen.TV2")));
+  Stand s = stand();
+  s.sevt[0] = "21";
+  speichern(s);
+  EXPECT_EQ(ListeNeuLesen, 1);
+  const QStringList zeilen = Textdatei::lesen(datei("Einstellungen.TV2"));
+  ASSERT_EQ(zeilen.size(), 173);
+  EXPECT_EQ(zeilen[50], "21");
+}
+
+TEST_F(Einstellungsdaten, AnderePlaetzeBleibenWieSieSind) {
+  const QSet<int> eigene = {13, 17, 24, 25, 44, 45, 46, 47, 48, 49, 50, 51, 55, 56, 57, 68, 72, 73};
+  for (size_t i = 0; i < EinstellungenZahl.size(); ++i)
+    if (!eigene.contains(static_cast<int>(i))) EinstellungenZahl[i] = static_cast<qint16>(1000 + i);
+  EinstellungenText[26] = "01.02.2024";
+  EinstellungenWert[6] = 4.5f;
+  speichern(stand());
+  for (size_t i = 0; i < EinstellungenZahl.size(); ++i)
+    if (!eigene.contains(static_cast<int>(i))) {
+      EXPECT_EQ(EinstellungenZahl[i], static_cast<int>(1000 + i));
+    }
+  EXPECT_EQ(EinstellungenText[26], "01.02.2024");
+  EXPECT_EQ(EinstellungenWert[6], 4.5f);
+}
+
+TEST_F(Einstellungsdaten, UnveraendertesSpeichernAendertKeineEinstellung) {
+  EinstellungenText[33] = "Volknr";
+  const auto zahlen = EinstellungenZahl;
+  const auto texte = EinstellungenText;
+  speichern(stand());
+  EXPECT_EQ(EinstellungenZahl, zahlen);
+  for (size_t i = 0; i < texte.size(); ++i)
+    EXPECT_EQ(EinstellungenText[i], i == 24 ? QString(56, u'1') : texte[i]) << i;
+}
+
+TEST_F(Einstellungsdaten, ScheiterndesSchreibenWirdGemeldet) {
+  QDir().mkpath(datei("Einstellungen.TV2"));  // a folder stands in the file's place
+  Stand s = stand();
+  s.sevt[0] = "30";
+  EXPECT_THROW(speichern(s), Dateifehler);
+  EXPECT_EQ(EinstellungenZahl[50], 30);
+  EXPECT_EQ(ListeNeuLesen, 1);
+}
+
+TEST_F(Einstellungsdaten, StandardSetztNurSeineWerte) {
+  Stand s;
+  for (const auto& schalter : Einstellungen::schalter()) s.kon[schalter.index] = false;
+  for (int i = 0; i <= 15; ++i) s.sevt[i] = "x";
+  s.kon[1] = s.kon[4] = s.kon[6] = s.kon[8] = s.kon[10] = true;
+  Einstellungen::standardSetzen(s);
+  const QList<bool> erwartet = {true, false, true, true, false, true, false, true, false};
+  for (int i = 0; i <= 8; ++i) EXPECT_EQ(s.kon[i], erwartet[i]) << i;
+  EXPECT_TRUE(s.kon[10]);
+  EXPECT_FALSE(s.kon[11]);
+  EXPECT_EQ(s.sevt[0], "14");
+  EXPECT_EQ(s.sevt[1], "14");
+  EXPECT_EQ(s.sevt[2], "");
+  EXPECT_EQ(s.sevt[3], " | ");
+  EXPECT_EQ(s.sevt[4], "60");
+  for (int i = 5; i <= 15; ++i) EXPECT_EQ(s.sevt[i], "x") << i;
+  EXPECT_EQ(
+      Einstellungen::standardFrage(),
+      QString("Sollen die aktuellen Werte wirklich mit den Standard-Werten überschrieben werden?"));
+}
+
+TEST_F(Einstellungsdaten, BreitenBleibenBeiIhremFeld) {
+  EXPECT_EQ(Einstellungen::umgeordnet({10, 20, 30}, {"A", "B", "C"}, {"C", "A", "B"}),
+            QVariantList({30, 10, 20}));
+  EXPECT_TRUE(Einstellungen::umgeordnet({10, 20}, {"A", "B", "C"}, {"C", "A", "B"}).isEmpty());
+  EXPECT_TRUE(Einstellungen::umgeordnet({10, 20}, {"A", "B"}, {"A", "D"}).isEmpty());
+}
