@@ -1,0 +1,182 @@
+#include "output/Textausgabe.h"
+
+#include <QDir>
+#include <algorithm>
+
+#include "core/globals.h"
+#include "platform/files/Textdatei.h"
+#include "platform/locale/Deutsch.h"
+
+using namespace TZ_Variablen;
+
+namespace {
+
+constexpr int SlotQuer = 18;
+constexpr int SlotFett = 19;
+constexpr int SlotKursiv = 20;
+constexpr int SlotGroesse = 22;
+constexpr int SlotRand = 23;
+
+constexpr int GroessterRand = 30;  // that the field takes
+constexpr int GroessterRandBeimLaden = 20;
+constexpr int Tabulator = 8;
+const QString Einzug = QStringLiteral("  ");
+
+// Notes may hold tabs; on paper they go to every eighth column.
+QString ohneTabulator(const QString& zeile) {
+  if (!zeile.contains(u'\t')) return zeile;
+  QString ergebnis;
+  for (const QChar zeichen : zeile)
+    if (zeichen == u'\t')
+      ergebnis += QString(Tabulator - ergebnis.size() % Tabulator, u' ');
+    else
+      ergebnis += zeichen;
+  return ergebnis;
+}
+
+// Where a text that fits up to "platz" is cut: behind the last blank of its right half, else there.
+qsizetype schnitt(const QString& text, qsizetype vorspann, qsizetype platz) {
+  if (text[platz] == u' ') return platz;
+  const qsizetype frueheste = vorspann + (platz - vorspann) / 2;
+  for (qsizetype i = platz; i > frueheste; --i)
+    if (text[i - 1] == u' ') return i;
+  return platz;
+}
+
+QString ohneBlankVorn(const QString& text) {
+  qsizetype anfang = 0;
+  while (anfang < text.size() && text[anfang] == u' ') ++anfang;
+  return text.mid(anfang);
+}
+
+}  // namespace
+
+namespace Textausgabe {
+
+void listeSchreiben(const QStringList& zeilen) {
+  AusgabeDatei = AppPfad + QStringLiteral("LISTE.TXT");
+  Textdatei::schreiben(AusgabeDatei, zeilen);
+}
+
+Anzeige lesen(const QString& pfad) {
+  Anzeige anzeige;
+  for (const QString& zeile : Textdatei::lesen(pfad)) {
+    anzeige.text += zeile + CRLF;
+    if (anzeige.text.size() > MeisteZeichen) {
+      anzeige.zuGross = true;
+      break;
+    }
+  }
+  return anzeige;
+}
+
+QString fehltText(const QString& pfad) {
+  return QStringLiteral("Die Datei ") + pfad + QStringLiteral(" existiert nicht");
+}
+
+QString zuGrossText() {
+  return "ACHTUNG:" + CRLF + CRLF +
+         "Der Text ist über 32 kB groß. Es ist deshalb u.U. nicht alles im Textfeld enthalten. "
+         "Beim Ausdruck mit 'Datei drucken' werden trotzdem alle Daten ausgedruckt!";
+}
+
+QString schriftHinweis() {
+  return "Hinweis:" + CRLF + CRLF +
+         "Um die Tabellenausgabe im ZEB-Editor richtig darstellen zu können, sollten Sie eine "
+         "nicht proportionale Schrift, z.B. Courier New oder eine andere Courier-Schrift, "
+         "auswählten!";
+}
+
+bool schriftUnpassend(const QString& name) { return !name.startsWith(QStringLiteral("Courier")); }
+
+Einstellungen laden() {
+  Einstellungen e;
+  e.quer = EinstellungenZahl[SlotQuer] != 0;
+  e.fett = EinstellungenZahl[SlotFett] != 0;
+  e.kursiv = EinstellungenZahl[SlotKursiv] != 0;
+  const int groesse = EinstellungenZahl[SlotGroesse];
+  if (groesse >= KleinsteGroesse && groesse <= GroessteGroesse) e.groesse = groesse;
+  e.rand = std::clamp<int>(EinstellungenZahl[SlotRand], 0, GroessterRandBeimLaden);
+  return e;
+}
+
+void sichern(const Einstellungen& e) {
+  EinstellungenZahl[SlotQuer] = e.quer ? 1 : 0;
+  EinstellungenZahl[SlotFett] = e.fett ? 1 : 0;
+  EinstellungenZahl[SlotKursiv] = e.kursiv ? 1 : 0;
+  EinstellungenZahl[SlotGroesse] = static_cast<qint16>(e.groesse);
+  EinstellungenZahl[SlotRand] = static_cast<qint16>(e.rand);
+}
+
+int groesseNach(int groesse, int schritt) {
+  return std::clamp(groesse + schritt, KleinsteStufe, GroessteStufe);
+}
+
+QString randNachTippen(const QString& text) {
+  const double zahl = Deutsch::val(text);
+  if (zahl < 0) return QStringLiteral("0");
+  if (zahl > GroessterRand) return QString::number(GroessterRand);
+  return text;
+}
+
+int rand(const QString& text) {
+  return static_cast<int>(std::clamp(Deutsch::val(text), 0.0, double(GroessterRand)));
+}
+
+bool istSeitenwechsel(const QString& zeile, Druckweg weg) {
+  return (weg == Druckweg::Datei ? zeile.trimmed() : zeile) == QStringLiteral("#");
+}
+
+QStringList umbrechen(const QString& zeile, int rand, const Passend& passend) {
+  QStringList ergebnis;
+  QString vorspann(rand, u' ');
+  QString text = vorspann + ohneTabulator(zeile);
+  for (;;) {
+    const qsizetype platz = passend(text);
+    if (platz >= text.size()) break;
+    if (platz <= vorspann.size()) {
+      // The page is narrower than the margin: the text goes without it.
+      if (vorspann.isEmpty()) {
+        ergebnis += text.left(1);
+        text = text.mid(1);
+      } else {
+        text = text.mid(vorspann.size());
+        vorspann.clear();
+      }
+      continue;
+    }
+    const qsizetype ende = schnitt(text, vorspann.size(), platz);
+    ergebnis += text.left(ende);
+    const QString rest = ohneBlankVorn(text.mid(ende));
+    if (rest.isEmpty()) return ergebnis;
+    if (!vorspann.isEmpty() || rand == 0) vorspann = QString(rand, u' ') + Einzug;
+    text = vorspann + rest;
+  }
+  ergebnis += text;
+  return ergebnis;
+}
+
+QList<QStringList> seiten(const QStringList& zeilen, Druckweg weg, int rand, int zeilenJeSeite,
+                          const Passend& passend) {
+  QList<QStringList> seiten{{QString()}};
+  for (const QString& zeile : zeilen) {
+    if (istSeitenwechsel(zeile, weg)) {
+      seiten.append(QStringList());
+      continue;
+    }
+    for (const QString& teil : umbrechen(zeile, rand, passend)) {
+      if (seiten.last().size() >= zeilenJeSeite) seiten.append(QStringList());
+      seiten.last().append(teil);
+    }
+  }
+  if (seiten.size() > 1 && seiten.last().isEmpty()) seiten.removeLast();
+  return seiten;
+}
+
+QString druckaufSchreiben(const QString& text) {
+  const QString pfad = QDir::current().filePath(QStringLiteral("DRUCKAUF.TXT"));
+  Textdatei::schreibenGanz(pfad, text);
+  return pfad;
+}
+
+}  // namespace Textausgabe
