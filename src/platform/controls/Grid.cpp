@@ -106,6 +106,21 @@ QVariant Grid::wert(int zeile, const QString& spalte) const {
   return m_modell->wert(zeile, nummer);
 }
 
+Daten Grid::daten() const { return m_modell->daten(); }
+
+std::vector<int> Grid::ordnung() const {
+  std::vector<int> zeilennummern(static_cast<size_t>(zeilen()));
+  for (int i = 0; i < zeilen(); ++i)
+    zeilennummern[static_cast<size_t>(i)] = m_modell->blockzeile(i);
+  return zeilennummern;
+}
+
+QString Grid::ueberschrift(int spalte) const { return m_modell->ueberschrift(spalte); }
+
+QString Grid::text(int zeile, int spalte) const { return m_modell->text(zeile, spalte); }
+
+bool Grid::hatAnzeige(int spalte) const { return m_modell->hatAnzeige(spalte); }
+
 void Grid::setAnzeige(const QString& spalte, std::function<QString(const QVariant&)> anzeige) {
   m_modell->setAnzeige(spalte, std::move(anzeige));
 }

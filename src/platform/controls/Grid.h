@@ -30,6 +30,13 @@ class Grid : public QTableView {
   void setAnzeige(const QString& spalte, std::function<QString(const QVariant&)> anzeige);
   void setUeberschrift(const QString& spalte, const QString& text);
   void setSpalteVerborgen(const QString& spalte, bool ja);
+  // What is shown, for handing it on: the block (null before the first setDaten), its rows in the
+  // order shown, captions and texts by number, and whether setAnzeige makes a column's texts.
+  Daten daten() const;
+  std::vector<int> ordnung() const;
+  QString ueberschrift(int spalte) const;
+  QString text(int zeile, int spalte) const;
+  bool hatAnzeige(int spalte) const;
 
   int aktuelleZeile() const;
   void setAktuelleZeile(int zeile);    // marks it alone and scrolls to it
@@ -56,6 +63,9 @@ class Grid : public QTableView {
   // drawn narrower than 25 becomes 25.
   void setLayoutSchluessel(const QString& schluessel);
   static constexpr int KleinsteBreite = 25;
+  // Fits each column to its heading and the texts from the first visible row on (some hundreds), at
+  // least this wide. These widths aren't kept.
+  void passeBreitenAn(int kleinste);
 
  Q_SIGNALS:
   void zeileGewechselt(int zeile);  // another record is current, -1 for none

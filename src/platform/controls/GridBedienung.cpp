@@ -204,6 +204,16 @@ void Grid::breitenAnpassen() {
   verborgeneAnwenden();
 }
 
+void Grid::passeBreitenAn(int kleinste) {
+  constexpr int Zeilen = 300;
+  horizontalHeader()->setResizeContentsPrecision(Zeilen);
+  m_breiten.clear();
+  for (int spalte = 0; spalte < spalten(); ++spalte)
+    m_breiten += std::max({sizeHintForColumn(spalte) + 1,
+                           horizontalHeader()->sectionSizeHint(spalte), kleinste, KleinsteBreite});
+  verborgeneAnwenden();
+}
+
 void Grid::breiteGeaendert(int spalte, int breite) {
   if (m_breitenGesperrt || spalte < 0 || spalte >= spalten() || isColumnHidden(spalte)) return;
   if (breite < KleinsteBreite) {

@@ -24,6 +24,9 @@ class GridModell : public QAbstractTableModel {
   int blockzeile(int zeile) const { return m_ordnung[static_cast<size_t>(zeile)]; }
 
   void setAnzeige(const QString& spalte, Anzeige anzeige);
+  bool hatAnzeige(int spalte) const {
+    return m_spaltenanzeige[static_cast<size_t>(spalte)] != nullptr;
+  }
   void setUeberschrift(const QString& spalte, const QString& text);
   void setErsteSpalte(std::function<QString(int)> text);
   // The whole text of a cell; the screen shows it in one line.

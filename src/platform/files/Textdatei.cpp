@@ -45,7 +45,33 @@ QString nativ(const QString& pfad) { return QDir::toNativeSeparators(pfad); }
                         .arg(nativ(pfad)));
 }
 
-[[noreturn]] void schreibfehler(const QString& pfad) {
+// Makes the new name in the folder survive a power cut. Systems that can't do it are left alone.
+void ordnerSichern([[maybe_unused]] const QString& ordner) {
+#ifdef Q_OS_UNIX
+  const int griff = ::open(QFile::encodeName(ordner).constData(), O_RDONLY | O_DIRECTORY);
+  if (griff < 0) return;
+  ::fsync(griff);
+  ::close(griff);
+#endif
+}
+
+// QSaveFile writes beside the old file, flushes to the medium in commit() and renames.
+void bytesSchreiben(const QString& pfad, const QByteArray& bytes) {
+  QSaveFile datei(pfad);
+  if (!datei.open(QIODevice::WriteOnly)) Textdatei::schreibfehler(pfad);
+  if (datei.write(bytes) != bytes.size() || !datei.flush()) {
+    datei.cancelWriting();
+    Textdatei::schreibfehler(pfad);
+  }
+  if (!datei.commit()) Textdatei::schreibfehler(pfad);
+  ordnerSichern(QFileInfo(pfad).absolutePath());
+}
+
+}  // namespace
+
+namespace Textdatei {
+
+void schreibfehler(const QString& pfad) {
   const QFileInfo info(pfad);
   const QString ordner = nativ(info.absolutePath());
   if (!info.absoluteDir().exists())
@@ -71,32 +97,6 @@ QByteArray bytesLesen(const QString& pfad) {
   if (datei.error() != QFileDevice::NoError) lesefehler(pfad);
   return bytes;
 }
-
-// Makes the new name in the folder survive a power cut. Systems that can't do it are left alone.
-void ordnerSichern([[maybe_unused]] const QString& ordner) {
-#ifdef Q_OS_UNIX
-  const int griff = ::open(QFile::encodeName(ordner).constData(), O_RDONLY | O_DIRECTORY);
-  if (griff < 0) return;
-  ::fsync(griff);
-  ::close(griff);
-#endif
-}
-
-// QSaveFile writes beside the old file, flushes to the medium in commit() and renames.
-void bytesSchreiben(const QString& pfad, const QByteArray& bytes) {
-  QSaveFile datei(pfad);
-  if (!datei.open(QIODevice::WriteOnly)) schreibfehler(pfad);
-  if (datei.write(bytes) != bytes.size() || !datei.flush()) {
-    datei.cancelWriting();
-    schreibfehler(pfad);
-  }
-  if (!datei.commit()) schreibfehler(pfad);
-  ordnerSichern(QFileInfo(pfad).absolutePath());
-}
-
-}  // namespace
-
-namespace Textdatei {
 
 bool existiert(const QString& pfad) { return QFileInfo(pfad).isFile(); }
 

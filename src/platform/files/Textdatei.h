@@ -35,6 +35,11 @@ void schreibenGanz(const QString& pfad, const QString& text);
 // first one that can't be deleted, after trying all.
 void resteLoeschen(const QString& ordner, const QStringList& namen);
 
+// The bytes of any file, unchanged. Throws Dateifehler.
+QByteArray bytesLesen(const QString& pfad);
+// Throws the Dateifehler of a file that can't be written, with the reason as far as it can be seen.
+[[noreturn]] void schreibfehler(const QString& pfad);
+
 QByteArray nachCp1252(QStringView text);
 QString vonCp1252(QByteArrayView bytes);
 

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+// Opens a file with the program that the system has for it.
+namespace Oeffnen {
+
+// False when there is no such program.
+bool datei(const QString& pfad);
+
+// What opens the files instead of the system, for tests; an empty function gives the system back
+// its own.
+void setOeffner(std::function<bool(const QString& pfad)> oeffner);
+
+}  // namespace Oeffnen

@@ -1,0 +1,113 @@
+#include "platform/files/Tabellenblatt.h"
+
+#include <xlsxwriter.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
+#include <array>
+#include <filesystem>
+
+#include "platform/files/Textdatei.h"
+
+struct Tabellenblatt::Innen {
+  QString pfad;
+  std::unique_ptr<QTemporaryFile> beginn;  // beside the file; goes when it isn't saved
+  lxw_workbook* mappe = nullptr;
+  lxw_worksheet* blatt = nullptr;
+  std::array<lxw_format*, static_cast<size_t>(Form::Anzahl)> formen{};
+
+  lxw_format* form(Form f) const { return formen[static_cast<size_t>(f)]; }
+  [[noreturn]] void fehler() const;
+  void pruefe(lxw_error ergebnis) const {
+    if (ergebnis != LXW_NO_ERROR) fehler();
+  }
+};
+
+// The file may be open in the spreadsheet program, which then locks it.
+void Tabellenblatt::Innen::fehler() const {
+  const QString name = QDir::toNativeSeparators(pfad);
+  throw Dateifehler(
+      QStringLiteral("Die Tabelle %1 kann nicht geschrieben werden. Falls sie noch in der "
+                     "Tabellenkalkulation geöffnet ist, schließen Sie sie bitte dort. Prüfen Sie "
+                     "sonst, ob im Ordner geschrieben werden darf und ob auf dem Datenträger noch "
+                     "Platz ist.")
+          .arg(name));
+}
+
+Tabellenblatt::Tabellenblatt(const QString& pfad, const QString& blattname)
+    : m(std::make_unique<Innen>()) {
+  m->pfad = pfad;
+  const QFileInfo info(pfad);
+  if (info.isDir() || (info.exists() && !info.isWritable())) m->fehler();
+  m->beginn = std::make_unique<QTemporaryFile>(pfad + QStringLiteral(".XXXXXX"));
+  if (!m->beginn->open()) m->fehler();
+  m->beginn->close();
+
+  // Rows go to the disk as they come: a long list would fill the memory.
+  QByteArray ordner = QFile::encodeName(QDir::tempPath());
+  lxw_workbook_options wahl{};
+  wahl.constant_memory = LXW_TRUE;
+  wahl.tmpdir = ordner.data();
+  m->mappe = workbook_new_opt(QFile::encodeName(m->beginn->fileName()).constData(), &wahl);
+  if (m->mappe == nullptr) m->fehler();
+  m->blatt = workbook_add_worksheet(m->mappe, blattname.toUtf8().constData());
+  if (m->blatt == nullptr) m->fehler();
+
+  const auto neu = [this](Form f) {
+    return m->formen[static_cast<size_t>(f)] = workbook_add_format(m->mappe);
+  };
+  format_set_bold(neu(Form::Fett));
+  lxw_format* fettRechts = neu(Form::FettRechts);
+  format_set_bold(fettRechts);
+  format_set_align(fettRechts, LXW_ALIGN_RIGHT);
+  format_set_align(neu(Form::Links), LXW_ALIGN_LEFT);
+  format_set_align(neu(Form::Rechts), LXW_ALIGN_RIGHT);
+  lxw_format* zahl = neu(Form::Zahl);
+  format_set_align(zahl, LXW_ALIGN_RIGHT);
+  format_set_num_format(zahl, "#,##0.00");
+}
+
+// The library frees a workbook only by closing it, so what isn't wanted is closed into the file
+// that goes.
+Tabellenblatt::~Tabellenblatt() {
+  if (m->mappe != nullptr) workbook_close(m->mappe);
+}
+
+void Tabellenblatt::setSpalte(int spalte, double zeichen, Form form) {
+  const auto nummer = static_cast<lxw_col_t>(spalte);
+  m->pruefe(worksheet_set_column(m->blatt, nummer, nummer, zeichen, m->form(form)));
+}
+
+void Tabellenblatt::setKopfzeile(int zeile) {
+  worksheet_freeze_panes(m->blatt, static_cast<lxw_row_t>(zeile) + 1, 0);
+}
+
+void Tabellenblatt::text(int zeile, int spalte, const char* utf8, Form form) {
+  const auto r = static_cast<lxw_row_t>(zeile);
+  const auto s = static_cast<lxw_col_t>(spalte);
+  lxw_error ergebnis = worksheet_write_string(m->blatt, r, s, utf8, m->form(form));
+  if (ergebnis == LXW_ERROR_MAX_STRING_LENGTH_EXCEEDED) {
+    QString kurz = QString::fromUtf8(utf8).left(MaxText);
+    if (!kurz.isEmpty() && kurz.back().isHighSurrogate()) kurz.chop(1);
+    ergebnis = worksheet_write_string(m->blatt, r, s, kurz.toUtf8().constData(), m->form(form));
+  }
+  m->pruefe(ergebnis);
+}
+
+void Tabellenblatt::zahl(int zeile, int spalte, double wert, Form form) {
+  m->pruefe(worksheet_write_number(m->blatt, static_cast<lxw_row_t>(zeile),
+                                   static_cast<lxw_col_t>(spalte), wert, m->form(form)));
+}
+
+void Tabellenblatt::speichern() {
+  m->pruefe(workbook_close(std::exchange(m->mappe, nullptr)));
+  // A temporary file is its owner's alone; the spreadsheet is to be like any other file.
+  m->beginn->setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
+                            QFile::ReadOther);
+  std::error_code fehler;
+  std::filesystem::rename(m->beginn->fileName().toStdU16String(), m->pfad.toStdU16String(), fehler);
+  if (fehler) m->fehler();
+  m->beginn->setAutoRemove(false);
+}
