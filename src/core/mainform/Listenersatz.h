@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+#include "core/mainform/Liste.h"
+
+// The list of colonies in spite of settings that can't be used: without a list nobody could reach
+// the settings' form to put them right.
+
+struct Volkzeilen {
+  Daten daten;
+  QString meldung;  // for the user, when a setting was replaced; else empty
+};
+
+// The rows of the list. A start sort (EinstellungenText 33 and 34) that the database refuses is
+// cleared; a field list (EinstellungenText 17) that it refuses, or that gives no Selektiert or no
+// ID, becomes the default. Settings that can be used stay. Throws Datenbankfehler for any other
+// failure; the settings are then as they were.
+Volkzeilen volklisteMitErsatz(Database& db, Volkfilter filter);

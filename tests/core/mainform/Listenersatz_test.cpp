@@ -1,0 +1,121 @@
+#include "core/mainform/Listenersatz.h"
+
+#include "Umfeld.h"
+
+using namespace TZ_Variablen;
+
+namespace {
+
+const QString Eigene = QStringLiteral("select Volknr, Futterwaben, Selektiert, ID from Bienenvolk");
+
+class Listenersatz : public Umfeld {
+ protected:
+  void SetUp() override {
+    Umfeld::SetUp();
+    datenbank();
+    listenfelderPruefen();
+    m_standard = EinstellungenText[17];
+    neu("Bienenvolk", {{"Volknr", "1"}, {"Volkname", "Zita"}, {"Akt_im_Bestand", "X"}});
+    neu("Bienenvolk", {{"Volknr", "2"}, {"Volkname", "Anna"}, {"Akt_im_Bestand", "X"}});
+  }
+  static QStringList nummern(const Volkzeilen& zeilen) {
+    QStringList liste;
+    for (int i = 0; i < zeilen.daten->zeilen(); ++i)
+      liste << zeilen.daten->anzeige(i, zeilen.daten->spaltenNummer(u"Volknr"));
+    return liste;
+  }
+
+  QString m_standard;
+};
+
+}  // namespace
+
+TEST_F(Listenersatz, BrauchbareEinstellungenBleibenOhneMeldung) {
+  EinstellungenText[17] = Eigene;
+  EinstellungenText[33] = QStringLiteral("Volkname");
+  const Volkzeilen zeilen = volklisteMitErsatz(DB, Volkfilter::Bestand);
+  EXPECT_EQ(nummern(zeilen), QStringList({"2", "1"}));
+  EXPECT_EQ(zeilen.meldung, QString());
+  EXPECT_EQ(EinstellungenText[17], Eigene);
+  EXPECT_EQ(EinstellungenText[33], QStringLiteral("Volkname"));
+}
+
+TEST_F(Listenersatz, AbgelehnteFeldlisteWirdDerStandardUndDieSortierungBleibt) {
+  EinstellungenText[33] = QStringLiteral("Volkname");
+  for (const char* anweisung :
+       {"select Gibtsnicht, Futterwaben, Selektiert, ID from Bienenvolk",
+        "select Futterwaben from from", "Futterwaben", "select Futterwaben, ? from Bienenvolk",
+        "delete from Bienenvolk; select Futterwaben, Selektiert, ID from Bienenvolk",
+        "update Bienenvolk set Futterwaben = 1",
+        "select Futterwaben, Selektiert, ID from Bienenvolk where Volknr = '1'"}) {
+    EinstellungenText[17] = QString::fromUtf8(anweisung);
+    const Volkzeilen zeilen = volklisteMitErsatz(DB, Volkfilter::Bestand);
+    EXPECT_EQ(nummern(zeilen), QStringList({"2", "1"})) << anweisung;
+    EXPECT_TRUE(
+        zeilen.meldung.startsWith("Die eingestellten Felder der Völkerliste können nicht "
+                                  "benutzt werden:\r\n"))
+        << qPrintable(zeilen.meldung);
+    EXPECT_EQ(EinstellungenText[17], m_standard) << anweisung;
+    EXPECT_EQ(EinstellungenText[33], QStringLiteral("Volkname")) << anweisung;
+  }
+}
+
+TEST_F(Listenersatz, DieMeldungNenntDasFeldDasEsNichtGibt) {
+  EinstellungenText[17] =
+      QStringLiteral("select Gibtsnicht, Futterwaben, Selektiert, ID from Bienenvolk");
+  EXPECT_TRUE(volklisteMitErsatz(DB, Volkfilter::Alles).meldung.contains("Gibtsnicht"));
+}
+
+TEST_F(Listenersatz, FeldlisteOhneSelektiertOderIDWirdDerStandard) {
+  for (const auto& [anweisung, feld] :
+       {std::pair("select Volknr, Futterwaben, ID from Bienenvolk", "Selektiert"),
+        {"select Volknr, Futterwaben, Selektiert from Bienenvolk", "ID"}}) {
+    EinstellungenText[17] = QString::fromUtf8(anweisung);
+    const Volkzeilen zeilen = volklisteMitErsatz(DB, Volkfilter::Bestand);
+    EXPECT_TRUE(zeilen.meldung.contains(QStringLiteral("Das Feld %1 fehlt.").arg(feld)))
+        << qPrintable(zeilen.meldung);
+    EXPECT_EQ(EinstellungenText[17], m_standard);
+    EXPECT_GE(zeilen.daten->spaltenNummer(u"ID"), 0);
+  }
+}
+
+TEST_F(Listenersatz, AbgelehnteSortierungWirdAufgehobenUndDieFelderBleiben) {
+  EinstellungenText[17] = Eigene;
+  EinstellungenText[33] = QStringLiteral("Gibtsnicht");
+  EinstellungenText[34] = QStringLiteral("Volknr");
+  const Volkzeilen zeilen = volklisteMitErsatz(DB, Volkfilter::Bestand);
+  EXPECT_EQ(nummern(zeilen), QStringList({"1", "2"}));
+  EXPECT_TRUE(
+      zeilen.meldung.startsWith("Die eingestellte Sortierung der Völkerliste kann nicht "
+                                "benutzt werden:\r\n"))
+      << qPrintable(zeilen.meldung);
+  EXPECT_EQ(EinstellungenText[17], Eigene);
+  EXPECT_EQ(EinstellungenText[33] + EinstellungenText[34], QString());
+}
+
+TEST_F(Listenersatz, BeidesUnbrauchbarWirdBeidesErsetzt) {
+  EinstellungenText[17] = QStringLiteral("select Futterwaben");
+  EinstellungenText[33] = QStringLiteral("order");
+  const Volkzeilen zeilen = volklisteMitErsatz(DB, Volkfilter::Bestand);
+  EXPECT_EQ(nummern(zeilen), QStringList({"1", "2"}));
+  EXPECT_TRUE(zeilen.meldung.contains("Die eingestellten Felder"));
+  EXPECT_TRUE(zeilen.meldung.contains("Die eingestellte Sortierung"));
+  EXPECT_EQ(EinstellungenText[17], m_standard);
+  EXPECT_EQ(EinstellungenText[33], QString());
+}
+
+TEST_F(Listenersatz, FehlendeTabelleIstEinFehlerUndLaesstDieEinstellungen) {
+  EinstellungenText[17] = Eigene;
+  EinstellungenText[33] = QStringLiteral("Volkname");
+  DB.Execute("drop table Bienenvolk");
+  EXPECT_THROW(volklisteMitErsatz(DB, Volkfilter::Alles), Datenbankfehler);
+  EXPECT_EQ(EinstellungenText[17], Eigene);
+  EXPECT_EQ(EinstellungenText[33], QStringLiteral("Volkname"));
+}
+
+TEST_F(Listenersatz, GeschlosseneDatenbankIstEinFehlerUndLaesstDieEinstellungen) {
+  EinstellungenText[17] = Eigene;
+  DB.Close();
+  EXPECT_THROW(volklisteMitErsatz(DB, Volkfilter::Alles), Datenbankfehler);
+  EXPECT_EQ(EinstellungenText[17], Eigene);
+}
