@@ -13,6 +13,7 @@
 
 #include "core/globals.h"
 #include "core/mainform/Liste.h"
+#include "core/mainform/Listenersatz.h"
 #include "core/mainform/Volkanzeige.h"
 #include "core/mainform/forms/TA_TOVA.h"
 #include "data/helpers.h"
@@ -47,8 +48,14 @@ void TA_TOVA::loescheZeile(int zeile) {
   filterBeschriften();
 }
 
-// A failing statement must not leave the program locked, nor come back at each activation.
 void TA_TOVA::datenvölkerlesen() {
+  const QString meldung = listeLesen();
+  if (!meldung.isEmpty()) Meldungen::Hinweis(meldung, this);
+}
+
+// A failing statement must not leave the program locked, nor come back at each activation. Gives
+// what is to be told once the program is free again.
+QString TA_TOVA::listeLesen() {
   const Ereignis::Sanduhr sanduhr;
   const QPointer<QWidget> imFokus = focusWidget();
   MenueSperren(false);
@@ -59,13 +66,16 @@ void TA_TOVA::datenvölkerlesen() {
   });
 
   listenfelderPruefen();
-  datali->setDaten(volkliste(m_db, static_cast<Volkfilter>(filter->checkedId())));
+  const auto welche = static_cast<Volkfilter>(filter->checkedId());
+  const Volkzeilen gelesen = volklisteMitErsatz(m_db, welche);
+  datali->setDaten(gelesen.daten);
   stockkartenfelderPruefen();
   const Listensortierung sortierung = gemerkteSortierung(datali->spalten());
   if (sortierung.spalte >= 0) datali->sortiere(sortierung.spalte, sortierung.richtung);
   setAktuelleZeile(zeilen() > 0 ? 0 : -1);
   befehleAnpassen();
   filterBeschriften();
+  return gelesen.meldung;
 }
 
 void TA_TOVA::filterBeschriften() {

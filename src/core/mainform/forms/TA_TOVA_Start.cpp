@@ -70,9 +70,11 @@ void TA_TOVA::datenbankBereitstellen() {
   }
   try {
     m_db = Start::datenbankOeffnen();
-  } catch (const Datenbankfehler&) {
+  } catch (const Datenbankfehler& fehler) {
     // A database copied from a read-only medium: with the protection gone it opens.
-    if (!Start::schreibgeschuetzte().contains(DatenbankPfad)) throw;
+    if (fehler.art() != Datenbankfehler::Art::NurLesen ||
+        !Start::schreibgeschuetzte().contains(DatenbankPfad))
+      throw;
     schreibschutzAufheben();
     m_db = Start::datenbankOeffnen();
   }
@@ -156,7 +158,8 @@ void TA_TOVA::listeBeiBedarfLesen() {
 }
 
 void TA_TOVA::ersteAktivierung() {
-  if (zeilen() == 0) {
+  // A list that couldn't be read has no columns and tells nothing about the colonies.
+  if (zeilen() == 0 && datali->spalten() > 0) {
     m_formen.wieAnfangen();
     listeBeiBedarfLesen();
   }

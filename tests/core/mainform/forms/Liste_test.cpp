@@ -339,18 +339,61 @@ TEST_F(Voelkerliste, MehrereMarkierteZeilenUndDieListeFuerAndereFormen) {
   EXPECT_EQ(hauptliste()->zelle(-1, "Volkname"), QString());
 }
 
-TEST_F(Voelkerliste, AbgelehnteAnweisungSperrtDasProgrammNicht) {
+TEST_F(Voelkerliste, AbgelehnteFeldlisteWirdGesagtUndDurchDenStandardErsetzt) {
   voelker(2);
   starten();
   EinstellungenText[17] = QStringLiteral("select Gibtsnicht, Futterwaben, ID from Bienenvolk");
   probe.hinweisMit("Gibtsnicht");
   klick("optiverkauft_2");
+  EXPECT_EQ(nummern(), QStringList({"1", "2"}));
+  EXPECT_EQ(AktVolkID, QStringLiteral("1"));
   EXPECT_TRUE(datali()->isEnabled());
   EXPECT_TRUE(finde<QMenu>("O_Optionen")->isEnabled());
+  ListeNeuLesen = 1;
+  form->aktivieren();  // nothing more to tell
+  EXPECT_EQ(nummern(), QStringList({"1", "2"}));
+}
+
+TEST_F(Voelkerliste, AbgelehnteFeldlisteHaeltDenStartNichtAufUndIstBeimNaechstenVergessen) {
+  voelker(2);
+  starten();
+  EinstellungenText[17] = QStringLiteral("select Futterwaben from nirgends");
+  EinstellungenText[33] = QStringLiteral("Volkname");
+  schliessen();
+  zuruecksetzen();
+  Formbesuch hilfe("TH_Hilfe_Wieanfangen");
+  probe.hinweisMit("Die eingestellten Felder der Völkerliste können nicht benutzt werden:");
+  starten();
+  EXPECT_FALSE(hilfe.war());
+  EXPECT_EQ(nummern(), QStringList({"1", "2"}));
+  EXPECT_EQ(EinstellungenZahl[78], 2);
+  EXPECT_EQ(EinstellungenText[33], QStringLiteral("Volkname"));
+  schliessen();
+  zuruecksetzen();
+  starten();
+  EXPECT_TRUE(EinstellungenText[17].startsWith("select Volknr, Volkname, Volkstärke"));
+}
+
+TEST_F(Voelkerliste, EineListeDieSichNichtLesenLaesstSperrtDasProgrammNicht) {
+  voelker(2);
+  starten();
+  DB.Execute("drop table Bienenvolk");
   ListeNeuLesen = 1;
   EXPECT_ANY_THROW(form->aktivieren());
   EXPECT_EQ(ListeNeuLesen, 0);
   form->aktivieren();  // no second failure
+  EXPECT_TRUE(datali()->isEnabled());
+  EXPECT_TRUE(finde<QMenu>("O_Optionen")->isEnabled());
+}
+
+TEST_F(Voelkerliste, EineUngeleseneListeGiltBeimStartNichtAlsLeer) {
+  voelker(2);
+  ASSERT_TRUE(laden());
+  DB.Execute("drop table Bienenvolk");
+  Formbesuch hilfe("TH_Hilfe_Wieanfangen");
+  probe.hinweisMit("Bienenvolk");
+  zeigen();
+  EXPECT_FALSE(hilfe.war());
 }
 
 TEST_F(Voelkerliste, LeereListeZeigtEinenHinweis) {

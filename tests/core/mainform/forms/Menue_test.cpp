@@ -265,3 +265,26 @@ TEST_F(Hauptmenue, ErsteSchrittePassenAuchMitGrosserSchriftAufDenSchirm) {
   EXPECT_TRUE(besuch.war());
   QApplication::setFont(vorher);
 }
+
+// The small screen of a notebook, also with larger letters.
+TEST_F(Hauptmenue, AlleTastenDerLeisteSindBei1366PunktenZuSehen) {
+  voelker(1);
+  const QFont vorher = QApplication::font();
+  for (const double faktor : {1.0, 1.5}) {
+    QFont schrift = vorher;
+    schrift.setPointSizeF(vorher.pointSizeF() * faktor);
+    QApplication::setFont(schrift);
+    starten();
+    form->resize(1366, 700);
+    QApplication::processEvents();
+    ASSERT_EQ(form->width(), 1366);
+    for (const auto& taste : Menue::tasten()) {
+      auto* knopf = finde<QToolButton>(taste.name);
+      EXPECT_TRUE(knopf->isVisible()) << qPrintable(taste.name) << " x " << faktor;
+      EXPECT_LE(knopf->geometry().right(), finde<QToolBar>("mleiste")->width());
+    }
+    schliessen();
+    zuruecksetzen();
+  }
+  QApplication::setFont(vorher);
+}

@@ -1,0 +1,242 @@
+#include <QDir>
+
+#include "Hauptumfeld.h"
+#include "gemeinsam/AndererBenutzer.h"
+#include "platform/files/Textdatei.h"
+
+using namespace TZ_Variablen;
+
+namespace {
+
+const auto AlleRechte = QFileDevice::Permissions(0x7777);
+const auto AlleLesen = QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther;
+const auto AlleSchreiben =
+    QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+const auto AlleOeffnen = QFileDevice::ExeOwner | QFileDevice::ExeGroup | QFileDevice::ExeOther;
+
+// What may lie in the program folder under the database's name: the start tells it, touches
+// nothing and ends.
+class Datenbankstoerung : public Hauptumfeld {
+ protected:
+  QStringList ordnerinhalt() const {
+    return QDir(m_ordner.path())
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+  }
+  void wirdAbgelehnt(const QByteArray& inhalt, const QString& meldung) {
+    dateiSchreiben("TOVA2.MDB", inhalt);
+    probe.hinweisMit(meldung.arg(datei("TOVA2.MDB")));
+    EXPECT_FALSE(laden());
+    form->close();
+    beenden();
+    EXPECT_EQ(dateiLesen("TOVA2.MDB"), inhalt);
+    EXPECT_EQ(ordnerinhalt(), QStringList({"TOVA2.MDB"}));
+  }
+  QByteArray gueltige() {
+    voelker(3);
+    return dateiLesen("TOVA2.MDB");
+  }
+};
+
+}  // namespace
+
+TEST_F(Datenbankstoerung, Textdatei) {
+  wirdAbgelehnt("Liebe Imkerfreunde,\r\n",
+                "Die Datei \"%1\" ist eine Textdatei und keine "
+                "Datenbank von TOVA.");
+}
+
+TEST_F(Datenbankstoerung, NullBytes) {
+  wirdAbgelehnt({}, "Die Datei \"%1\" ist leer und keine Datenbank.");
+}
+
+TEST_F(Datenbankstoerung, InDerMitteAbgeschnitten) {
+  const QByteArray ganz = gueltige();
+  wirdAbgelehnt(ganz.left(ganz.size() / 2),
+                "Die Datenbank \"%1\" ist unvollständig: Ihr Ende "
+                "fehlt.");
+}
+
+TEST_F(Datenbankstoerung, ImKopfAbgeschnitten) {
+  wirdAbgelehnt(gueltige().left(50), "Die Datenbank \"%1\" ist unvollständig: Ihr Ende fehlt.");
+}
+
+TEST_F(Datenbankstoerung, HinterDemKopfZerstoert) {
+  QByteArray zerstoert = gueltige();
+  zerstoert.replace(100, zerstoert.size() - 100, QByteArray(zerstoert.size() - 100, '\x5A'));
+  wirdAbgelehnt(zerstoert, "Die Datei \"%1\" ist beschädigt oder keine Datenbank von TOVA.");
+}
+
+TEST_F(Datenbankstoerung, AelteresFormat) {
+  wirdAbgelehnt(QByteArray("\x00\x01\x00\x00\x53\x74\x61\x6e\x64\x61\x72\x64\x20\x4a\x65\x74\x20"
+                           "\x44\x42\x00",
+                           20) +
+                    QByteArray(4076, '\0'),
+                "Die Datei \"%1\" ist die Datenbank einer älteren TOVA-Version.");
+}
+
+TEST_F(Datenbankstoerung, IrgendwelcheBytes) {
+  wirdAbgelehnt(QByteArray(5000, '\xFE').replace(0, 4, QByteArray("\x01\x02\x03\x04")),
+                "Die Datei \"%1\" ist keine Datenbank von TOVA.");
+}
+
+TEST_F(Datenbankstoerung, DatenbankEinesAnderenProgramms) {
+  const QString pfad = datei("TOVA2.MDB");
+  {
+    Workspace bereich;
+    bereich.CreateDatabase(pfad).Execute("create table Buecher (Titel TEXT (20))");
+    bereich.Close();
+  }
+  wirdAbgelehnt(dateiLesen("TOVA2.MDB"),
+                "Die Datei \"%1\" ist keine Datenbank von TOVA: Die "
+                "Tabelle Bienenvolk fehlt.");
+}
+
+TEST_F(Datenbankstoerung, Ordner) {
+  ASSERT_TRUE(QDir(m_ordner.path()).mkpath("TOVA2.MDB/darin"));
+  probe.hinweisMit("\"" + datei("TOVA2.MDB") + "\" ist ein Ordner und keine Datenbank.");
+  EXPECT_FALSE(laden());
+  beenden();
+  EXPECT_EQ(ordnerinhalt(), QStringList({"TOVA2.MDB"}));
+  EXPECT_TRUE(QDir(datei("TOVA2.MDB/darin")).exists());
+}
+
+TEST_F(Datenbankstoerung, FremdeDateiBehaeltIhrenSchreibschutz) {
+  dateiSchreiben("TOVA2.MDB", "Brief");
+  ASSERT_TRUE(QFile::setPermissions(datei("TOVA2.MDB"), AlleLesen));
+  probe.hinweisMit("ist eine Textdatei");
+  EXPECT_FALSE(laden());
+  EXPECT_FALSE(QFile::permissions(datei("TOVA2.MDB")) & QFile::WriteOwner);
+}
+
+TEST_F(Datenbankstoerung, NichtLesbareDatei) {
+  const QByteArray vorher = gueltige();
+  QFile::setPermissions(m_ordner.path(), AlleRechte);
+  QFile::setPermissions(datei("TOVA2.MDB"), {});
+  probe.hinweisMit("Die Datenbank \"" + datei("TOVA2.MDB") + "\" kann nicht gelesen werden.");
+  {
+    const AndererBenutzer niemand;
+    ASSERT_FALSE(niemand.darfAlles());
+    EXPECT_FALSE(laden());
+    beenden();
+  }
+  QFile::setPermissions(datei("TOVA2.MDB"), AlleRechte);
+  EXPECT_EQ(dateiLesen("TOVA2.MDB"), vorher);
+  EXPECT_EQ(ordnerinhalt(), QStringList({"TOVA2.MDB"}));
+}
+
+TEST_F(Datenbankstoerung, OrdnerInDenNichtGeschriebenWerdenDarf) {
+  const QByteArray vorher = gueltige();
+  QFile::setPermissions(datei("TOVA2.MDB"), AlleLesen | AlleSchreiben);
+  QFile::setPermissions(m_ordner.path(), AlleLesen | AlleOeffnen);
+  probe.hinweisMit("In den Ordner \"" + m_ordner.path() + "\" der Datenbank kann nicht");
+  {
+    const AndererBenutzer niemand;
+    ASSERT_FALSE(niemand.darfAlles());
+    EXPECT_FALSE(laden());
+    beenden();
+  }
+  QFile::setPermissions(m_ordner.path(), AlleRechte);
+  EXPECT_EQ(dateiLesen("TOVA2.MDB"), vorher);
+  EXPECT_EQ(ordnerinhalt(), QStringList({"TOVA2.MDB"}));
+}
+
+TEST_F(Datenbankstoerung, ErsterStartInEinemOrdnerInDenNichtGeschriebenWerdenDarf) {
+  QFile::setPermissions(m_ordner.path(), AlleLesen | AlleOeffnen);
+  probe.hinweisMit(datei("TOVA2.MDB"));
+  {
+    const AndererBenutzer niemand;
+    ASSERT_FALSE(niemand.darfAlles());
+    EXPECT_FALSE(laden());
+    beenden();
+  }
+  QFile::setPermissions(m_ordner.path(), AlleRechte);
+  EXPECT_EQ(ordnerinhalt(), QStringList());
+}
+
+TEST_F(Datenbankstoerung, NachDemErstenProgrammGehtDasZweite) {
+  voelker(1);
+  starten();
+  probe.hinweisMit("Die Anwendung wurde bereits gestartet!");
+  {
+    TA_TOVA zweites;
+    EXPECT_FALSE(zweites.laden({m_ordner.path(), QDate(2024, 6, 15), [] { return true; }}));
+    zweites.close();
+  }
+  EXPECT_EQ(nummern(), QStringList({"1"}));  // the first one goes on
+  schliessen();
+  zuruecksetzen();
+  starten();
+  EXPECT_EQ(nummern(), QStringList({"1"}));
+}
+
+namespace {
+
+// A settings file that someone has edited or that a computer has lost.
+class Einstellungsstoerung : public Hauptumfeld {
+ protected:
+  // The program works with it and leaves a whole file behind.
+  void startetUndSchreibtGanz(const QByteArray& inhalt) {
+    voelker(2);
+    dateiSchreiben("Einstellungen.TV2", inhalt);
+    starten();
+    EXPECT_EQ(nummern(), QStringList({"1", "2"}));
+    EXPECT_EQ(EinstellungenZahl[44], 19);
+    EXPECT_EQ(EinstellungenZahl[45], 7);
+    EXPECT_EQ(EinstellungenZahl[56], 10);
+    EXPECT_EQ(EinstellungenZahl[78], 1);
+    EXPECT_TRUE(EinstellungenText[17].startsWith("select Volknr, Volkname, "));
+    EXPECT_EQ(EinstellungenText[4], QStringLiteral(" | "));
+    EXPECT_EQ(EinstellungenText[24], QString(60, u'1'));
+    klick("cmdok");
+    EXPECT_TRUE(panel().startsWith("VOLKDATEN"));
+    schliessen();
+    EXPECT_EQ(Textdatei::lesen(datei("Einstellungen.TV2")).size(), 173);
+  }
+};
+
+}  // namespace
+
+TEST_F(Einstellungsstoerung, LeereDatei) { startetUndSchreibtGanz({}); }
+
+TEST_F(Einstellungsstoerung, KurzeDatei) { startetUndSchreibtGanz("0\r\n0\r\n1"); }
+
+TEST_F(Einstellungsstoerung, BinaereDatei) {
+  QByteArray bytes;
+  for (int i = 0; i < 20000; ++i) bytes += static_cast<char>(i * 37 + i / 256);
+  startetUndSchreibtGanz(bytes);
+}
+
+TEST_F(Einstellungsstoerung, ZuLangeDateiMitEinerRiesigenZeile) {
+  QByteArray inhalt;
+  for (int i = 0; i < 101; ++i) inhalt += "0\r\n";
+  for (int i = 0; i < 11; ++i) inhalt += "0.00\r\n";
+  inhalt += QByteArray(1000000, 'x') + "\r\n";
+  for (int i = 0; i < 60; ++i) inhalt += "\r\n";
+  for (int i = 0; i < 5000; ++i) inhalt += "zuviel\r\n";
+  startetUndSchreibtGanz(inhalt);
+}
+
+TEST_F(Einstellungsstoerung, OrdnerAnIhrerStelleBeendetMitMeldung) {
+  voelker(1);
+  ASSERT_TRUE(QDir(m_ordner.path()).mkpath("Einstellungen.TV2"));
+  probe.hinweisMit(datei("Einstellungen.TV2"));
+  EXPECT_FALSE(laden());
+}
+
+TEST_F(Einstellungsstoerung, NichtLesbareDateiBeendetMitMeldungUndBleibt) {
+  voelker(1);
+  dateiSchreiben("Einstellungen.TV2", "1\r\n2\r\n");
+  QFile::setPermissions(m_ordner.path(), AlleRechte);
+  QFile::setPermissions(datei("TOVA2.MDB"), AlleLesen | AlleSchreiben);
+  QFile::setPermissions(datei("Einstellungen.TV2"), QFileDevice::WriteOwner);
+  probe.hinweisMit("Die Datei " + datei("Einstellungen.TV2") + " kann nicht gelesen werden.");
+  {
+    const AndererBenutzer niemand;
+    ASSERT_FALSE(niemand.darfAlles());
+    EXPECT_FALSE(laden());
+    form->close();
+    beenden();
+  }
+  QFile::setPermissions(datei("Einstellungen.TV2"), AlleRechte);
+  EXPECT_EQ(dateiLesen("Einstellungen.TV2"), QByteArray("1\r\n2\r\n"));
+}
