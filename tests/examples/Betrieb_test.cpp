@@ -1,0 +1,203 @@
+#include "Betrieb.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QMap>
+#include <QTemporaryDir>
+
+#include "core/globals.h"
+#include "data/schema.h"
+
+namespace {
+
+using TZ_Variablen::DB;
+
+// All rows of all tables as text, by table.
+using Bestand = QMap<QString, QStringList>;
+
+const QDate Heute(2026, 6, 15);
+
+class Beispielbetrieb : public ::testing::Test {
+ protected:
+  void TearDown() override { schliessen(); }
+
+  static void schliessen() {
+    DB.Close();
+    TZ_Variablen::Arbeitsbereich.Close();
+    TZ_Variablen::zuruecksetzen();
+  }
+
+  static Betriebsgroesse klein(quint32 saat) {
+    Betriebsgroesse groesse;
+    groesse.voelker = 6;
+    groesse.jahre = 2;
+    groesse.saat = saat;
+    groesse.heute = Heute;
+    return groesse;
+  }
+
+  // Makes the operation in a folder of its own and leaves it open.
+  void anlegen(const Betriebsgroesse& groesse) {
+    schliessen();
+    m_ordner = std::make_unique<QTemporaryDir>();
+    ASSERT_TRUE(m_ordner->isValid());
+    betriebAnlegen(m_ordner->path(), groesse);
+  }
+  void standard() {
+    Betriebsgroesse groesse;
+    groesse.heute = Heute;
+    anlegen(groesse);
+  }
+
+  static Bestand bestand() {
+    Bestand alles;
+    for (const Tabelle& tabelle : schema()) {
+      const Daten daten = DB.Lesen("select * from " + tabelle.name);
+      QStringList zeilen;
+      for (int z = 0; z < daten->zeilen(); ++z) {
+        QStringList zellen;
+        for (int s = 0; s < daten->spalten(); ++s)
+          zellen << (daten->istNull(z, s) ? QString("null") : '"' + daten->anzeige(z, s) + '"');
+        zeilen << zellen.join(' ');
+      }
+      alles[tabelle.name] = zeilen;
+    }
+    return alles;
+  }
+  QByteArray einstellungen() const {
+    QFile datei(m_ordner->filePath("Einstellungen.TV2"));
+    return datei.open(QFile::ReadOnly) ? datei.readAll() : QByteArray();
+  }
+  static qint64 anzahl(const QString& tabelle, const QString& bedingung = {}) {
+    return DB
+        .Lesen("select count(*) as n from " + tabelle +
+               (bedingung.isEmpty() ? QString() : " where " + bedingung))
+        ->ganzzahl(0, 0);
+  }
+  static QList<qint64> voelker(const QString& bedingung) {
+    const Daten daten = DB.Lesen("select ID from Bienenvolk where " + bedingung + " order by ID");
+    QList<qint64> ids;
+    for (int i = 0; i < daten->zeilen(); ++i) ids << daten->ganzzahl(i, 0);
+    return ids;
+  }
+  static qint64 buchungen(qint64 volk) {
+    qint64 summe = 0;
+    for (const QString& tabelle : buchungstabellen())
+      summe += anzahl(tabelle, "Volk_ID = " + QString::number(volk));
+    return summe;
+  }
+
+  std::unique_ptr<QTemporaryDir> m_ordner;
+};
+
+TEST_F(Beispielbetrieb, GleicheGroesseSaatUndTagGebenInAllenTabellenDasselbe) {
+  anlegen(klein(7));
+  const Bestand erster = bestand();
+  const QByteArray ersteEinstellungen = einstellungen();
+  anlegen(klein(7));
+  const Bestand zweiter = bestand();
+  ASSERT_EQ(erster.size(), 27);
+  for (const QString& tabelle : erster.keys())
+    EXPECT_EQ(erster[tabelle], zweiter[tabelle]) << tabelle.toStdString();
+  EXPECT_FALSE(ersteEinstellungen.isEmpty());
+  EXPECT_EQ(einstellungen(), ersteEinstellungen);
+}
+
+TEST_F(Beispielbetrieb, EineAndereSaatGibtAndereDaten) {
+  anlegen(klein(7));
+  const Bestand erster = bestand();
+  anlegen(klein(8));
+  const Bestand zweiter = bestand();
+  for (const char* tabelle : {"Bienenvolk", "Stockkarte", "Honigernte", "Wanderung"})
+    EXPECT_NE(erster[tabelle], zweiter[tabelle]) << tabelle;
+}
+
+TEST_F(Beispielbetrieb, VierundzwanzigVoelkerAnVierStandorten) {
+  standard();
+  EXPECT_EQ(anzahl("Bienenvolk"), 24);
+  EXPECT_EQ(anzahl("Standorte"), 4);
+  // Colonies 5, 13 and 21 don't come through a winter.
+  EXPECT_EQ(voelker("Akt_im_Bestand = 'X'").size(), 21);
+  EXPECT_EQ(anzahl("Bienenvolk", "Akt_im_Bestand <> 'X' and Abgangsgrund = 'Winterverlust'"), 3);
+}
+
+TEST_F(Beispielbetrieb, JedeDerElfBuchungstabellenHatZeilen) {
+  standard();
+  ASSERT_EQ(buchungstabellen().size(), 11);
+  for (const QString& tabelle : buchungstabellen())
+    EXPECT_GT(anzahl(tabelle), 0) << tabelle.toStdString();
+}
+
+// Per colony: about a dozen inspections a season, two or three harvests in each of two whole
+// seasons and one before mid June, three treatments a year.
+TEST_F(Beispielbetrieb, DieMengenSindGlaubhaft) {
+  standard();
+  for (const qint64 volk : voelker("Akt_im_Bestand = 'X'")) {
+    const QString bedingung = "Volk_ID = " + QString::number(volk);
+    EXPECT_GE(anzahl("Stockkarte", bedingung), 15) << volk;
+    EXPECT_LE(anzahl("Stockkarte", bedingung), 45) << volk;
+    EXPECT_GE(anzahl("Honigernte", bedingung), 4) << volk;
+    EXPECT_LE(anzahl("Honigernte", bedingung), 9) << volk;
+    EXPECT_EQ(anzahl("Behandlung", bedingung), 6) << volk;
+    EXPECT_GE(buchungen(volk), 50) << volk;
+    EXPECT_LE(buchungen(volk), 150) << volk;
+  }
+  EXPECT_EQ(anzahl("Honigernte", "Menge_kg < 2 or Menge_kg > 25"), 0);
+}
+
+TEST_F(Beispielbetrieb, NichtsIstMorgenOderVorDemZugangGebucht) {
+  standard();
+  const Daten volk = DB.Lesen("select ID, Volk_Zugangsdatum, Abgangsdatum from Bienenvolk");
+  ASSERT_EQ(volk->zeilen(), 24);
+  for (int i = 0; i < volk->zeilen(); ++i) {
+    const QDate ab = volk->wert(i, 1).toDate();
+    const QDate bis = volk->istNull(i, 2) ? Heute : volk->wert(i, 2).toDate();
+    for (const QString& tabelle : buchungstabellen()) {
+      const Daten zahl = DB.Lesen("select count(*) as n from " + tabelle +
+                                      " where Volk_ID = ? and (Datum < ? or Datum > ?)",
+                                  {volk->ganzzahl(i, 0), ab, bis});
+      EXPECT_EQ(zahl->ganzzahl(0, 0), 0) << tabelle.toStdString() << " Volk " << i + 1;
+    }
+  }
+}
+
+TEST_F(Beispielbetrieb, DieHonigsummenDerVoelkerStimmenMitDenErntenUeberein) {
+  standard();
+  const Daten volk = DB.Lesen("select ID, Honigmenge_Gesamt from Bienenvolk");
+  for (int i = 0; i < volk->zeilen(); ++i) {
+    const Daten summe = DB.Lesen("select sum(Menge_kg) as kg from Honigernte where Volk_ID = ?",
+                                 {volk->ganzzahl(i, 0)});
+    EXPECT_NEAR(volk->zahl(i, 1), summe->zahl(0, 0), 0.01) << i;
+  }
+}
+
+TEST_F(Beispielbetrieb, ZweihundertBuchungenJeVolkSindGenauZweihundert) {
+  Betriebsgroesse groesse;
+  groesse.voelker = 8;
+  groesse.buchungenJeVolk = 200;
+  groesse.heute = Heute;
+  anlegen(groesse);
+  const QList<qint64> gehalten = voelker("Akt_im_Bestand = 'X'");
+  EXPECT_EQ(gehalten.size(), 7);
+  for (const qint64 volk : gehalten) EXPECT_EQ(buchungen(volk), 200) << volk;
+}
+
+TEST_F(Beispielbetrieb, EineSaisonHatKeinenWinterverlust) {
+  Betriebsgroesse groesse = klein(1);
+  groesse.jahre = 1;
+  anlegen(groesse);
+  EXPECT_EQ(voelker("Akt_im_Bestand = 'X'").size(), 6);
+}
+
+TEST_F(Beispielbetrieb, DerFortschrittNenntDieFertigenVoelker) {
+  Betriebsgroesse groesse = klein(1);
+  groesse.voelker = 150;
+  groesse.jahre = 1;
+  QList<int> fertig;
+  m_ordner = std::make_unique<QTemporaryDir>();
+  betriebAnlegen(m_ordner->path(), groesse, [&](int voelker) { fertig << voelker; });
+  EXPECT_EQ(fertig, QList<int>({100, 150}));
+}
+
+}  // namespace
