@@ -1,0 +1,454 @@
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSet>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolButton>
+
+#include "Hauptumfeld.h"
+#include "core/mainform/Einstellungen.h"
+#include "core/mainform/Feldfolge.h"
+#include "core/mainform/Liste.h"
+#include "core/mainform/forms/TO_Einstellungen.h"
+#include "platform/controls/Eingabefeld.h"
+#include "platform/files/Textdatei.h"
+
+using namespace TZ_Variablen;
+
+// The form alone, on the settings of a first start.
+class Einstellungsform : public testing::Test {
+ protected:
+  void SetUp() override {
+    zuruecksetzen();
+    ASSERT_TRUE(m_ordner.isValid());
+    Start::pfadeSetzen(m_ordner.path());
+    Start::datenbankOeffnen();
+    Start::einstellungenLaden(QDate(2024, 6, 15));
+    MehrwertsteuerPruefen();
+    WabenJeMagazinPruefen();
+    ListeNeuLesen = 0;
+  }
+  void TearDown() override {
+    EXPECT_EQ(boxen.fehler().toStdString(), "");
+    form.reset();
+    Fensterablage::setDatei({});
+    DB.Close();
+    Arbeitsbereich.Close();
+    zuruecksetzen();
+  }
+  void oeffne() {
+    form = std::make_unique<TO_Einstellungen>();
+    form->laden();
+    form->show();
+    form->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  }
+
+  template <typename T = QWidget>
+  T* kind(const QString& name) {
+    T* k = form->findChild<T*>(name);
+    EXPECT_NE(k, nullptr) << name.toStdString();
+    return k;
+  }
+  Eingabefeld* feld(int index) { return kind<Eingabefeld>(QStringLiteral("sevt_%1").arg(index)); }
+  QCheckBox* kon(int index) { return kind<QCheckBox>(QStringLiteral("kon_%1").arg(index)); }
+  void zeigeReiter(QWidget* w) {
+    auto* reiter = kind<QTabWidget>("reiter");
+    for (int i = 0; i < reiter->count(); ++i)
+      if (reiter->widget(i)->isAncestorOf(w)) reiter->setCurrentIndex(i);
+  }
+  void tippe(int index, const QString& text) {
+    Eingabefeld* f = feld(index);
+    zeigeReiter(f);
+    f->setFocus();
+    f->selectAll();
+    QTest::keyClick(f, Qt::Key_Delete);
+    QTest::keyClicks(f, text);
+  }
+  void klicke(QAbstractButton* k) {
+    zeigeReiter(k);
+    QTest::mouseClick(k, Qt::LeftButton, {}, QPoint(10, k->height() / 2));
+  }
+  void klicke(const QString& name) { klicke(kind<QAbstractButton>(name)); }
+  QStringList zeilen(const QString& name) {
+    QStringList texte;
+    const auto* liste = kind<QListWidget>(name);
+    for (int i = 0; i < liste->count(); ++i) texte << liste->item(i)->text();
+    return texte;
+  }
+  QStringList gespeichert() const {
+    return Textdatei::lesen(m_ordner.filePath("Einstellungen.TV2"));
+  }
+
+  QTemporaryDir m_ordner;
+  Meldungen::Probe boxen;
+  std::unique_ptr<TO_Einstellungen> form;
+};
+
+TEST_F(Einstellungsform, JedesElementHatNamenUndBeschriftung) {
+  oeffne();
+  EXPECT_EQ(form->objectName(), "TO_Einstellungen");
+  EXPECT_EQ(form->windowTitle(), "Einstellungen");
+  for (const auto& s : Einstellungen::schalter()) {
+    EXPECT_EQ(kon(s.index)->accessibleName(), s.beschriftung);
+    EXPECT_EQ(kon(s.index)->text().simplified(), s.beschriftung);
+  }
+  for (const auto& e : Einstellungen::eingaben())
+    EXPECT_EQ(feld(e.index)->accessibleName(), e.beschriftung);
+  for (const char* name : {"litext1", "litext2", "lifelder", "listock"})
+    EXPECT_FALSE(kind<QListWidget>(name)->accessibleName().isEmpty());
+  for (const char* name : {"aufwaerts", "aufwaertsstock"}) {
+    EXPECT_EQ(kind<QToolButton>(QString(name) + "_0")->toolTip(), "Nach oben verschieben");
+    EXPECT_EQ(kind<QToolButton>(QString(name) + "_1")->toolTip(), "Nach unten verschieben");
+  }
+  EXPECT_EQ(kind<QPushButton>("standard")->text(), "Standard-&Einstellung");
+  for (const char* name : {"ok", "cmdabbrechen", "comhilfe"}) kind<QPushButton>(name);
+  EXPECT_TRUE(kind<QPushButton>("ok")->isDefault());
+  EXPECT_TRUE(kon(0)->hasFocus());
+}
+
+TEST_F(Einstellungsform, ReiterTragenIhreTitel) {
+  oeffne();
+  auto* reiter = kind<QTabWidget>("reiter");
+  QStringList titel;
+  for (int i = 0; i < reiter->count(); ++i) titel << reiter->tabText(i).remove(u'&');
+  EXPECT_EQ(titel, QStringList({"Allgemein", "Eingabe", "Werte und Kosten", "Auswertungen",
+                                "Datenfelder-Reihenfolge"}));
+}
+
+TEST_F(Einstellungsform, TastenkuerzelStossenNichtZusammen) {
+  oeffne();
+  QStringList texte;
+  auto* reiter = kind<QTabWidget>("reiter");
+  for (int i = 0; i < reiter->count(); ++i) texte << reiter->tabText(i);
+  for (const auto* knopf : form->findChildren<QPushButton*>()) texte << knopf->text();
+  QSet<QChar> zeichen;
+  for (const QString& text : texte) {
+    const qsizetype ort = text.indexOf(u'&');
+    ASSERT_GE(ort, 0) << text.toStdString();
+    EXPECT_FALSE(zeichen.contains(text[ort + 1].toLower())) << text.toStdString();
+    zeichen << text[ort + 1].toLower();
+  }
+}
+
+TEST_F(Einstellungsform, ZeigtDieEinstellungenDesErstenStarts) {
+  oeffne();
+  const QList<std::pair<int, bool>> haken = {{0, true},  {1, false},  {2, true},  {3, true},
+                                             {4, true},  {5, true},   {6, false}, {7, true},
+                                             {8, false}, {10, false}, {11, false}};
+  for (const auto& [index, ja] : haken) EXPECT_EQ(kon(index)->isChecked(), ja) << index;
+  const QStringList texte = {"14",   "14",   "",   " | ", "60",   "0,00", "0,00", "0,00",
+                             "0,00", "0,00", "19", "7",   "0,00", "",     "",     "10"};
+  for (int i = 0; i < texte.size(); ++i) EXPECT_EQ(feld(i)->inhalt(), texte[i]) << i;
+  EXPECT_EQ(kind<QListWidget>("litext1")->count(), 45);
+  EXPECT_EQ(kind<QListWidget>("litext2")->count(), 11);
+  EXPECT_EQ(zeilen("lifelder").size(), 50);
+  EXPECT_EQ(zeilen("listock").first(), "Datum");
+  EXPECT_EQ(zeilen("listock").last(), "ID");
+}
+
+TEST_F(Einstellungsform, OkSpeichertAlleEingabenUndSchreibtDieDatei) {
+  oeffne();
+  for (const auto& s : Einstellungen::schalter()) klicke(kon(s.index));
+  const QStringList texte = {
+      "30", "60", "Imkerei Huber", "; ", "45", "7,5", "12,25", "0,03", "0,05", "15",
+      "20", "10", "1,9",           "",   "",   "12"};
+  for (int i = 0; i < texte.size(); ++i)
+    if (!texte[i].isEmpty()) tippe(i, texte[i]);
+  klicke("ok");
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(ListeNeuLesen, 1);
+  const QList<std::pair<size_t, int>> zahlen = {
+      {13, 0}, {48, 1}, {47, 0},  {57, 0},  {46, 0},  {24, 0},  {51, 1},  {55, 0}, {68, 1},
+      {72, 1}, {73, 1}, {50, 30}, {17, 60}, {49, 45}, {44, 20}, {45, 10}, {56, 12}};
+  for (const auto& [slot, wert] : zahlen) EXPECT_EQ(EinstellungenZahl[slot], wert) << slot;
+  const float werte[] = {7.5f, 12.25f, 0.03f, 0.05f, 15.0f, 1.9f};
+  for (size_t i = 0; i < 6; ++i) EXPECT_EQ(EinstellungenWert[i], werte[i]) << i;
+  EXPECT_EQ(EinstellungenText[0], "Imkerei Huber");
+  EXPECT_EQ(EinstellungenText[4], "; ");
+  const QStringList datei = gespeichert();
+  EXPECT_EQ(datei[50], "30");
+  EXPECT_EQ(datei[101], "7.50");
+  EXPECT_EQ(datei[112], "Imkerei Huber");
+}
+
+TEST_F(Einstellungsform, WiederGeoeffnetStehtDasGespeicherteDa) {
+  oeffne();
+  tippe(12, "1,9");
+  tippe(0, "30");
+  klicke(kon(11));
+  klicke("ok");
+  form->laden();
+  form->show();
+  EXPECT_EQ(feld(12)->inhalt(), "1,90");
+  EXPECT_EQ(feld(0)->inhalt(), "30");
+  EXPECT_TRUE(kon(11)->isChecked());
+  EXPECT_EQ(kind<QTabWidget>("reiter")->currentIndex(), 0);
+}
+
+TEST_F(Einstellungsform, GrenzenGeltenBeimSpeichern) {
+  oeffne();
+  tippe(0, "0");
+  tippe(1, "400");
+  tippe(4, "29");
+  tippe(10, "60");
+  tippe(15, "20");
+  tippe(3, "");
+  klicke("ok");
+  EXPECT_EQ(EinstellungenZahl[50], 14);
+  EXPECT_EQ(EinstellungenZahl[17], 365);
+  EXPECT_EQ(EinstellungenZahl[49], 30);
+  EXPECT_EQ(EinstellungenZahl[44], 19);
+  EXPECT_EQ(EinstellungenZahl[56], 10);
+  EXPECT_EQ(EinstellungenText[4], " | ");
+}
+
+TEST_F(Einstellungsform, EingabetasteSpeichertUndEscVerwirft) {
+  oeffne();
+  tippe(0, "30");
+  QTest::keyClick(feld(0), Qt::Key_Escape);
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(EinstellungenZahl[50], 14);
+  EXPECT_EQ(ListeNeuLesen, 0);
+  form->laden();
+  form->show();
+  EXPECT_EQ(feld(0)->inhalt(), "14");
+  tippe(0, "31");
+  QTest::keyClick(feld(0), Qt::Key_Return);
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(EinstellungenZahl[50], 31);
+}
+
+TEST_F(Einstellungsform, AbbrechenVerwirftAuchVerschobeneFelder) {
+  oeffne();
+  const QString vorher = EinstellungenText[17];
+  kind<QListWidget>("lifelder")->setCurrentRow(3);
+  klicke("aufwaerts_0");
+  klicke("cmdabbrechen");
+  EXPECT_EQ(EinstellungenText[17], vorher);
+  form->laden();
+  EXPECT_EQ(zeilen("lifelder")[3], "Magazine");
+}
+
+TEST_F(Einstellungsform, EingabetasteInEinerListeSpeichert) {
+  oeffne();
+  auto* liste = kind<QListWidget>("litext1");
+  zeigeReiter(liste);
+  liste->setFocus();
+  QTest::keyClick(liste, Qt::Key_Return);
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(ListeNeuLesen, 1);
+}
+
+TEST_F(Einstellungsform, StandardFragtUndSetztErstBeiJa) {
+  oeffne();
+  const QString frage =
+      "Sollen die aktuellen Werte wirklich mit den Standard-Werten überschrieben werden?";
+  tippe(0, "30");
+  tippe(2, "Kopf");
+  tippe(5, "7,5");
+  klicke(kon(0));
+  boxen.frage(frage, false);
+  klicke("standard");
+  EXPECT_EQ(feld(0)->inhalt(), "30");
+  EXPECT_FALSE(kon(0)->isChecked());
+  boxen.frage(frage, true);
+  klicke("standard");
+  EXPECT_EQ(feld(0)->inhalt(), "14");
+  EXPECT_EQ(feld(2)->inhalt(), "");
+  EXPECT_EQ(feld(3)->inhalt(), " | ");
+  EXPECT_EQ(feld(5)->inhalt(), "7,5");
+  EXPECT_TRUE(kon(0)->isChecked());
+  EXPECT_FALSE(kon(4)->isChecked());
+  EXPECT_TRUE(form->isVisible());
+  klicke("cmdabbrechen");
+  EXPECT_EQ(EinstellungenZahl[46], 1);  // nothing was saved
+  EXPECT_EQ(EinstellungenText[0], "");
+}
+
+TEST_F(Einstellungsform, KnoepfeVerschiebenDasGewaehlteFeld) {
+  oeffne();
+  auto* liste = kind<QListWidget>("lifelder");
+  liste->setCurrentRow(1);
+  klicke("aufwaerts_0");
+  EXPECT_EQ(zeilen("lifelder").mid(0, 3), QStringList({"Volkname", "Volknr", "Volkstärke"}));
+  EXPECT_EQ(liste->currentRow(), 0);
+  klicke("aufwaerts_0");  // stays at the top
+  EXPECT_EQ(liste->currentRow(), 0);
+  klicke("aufwaerts_1");
+  klicke("aufwaerts_1");
+  EXPECT_EQ(zeilen("lifelder").mid(0, 3), QStringList({"Volknr", "Volkstärke", "Volkname"}));
+  EXPECT_EQ(liste->currentItem()->text(), "Volkname");
+  auto* stock = kind<QListWidget>("listock");
+  stock->setCurrentRow(2);
+  klicke("aufwaertsstock_0");
+  klicke("ok");
+  EXPECT_TRUE(
+      EinstellungenText[17].startsWith(QString("select Volknr, Volkstärke, Volkname, Mag")));
+  EXPECT_TRUE(EinstellungenText[22].startsWith(QString("select Datum, Brutstand, Volkstärke, W")));
+}
+
+TEST_F(Einstellungsform, AltPfeilVerschiebtInDerListe) {
+  oeffne();
+  auto* liste = kind<QListWidget>("lifelder");
+  zeigeReiter(liste);
+  liste->setFocus();
+  liste->setCurrentRow(0);
+  QTest::keyClick(liste, Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(zeilen("lifelder").mid(0, 2), QStringList({"Volkname", "Volknr"}));
+  QTest::keyClick(liste, Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(zeilen("lifelder").mid(0, 2), QStringList({"Volknr", "Volkname"}));
+}
+
+TEST_F(Einstellungsform, DatumUndIDLassenSichNichtVerschieben) {
+  oeffne();
+  const QString text = "Das Datum und die ID können nicht verschoben werden.";
+  const QStringList vorher = zeilen("listock");
+  auto* stock = kind<QListWidget>("listock");
+  for (const auto& [zeile, knopf] : {std::pair(0, 1), {28, 0}, {1, 0}, {27, 1}}) {
+    stock->setCurrentRow(zeile);
+    boxen.hinweis(text);
+    klicke(QStringLiteral("aufwaertsstock_%1").arg(knopf));
+    EXPECT_EQ(stock->currentRow(), zeile);
+  }
+  EXPECT_EQ(zeilen("listock"), vorher);
+  auto* liste = kind<QListWidget>("lifelder");
+  liste->setCurrentRow(49);
+  boxen.hinweis(text);
+  klicke("aufwaerts_0");
+}
+
+TEST_F(Einstellungsform, HakenWerdenZurZeichenfolge) {
+  oeffne();
+  auto* zeilenliste = kind<QListWidget>("litext1");
+  auto* buchungen = kind<QListWidget>("litext2");
+  zeigeReiter(zeilenliste);
+  zeilenliste->setCurrentRow(1);
+  QTest::keyClick(zeilenliste, Qt::Key_Space);
+  buchungen->setCurrentRow(0);
+  QTest::keyClick(buchungen, Qt::Key_Space);
+  klicke("ok");
+  EXPECT_EQ(EinstellungenText[24], "10" + QString(43, u'1') + "0" + QString(10, u'1'));
+  form->laden();
+  EXPECT_EQ(zeilenliste->item(1)->checkState(), Qt::Unchecked);
+  EXPECT_EQ(zeilenliste->item(2)->checkState(), Qt::Checked);
+}
+
+TEST_F(Einstellungsform, AlleUndKeinenAnhaken) {
+  oeffne();
+  klicke("keine");
+  for (const char* name : {"litext1", "litext2"})
+    for (int i = 0; i < kind<QListWidget>(name)->count(); ++i)
+      EXPECT_EQ(kind<QListWidget>(name)->item(i)->checkState(), Qt::Unchecked);
+  klicke("alle");
+  for (const char* name : {"litext1", "litext2"})
+    for (int i = 0; i < kind<QListWidget>(name)->count(); ++i)
+      EXPECT_EQ(kind<QListWidget>(name)->item(i)->checkState(), Qt::Checked);
+}
+
+TEST_F(Einstellungsform, SortierungIstEineAuswahlDerListenfelder) {
+  oeffne();
+  const QStringList wahl = feld(13)->beschreibung().auswahl;
+  EXPECT_EQ(wahl.size(), 51);
+  EXPECT_EQ(wahl[0], "");
+  EXPECT_EQ(wahl[1], "Volknr");
+  EXPECT_EQ(feld(14)->beschreibung().auswahl, wahl);
+  zeigeReiter(feld(13));
+  feld(13)->setFocus();
+  QTest::keyClicks(feld(13), "S");
+  EXPECT_EQ(feld(13)->inhalt(), "Sanftmut");
+  feld(14)->setFocus();
+  QTest::keyClicks(feld(14), "S");
+  klicke("ok");
+  EXPECT_EQ(EinstellungenText[33], "Sanftmut");
+  EXPECT_EQ(EinstellungenText[34], "");
+}
+
+TEST_F(Einstellungsform, SortierungLaesstSichWiederLeeren) {
+  EinstellungenText[33] = "Volknr";
+  oeffne();
+  EXPECT_EQ(feld(13)->inhalt(), "Volknr");
+  zeigeReiter(feld(13));
+  feld(13)->setFocus();
+  QTest::keyClick(feld(13), Qt::Key_Delete);
+  EXPECT_EQ(feld(13)->inhalt(), "");
+  klicke("ok");
+  EXPECT_EQ(EinstellungenText[33], "");
+}
+
+TEST_F(Einstellungsform, GezogeneBreitenBleibenBeiIhremFeld) {
+  Fensterablage::setDatei(m_ordner.filePath("TOVA2.LAY"));
+  QVariantList breiten;
+  for (int i = 0; i < 50; ++i) breiten << 100 + i;
+  Fensterablage::schreiben("Spaltenbreiten/TOVA/datali/ColWidths", breiten);
+  oeffne();
+  kind<QListWidget>("lifelder")->setCurrentRow(1);
+  klicke("aufwaerts_0");
+  klicke("ok");
+  const QVariantList danach = Fensterablage::lesen("Spaltenbreiten/TOVA/datali/ColWidths").toList();
+  ASSERT_EQ(danach.size(), 50);
+  EXPECT_EQ(danach[0].toInt(), 101);
+  EXPECT_EQ(danach[1].toInt(), 100);
+  EXPECT_EQ(danach[2].toInt(), 102);
+}
+
+TEST_F(Einstellungsform, ScheiterndesSchreibenLaesstDasFormularOffen) {
+  oeffne();
+  QFile::remove(m_ordner.filePath("Einstellungen.TV2"));
+  QDir().mkpath(m_ordner.filePath("Einstellungen.TV2"));
+  tippe(0, "30");
+  boxen.hinweisMit("Einstellungen.TV2");
+  klicke("ok");
+  EXPECT_TRUE(form->isVisible());
+  EXPECT_EQ(feld(0)->inhalt(), "30");
+}
+
+TEST_F(Einstellungsform, HilfeZeigtDasThemaDesFormulars) {
+  QString thema;
+  Formular::setHilfe([&](QWidget*, const QString& t) { thema = t; });
+  oeffne();
+  klicke("comhilfe");
+  EXPECT_EQ(thema, "TO_Einstellungen");
+  thema.clear();
+  QTest::keyClick(feld(0), Qt::Key_F1);
+  EXPECT_EQ(thema, "TO_Einstellungen");
+  Formular::setHilfe({});
+}
+
+TEST_F(Einstellungsform, TabulatorFuehrtInDerFolgeDerGruppen) {
+  oeffne();
+  QStringList folge;
+  for (int i = 0; i < 6; ++i) {
+    folge << QApplication::focusWidget()->objectName();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(folge, QStringList({"kon_0", "sevt_1", "sevt_0", "kon_6", "sevt_13", "sevt_14"}));
+  EXPECT_TRUE(kind<QPushButton>("ok")->hasFocus());
+}
+
+// Room for everything on a small screen, with large type too.
+TEST_F(Einstellungsform, PasstMitGrosserSchriftAufDenKleinenSchirm) {
+  const QFont vorher = QApplication::font();
+  QFont gross = vorher;
+  gross.setPointSizeF(vorher.pointSizeF() * 1.5);
+  QApplication::setFont(gross);
+  oeffne();
+  EXPECT_LE(form->minimumSizeHint().width(), 1366);
+  EXPECT_LE(form->minimumSizeHint().height(), 720);
+  EXPECT_LE(form->sizeHint().width(), 1366);
+  form->resize(form->sizeHint().boundedTo(QSize(1366, 720)));
+  auto* reiter = kind<QTabWidget>("reiter");
+  for (int i = 0; i < reiter->count(); ++i) {
+    reiter->setCurrentIndex(i);
+    QApplication::processEvents();
+    for (const QLabel* schild : reiter->widget(i)->findChildren<QLabel*>())
+      EXPECT_GE(schild->width(), schild->sizeHint().width()) << schild->text().toStdString();
+    for (const QCheckBox* knopf : reiter->widget(i)->findChildren<QCheckBox*>())
+      EXPECT_GE(knopf->width(), knopf->sizeHint().width()) << knopf->text().toStdString();
+  }
+  form.reset();
+  QApplication::setFont(vorher);
+}
