@@ -5,7 +5,10 @@
 
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 // What the benchmarks share. Each measures one piece of work twice in one run: by the program's own
 // routine ("Name/programm/N") and by a bare SQLite loop that does the least possible
@@ -40,10 +43,19 @@ class Blank {
     void binde(int nummer, qint64 wert) { sqlite3_bind_int64(m_s, nummer, wert); }
     void binde(int nummer, double wert) { sqlite3_bind_double(m_s, nummer, wert); }
     void binde(int nummer, const char* wert) {
-      sqlite3_bind_text(m_s, nummer, wert, -1, SQLITE_STATIC);
+      sqlite3_bind_text(m_s, nummer, wert, -1, SQLITE_TRANSIENT);
     }
     // Steps to the end and touches every cell; returns the number of rows.
     int lese();
+    // The first cell of the first row as text; empty for null and for no rows.
+    std::string text() {
+      std::string wert;
+      if (sqlite3_step(m_s) == SQLITE_ROW)
+        if (const auto* zeichen = sqlite3_column_text(m_s, 0))
+          wert = reinterpret_cast<const char*>(zeichen);
+      sqlite3_reset(m_s);
+      return wert;
+    }
     void fuehreAus() {
       if (lese() < 0) throw std::runtime_error(sqlite3_errmsg(m_db));
     }

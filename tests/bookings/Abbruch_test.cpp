@@ -10,6 +10,7 @@
 #include "core/globals.h"
 #include "data/schema.h"
 #include "platform/database/Recordset.h"
+#include "platform/database/Verbindung.h"
 
 // The program is killed in the middle of booking three hundred colonies.
 namespace {
@@ -97,7 +98,7 @@ TEST_P(Abbruch, DanachIstDieDatenbankHeilUndJederLaufGanzDaOderGarNicht) {
   ASSERT_TRUE(programm.waitForFinished());
 
   DB = Arbeitsbereich.OpenDatabase(DatenbankPfad);
-  EXPECT_EQ(DB.Lesen("pragma integrity_check")->anzeige(0, 0), "ok");
+  EXPECT_EQ(Verbindung::zu(DatenbankPfad)->steuere("pragma integrity_check"), "ok");
   EXPECT_EQ(gebucht() % voelker, 0);
   EXPECT_EQ(erledigt(), gebucht() > 0 ? voelker : 0);
 }
