@@ -187,6 +187,7 @@ void Grid::breitenLaden() {
 // As wide as the heading and the longest of the first texts, within a limit.
 void Grid::breitenAnpassen() {
   const QFontMetrics mass(font());
+  const int breitestes = mass.horizontalAdvance(u'W');
   const int zeilen = std::min(this->zeilen(), GemesseneZeilen);
   m_breiten.clear();
   for (int spalte = 0; spalte < spalten(); ++spalte) {
@@ -195,7 +196,8 @@ void Grid::breitenAnpassen() {
     qsizetype laengster = 0;
     for (int zeile = 0; zeile < zeilen && breite < GroessteBreite; ++zeile) {
       const QString text = m_modell->text(zeile, spalte);
-      if (text.size() * 4 < laengster * 3) continue;  // can't be the widest; measuring is dear
+      // Can't be the widest; measuring is dear.
+      if (text.size() * 4 < laengster * 3 || text.size() * breitestes <= breite) continue;
       laengster = std::max(laengster, text.size());
       breite = std::max(breite, mass.horizontalAdvance(text));
     }
