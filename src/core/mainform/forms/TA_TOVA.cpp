@@ -3,8 +3,6 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QFontDatabase>
-#include <QFrame>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -17,7 +15,7 @@
 #include "core/globals.h"
 #include "core/mainform/Liste.h"
 #include "core/mainform/Start.h"
-#include "core/mainform/Volkanzeige.h"
+#include "core/mainform/forms/Bildfeld.h"
 #include "core/mainform/forms/Symbol.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
@@ -42,13 +40,6 @@ QToolButton* symbolknopf(const QString& name, const QString& symbolName, const Q
   const int seite = eltern->fontMetrics().height() * 5 / 4;
   knopf->setIconSize(QSize(seite, seite));
   return knopf;
-}
-
-QLabel* fett(QLabel* label) {
-  QFont schrift = label->font();
-  schrift.setBold(true);
-  label->setFont(schrift);
-  return label;
 }
 
 // A fixed-width font in the size of the other texts.
@@ -155,7 +146,9 @@ QWidget* TA_TOVA::panelBauen() {
   schalter->addWidget(kon1);
   schalter->addStretch();
   spalte->addLayout(schalter);
-  spalte->addWidget(bildBauen());
+  bild = new Bildfeld(seite);
+  bild->hide();
+  spalte->addWidget(bild);
 
   text1 = benannt(new QPlainTextEdit(seite), QStringLiteral("text1"));
   text1->setReadOnly(true);
@@ -163,44 +156,13 @@ QWidget* TA_TOVA::panelBauen() {
   text1->setTabChangesFocus(true);
   text1->setLineWrapMode(QPlainTextEdit::NoWrap);
   text1->setFont(festeSchrift(font()));
+  text1->setMinimumHeight(8 * text1->fontMetrics().height());  // beside the picture
   text1->setAccessibleName(QStringLiteral("Volk-Info"));
   text1->setPlaceholderText(
       QStringLiteral("Wählen Sie in der Liste ein Volk\nund dann „Volk-Info anzeigen“,\n"
                      "oder klicken Sie es doppelt an."));
   spalte->addWidget(text1, 1);
   return seite;
-}
-
-QFrame* TA_TOVA::bildBauen() {
-  bild = benannt(new QFrame(teiler), QStringLiteral("bild"));
-  bild->setFrameShape(QFrame::StyledPanel);
-  auto* raster = new QGridLayout(bild);
-  raster->setHorizontalSpacing(18);
-  raster->setVerticalSpacing(2);
-  for (int i : {9, 10, 11, 19, 20})
-    bildpos[i] = benannt(new QLabel(bild), QStringLiteral("bildpos_%1").arg(i));
-  fett(bildpos[10]);
-  auto* kopf = new QHBoxLayout;
-  kopf->setSpacing(10);
-  kopf->addWidget(bildpos[10]);
-  kopf->addWidget(bildpos[11]);
-  kopf->addStretch();
-  raster->addLayout(kopf, 0, 0, 1, 4);
-
-  honigjahr = benannt(new QLabel(bild), QStringLiteral("honigjahr"));
-  const QList<std::pair<QLabel*, int>> summen = {
-      {new QLabel(QStringLiteral("Honig (letzte):"), bild), 19},
-      {honigjahr, 9},
-      {new QLabel(QStringLiteral("Honig (alles):"), bild), 20}};
-  for (int i = 0; i < summen.size(); ++i) {
-    raster->addWidget(summen[i].first, 1, i);
-    QLabel* wert = fett(bildpos[summen[i].second]);
-    wert->setText(QStringLiteral("0,0"));
-    raster->addWidget(wert, 2, i);
-  }
-  raster->setColumnStretch(3, 1);
-  bild->hide();
-  return bild;
 }
 
 void TA_TOVA::verbinden() {

@@ -9,14 +9,15 @@
 
 #include "core/main_list.h"
 #include "core/mainform/Menue.h"
+#include "core/mainform/Volkbild.h"
 #include "core/mainform/forms/Formen.h"
 #include "platform/database/Datenbank.h"
 #include "platform/files/Einzelstart.h"
 
+class Bildfeld;
 class Grid;
 class QButtonGroup;
 class QCheckBox;
-class QFrame;
 class QHBoxLayout;
 class QLabel;
 class QMenu;
@@ -79,7 +80,6 @@ class TA_TOVA : public QMainWindow, public Hauptliste {
   void knoepfeBauen(QHBoxLayout* zeile);
   QWidget* listeBauen();
   QWidget* panelBauen();
-  QFrame* bildBauen();
   void verbinden();
   void breitenTeilen();
 
@@ -121,6 +121,7 @@ class TA_TOVA : public QMainWindow, public Hauptliste {
   bool m_aktiviertGerade = false;
   bool m_grafikGesperrt = false;  // kon1 is being set by the program
   QString m_text;                 // of the panel, with its line ends
+  Volkbild::Rahmen m_rahmen;      // of the magazines in the picture
 
   QToolBar* mleiste = nullptr;
   QMenu* popupliste = nullptr;
@@ -141,7 +142,5 @@ class TA_TOVA : public QMainWindow, public Hauptliste {
   QToolButton* linksrechts = nullptr;
   QCheckBox* kon = nullptr;
   QCheckBox* kon1 = nullptr;
-  QFrame* bild = nullptr;
-  QHash<int, QLabel*> bildpos;
-  QLabel* honigjahr = nullptr;
+  Bildfeld* bild = nullptr;
 };

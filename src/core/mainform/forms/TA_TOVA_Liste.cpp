@@ -1,6 +1,5 @@
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QFrame>
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -15,6 +14,7 @@
 #include "core/mainform/Liste.h"
 #include "core/mainform/Listenersatz.h"
 #include "core/mainform/Volkanzeige.h"
+#include "core/mainform/forms/Bildfeld.h"
 #include "core/mainform/forms/TA_TOVA.h"
 #include "data/helpers.h"
 #include "platform/controls/Ereignis.h"
@@ -118,13 +118,10 @@ void TA_TOVA::VolkAnzeigen() {
   }
   const Ereignis::Sanduhr sanduhr;
   const auto spaltenwert = [this, zeile](const QString& spalte) { return zelle(zeile, spalte); };
-  bildpos[10]->setText(spaltenwert(QStringLiteral("Volknr")));
-  bildpos[11]->setText(spaltenwert(QStringLiteral("Volkname")));
   Volkanzeige::Honig honig;
   if (kon1->isChecked()) honig = Volkanzeige::honig(m_db, spaltenwert(QStringLiteral("ID")));
-  bildpos[19]->setText(honig.letzte);
-  bildpos[9]->setText(honig.jahr);
-  bildpos[20]->setText(honig.alles);
+  bild->zeigen(spaltenwert(QStringLiteral("Volknr")), spaltenwert(QStringLiteral("Volkname")),
+               Volkbild::bild(spaltenwert, m_rahmen), honig);
   m_text = Volkanzeige::text(m_db, spaltenwert, kon->isChecked());
   text1->setPlainText(m_text);
 }

@@ -1,9 +1,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QFrame>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QPrinterInfo>
 #include <QScopeGuard>
 #include <QScreen>
@@ -12,6 +10,7 @@
 #include "core/mainform/Komprimieren.h"
 #include "core/mainform/Start.h"
 #include "core/mainform/Volkanzeige.h"
+#include "core/mainform/forms/Bildfeld.h"
 #include "core/mainform/forms/TA_TOVA.h"
 #include "core/mainform/forms/Verdrahtung.h"
 #include "core/settings.h"
@@ -93,7 +92,7 @@ void TA_TOVA::einstellungenAnwenden() {
   m_grafikGesperrt = true;
   kon1->setChecked(EinstellungenZahl[69] != 0);
   m_grafikGesperrt = false;
-  honigjahr->setText(Volkanzeige::honigjahrBeschriftung());
+  bild->setHonigjahr(Volkanzeige::honigjahrBeschriftung());
   bild->setVisible(kon1->isChecked());
   WabenJeMagazinPruefen();
 }
