@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+#include "platform/database/Datenblock.h"
+
+// Told now and then how much of a long run is done; empty where nobody wants to know.
+using Fortschritt = std::function<void(int fertig, int gesamt)>;
+
+// A list on its way out: a block of rows, in which order they go, and the columns' captions.
+class Ausgabeliste {
+ public:
+  // The columns up to this one go into text lists and have number formats in spreadsheets.
+  static constexpr int MaxSpalten = 52;
+
+  Ausgabeliste() = default;  // no row, no column
+  // All rows as they lie. A column without a caption is called by its name.
+  explicit Ausgabeliste(Daten daten, QStringList ueberschriften = {});
+  // Only these rows of the block, in this order.
+  Ausgabeliste(Daten daten, QStringList ueberschriften, std::vector<int> ordnung);
+
+  const Daten& daten() const { return m_daten; }
+  int zeilen() const { return static_cast<int>(m_ordnung.size()); }
+  int spalten() const { return m_daten ? m_daten->spalten() : 0; }
+  int blockzeile(int zeile) const { return m_ordnung[static_cast<size_t>(zeile)]; }
+  QString ueberschrift(int spalte) const;
+  QStringList ueberschriften() const;
+  // A row whose first cell is ".": an evaluation has put it between two groups.
+  bool istTrennzeile(int zeile) const;
+
+ private:
+  Daten m_daten;
+  QStringList m_ueberschriften;
+  std::vector<int> m_ordnung;
+};
+
+// What stands above a list, each empty when it is not wanted.
+struct Listenkopf {
+  QString datum;
+  QString kopftext;
+};
+
+// As the settings want it: HeuteText with EinstellungenZahl 46 at 1, EinstellungenText 0.
+Listenkopf listenkopf();

@@ -1,0 +1,104 @@
+#include "output/Zelltext.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "platform/database/Feldregeln.h"
+
+namespace {
+
+constexpr double GroessteZahl = 1e15;  // from here on not every whole number is a double
+
+// Most numbers have up to four decimals; those are written without a detour. False when it isn't
+// sure that the text is the shortest one of the number.
+bool kurzeZahl(std::string& ziel, double wert, bool geld) {
+  constexpr double Grenze = 1e10;
+  constexpr int Stellen = 4;
+  constexpr qint64 Zehntausend = 10000;
+  if (!(std::fabs(wert) < Grenze)) return false;
+  const qint64 runde = std::llround(wert * Zehntausend);
+  if (static_cast<double>(runde) / Zehntausend != wert) return false;
+  const qint64 betrag = runde < 0 ? -runde : runde;
+  std::array<char, 24> puffer{};
+  char* ende =
+      std::to_chars(puffer.data(), puffer.data() + puffer.size(), betrag / Zehntausend).ptr;
+  std::array<char, Stellen> bruch{};
+  int laenge = Stellen;
+  qint64 rest = betrag % Zehntausend;
+  for (int i = Stellen - 1; i >= 0; --i, rest /= 10)
+    bruch[static_cast<size_t>(i)] = static_cast<char>('0' + rest % 10);
+  const int kleinste = geld ? 2 : 0;
+  while (laenge > kleinste && bruch[static_cast<size_t>(laenge) - 1] == '0') --laenge;
+  if (runde < 0) ziel += '-';
+  ziel.append(puffer.data(), ende);
+  if (laenge > 0) ziel.append(1, ',').append(bruch.data(), static_cast<size_t>(laenge));
+  return true;
+}
+
+bool istZiffer(char c) { return c >= '0' && c <= '9'; }
+
+bool kannDatumSein(Feldtyp typ, QByteArrayView text) {
+  return text.size() == 10 && text[4] == '-' && text[7] == '-' &&
+         (typ == Feldtyp::Datum || typ == Feldtyp::Ausdruck);
+}
+
+}  // namespace
+
+namespace Zelltext {
+
+void anhaengen(std::string& ziel, const Datenblock& block, int zeile, int spalte) {
+  if (block.istNull(zeile, spalte)) return;
+  const Feldtyp typ = block.spalte(spalte).typ;
+  if (!block.istText(zeile, spalte)) {
+    if (!kurzeZahl(ziel, block.zahl(zeile, spalte), typ == Feldtyp::Waehrung))
+      ziel += block.anzeige(zeile, spalte).toStdString();
+    return;
+  }
+  const QByteArrayView text = block.rohtext(zeile, spalte);
+  if (kannDatumSein(typ, text) && Feldregeln::isoDatum(text).isValid()) {
+    ziel.append(text.data() + 8, 2).append(1, '.').append(text.data() + 5, 2).append(1, '.');
+    ziel.append(text.data(), 4);
+    return;
+  }
+  ziel.append(text.data(), static_cast<size_t>(text.size()));
+}
+
+std::optional<double> zahl(QByteArrayView text) {
+  const char* von = text.data();
+  const char* bis = von + text.size();
+  while (von < bis && *von == ' ') ++von;
+  while (von < bis && bis[-1] == ' ') --bis;
+  const bool negativ = von < bis && *von == '-';
+  if (von < bis && (*von == '-' || *von == '+')) ++von;
+  constexpr int Ziffern = 15;
+  std::array<char, Ziffern + 1> puffer{};
+  size_t laenge = 0;
+  int ziffern = 0;
+  bool komma = false;
+  for (; von < bis; ++von) {
+    if (istZiffer(*von) && ziffern < Ziffern) {
+      ++ziffern;
+      puffer[laenge++] = *von;
+    } else if (*von == ',' && !komma) {
+      komma = true;
+      puffer[laenge++] = '.';
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (ziffern == 0) return std::nullopt;
+  double wert = 0;
+  std::from_chars(puffer.data(), puffer.data() + laenge, wert);
+  return negativ ? -wert : wert;
+}
+
+std::optional<double> zahl(const Datenblock& block, int zeile, int spalte) {
+  if (block.istNull(zeile, spalte)) return std::nullopt;
+  if (block.istText(zeile, spalte)) return zahl(block.rohtext(zeile, spalte));
+  const double wert = block.zahl(zeile, spalte);
+  if (!(std::fabs(wert) < GroessteZahl)) return std::nullopt;
+  return wert;
+}
+
+}  // namespace Zelltext

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/database/Datenblock.h"
+
+// The cells of a list as texts and as numbers, quick enough for millions of them.
+namespace Zelltext {
+
+// Adds to the text (UTF-8) what Datenblock::anzeige gives.
+void anhaengen(std::string& ziel, const Datenblock& block, int zeile, int spalte);
+
+// The number that a shown text is: digits with at most one comma, a sign and blanks around. None
+// for a text with a point (a date, a number with groups) and for one of more than 15 digits, which
+// no number could hold exactly.
+std::optional<double> zahl(QByteArrayView text);
+// The number that a cell shows, be it stored as a number or as a text.
+std::optional<double> zahl(const Datenblock& block, int zeile, int spalte);
+
+}  // namespace Zelltext
