@@ -1,5 +1,9 @@
 #include "core/mainform/Listenersatz.h"
 
+#include <QScopeGuard>
+#include <QStringList>
+#include <functional>
+
 #include "core/globals.h"
 
 using namespace TZ_Variablen;
@@ -11,10 +15,10 @@ struct Versuch {
   QString grund;  // for the user
 };
 
-Versuch versuche(Database& db, Volkfilter filter) {
+Versuch versuche(const std::function<Daten()>& lesen, const QStringList& pflichtfelder) {
   try {
-    const Daten daten = volkliste(db, filter);
-    for (const QString& feld : {QStringLiteral("Selektiert"), QStringLiteral("ID")})
+    const Daten daten = lesen();
+    for (const QString& feld : pflichtfelder)
       if (daten->spaltenNummer(feld) < 0)
         return {nullptr, QStringLiteral("Das Feld %1 fehlt.").arg(feld)};
     return {daten, {}};
@@ -24,14 +28,19 @@ Versuch versuche(Database& db, Volkfilter filter) {
   }
 }
 
+Versuch versucheVoelker(Database& db, Volkfilter filter) {
+  return versuche([&] { return volkliste(db, filter); },
+                  {QStringLiteral("Selektiert"), QStringLiteral("ID")});
+}
+
 QString sortiermeldung(const QString& grund) {
   return QStringLiteral("Die eingestellte Sortierung der Völkerliste kann nicht benutzt werden:") +
          CRLF + grund + CRLF + CRLF +
          QStringLiteral("Die Liste ist deshalb wieder nach ihrer Spalte sortiert.");
 }
 
-QString feldmeldung(const QString& grund) {
-  return QStringLiteral("Die eingestellten Felder der Völkerliste können nicht benutzt werden:") +
+QString feldmeldung(const QString& liste, const QString& grund) {
+  return QStringLiteral("Die eingestellten Felder der %1 können nicht benutzt werden:").arg(liste) +
          CRLF + grund + CRLF + CRLF +
          QStringLiteral("Die Liste zeigt deshalb wieder alle Felder in ihrer ersten Reihenfolge.");
 }
@@ -49,25 +58,40 @@ void standardfelder() {
 }  // namespace
 
 Volkzeilen volklisteMitErsatz(Database& db, Volkfilter filter) {
-  const Versuch wieEingestellt = versuche(db, filter);
+  const Versuch wieEingestellt = versucheVoelker(db, filter);
   if (wieEingestellt.daten) return {wieEingestellt.daten, {}};
 
   const auto vorher = EinstellungenText;
-  ohneSortierung();
-  Versuch versuch = versuche(db, filter);
-  if (versuch.daten) return {versuch.daten, sortiermeldung(wieEingestellt.grund)};
+  auto zurueck = qScopeGuard([&vorher] { EinstellungenText = vorher; });
+  const auto gelungen = [&zurueck](const Versuch& versuch, const QString& meldung) {
+    zurueck.dismiss();
+    return Volkzeilen{versuch.daten, meldung};
+  };
 
-  const QString feldgrund = versuch.grund;
+  ohneSortierung();
+  Versuch versuch = versucheVoelker(db, filter);
+  if (versuch.daten) return gelungen(versuch, sortiermeldung(wieEingestellt.grund));
+
+  const QString felder = feldmeldung(QStringLiteral("Völkerliste"), versuch.grund);
   EinstellungenText = vorher;
   standardfelder();
-  versuch = versuche(db, filter);
-  if (versuch.daten) return {versuch.daten, feldmeldung(feldgrund)};
+  versuch = versucheVoelker(db, filter);
+  if (versuch.daten) return gelungen(versuch, felder);
 
-  const QString sortiergrund = versuch.grund;
+  const QString sortierung = sortiermeldung(versuch.grund);
   ohneSortierung();
-  versuch = versuche(db, filter);
-  if (versuch.daten)
-    return {versuch.daten, feldmeldung(feldgrund) + CRLF + CRLF + sortiermeldung(sortiergrund)};
-  EinstellungenText = vorher;
+  versuch = versucheVoelker(db, filter);
+  if (versuch.daten) return gelungen(versuch, felder + CRLF + CRLF + sortierung);
   throw Datenbankfehler(Datenbankfehler::Art::Anweisung, versuch.grund);
+}
+
+QString stockkartenfelderErsetzen(Database& db) {
+  // No stock card has the number 0: the select is tried without reading the table.
+  const Versuch versuch =
+      versuche([&db] { return db.Lesen(EinstellungenText[22] + QStringLiteral(" where ID = 0")); },
+               {QStringLiteral("Datum"), QStringLiteral("Volk_ID"), QStringLiteral("ID")});
+  if (versuch.daten) return {};
+  EinstellungenText[22].clear();
+  stockkartenfelderPruefen();
+  return feldmeldung(QStringLiteral("Stockkartenliste"), versuch.grund);
 }

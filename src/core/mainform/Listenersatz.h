@@ -17,3 +17,8 @@ struct Volkzeilen {
 // ID, becomes the default. Settings that can be used stay. Throws Datenbankfehler for any other
 // failure; the settings are then as they were.
 Volkzeilen volklisteMitErsatz(Database& db, Volkfilter filter);
+
+// The stock card's select (EinstellungenText 22) becomes the default when the database refuses it,
+// or when it gives no Datum, no Volk_ID or no ID. Gives what to tell the user; empty when it stays.
+// Throws Datenbankfehler for any other failure.
+QString stockkartenfelderErsetzen(Database& db);

@@ -119,3 +119,31 @@ TEST_F(Listenersatz, GeschlosseneDatenbankIstEinFehlerUndLaesstDieEinstellungen)
   EXPECT_THROW(volklisteMitErsatz(DB, Volkfilter::Alles), Datenbankfehler);
   EXPECT_EQ(EinstellungenText[17], Eigene);
 }
+
+TEST_F(Listenersatz, BrauchbareStockkartenfelderBleibenOhneMeldung) {
+  const QString eigene = QStringLiteral("select Datum, Futterwaben, Volk_ID, ID from Stockkarte");
+  EinstellungenText[22] = eigene;
+  EXPECT_EQ(stockkartenfelderErsetzen(DB), QString());
+  EXPECT_EQ(EinstellungenText[22], eigene);
+  EinstellungenText[22].clear();
+  stockkartenfelderPruefen();
+  EXPECT_EQ(stockkartenfelderErsetzen(DB), QString());  // the default itself
+}
+
+TEST_F(Listenersatz, UnbrauchbareStockkartenfelderWerdenDerStandard) {
+  EinstellungenText[22].clear();
+  stockkartenfelderPruefen();
+  const QString standard = EinstellungenText[22];
+  for (const char* anweisung :
+       {"select Datum, Gibtsnicht, Futterwaben, Volk_ID, ID from Stockkarte", "Futterwaben",
+        "select Futterwaben, Volk_ID, ID from Stockkarte",
+        "select Datum, Futterwaben, ID from Stockkarte",
+        "select Datum, Futterwaben, Volk_ID from Stockkarte",
+        "select Volknr, Futterwaben, Selektiert, ID from Bienenvolk"}) {
+    EinstellungenText[22] = QString::fromUtf8(anweisung);
+    EXPECT_TRUE(stockkartenfelderErsetzen(DB).startsWith(
+        "Die eingestellten Felder der Stockkartenliste können nicht benutzt werden:\r\n"))
+        << anweisung;
+    EXPECT_EQ(EinstellungenText[22], standard) << anweisung;
+  }
+}

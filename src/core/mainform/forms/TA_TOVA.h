@@ -94,7 +94,7 @@ class TA_TOVA : public QMainWindow, public Hauptliste {
   void komprimieren();
 
   // TA_TOVA_Liste.cpp
-  QString listeLesen();
+  QStringList listeLesen();
   void zeileUebernehmen();
   void filterBeschriften();
   void leerhinweisSetzen();

@@ -49,13 +49,13 @@ void TA_TOVA::loescheZeile(int zeile) {
 }
 
 void TA_TOVA::datenvölkerlesen() {
-  const QString meldung = listeLesen();
-  if (!meldung.isEmpty()) Meldungen::Hinweis(meldung, this);
+  for (const QString& meldung : listeLesen())
+    if (!meldung.isEmpty()) Meldungen::Hinweis(meldung, this);
 }
 
 // A failing statement must not leave the program locked, nor come back at each activation. Gives
 // what is to be told once the program is free again.
-QString TA_TOVA::listeLesen() {
+QStringList TA_TOVA::listeLesen() {
   const Ereignis::Sanduhr sanduhr;
   const QPointer<QWidget> imFokus = focusWidget();
   MenueSperren(false);
@@ -70,12 +70,13 @@ QString TA_TOVA::listeLesen() {
   const Volkzeilen gelesen = volklisteMitErsatz(m_db, welche);
   datali->setDaten(gelesen.daten);
   stockkartenfelderPruefen();
+  const QString stockmeldung = stockkartenfelderErsetzen(m_db);
   const Listensortierung sortierung = gemerkteSortierung(datali->spalten());
   if (sortierung.spalte >= 0) datali->sortiere(sortierung.spalte, sortierung.richtung);
   setAktuelleZeile(zeilen() > 0 ? 0 : -1);
   befehleAnpassen();
   filterBeschriften();
-  return gelesen.meldung;
+  return {gelesen.meldung, stockmeldung};
 }
 
 void TA_TOVA::filterBeschriften() {

@@ -374,6 +374,17 @@ TEST_F(Voelkerliste, AbgelehnteFeldlisteHaeltDenStartNichtAufUndIstBeimNaechsten
   EXPECT_TRUE(EinstellungenText[17].startsWith("select Volknr, Volkname, Volkstärke"));
 }
 
+TEST_F(Voelkerliste, AbgelehnteStockkartenfelderHindernDieEingabeNicht) {
+  voelker(1);
+  starten();
+  EinstellungenText[22] = QStringLiteral("select Gibtsnicht, Futterwaben, ID from Stockkarte");
+  probe.hinweisMit("Die eingestellten Felder der Stockkartenliste können nicht benutzt werden:");
+  form->datenvölkerlesen();
+  Formbesuch besuch("TE_Eingabe");
+  aktion("XE_stockkarte")->trigger();
+  EXPECT_TRUE(besuch.war());
+}
+
 TEST_F(Voelkerliste, EineListeDieSichNichtLesenLaesstSperrtDasProgrammNicht) {
   voelker(2);
   starten();
