@@ -1,0 +1,554 @@
+// The text output driven by key and mouse. With TOVA_BILDER set to a folder, pictures are left
+// there.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFontMetricsF>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
+#include <memory>
+
+#include "core/globals.h"
+#include "gemeinsam/Druckdialog.h"
+#include "gemeinsam/Pdf.h"
+#include "output/forms/TA_Textausgabe.h"
+#include "platform/controls/Meldungen.h"
+#include "platform/files/Textdatei.h"
+
+using namespace TZ_Variablen;
+
+namespace {
+
+class Listenausgabe : public testing::Test {
+ protected:
+  void SetUp() override {
+    zuruecksetzen();
+    m_vorher = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(m_aktuell.path()));
+    AppPfad = m_ordner.path() + '/';
+    AusgabeDatei = AppPfad + "LISTE.TXT";
+    HeuteText = "15.06.2024";
+    EinstellungenZahl[22] = 10;
+  }
+  void TearDown() override {
+    EXPECT_EQ(boxen.fehler().toStdString(), "");
+    schriftZuruecksetzen();
+    form.reset();
+    Formular::setHilfe({});
+    QDir::setCurrent(m_vorher);
+    zuruecksetzen();
+  }
+
+  void liste(const QStringList& zeilen) { Textausgabe::listeSchreiben(zeilen); }
+  void oeffne() {
+    form = std::make_unique<TA_Textausgabe>(nullptr);
+    form->laden();
+    form->show();
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  }
+  void oeffne(const QStringList& zeilen) {
+    liste(zeilen);
+    oeffne();
+  }
+
+  template <typename T = QWidget>
+  T* kind(const QString& name) {
+    T* k = form->findChild<T*>(name);
+    EXPECT_NE(k, nullptr) << name.toStdString();
+    return k;
+  }
+  void klicke(const QString& name) {
+    auto* k = kind<QAbstractButton>(name);
+    QTest::mouseClick(k, Qt::LeftButton, {}, QPoint(8, k->height() / 2));
+  }
+  void tippe(const QString& name, const QString& text) {
+    auto* feld = kind<QLineEdit>(name);
+    feld->setFocus();
+    feld->selectAll();
+    QTest::keyClick(feld, Qt::Key_Delete);
+    QTest::keyClicks(feld, text);
+  }
+  QString text() { return kind<QPlainTextEdit>("t")->toPlainText(); }
+  QFont schrift() { return kind<QPlainTextEdit>("t")->font(); }
+  QString groesse() { return kind<QComboBox>("größe")->currentText(); }
+  QString rand() { return kind<QLineEdit>("tz")->text(); }
+
+  // Another font than one that begins with "Courier".
+  bool waehleAndereSchrift() {
+    auto* kom = kind<QComboBox>("kom");
+    for (int i = 0; i < kom->count(); ++i)
+      if (!kom->itemText(i).startsWith("Courier")) {
+        kom->setCurrentIndex(i);
+        return true;
+      }
+    return false;
+  }
+  // The font's name outlives the form.
+  void schriftZuruecksetzen() {
+    if (!form) return;
+    if (!form->isVisible()) form->show();
+    auto* kom = kind<QComboBox>("kom");
+    for (int i = 0; i < kom->count(); ++i)
+      if (kom->itemText(i).startsWith("Courier")) kom->setCurrentIndex(i);
+    form->close();
+  }
+  void bild(const QString& name) {
+    const QString ordner = qEnvironmentVariable("TOVA_BILDER");
+    if (ordner.isEmpty()) return;
+    EXPECT_TRUE(form->grab().save(ordner + "/text_" + name + ".png"));
+  }
+  QString pdf() const { return m_ordner.filePath("druck.pdf"); }
+  QString druckauf() const { return m_aktuell.filePath("DRUCKAUF.TXT"); }
+
+  QTemporaryDir m_ordner;
+  QTemporaryDir m_aktuell;  // the current folder is another than the program's
+  QString m_vorher;
+  Meldungen::Probe boxen;
+  std::unique_ptr<TA_Textausgabe> form;
+};
+
+// Loading
+
+TEST_F(Listenausgabe, ZeigtDieDateiUndNenntSieImTitel) {
+  oeffne({"Völker", "  1 Königin Anna", ""});
+  EXPECT_EQ(form->windowTitle(), "Listen-Ausgabe " + AusgabeDatei);
+  EXPECT_EQ(text(), QString("Völker\n  1 Königin Anna\n\n"));
+}
+
+TEST_F(Listenausgabe, DerTextLaesstSichNichtAendern) {
+  oeffne({"fest"});
+  auto* t = kind<QPlainTextEdit>("t");
+  t->setFocus();
+  QTest::keyClicks(t, "x");
+  QTest::keyClick(t, Qt::Key_Delete);
+  EXPECT_EQ(text(), QString("fest\n"));
+}
+
+TEST_F(Listenausgabe, LeertDenFormModus) {
+  FormModus = "VOLKDATEN";
+  oeffne({"x"});
+  EXPECT_EQ(FormModus, QString());
+}
+
+TEST_F(Listenausgabe, EineFehlendeDateiWirdGemeldetUndDasFeldBleibtLeer) {
+  oeffne({"alt"});
+  form->close();
+  QFile::remove(AusgabeDatei);
+  boxen.hinweis("Die Datei " + AusgabeDatei + " existiert nicht");
+  form->laden();
+  EXPECT_EQ(text(), QString());
+}
+
+TEST_F(Listenausgabe, EinTextVonGenau32000ZeichenOhneWarnung) {
+  oeffne(QStringList(320, QString(98, 'a')));
+  EXPECT_EQ(text().size(), 320 * 99);  // the field counts a line end as one
+}
+
+TEST_F(Listenausgabe, EineZeileMehrWirdGewarnt) {
+  liste(QStringList(320, QString(98, 'a')) + QStringList{"mehr", "zu viel"});
+  boxen.hinweis(Textausgabe::zuGrossText());
+  oeffne();
+  EXPECT_TRUE(text().endsWith("\nmehr\n"));
+}
+
+TEST_F(Listenausgabe, EineSehrGrosseDateiIstGleichDa) {
+  liste(QStringList(100000, QString(100, 'a')));
+  boxen.hinweis(Textausgabe::zuGrossText());
+  oeffne();
+  EXPECT_LT(text().size(), 33000);
+}
+
+TEST_F(Listenausgabe, DieUeblicheSchriftHatFesteBreiteUndBringtKeinenHinweis) {
+  oeffne({"x"});
+  EXPECT_TRUE(kind<QComboBox>("kom")->currentText().startsWith("Courier New"));
+  const QFontMetricsF masse(schrift());
+  EXPECT_NEAR(masse.horizontalAdvance("iiii"), masse.horizontalAdvance("WWWW"), 0.1);
+}
+
+TEST_F(Listenausgabe, EineAndereSchriftBleibtBisZumProgrammendeUndBringtDenHinweis) {
+  oeffne({"x"});
+  ASSERT_TRUE(waehleAndereSchrift());
+  const QString name = kind<QComboBox>("kom")->currentText();
+  EXPECT_EQ(schrift().family(), name);
+  klicke("abbv");
+  boxen.hinweis(Textausgabe::schriftHinweis());
+  oeffne();
+  EXPECT_EQ(kind<QComboBox>("kom")->currentText(), name);
+}
+
+TEST_F(Listenausgabe, KeineSchriftStehtDoppeltInDerListe) {
+  oeffne({"x"});
+  auto* kom = kind<QComboBox>("kom");
+  QStringList namen;
+  for (int i = 0; i < kom->count(); ++i) namen << kom->itemText(i);
+  EXPECT_EQ(namen.removeDuplicates(), 0);
+}
+
+TEST_F(Listenausgabe, DasFensterPasstInDenBildschirm) {
+  oeffne({"x"});
+  const QSize frei = form->screen()->availableGeometry().size();
+  EXPECT_LE(form->width(), frei.width());
+  EXPECT_LE(form->height(), frei.height());
+}
+
+// Settings
+
+TEST_F(Listenausgabe, EinstellungenKommenAusIhrenPlaetzen) {
+  EinstellungenZahl[18] = 1;
+  EinstellungenZahl[19] = 1;
+  EinstellungenZahl[20] = 1;
+  EinstellungenZahl[22] = 14;
+  EinstellungenZahl[23] = 25;
+  oeffne({"x"});
+  EXPECT_TRUE(kind<QAbstractButton>("druckformat_1")->isChecked());
+  EXPECT_TRUE(kind<QCheckBox>("kon_0")->isChecked());
+  EXPECT_TRUE(kind<QCheckBox>("kon_1")->isChecked());
+  EXPECT_EQ(groesse(), QString("14"));
+  EXPECT_EQ(rand(), QString("20"));
+  EXPECT_TRUE(schrift().bold());
+  EXPECT_TRUE(schrift().italic());
+  EXPECT_EQ(schrift().pointSize(), 14);
+}
+
+TEST_F(Listenausgabe, BeimSchliessenStehenDieEinstellungenInIhrenPlaetzen) {
+  oeffne({"x"});
+  klicke("druckformat_1");
+  klicke("kon_0");
+  klicke("kon_1");
+  klicke("plus5_0");
+  tippe("tz", "7");
+  EXPECT_EQ(EinstellungenZahl[18], 0);  // not before closing
+  klicke("abbv");
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(EinstellungenZahl[18], 1);
+  EXPECT_EQ(EinstellungenZahl[19], 1);
+  EXPECT_EQ(EinstellungenZahl[20], 1);
+  EXPECT_EQ(EinstellungenZahl[22], 15);
+  EXPECT_EQ(EinstellungenZahl[23], 7);
+}
+
+TEST_F(Listenausgabe, AuchEscSichertDieEinstellungen) {
+  oeffne({"x"});
+  klicke("kon_0");
+  QTest::keyClick(form.get(), Qt::Key_Escape);
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(EinstellungenZahl[19], 1);
+}
+
+TEST_F(Listenausgabe, Groesse4IstMitDenKnoepfenErreichbarUndBleibtNicht) {
+  oeffne({"x"});
+  klicke("plus5_1");
+  EXPECT_EQ(groesse(), QString("5"));
+  klicke("plus1_1");
+  EXPECT_EQ(groesse(), QString("4"));
+  klicke("plus1_1");
+  EXPECT_EQ(groesse(), QString("4"));
+  EXPECT_EQ(schrift().pointSize(), 4);
+  klicke("abbv");
+  EXPECT_EQ(EinstellungenZahl[22], 4);
+  form->laden();
+  EXPECT_EQ(groesse(), QString("10"));
+  EXPECT_EQ(kind<QComboBox>("größe")->itemText(0), QString("8"));
+}
+
+TEST_F(Listenausgabe, DieKnoepfeGehenHoechstensBis30) {
+  oeffne({"x"});
+  for (int i = 0; i < 5; ++i) klicke("plus5_0");
+  EXPECT_EQ(groesse(), QString("30"));
+  klicke("plus1_0");
+  EXPECT_EQ(groesse(), QString("30"));
+}
+
+TEST_F(Listenausgabe, EineGemerkteGroesseVon48WirdGenommen) {
+  EinstellungenZahl[22] = 48;
+  oeffne({"x"});
+  EXPECT_EQ(groesse(), QString("48"));
+  klicke("plus1_1");
+  EXPECT_EQ(groesse(), QString("30"));
+}
+
+TEST_F(Listenausgabe, SchriftAenderungenZeigenSichSofort) {
+  oeffne({"x"});
+  klicke("plus1_0");
+  EXPECT_EQ(schrift().pointSize(), 11);
+  klicke("kon_0");
+  EXPECT_TRUE(schrift().bold());
+  klicke("kon_1");
+  EXPECT_TRUE(schrift().italic());
+  kind<QComboBox>("größe")->setCurrentText("20");
+  EXPECT_EQ(schrift().pointSize(), 20);
+}
+
+TEST_F(Listenausgabe, StrgUndRadAendernDieGroesseWieDieKnoepfe) {
+  oeffne({"x"});
+  QWidget* feld = kind<QPlainTextEdit>("t")->viewport();
+  const QPointF mitte = feld->rect().center();
+  QWheelEvent rad(mitte, feld->mapToGlobal(mitte), {}, {0, 120}, Qt::NoButton, Qt::ControlModifier,
+                  Qt::NoScrollPhase, false);
+  QApplication::sendEvent(feld, &rad);
+  EXPECT_EQ(groesse(), QString("11"));
+  EXPECT_EQ(schrift().pointSize(), 11);
+}
+
+TEST_F(Listenausgabe, DerRandWirdBeimTippenBegrenzt) {
+  oeffne({"x"});
+  tippe("tz", "31");
+  EXPECT_EQ(rand(), QString("30"));
+  tippe("tz", "-1");
+  EXPECT_EQ(rand(), QString("0"));
+  tippe("tz", "30");
+  EXPECT_EQ(rand(), QString("30"));
+  tippe("tz", "abc");
+  EXPECT_EQ(rand(), QString());
+  klicke("abbv");
+  EXPECT_EQ(EinstellungenZahl[23], 0);
+}
+
+// Printing
+
+TEST_F(Listenausgabe, TextDruckenDrucktDasFeldUndLaesstDruckaufLiegen) {
+  oeffne({"Völker", "# ", "#", "Königin €"});
+  tippe("tz", "0");
+  {
+    const Druckdialog dialog(pdf());
+    klicke("drucken");
+  }
+  const Pdf blatt(pdf());
+  ASSERT_EQ(blatt.seitenzahl(), 2);
+  EXPECT_EQ(blatt.zeilen(1), QStringList({"Völker", "#"}));
+  EXPECT_EQ(blatt.zeilen(2), QStringList({"Königin €"}));
+  EXPECT_EQ(Textdatei::lesenGanz(druckauf()), QString("Völker\r\n# \r\n#\r\nKönigin €\r\n"));
+  EXPECT_FALSE(QFile::exists(AppPfad + "DRUCKAUF.TXT"));
+}
+
+TEST_F(Listenausgabe, DateiDruckenDrucktDieDateiUndNimmtAuchRauteMitLeerzeichen) {
+  oeffne({"Völker", "# ", "zwei", "#", "drei"});
+  {
+    const Druckdialog dialog(pdf());
+    klicke("dateidrucken");
+  }
+  const Pdf blatt(pdf());
+  ASSERT_EQ(blatt.seitenzahl(), 3);
+  EXPECT_EQ(blatt.zeilen(2), QStringList({"zwei"}));
+  EXPECT_FALSE(QFile::exists(druckauf()));
+}
+
+TEST_F(Listenausgabe, NurDateiDruckenDrucktHinter32000ZeichenWeiter) {
+  liste(QStringList(400, QString(98, 'a')) + QStringList{"ende"});
+  boxen.hinweis(Textausgabe::zuGrossText());
+  oeffne();
+  QString letzte;
+  const auto drucke = [&](const QString& knopf) {
+    const Druckdialog dialog(pdf());
+    klicke(knopf);
+    const Pdf blatt(pdf());
+    return blatt.zeilen(blatt.seitenzahl()).value(-1 + blatt.zeilen(blatt.seitenzahl()).size());
+  };
+  EXPECT_NE(drucke("drucken"), QString("ende"));
+  EXPECT_EQ(drucke("dateidrucken"), QString("ende"));
+}
+
+TEST_F(Listenausgabe, QuerformatUndGroesseGehenAufDasPapier) {
+  oeffne(QStringList(60, "Zeile"));
+  klicke("druckformat_1");
+  kind<QComboBox>("größe")->setCurrentText("20");
+  {
+    const Druckdialog dialog(pdf());
+    klicke("dateidrucken");
+  }
+  const Pdf blatt(pdf());
+  EXPECT_TRUE(blatt.querformat());
+  EXPECT_GE(blatt.seitenzahl(), 3);  // 60 lines of about 23 points on 538 points of height
+}
+
+TEST_F(Listenausgabe, DerRandSchiebtDieZeilenNachRechts) {
+  oeffne({"Zeile"});
+  const auto links = [this](const QString& rand) {
+    tippe("tz", rand);
+    const Druckdialog dialog(pdf());
+    klicke("dateidrucken");
+    const auto woerter = Pdf(pdf()).woerter(1);
+    return woerter.isEmpty() ? 0.0 : woerter[0].x;
+  };
+  const double ohne = links("0");
+  const double mit = links("10");
+  EXPECT_GT(mit - ohne, 50);  // ten characters of 10 points, about 6 points each
+  EXPECT_LT(mit - ohne, 66);
+}
+
+TEST_F(Listenausgabe, DieErsteSeiteBeginntMitEinerLeerenZeile) {
+  oeffne({"eins", "#", "zwei"});
+  {
+    const Druckdialog dialog(pdf());
+    klicke("drucken");
+  }
+  const Pdf blatt(pdf());
+  ASSERT_EQ(blatt.seitenzahl(), 2);
+  EXPECT_GT(blatt.woerter(1)[0].y - blatt.woerter(2)[0].y, 8);
+}
+
+TEST_F(Listenausgabe, LaesstSichDruckaufNichtSchreibenNenntDieMeldungDieDatei) {
+  oeffne({"x"});
+  ASSERT_TRUE(QDir().mkdir(druckauf()));  // a folder of that name is in the way
+  boxen.hinweisMit("DRUCKAUF.TXT");
+  klicke("drucken");
+}
+
+TEST_F(Listenausgabe, IstDieDateiWegSagtDasDateiDrucken) {
+  oeffne({"x"});
+  QFile::remove(AusgabeDatei);
+  boxen.hinweisMit("LISTE.TXT");
+  klicke("dateidrucken");
+}
+
+TEST_F(Listenausgabe, AbbrechenImDruckdialogDrucktNichtsUndLaesstDruckaufLiegen) {
+  oeffne({"x"});
+  {
+    const Druckdialog dialog({});
+    klicke("drucken");
+  }
+  EXPECT_TRUE(QFile::exists(druckauf()));
+  EXPECT_TRUE(form->isVisible());
+}
+
+// A list of several pages, with lines that are too wide and a page that fills up.
+TEST_F(Listenausgabe, GedruckteSeitenWieVonHandGesetzt) {
+  QStringList zeilen{"Völkerliste vom 15.06.2024", "", "NR   NAME                 HONIG_KG",
+                     "------------------------------------"};
+  for (int i = 1; i <= 5; ++i)
+    zeilen << QString("%1    Königin Änne %1        %2,50").arg(i).arg(10 * i);
+  zeilen << " # "
+         << "Notizen"
+         << "15.06.2024  Weiselzelle ausgebrochen, Volk ist ruhig und trägt sehr gut Pollen ein, "
+            "der Honigraum bleibt noch eine Woche auf dem Volk sitzen"
+         << "#";
+  oeffne(zeilen);
+  tippe("tz", "2");
+  kind<QComboBox>("größe")->setCurrentText("12");
+  {
+    const Druckdialog dialog(pdf());
+    klicke("dateidrucken");
+  }
+  const Pdf blatt(pdf());
+  QString alles;
+  for (int seite = 1; seite <= blatt.seitenzahl(); ++seite)
+    alles += QString("=== Seite %1\n").arg(seite) + blatt.zeilen(seite).join('\n') + '\n';
+  QFile golden(TOVA_TESTDATEN "/druckseiten.golden.txt");
+  ASSERT_TRUE(golden.open(QFile::ReadOnly)) << "the golden text is missing";
+  EXPECT_EQ(alles.toStdString(), QString::fromUtf8(golden.readAll()).toStdString());
+}
+
+// The window
+
+TEST_F(Listenausgabe, BeschriftungenUndNamen) {
+  oeffne({"x"});
+  const QList<std::pair<QString, QString>> texte{{"plus5_0", "Schriftgröße +5"},
+                                                 {"plus1_0", "Schriftgröße +1"},
+                                                 {"plus1_1", "Schriftgröße -1"},
+                                                 {"plus5_1", "Schriftgröße -5"},
+                                                 {"drucken", "&Text drucken"},
+                                                 {"dateidrucken", "&Datei drucken"},
+                                                 {"hilfe", "&Hilfe"},
+                                                 {"abbv", "&Schließen"},
+                                                 {"kon_0", "Fett"},
+                                                 {"kon_1", "Kursiv"},
+                                                 {"druckformat_0", "Hochformat"},
+                                                 {"druckformat_1", "Querformat"}};
+  for (const auto& [name, beschriftung] : texte)
+    EXPECT_EQ(kind<QAbstractButton>(name)->text(), beschriftung);
+  for (const QString& name : QStringList{"t", "kom", "größe", "tz"})
+    EXPECT_FALSE(kind(name)->accessibleName().isEmpty()) << name.toStdString();
+}
+
+TEST_F(Listenausgabe, HilfeZeigtIhrThema) {
+  QString thema;
+  Formular::setHilfe([&thema](QWidget*, const QString& t) { thema = t; });
+  oeffne({"x"});
+  klicke("hilfe");
+  EXPECT_EQ(thema, QString("TA_Textausgabe"));
+}
+
+TEST_F(Listenausgabe, OeffnenZeigtImmerDasselbeFensterMitDerNeuenListe) {
+  QWidget haupt;
+  haupt.show();
+  QStringList gesehen;
+  QList<QWidget*> fenster;
+  for (const QString& zeile : {QString("erste"), QString("zweite")}) {
+    liste({zeile});
+    QTimer::singleShot(20, &haupt, [&] {
+      QWidget* offen = QApplication::activeModalWidget();
+      ASSERT_NE(offen, nullptr);
+      fenster << offen;
+      gesehen << offen->findChild<QPlainTextEdit*>("t")->toPlainText();
+      offen->close();
+    });
+    TA_Textausgabe::oeffnen(&haupt);
+  }
+  EXPECT_EQ(gesehen, QStringList({"erste\n", "zweite\n"}));
+  ASSERT_EQ(fenster.size(), 2);
+  EXPECT_EQ(fenster[0], fenster[1]);
+}
+
+class ListenausgabeBild : public Listenausgabe, public testing::WithParamInterface<int> {
+ protected:
+  void SetUp() override {
+    Listenausgabe::SetUp();
+    m_schrift = QApplication::font();
+    QFont gross = m_schrift;
+    gross.setPointSizeF(m_schrift.pointSizeF() * GetParam() / 100);
+    QApplication::setFont(gross);
+  }
+  void TearDown() override {
+    Listenausgabe::TearDown();
+    QApplication::setFont(m_schrift);
+  }
+  QFont m_schrift;
+};
+
+TEST_P(ListenausgabeBild, AllesHatPlatzAuf1366Mal768) {
+  QStringList zeilen{"VOLKDATEN",
+                     "Volknummer:        12",
+                     "Volkname:          Königin Ännchen",
+                     "",
+                     "",
+                     "Honigernte",
+                     "DATUM       MENGE_KG  HONIGSORTE           QUALITÄT   ZEIT_H  KOSTEN "
+                     "HONIGWERT  CHARGE          BEMERKUNG",
+                     QString(100, '-')};
+  for (int i = 1; i <= 30; ++i)
+    zeilen << QString(
+                  "%1.06.2024     12,50  Frühtracht           1.Wahl       1,50    0,00     "
+                  "85,00  24-%1           hell, cremig gerührt")
+                  .arg(i, 2, 10, QChar('0'));
+  oeffne(zeilen);
+  EXPECT_LE(form->minimumSizeHint().width(), 1366);
+  EXPECT_LE(form->minimumSizeHint().height(), 700);  // 768 less the window's frame and the task bar
+  form->resize(form->minimumSizeHint());
+  QTest::qWait(10);
+  for (auto* teil : form->findChildren<QWidget*>())
+    if (teil->isVisible() &&
+        (qobject_cast<QAbstractButton*>(teil) != nullptr ||
+         qobject_cast<QLabel*>(teil) != nullptr) &&
+        teil->parentWidget() != nullptr && !teil->objectName().startsWith("qt_")) {
+      EXPECT_GE(teil->width(), teil->minimumSizeHint().width()) << teil->objectName().toStdString();
+      EXPECT_GE(teil->height(), teil->minimumSizeHint().height());
+    }
+  EXPECT_GE(kind<QPlainTextEdit>("t")->height(), 70);
+  bild(QString("%1_klein").arg(GetParam()));
+  form->resize(1280, 700);
+  QTest::qWait(10);
+  bild(QString::number(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Schrift, ListenausgabeBild, testing::Values(100, 150));
+
+}  // namespace
