@@ -12,8 +12,12 @@ enum class Ziel {
   NeuesVolk,
   VolkAendern,
   VolkLoeschen,
+  VoelkerSelektieren,
+  SelektierteMarkieren,
+  MarkierteSelektieren,
   Beenden,
   Eingabe,  // the booking form
+  Einstellungen,
   Komprimieren,
   WieAnfangen,
   Hilfe

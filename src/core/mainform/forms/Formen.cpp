@@ -5,6 +5,7 @@
 #include "core/forms/TH_Hilfe.h"
 #include "core/globals.h"
 #include "core/mainform/forms/TH_Hilfe_Wieanfangen.h"
+#include "core/mainform/forms/TO_Einstellungen.h"
 #include "platform/controls/Ereignis.h"
 
 using namespace TZ_Variablen;
@@ -25,6 +26,14 @@ void Formen::eingabe(int buchungsArt) {
     m_eingabe = new TE_Eingabe(m_haupt);
   }
   m_eingabe->zeigen();
+}
+
+void Formen::einstellungen() {
+  if (!m_einstellungen) {
+    const Ereignis::Sanduhr sanduhr;
+    m_einstellungen = new TO_Einstellungen(m_haupt);
+  }
+  m_einstellungen->zeigen();
 }
 
 void Formen::wieAnfangen() {

@@ -6,6 +6,7 @@
 class QWidget;
 class TE_Eingabe;
 class TH_Hilfe_Wieanfangen;
+class TO_Einstellungen;
 class TV_Neues_Volk;
 
 // The forms that open over the main form: one instance each, made on first use. Each call shows
@@ -16,6 +17,7 @@ class Formen {
 
   void volk(const QString& volkModus);
   void eingabe(int buchungsArt);
+  void einstellungen();
   void wieAnfangen();
   // Over whatever form asks for it.
   static void hilfe(QWidget* oeffner, const QString& thema);
@@ -24,5 +26,6 @@ class Formen {
   QWidget* m_haupt;
   QPointer<TV_Neues_Volk> m_volk;
   QPointer<TE_Eingabe> m_eingabe;
+  QPointer<TO_Einstellungen> m_einstellungen;
   QPointer<TH_Hilfe_Wieanfangen> m_wieAnfangen;
 };

@@ -5,6 +5,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "colonies/forms/Markieren.h"
 #include "colonies/forms/TV_Neues_Volk.h"
 #include "core/mainform/forms/Symbol.h"
 #include "core/mainform/forms/TA_TOVA.h"
@@ -123,11 +124,23 @@ void TA_TOVA::ausfuehren(const Menue::Eintrag& eintrag) {
     case Menue::Ziel::VolkLoeschen:
       volkLoeschenMitFrage(this);
       break;
+    case Menue::Ziel::VoelkerSelektieren:
+      völkerSelektieren(this);
+      break;
+    case Menue::Ziel::SelektierteMarkieren:
+      selektierteMarkieren(this);
+      break;
+    case Menue::Ziel::MarkierteSelektieren:
+      markierteSelektieren();
+      break;
     case Menue::Ziel::Beenden:
       close();
       return;
     case Menue::Ziel::Eingabe:
       m_formen.eingabe(eintrag.wert.toInt());
+      break;
+    case Menue::Ziel::Einstellungen:
+      m_formen.einstellungen();
       break;
     case Menue::Ziel::Komprimieren:
       komprimieren();

@@ -452,3 +452,89 @@ TEST_F(Einstellungsform, PasstMitGrosserSchriftAufDenKleinenSchirm) {
   form.reset();
   QApplication::setFont(vorher);
 }
+
+// From the main form and back to it.
+class EinstellungenImHauptformular : public Hauptumfeld {
+ protected:
+  QStringList spalten() const {
+    QStringList namen;
+    for (int i = 0; i < datali()->spalten(); ++i) namen << datali()->spaltenName(i);
+    return namen;
+  }
+};
+
+TEST_F(EinstellungenImHauptformular, MenueUndTasteOeffnenDasselbeFormular) {
+  voelker(1);
+  starten();
+  QSet<QWidget*> formen;
+  for (const bool taste : {false, true}) {
+    Formbesuch besuch("TO_Einstellungen", [&](QWidget* w) { formen << w; });
+    if (taste)
+      QTest::mouseClick(finde<QToolButton>("btn_o_einstellungen"), Qt::LeftButton);
+    else
+      aktion("O_Einstellungen")->trigger();
+    EXPECT_TRUE(besuch.war());
+  }
+  EXPECT_EQ(formen.size(), 1);
+}
+
+TEST_F(EinstellungenImHauptformular, GehtAuchOhneVolk) {
+  voelker(0, 1);
+  ASSERT_TRUE(laden());
+  ProgrammGestartet = 1;  // without the first steps
+  zeigen();
+  EXPECT_TRUE(aktion("O_Einstellungen")->isEnabled());
+  EXPECT_TRUE(aktion("btn_o_einstellungen")->isEnabled());
+}
+
+TEST_F(EinstellungenImHauptformular, VerschobeneFelderZeigtDieListeSofort) {
+  voelker(3);
+  starten();
+  form->setAktuelleZeile(1);
+  EXPECT_EQ(spalten().mid(0, 2), QStringList({"Volknr", "Volkname"}));
+  Formbesuch besuch("TO_Einstellungen", [](QWidget* w) {
+    w->findChild<QTabWidget*>("reiter")->setCurrentIndex(4);
+    w->findChild<QListWidget*>("lifelder")->setCurrentRow(1);
+    QTest::mouseClick(w->findChild<QAbstractButton*>("aufwaerts_0"), Qt::LeftButton);
+    QTest::mouseClick(w->findChild<QAbstractButton*>("ok"), Qt::LeftButton);
+  });
+  aktion("O_Einstellungen")->trigger();
+  EXPECT_TRUE(besuch.war());
+  EXPECT_EQ(spalten().mid(0, 2), QStringList({"Volkname", "Volknr"}));
+  EXPECT_EQ(form->aktuelleZeile(), 1);
+  EXPECT_EQ(ListeNeuLesen, 0);
+}
+
+TEST_F(EinstellungenImHauptformular, StartsortierungUndLaufendeNummerGeltenSofort) {
+  voelker(3);
+  starten();
+  Formbesuch besuch("TO_Einstellungen", [](QWidget* w) {
+    auto* sortierung = w->findChild<QLineEdit*>("sevt_13");
+    sortierung->setFocus();
+    while (sortierung->text() != "Volkname") QTest::keyClicks(sortierung, "V");
+    auto* nummer = w->findChild<QAbstractButton*>("kon_6");
+    QTest::mouseClick(nummer, Qt::LeftButton, {}, QPoint(10, nummer->height() / 2));
+    QTest::mouseClick(w->findChild<QAbstractButton*>("ok"), Qt::LeftButton);
+  });
+  DB.Execute("update Bienenvolk set Volkname = 'Aa' where Volknr = '3'");
+  aktion("O_Einstellungen")->trigger();
+  EXPECT_TRUE(besuch.war());
+  EXPECT_EQ(nummern(), QStringList({"3", "1", "2"}));
+  EXPECT_EQ(datali()->model()->headerData(0, Qt::Vertical).toString(), "1");
+}
+
+TEST_F(EinstellungenImHauptformular, WasGespeichertIstUeberstehtEinenAbsturz) {
+  voelker(1);
+  starten();
+  Formbesuch besuch("TO_Einstellungen", [](QWidget* w) {
+    auto* tage = w->findChild<QLineEdit*>("sevt_0");
+    tage->selectAll();
+    QTest::keyClicks(tage, "30");
+    QTest::mouseClick(w->findChild<QAbstractButton*>("ok"), Qt::LeftButton);
+  });
+  aktion("O_Einstellungen")->trigger();
+  EXPECT_TRUE(besuch.war());
+  EinstellungenZahl[50] = 0;
+  EinstellungenLesen();  // as the next start does
+  EXPECT_EQ(EinstellungenZahl[50], 30);
+}

@@ -36,18 +36,35 @@ TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
   for (const auto& menue : Menue::menues())
     for (const auto& eintrag : menue.eintraege)
       if (aktion(eintrag.name)->isEnabled()) frei << eintrag.name;
-  EXPECT_EQ(frei, QStringList({"XV_neuevölker", "XV_volkändern", "XV_volklöschen", "XV_beenden",
-                               "XE_stockkarte", "XE_honigernte", "XE_wachsernte", "XE_pollenernte",
-                               "XE_sonstigeernte", "XE_arbeiten", "XE_wanderung",
-                               "XE_gewichtsmessung", "XE_behandlung", "XE_Königinenwechsel",
-                               "XE_Notizen", "O_Datenbankkomprimieren", "hilfewieanfangen",
-                               "hilfestartmenue", "hilfewiemacheich"}));
+  EXPECT_EQ(frei, QStringList({"XV_neuevölker",
+                               "XV_volkändern",
+                               "XV_volklöschen",
+                               "XV_völkerselektieren",
+                               "XV_selektiertevölkermarkieren",
+                               "XV_markiertevölkerselektieren",
+                               "XV_beenden",
+                               "XE_stockkarte",
+                               "XE_honigernte",
+                               "XE_wachsernte",
+                               "XE_pollenernte",
+                               "XE_sonstigeernte",
+                               "XE_arbeiten",
+                               "XE_wanderung",
+                               "XE_gewichtsmessung",
+                               "XE_behandlung",
+                               "XE_Königinenwechsel",
+                               "XE_Notizen",
+                               "O_Einstellungen",
+                               "O_Datenbankkomprimieren",
+                               "hilfewieanfangen",
+                               "hilfestartmenue",
+                               "hilfewiemacheich"}));
   QStringList tasten;
   for (const auto& taste : Menue::tasten())
     if (aktion(taste.name)->isEnabled()) tasten << taste.name;
   EXPECT_EQ(tasten, QStringList({"btn_neuesvolk", "btn_volkändern", "btn_e_stockkarte",
                                  "btn_e_honigernte", "btn_e_wachsernte", "btn_e_arbeiten",
-                                 "btn_e_wanderung", "btn_e_behandlung"}));
+                                 "btn_e_wanderung", "btn_e_behandlung", "btn_o_einstellungen"}));
 }
 
 TEST_F(Hauptmenue, OhneZeileSindVolkUndBuchungenGesperrt) {
