@@ -17,6 +17,7 @@
 #include "core/mainform/forms/Bildfeld.h"
 #include "core/mainform/forms/TA_TOVA.h"
 #include "data/helpers.h"
+#include "output/forms/TA_Textausgabe.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
@@ -144,6 +145,7 @@ void TA_TOVA::panelListen() {
   FormModus = m_text;
   AusgabeDatei = AppPfad + QStringLiteral("LISTE.TXT");
   Textdatei::schreibenGanz(AusgabeDatei, m_text);
+  TA_Textausgabe::oeffnen(this);
 }
 
 void TA_TOVA::grafikUmschalten() {

@@ -247,13 +247,32 @@ TEST_F(Voelkerliste, GrafikZeigtHonigsummenUndWirdGemerkt) {
   EXPECT_EQ(panel(), QString());
 }
 
-TEST_F(Voelkerliste, DruckenSchreibtDasPanelInDieListe) {
+TEST_F(Voelkerliste, DruckenSchreibtDasPanelUndZeigtEsInDerListenausgabe) {
   voelker(1);
   starten();
+  QString gezeigt;
+  const Formbesuch besuch("TA_Textausgabe", [&gezeigt](QWidget* ausgabe) {
+    gezeigt = ausgabe->findChild<QPlainTextEdit*>("t")->toPlainText();
+  });
   klick("comdrucken");
+  EXPECT_TRUE(besuch.war());
   EXPECT_EQ(AusgabeDatei, datei("LISTE.TXT"));
-  EXPECT_EQ(Textdatei::lesenGanz(AusgabeDatei), FormModus);
-  EXPECT_TRUE(FormModus.startsWith("VOLKDATEN\r\nVolknummer:        1\r\n"));
+  const QString liste = Textdatei::lesenGanz(AusgabeDatei);
+  EXPECT_TRUE(liste.startsWith("VOLKDATEN\r\nVolknummer:        1\r\n"));
+  EXPECT_EQ(gezeigt, QString(liste).remove('\r'));
+  EXPECT_EQ(gezeigt.trimmed(), panel().trimmed());
+  EXPECT_EQ(FormModus, QString());
+}
+
+TEST_F(Voelkerliste, EineAlteListeWirdNieFuerDieNeueGezeigt) {
+  voelker(1);
+  starten();
+  ASSERT_TRUE(QDir().mkdir(datei("LISTE.TXT")));  // the new one can't be written
+  const Formbesuch besuch("TA_Textausgabe");
+  probe.hinweisMit("LISTE.TXT");
+  klick("comdrucken");
+  QTest::qWait(20);
+  EXPECT_FALSE(besuch.war());
 }
 
 TEST_F(Voelkerliste, DruckenOhneVolkSagtWasFehlt) {
