@@ -1,4 +1,7 @@
+#include <sys/resource.h>
+
 #include <QDir>
+#include <csignal>
 
 #include "Hauptumfeld.h"
 #include "gemeinsam/AndererBenutzer.h"
@@ -151,6 +154,53 @@ TEST_F(Datenbankstoerung, ErsterStartInEinemOrdnerInDenNichtGeschriebenWerdenDar
   }
   QFile::setPermissions(m_ordner.path(), AlleRechte);
   EXPECT_EQ(ordnerinhalt(), QStringList());
+}
+
+TEST_F(Datenbankstoerung, VollerDatentraegerBeimErstenStartHinterlaesstNichts) {
+  probe.hinweisMit("Auf dem Datenträger ist kein Platz mehr");
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit vorher{};
+  getrlimit(RLIMIT_FSIZE, &vorher);
+  rlimit eng = vorher;
+  eng.rlim_cur = 20000;
+  setrlimit(RLIMIT_FSIZE, &eng);
+  EXPECT_FALSE(laden());
+  form->close();
+  beenden();
+  setrlimit(RLIMIT_FSIZE, &vorher);
+  EXPECT_EQ(ordnerinhalt(), QStringList());
+}
+
+TEST_F(Datenbankstoerung, OrdnerMitUmlautenUndZeichenDieAnderswoEtwasBedeuten) {
+  const QString ordner = datei(QStringLiteral("Bienen & Völker's 100%1 #? \"x\""));
+  ASSERT_TRUE(QDir().mkpath(ordner));
+  const auto gestartet = [&ordner] {
+    TA_TOVA programm;
+    const bool gut = programm.laden({ordner, QDate(2024, 6, 15), [] { return true; }});
+    programm.close();
+    return gut;
+  };
+  EXPECT_TRUE(gestartet());
+  DB.Execute("insert into Bienenvolk (Volknr, Akt_im_Bestand) values ('1', 'X')");
+  trennen();
+  zuruecksetzen();
+  EXPECT_TRUE(gestartet());
+  EXPECT_EQ(DB.Lesen("select ID from Bienenvolk")->zeilen(), 1);
+  EXPECT_TRUE(QFile::exists(ordner + "/Einstellungen.TV2"));
+}
+
+TEST_F(Datenbankstoerung, ZerstoerteFensterablageHaeltDenStartNichtAuf) {
+  voelker(2);
+  QByteArray bytes;
+  for (int i = 0; i < 5000; ++i) bytes += static_cast<char>(i * 31 + i / 256);
+  dateiSchreiben("TOVA2.LAY", bytes);
+  starten();
+  EXPECT_EQ(nummern(), QStringList({"1", "2"}));
+  datali()->horizontalHeader()->resizeSection(1, 144);
+  schliessen();
+  zuruecksetzen();
+  starten();
+  EXPECT_EQ(datali()->columnWidth(1), 144);
 }
 
 TEST_F(Datenbankstoerung, NachDemErstenProgrammGehtDasZweite) {
