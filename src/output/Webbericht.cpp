@@ -13,6 +13,8 @@ namespace {
 
 constexpr int Schritt = 1000;  // rows between two reports of progress
 
+constexpr size_t LangerText = 32;  // bytes; shorter texts stay on one line on the screen
+
 constexpr std::string_view Aussehen = R"css(
 :root { color-scheme: light; --schrift: #26221a; --honig: #b97a00; --linie: #ded6c4; }
 * { box-sizing: border-box; }
@@ -22,10 +24,11 @@ h1 { margin: 0 0 1rem; font-size: 1.35rem; font-weight: 600; white-space: pre-wr
 table { border-collapse: collapse; background: #fff; font-variant-numeric: tabular-nums;
   box-shadow: 0 1px 4px rgba(60, 45, 0, .18); }
 th, td { padding: .35rem .7rem; text-align: left; vertical-align: top; white-space: pre-wrap;
-  border-bottom: 1px solid var(--linie); overflow-wrap: anywhere; min-width: 3rem; }
+  border-bottom: 1px solid var(--linie); overflow-wrap: break-word; min-width: 3rem; }
 th { position: sticky; top: 0; background: #f6e3b4; border-bottom: 2px solid var(--honig);
   font-weight: 600; overflow-wrap: normal; }
-td { max-width: 32rem; }
+td { max-width: 32rem; white-space: pre; }
+td.l { min-width: 14rem; white-space: pre-wrap; }
 .z { text-align: right; white-space: nowrap; }
 tbody tr:nth-child(even) td { background: #fdfaf2; }
 tbody tr:hover td { background: #fff1cc; }
@@ -47,6 +50,7 @@ footer p { margin: .2rem 0; }
   thead { display: table-header-group; }
   th { position: static; background: #eee; border-bottom: 1.5pt solid #000; }
   th, td { padding: 1.5pt 4pt; border-bottom-color: #999; }
+  td, td.l { min-width: 0; white-space: pre-wrap; }
   tr { break-inside: avoid; }
   tbody tr:nth-child(even) td, tr.trenner td { background: none; }
   footer { color: #000; }
@@ -188,10 +192,12 @@ class Bericht {
     const bool trenner = m_liste.istTrennzeile(nummer);
     z += trenner ? "<tr class=\"trenner\">" : "<tr>";
     for (int i = 0; i < m_liste.spalten(); ++i) {
-      z += Zelltext::zahl(daten, block, i) ? "<td class=\"z\">" : "<td>";
       m_text.clear();
       // The point of a separator row is a mark for the program only.
       if (!trenner || i > 0) Zelltext::anhaengen(m_text, daten, block, i);
+      z += Zelltext::zahl(daten, block, i) ? "<td class=\"z\">"
+           : m_text.size() > LangerText    ? "<td class=\"l\">"
+                                           : "<td>";
       html(z, m_text);
       z += "</td>";
     }

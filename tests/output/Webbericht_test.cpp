@@ -97,6 +97,13 @@ TEST_F(WebberichtTest, ZahlenStehenRechts) {
   EXPECT_TRUE(seite().contains("<th scope=\"col\">Volkname</th>"));
 }
 
+TEST_F(WebberichtTest, NurLangeTexteBrechenAufDemBildschirmUm) {
+  const QString lang(33, 'a');
+  schreibe(Ausgabeliste(Listen::block({{"T", Feldtyp::Memo, 0}}, {{QString(32, 'a')}, {lang}})));
+  EXPECT_TRUE(seite().contains("<td>" + QString(32, 'a') + "</td>"));
+  EXPECT_TRUE(seite().contains("<td class=\"l\">" + lang + "</td>"));
+}
+
 TEST_F(WebberichtTest, BesondereZeichenWerdenMaskiert) {
   const Daten d = Listen::block({{"<b>", Feldtyp::Text, 9}}, {{"<script>a & \"b\"</script>"},
                                                               {QString("x") + QChar(7) + "y 🐝"}});
