@@ -50,10 +50,9 @@ QStringList lesen(Liste liste, const Database& db) {
     felder = nurFelder(namen(liste, volk ? listenfelderStandard() : stockkartenfelderStandard()),
                        tabellenfelder);
   felder.removeAll(ID);
-  if (volk) {
-    const QString selektiert = QStringLiteral("Selektiert");
-    if (!felder.contains(selektiert)) felder << selektiert;
-  } else {
+  const QString noetig = volk ? QStringLiteral("Selektiert") : QStringLiteral("Volk_ID");
+  if (!felder.contains(noetig)) felder << noetig;
+  if (!volk) {
     felder.removeAll(Datum);
     felder.prepend(Datum);
   }

@@ -13,7 +13,7 @@ enum class Liste { Volk, Stockkarte };
 // The fields of the configured select in their order, as the table declares them. What is no field
 // of the table, or stands twice, is left out; a select that isn't a plain list of fields, or is
 // older than Futterwaben, gives the fields of a first start. The date of the stock card stands
-// first, the ID last; Selektiert is there in any case.
+// first, the ID last; Selektiert and the stock card's Volk_ID are there in any case.
 QStringList lesen(Liste liste, const Database& db);
 
 // The select for fields as lesen() gives them and verschieben() orders them.

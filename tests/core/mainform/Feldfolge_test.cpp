@@ -60,12 +60,15 @@ TEST_F(Felderfolge, IDStehtAmEndeAuchWennSieVorneStand) {
 }
 
 TEST_F(Felderfolge, DatumStehtInDerStockkarteVorne) {
-  EinstellungenText[22] = "select Waben, Futterwaben, Datum, ID from Stockkarte";
+  EinstellungenText[22] = "select Volk_ID, Waben, Futterwaben, Datum, ID from Stockkarte";
   EXPECT_EQ(Feldfolge::lesen(Liste::Stockkarte, DB),
-            QStringList({"Datum", "Waben", "Futterwaben", "ID"}));
+            QStringList({"Datum", "Volk_ID", "Waben", "Futterwaben", "ID"}));
+}
+
+TEST_F(Felderfolge, DatumVolkUndIDDerStockkarteKommenDazuWennSieFehlen) {
   EinstellungenText[22] = "select Waben, Futterwaben from Stockkarte";
   EXPECT_EQ(Feldfolge::lesen(Liste::Stockkarte, DB),
-            QStringList({"Datum", "Waben", "Futterwaben", "ID"}));
+            QStringList({"Datum", "Waben", "Futterwaben", "Volk_ID", "ID"}));
 }
 
 TEST_F(Felderfolge, UnbekanntesUndDoppeltesFaelltWeg) {

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 
+#include "bookings/Liste.h"
 #include "core/globals.h"
 #include "core/mainform/Liste.h"
 #include "platform/controls/Eingabefeld.h"
@@ -99,7 +100,8 @@ void TO_Einstellungen::standardSetzen() {
 void TO_Einstellungen::speichern() {
   Einstellungen::speichern(stand(), TZ_Variablen::DB);
   breitenUmordnen("TOVA/datali/ColWidths", m_feldlisten[0].geladen, m_feldlisten[0].felder);
-  m_feldlisten[0].geladen = m_feldlisten[0].felder;
+  breitenUmordnen("Tova/ColWidths/" + listenLayout(0), m_feldlisten[1].geladen,
+                  m_feldlisten[1].felder);
   accept();
 }
 

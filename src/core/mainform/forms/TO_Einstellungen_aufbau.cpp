@@ -71,6 +71,13 @@ class Seite : public QScrollArea {
   QSize sizeHint() const override {
     return widget()->sizeHint() + QSize(verticalScrollBar()->sizeHint().width(), 2);
   }
+  // Narrower than its text it would hide half of it; lower it may be.
+  QSize minimumSizeHint() const override {
+    constexpr int Hoechstbreite = 1280;
+    const int breite =
+        widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return {std::min(breite, Hoechstbreite), fontMetrics().height() * 12};
+  }
 };
 
 // A check box doesn't wrap by itself.

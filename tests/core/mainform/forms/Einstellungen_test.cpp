@@ -384,15 +384,23 @@ TEST_F(Einstellungsform, GezogeneBreitenBleibenBeiIhremFeld) {
   QVariantList breiten;
   for (int i = 0; i < 50; ++i) breiten << 100 + i;
   Fensterablage::schreiben("Spaltenbreiten/TOVA/datali/ColWidths", breiten);
+  Fensterablage::schreiben("Spaltenbreiten/Tova/ColWidths/0bewegungsdaten", breiten.mid(0, 29));
   oeffne();
   kind<QListWidget>("lifelder")->setCurrentRow(1);
   klicke("aufwaerts_0");
+  kind<QListWidget>("listock")->setCurrentRow(3);
+  klicke("aufwaertsstock_1");
   klicke("ok");
   const QVariantList danach = Fensterablage::lesen("Spaltenbreiten/TOVA/datali/ColWidths").toList();
   ASSERT_EQ(danach.size(), 50);
   EXPECT_EQ(danach[0].toInt(), 101);
   EXPECT_EQ(danach[1].toInt(), 100);
   EXPECT_EQ(danach[2].toInt(), 102);
+  const QVariantList stock =
+      Fensterablage::lesen("Spaltenbreiten/Tova/ColWidths/0bewegungsdaten").toList();
+  ASSERT_EQ(stock.size(), 29);
+  EXPECT_EQ(stock[3].toInt(), 104);
+  EXPECT_EQ(stock[4].toInt(), 103);
 }
 
 TEST_F(Einstellungsform, ScheiterndesSchreibenLaesstDasFormularOffen) {
