@@ -4,11 +4,13 @@
 
 // The list of the bookings of one colony.
 
-enum class Anzeigebereich {  // the numbers of the buttons anzeige(n) and of EinstellungenZahl 67
+enum class Anzeigebereich {  // the numbers of the buttons anzeige(n) and of the setting
   Alles = 0,
   AktuellesJahr = 1,
   AktuellesUndLetztesJahr = 2
 };
+
+inline constexpr int AnzeigebereichSlot = 67;  // of EinstellungenZahl
 
 struct Buchungsabfrage {
   QString anweisung;

@@ -30,7 +30,6 @@ using namespace TZ_Variablen;
 namespace {
 
 const QString TeilerSchluessel = QStringLiteral("Teiler/TE_Eingabe");
-constexpr int AnzeigeSlot = 67;  // of EinstellungenZahl
 
 bool istEingabetaste(const QKeyEvent& taste) {
   return taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter;
@@ -52,6 +51,11 @@ void TE_Eingabe::verbinden() {
   wenn(m_anzeige, &QButtonGroup::idClicked, this, [this](int n) { anzeigeGewaehlt(n); });
   wenn(m_volkli, &Grid::zeileAngeklickt, this, [this](int zeile) { volkAngeklickt(zeile); });
   wenn(m_li, &Grid::zeileAngeklickt, this, [this](int zeile) { zeileZeigen(zeile); });
+  // The right button and a drawn mouse make a row current without a click. What is current is what
+  // is shown: a change must never hit a row with another one's values.
+  wenn(m_li, &Grid::zeileGewechselt, this, [this](int zeile) {
+    if (m_fuellt == 0) zeileZeigen(zeile);
+  });
   wenn(m_kom, &QComboBox::activated, this, [this](int index) { standortGewaehlt(index); });
   for (int i = 0; i < 2; ++i) {
     wenn(m_neu[i], &QPushButton::clicked, this, [this, i] { neu(i); });
@@ -84,13 +88,13 @@ bool TE_Eingabe::eventFilter(QObject* objekt, QEvent* event) {
   for (Grid* grid : {m_li, m_volkli})  // the slots leave a list more or less room
     if (objekt == grid->viewport() && event->type() == QEvent::Resize)
       QTimer::singleShot(0, grid, [grid] { zeigeAktuelleZeile(grid); });
-  if (objekt == m_volkli->viewport()) {
-    if (event->type() == QEvent::MouseButtonPress) m_volkPerTaste = false;
-    // Marking by drawing the mouse over rows is no click on one; it is over when the mouse lets go.
-    if (event->type() == QEvent::MouseButtonRelease)
-      QTimer::singleShot(0, this,
-                         [this] { Ereignis::ausfuehren(this, [this] { gezogenMarkiert(); }); });
-  }
+  if (objekt == m_volkli->viewport() && event->type() == QEvent::MouseButtonPress)
+    m_volkPerTaste = false;
+  // Marking by drawing the mouse over rows or with Ctrl+A is no click on one.
+  if ((objekt == m_volkli->viewport() && event->type() == QEvent::MouseButtonRelease) ||
+      (objekt == m_volkli && event->type() == QEvent::KeyRelease))
+    QTimer::singleShot(0, this,
+                       [this] { Ereignis::ausfuehren(this, [this] { markierungNachziehen(); }); });
   if (event->type() == QEvent::KeyPress) {
     const auto& taste = static_cast<const QKeyEvent&>(*event);
     if (objekt == m_volkli) m_volkPerTaste = true;
@@ -132,7 +136,7 @@ void TE_Eingabe::laden() {
   m_slotarten.fill(Slotart::Text);
   m_basis = {};
   m_slots->zuruecksetzen(HeuteText);
-  const int bereich = EinstellungenZahl[AnzeigeSlot];
+  const int bereich = EinstellungenZahl[AnzeigebereichSlot];
   m_anzeige->button(bereich == 1 || bereich == 2 ? bereich : 0)->setChecked(true);
   m_opti->button(BuchungsArt)->setChecked(true);
   m_datenbank = Arbeitsbereich.OpenDatabase(DatenbankPfad);
@@ -168,18 +172,22 @@ void TE_Eingabe::MaskeAufbauen() {
   setUpdatesEnabled(false);  // one repaint for the whole change
   const auto zeichnen = qScopeGuard([this] { setUpdatesEnabled(true); });
 
+  // A failure half way must not leave rows of another type or colony: they would be changed and
+  // deleted as this one's.
+  auto leeren = qScopeGuard([this] { listeLeeren(); });
   const Buchungstyp& typ = buchungstyp(BuchungsArt);
+  einkleiden(m_slotarten, typ.art);
   m_slots->alleVerbergen();
   for (const Buchungsslot& slot : typ.plaetze) FeldEinrichten(slot);
   if (m_angeordnet != typ.art) m_slots->anordnen(typ);
   m_angeordnet = typ.art;
   BuchungenLaden();
+  leeren.dismiss();
   m_slots->feld(0)->setFocus();
 }
 
 void TE_Eingabe::FeldEinrichten(const Buchungsslot& slot) {
   m_slots->einrichten(slot, pickliste(m_datenbank, slot));
-  m_slotarten[static_cast<size_t>(slot.nummer)] = slot.art;
 }
 
 void TE_Eingabe::BuchungenLaden() {
@@ -214,13 +222,15 @@ void TE_Eingabe::BuchungenLaden() {
 // The list shows the bookings of the current colony, or nothing at all: never rows of another type.
 void TE_Eingabe::listeBinden() {
   m_li->setLayoutSchluessel("Tova/ColWidths/" + listenLayout(BuchungsArt));
-  auto leeren = qScopeGuard([this] {
-    m_daten = leererBlock();
-    m_li->setDaten(m_daten);
-  });
+  auto leeren = qScopeGuard([this] { listeLeeren(); });
   const auto bereich = static_cast<Anzeigebereich>(m_anzeige->checkedId());
   m_daten = buchungenLesen(m_datenbank, BuchungsArt, volkId(), bereich);
   leeren.dismiss();
+  m_li->setDaten(m_daten);
+}
+
+void TE_Eingabe::listeLeeren() {
+  m_daten = leererBlock();
   m_li->setDaten(m_daten);
 }
 
@@ -263,8 +273,7 @@ void TE_Eingabe::done(int ergebnis) {
     m_offen = false;
     Fensterablage::schreiben(TeilerSchluessel, m_teiler->saveState());
     Ereignis::ausfuehren(this, [this] { abschliessen(); });
-    m_daten = leererBlock();
-    m_li->setDaten(m_daten);
+    listeLeeren();
     m_datenbank.Close();
   }
   Formular::done(ergebnis);

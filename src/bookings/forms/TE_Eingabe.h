@@ -48,6 +48,7 @@ class TE_Eingabe : public Formular {
   void FeldEinrichten(const Buchungsslot& slot);
   void BuchungenLaden();
   void listeBinden();
+  void listeLeeren();
   void zeileZeigen(int zeile);
   void slotGeaendert(int nummer);
   void vorgabenHolen(int nummer);
@@ -69,7 +70,7 @@ class TE_Eingabe : public Formular {
   void artGewaehlt(int art);
   void nachbarvolk(int richtung);
   void volkAngeklickt(int zeile);
-  void gezogenMarkiert();
+  void markierungNachziehen();
   void standortGewaehlt(int index);
 
   // Texts that the program puts in are no entry of the user: nothing is computed from them.

@@ -72,6 +72,7 @@ void TE_Eingabe::neuBuchen() {
   m_geaenderteVoelker = kontext.geaenderteVoelker;
   nachFehler(fehler, buchung, {});
   Tastenton();
+  const Fuellen fuellen(m_fuellt);  // the user hasn't left the slot: the new booking stays as shown
   BuchungenLaden();
   m_slots->feld(0)->setFocus();
 }
@@ -91,24 +92,19 @@ void TE_Eingabe::aendern() {
   m_geaenderteVoelker = kontext.geaenderteVoelker;
   nachFehler(fehler, buchung, id);
   BuchungenLaden();
-  // What is current is what is shown: a second change must not hit this row with another's values.
   const int zeile = m_li->findeZeile("ID = " + id);
-  if (zeile < 0) return;
-  m_li->setAktuelleZeile(zeile);
-  zeileZeigen(zeile);
+  if (zeile >= 0) m_li->setAktuelleZeile(zeile);  // and shows it
 }
 
 // Shows the texts that saving changed. After a failure the entry stays, the list shows what was
 // saved, and the failure goes on.
 void TE_Eingabe::nachFehler(std::exception_ptr fehler, const Buchung& buchung,
                             const QString& buchungId) {
-  {
-    const Fuellen fuellen(m_fuellt);
-    for (const Buchungsslot& slot : buchungstyp(buchung.art).plaetze)
-      if (const QString& text = buchung.texte[static_cast<size_t>(slot.nummer)];
-          text != m_slots->text(slot.nummer))
-        m_slots->setText(slot.nummer, text);
-  }
+  const Fuellen fuellen(m_fuellt);
+  for (const Buchungsslot& slot : buchungstyp(buchung.art).plaetze)
+    if (const QString& text = buchung.texte[static_cast<size_t>(slot.nummer)];
+        text != m_slots->text(slot.nummer))
+      m_slots->setText(slot.nummer, text);
   if (!fehler) return;
   listeBinden();
   const int zeile =
@@ -122,7 +118,6 @@ void TE_Eingabe::loeschen() {
   if (!zugestimmt(pruefeLoeschen(zeile >= 0))) return;
   if (!LoeschenBestaetigt()) return;
   m_li->loescheZeile(zeile, m_datenbank, buchungstyp(BuchungsArt).tabelle);
-  zeileZeigen(m_li->aktuelleZeile());
 }
 
 void TE_Eingabe::maskeSichernUndMelden() {
@@ -139,7 +134,7 @@ void TE_Eingabe::maskeHolen() {
 }
 
 void TE_Eingabe::anzeigeGewaehlt(int bereich) {
-  EinstellungenZahl[67] = static_cast<qint16>(bereich);
+  EinstellungenZahl[AnzeigebereichSlot] = static_cast<qint16>(bereich);
   BuchungenLaden();
 }
 
@@ -168,8 +163,8 @@ void TE_Eingabe::volkAngeklickt(int zeile) {
   if (m_volkPerTaste) m_volkli->setFocus();
 }
 
-void TE_Eingabe::gezogenMarkiert() {
-  if (!m_offen || m_volkli->aktuelleZeile() < 0) return;
+void TE_Eingabe::markierungNachziehen() {
+  if (!m_offen) return;
   if (m_volkli->aktuelleZeile() != hauptliste()->aktuelleZeile() ||
       m_volkli->markierteZeilen() != hauptliste()->markierteZeilen())
     volkAngeklickt(m_volkli->aktuelleZeile());

@@ -110,6 +110,36 @@ TEST_F(Maske, PfeiltastenInDerListeZeigenDieBuchungen) {
   EXPECT_EQ(text(0), "20.05.2026");
 }
 
+// What is current is what is shown: Ändern writes what the slots hold into the current row.
+TEST_F(Maske, DieRechteMaustasteZeigtDieBuchungDieSieAktuellMacht) {
+  zeile("Arbeiten", 1, "2026-05-20", {{"Arbeitsart", "Füttern"}});
+  zeile("Arbeiten", 1, "2026-06-01", {{"Arbeitsart", "Schwarmkontrolle"}});
+  oeffne(5);
+  QTest::mouseClick(li()->viewport(), Qt::RightButton, Qt::NoModifier,
+                    li()->visualRect(li()->model()->index(0, 0)).center());
+  EXPECT_EQ(text(1), li()->aktuelleZeile() == 0 ? "Füttern" : "Schwarmkontrolle");
+  druecke("neu_1");
+  EXPECT_EQ(wert("select Arbeitsart from Arbeiten where ID = 1"), "Füttern");
+  EXPECT_EQ(wert("select Arbeitsart from Arbeiten where ID = 2"), "Schwarmkontrolle");
+}
+
+TEST_F(Maske, EineGezogeneMausZeigtDieBuchungBeiDerSieLoslaesst) {
+  for (const char* tag : {"2026-05-01", "2026-05-02", "2026-05-03"})
+    zeile("Arbeiten", 1, tag, {{"Arbeitsart", tag}});
+  oeffne(5);
+  const auto mitte = [&](int zeile) {
+    return li()->visualRect(li()->model()->index(zeile, 0)).center();
+  };
+  QTest::mousePress(li()->viewport(), Qt::LeftButton, Qt::NoModifier, mitte(0));
+  QMouseEvent zug(QEvent::MouseMove, mitte(1), li()->viewport()->mapToGlobal(mitte(1)),
+                  Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(li()->viewport(), &zug);
+  QTest::mouseRelease(li()->viewport(), Qt::LeftButton, Qt::NoModifier, mitte(1));
+  ASSERT_EQ(li()->aktuelleZeile(), 1);
+  EXPECT_EQ(text(1), "2026-05-02");
+  EXPECT_EQ(text(0), "02.05.2026");
+}
+
 TEST_F(Maske, NachDemSortierenZeigtEinKlickDieAngeklickteBuchung) {
   zeile("Honigernte", 1, "2026-05-20", {{"Menge_kg", 9}, {"Honigsorte", "Löwenzahn"}});
   zeile("Honigernte", 1, "2026-06-01", {{"Menge_kg", 3}, {"Honigsorte", "Raps"}});
@@ -237,6 +267,23 @@ TEST_F(Maske, EineUnlesbareSpaltenabfrageWirdGemeldetUndDieListeIstLeer) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
   waehle("opti_5");
   EXPECT_EQ(li()->zeilen(), 1);
+}
+
+// Löschen would take the row's number and delete it from the new type's table.
+TEST_F(Maske, MisslingtEineAuswahllisteStehenKeineBuchungenDerArtVorherInDerListe) {
+  zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "Füttern"}});
+  zeile("Wanderung", 1, "2026-05-01", {{"Standort", "Heide"}});
+  oeffne(5);
+  ASSERT_EQ(li()->zeilen(), 1);
+  DB.Execute("drop table Standorte");
+  meldungen.hinweisMit("Standorte");
+  waehle("opti_6");
+  EXPECT_EQ(meldungen.fehler(), "");
+  EXPECT_EQ(li()->zeilen(), 0);
+  meldungen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
+  druecke("löschen");
+  EXPECT_EQ(anzahl("Wanderung"), 1);
+  EXPECT_EQ(anzahl("Arbeiten"), 1);
 }
 
 TEST_F(Maske, OhneVoelkerGehtDieFormAufUndBuchtNichts) {

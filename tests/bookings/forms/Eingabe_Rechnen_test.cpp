@@ -37,6 +37,27 @@ TEST_F(Rechnen, Summe95Gibt95WabenUndDieMagazineVon90) {
   EXPECT_EQ(text(10), "9");
 }
 
+// Waben takes two digits from the keyboard; the sum of two such slots can have three.
+TEST_F(Rechnen, Sechzigundsechzig120WabenWerdenGezeigtGespeichertUndWiederGezeigt) {
+  oeffne(0);
+  tippe(12, "60");
+  tippe(13, "60");
+  EXPECT_EQ(text(11), "120");
+  EXPECT_EQ(text(10), "9") << "the count of 90 combs";
+  druecke("neu_0");
+  EXPECT_EQ(wert("select Waben from Stockkarte").toInt(), 120);
+  EXPECT_EQ(wert("select Magazine from Stockkarte").toInt(), 9);
+  druecke("nextvolk1_1");
+  EXPECT_EQ(text(11), "0");
+  druecke("nextvolk1_0");
+  EXPECT_EQ(text(11), "120");
+  EXPECT_EQ(text(12), "60");
+  druecke("neu_1");
+  EXPECT_EQ(wert("select Waben from Stockkarte").toInt(), 120) << "a change keeps it";
+  druecke("cmdschließen");
+  EXPECT_EQ(wert("select Wabenanzahl from Bienenvolk where ID = 1").toInt(), 120);
+}
+
 TEST_F(Rechnen, DieWabenJeMagazinKommenVomAktuellenVolk) {
   DB.Execute("update Bienenvolk set Waben_je_Magazin = 12 where ID = 2");
   liste = std::make_unique<Testliste>();
@@ -225,6 +246,20 @@ TEST_F(Rechnen, GebuchtWirdWasZuSehenWarAuchMitDerEingabetaste) {
   ASSERT_EQ(text(6), "28");
   taste(feld(1), Qt::Key_Return);
   EXPECT_EQ(wert("select Honig_Wert from Honigernte where Volk_ID = 1").toDouble(), 28.0);
+}
+
+// Booking moves the focus to the date; that is no leaving by the user, who would book 38 next.
+TEST_F(Rechnen, NachDerEingabetasteStehtDieBuchungDaWieSieGespeichertIst) {
+  EinstellungenWert[0] = 7;
+  zeile("Honigernte", 2, "2026-07-01",
+        {{"Menge_kg", 10}, {"Honigsorte", "Raps"}, {"Qualität", "I"}, {"Honig_Wert", 95}});
+  oeffne(1);
+  tippe(2, "Raps");
+  tippe(3, "I");
+  tippe(1, "4");
+  taste(feld(1), Qt::Key_Return);
+  EXPECT_TRUE(hatFokus(0));
+  EXPECT_EQ(text(6), "28,00");
 }
 
 }  // namespace

@@ -81,6 +81,26 @@ TEST_F(Voelker, MitDerTastaturMarkierenBleibtInDerVoelkerliste) {
   EXPECT_TRUE(hatFokus(0));
 }
 
+TEST_F(Voelker, AllesMarkierenMitDerTastaturGehtInDieHauptliste) {
+  oeffne(5);
+  volkli()->setFocus();
+  taste(volkli(), Qt::Key_A, Qt::ControlModifier);
+  QTest::qWait(20);
+  EXPECT_EQ(volkli()->markierteZeilen(), (QList<int>{0, 1, 2}));
+  EXPECT_EQ(liste->markierteZeilen(), (QList<int>{0, 1, 2}));
+  EXPECT_EQ(liste->aktuelleZeile(), 0);
+  EXPECT_EQ(QApplication::focusWidget(), volkli());
+}
+
+TEST_F(Voelker, DieRechteMaustasteMachtDasVolkInBeidenListenAktuell) {
+  oeffne(5);
+  QTest::mouseClick(volkli()->viewport(), Qt::RightButton, Qt::NoModifier,
+                    volkli()->visualRect(volkli()->model()->index(2, 0)).center());
+  QTest::qWait(20);
+  EXPECT_EQ(liste->aktuelleZeile(), volkli()->aktuelleZeile());
+  EXPECT_EQ(liste->markierteZeilen(), volkli()->markierteZeilen());
+}
+
 TEST_F(Voelker, WeiterVomLetztenVolkGehtZumErsten) {
   oeffne(5);
   druecke("nextvolk1_1");
@@ -173,6 +193,34 @@ TEST_F(Voelker, ZehntausendVoelkerWerdenNurEinmalGelesen) {
   waehleStandort("Heide");
   EXPECT_EQ(liste->markierteZeilen().size(), 9997);
   EXPECT_EQ(volkli()->markierteZeilen().size(), 9997);
+}
+
+// With scattered marks each needless marking or move would be felt in a long list.
+TEST_F(Voelker, VonFuenfhundertMarkiertenGehtWeiterMitEinemEinzigenSchritt) {
+  DB.Sammelschreiben([&] {
+    for (int nr = 4; nr <= 10000; ++nr) volk(QString::number(nr), "Volk", "Heide");
+  });
+  oeffne(5);
+  QList<int> verstreut;
+  for (int i = 0; i < 499; ++i) verstreut.append(10 + 19 * i);
+  volkli()->setMarkierteZeilen(verstreut);
+  klicke(volkli(), 9999, Qt::ControlModifier);
+  verstreut.append(9999);
+  QTest::qWait(20);
+  EXPECT_EQ(liste->markierteZeilen(), verstreut);
+  EXPECT_EQ(volkli()->markierteZeilen(), verstreut);
+  liste->wechsel = 0;
+  int markierungen = 0;
+  QObject::connect(volkli(), &Grid::markierungGeaendert, form.get(), [&] { ++markierungen; });
+  waehle("opti_7");
+  EXPECT_EQ(liste->wechsel, 0);
+  EXPECT_EQ(markierungen, 0);
+  EXPECT_EQ(liste->markierteZeilen(), verstreut) << "another type keeps the marks";
+  druecke("nextvolk1_0");
+  EXPECT_EQ(liste->wechsel, 1);
+  EXPECT_EQ(markierungen, 1);
+  EXPECT_EQ(volkli()->markierteZeilen(), QList<int>{9998});
+  EXPECT_EQ(liste->markierteZeilen(), QList<int>{9998});
 }
 
 }  // namespace
