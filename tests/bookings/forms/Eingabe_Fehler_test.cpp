@@ -103,4 +103,27 @@ TEST_F(EingabeFehler, HonigwabenStehenNachEinemFehlerSoWieSieGespeichertWurden) 
   EXPECT_EQ(text(1), "62,50") << "the second colony had already multiplied";
 }
 
+TEST_F(EingabeFehler, WurdeDerGanzeLaufVerworfenStehenWiederDieHonigwaben) {
+  EinstellungenZahl[73] = 1;
+  EinstellungenWert[5] = 2.5f;
+  direkt(
+      "create trigger stoerung before insert on Honigernte when new.Volk_ID = 2 "
+      "begin select raise(rollback, 'verworfen'); end");
+  markiere({0, 1});
+  oeffne(1);
+  tippe(1, "10");
+  meldungen.frageMit("2 Völker markiert", true)
+      .hinweisMit("Von diesem Vorgang wurde nichts gespeichert.");
+  druecke("neu_0");
+  EXPECT_EQ(meldungen.fehler(), "");
+  EXPECT_EQ(anzahl("Honigernte"), 0);
+  EXPECT_EQ(li()->zeilen(), 0);
+  EXPECT_EQ(text(1), "10") << "a second try must not multiply the multiplied";
+  direkt("drop trigger stoerung");
+  meldungen.frageMit("2 Völker markiert", true);
+  druecke("neu_0");
+  EXPECT_EQ(wert("select Menge_kg from Honigernte where Volk_ID = 1"), 25.0);
+  EXPECT_EQ(wert("select Menge_kg from Honigernte where Volk_ID = 2"), 62.5);
+}
+
 }  // namespace

@@ -141,6 +141,34 @@ TEST_F(EingabeTexte, ZehntausendZeichenInEinTextfeldWerdenAufSeineLaengeGekuerzt
   EXPECT_EQ(text(4), gespeichert);
 }
 
+TEST_F(EingabeTexte, JedesTextfeldJederArtNimmtVonZehntausendZeichenWasHineinpasst) {
+  const QString sauber = langerText().replace('\t', ' ').replace('\n', ' ');
+  const auto gekuerzt = [&](const Buchungsslot& slot) {
+    const QString anfang = sauber.left(slot.laenge);
+    return anfang.back().isHighSurrogate() ? anfang.chopped(1) : anfang;
+  };
+  oeffne(0);
+  int geprueft = 0;
+  for (int art = 0; art < 10; ++art) {
+    waehle("opti_" + QString::number(art));
+    const Buchungstyp& typ = buchungstyp(art);
+    for (const Buchungsslot& slot : typ.plaetze) {
+      if (slot.art != Slotart::Text) continue;
+      fuegeEin(feld(slot.nummer), langerText());
+      EXPECT_EQ(text(slot.nummer), gekuerzt(slot)) << qPrintable(typ.tabelle + "." + slot.feld);
+    }
+    druecke("neu_0");
+    for (const Buchungsslot& slot : typ.plaetze) {
+      if (slot.art != Slotart::Text) continue;
+      const QString gespeichert = gekuerzt(slot).replace('\'', '`').trimmed();
+      EXPECT_EQ(wert("select " + slot.feld + " from " + typ.tabelle), gespeichert);
+      EXPECT_EQ(text(slot.nummer), gespeichert);
+      ++geprueft;
+    }
+  }
+  EXPECT_EQ(geprueft, 26);
+}
+
 TEST_F(EingabeTexte, EineNotizVonZehntausendZeichenKommtVollstaendigZurueck) {
   oeffne(10);
   fuegeEin(notiz(), langerText());
@@ -186,6 +214,46 @@ TEST_F(EingabeTexte, EingefuegteZahlenWerdenGanzOderGarNichtGenommen) {
     fuegeEin(feld(1), unfug);
     EXPECT_EQ(text(1), "7,5") << unfug;
   }
+}
+
+TEST_F(EingabeTexte, InGanzzahlenKommenNurZiffern) {
+  const QList<std::pair<QString, QString>> getippt{
+      {"1.234,56", "1234"}, {"-3", "3"}, {"1e9", "19"}, {"abc", ""}, {"12345", "1234"}};
+  oeffne(3);
+  for (const auto& [eingabe, steht] : getippt) {
+    feld(1)->setFocus();
+    feld(1)->clear();
+    tasten(feld(1), eingabe);
+    EXPECT_EQ(text(1), steht) << qPrintable(eingabe);
+  }
+  for (const char* unfug : {"1.234,56", "-3", "1e9", "abc", "12345"}) {
+    fuegeEin(feld(1), "77");
+    fuegeEin(feld(1), unfug);
+    EXPECT_EQ(text(1), "77") << unfug;
+  }
+}
+
+TEST_F(EingabeTexte, DatumskurzformenWerdenBeimVerlassenErgaenztUndUnfugBleibtStehen) {
+  const QList<std::pair<QString, QString>> faelle{{"1.1", "01.01.2026"},
+                                                  {"010126", "01.01.2026"},
+                                                  {"32", "03.02.2026"},
+                                                  {"31.2.2026", "31.2.2026"}};
+  oeffne(5);
+  for (const auto& [eingabe, steht] : faelle) {
+    tippe(0, eingabe);
+    taste(feld(0), Qt::Key_Tab);
+    EXPECT_EQ(text(0), steht);
+    EXPECT_EQ(feld(0)->hatWarnung(), steht == "31.2.2026");
+    fuegeEin(feld(0), " " + eingabe + "\n");
+    taste(feld(0), Qt::Key_Tab);
+    EXPECT_EQ(text(0), steht) << "pasted";
+  }
+  tippe(0, "05.06.2026");
+  fuegeEin(feld(0), "abc");
+  tippe(0, "x");
+  EXPECT_EQ(text(0), "05.06.2026");
+  fuegeEin(feld(0), langerText());
+  EXPECT_EQ(text(0), "05.06.2026");
 }
 
 TEST_F(EingabeTexte, GanzzahlenHaltenIhreGrenze) {

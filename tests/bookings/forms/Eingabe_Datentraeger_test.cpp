@@ -1,0 +1,185 @@
+// The medium fails while the form is at work: no room left, or the database can't be written any
+// more. The message says so, the entries stay, the list shows what is saved, and the same Neu works
+// once the cause is gone.
+#include "Eingabeprobe.h"
+#include "gemeinsam/AndererBenutzer.h"
+#include "platform/database/Verbindung.h"
+
+namespace {
+
+using namespace TZ_Variablen;
+
+class EingabeDatentraeger : public Eingabeprobe {
+ protected:
+  Verbindung& verbindung() { return *Verbindung::zu(DatenbankPfad); }
+  // From now on the database can grow by two pages only.
+  void fastVoll() {
+    const int seiten = verbindung().steuere("pragma page_count").toInt();
+    verbindung().steuere("pragma max_page_count = " + QByteArray::number(seiten + 2));
+  }
+  void wiederPlatz() { verbindung().steuere("pragma max_page_count = 1000000"); }
+  QString keinPlatz() {
+    return "Auf dem Datenträger ist kein Platz mehr für die Datenbank \"" + DatenbankPfad +
+           "\". Bitte schaffen Sie Platz und wiederholen Sie den Vorgang. Von diesem Vorgang wurde "
+           "nichts gespeichert.";
+  }
+
+  // One booking of the first colony is saved; then, with more than one colony to book, all are
+  // marked and the next booking is typed.
+  void bucheUndTippe(int voelker) {
+    DB.Sammelschreiben([&] {
+      for (int nr = 4; nr <= voelker; ++nr) volk(QString::number(nr), "Volk", "Heide");
+    });
+    oeffne(5);
+    tippe(1, "vorher");
+    druecke("neu_0");
+    if (voelker > 1) {
+      volkli()->setFocus();
+      taste(volkli(), Qt::Key_A, Qt::ControlModifier);
+      QTest::qWait(20);
+    }
+    ASSERT_EQ(liste->markierteZeilen().size(), voelker);
+    tippe(0, "14.06.2026");
+    tippe(1, "Waben schneiden");
+    tippe(2, "0,25");
+    tippe(4, "alle");
+  }
+  void pruefeEingabeSteht(int voelker) {
+    EXPECT_EQ(meldungen.fehler(), "");
+    EXPECT_EQ(text(0), "14.06.2026");
+    EXPECT_EQ(text(1), "Waben schneiden");
+    EXPECT_EQ(text(2), "0,25");
+    EXPECT_EQ(text(4), "alle");
+    EXPECT_EQ(liste->markierteZeilen().size(), voelker);
+    EXPECT_EQ(volkli()->markierteZeilen().size(), voelker);
+    EXPECT_FALSE(SammelFolgevolk);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_TRUE(volkli()->isEnabled());
+  }
+  void pruefeNurFrueheresGespeichert() {
+    EXPECT_EQ(wert("select Arbeitsart from Arbeiten"), "vorher");
+    EXPECT_EQ(anzahl("Arbeiten"), 1);
+    ASSERT_EQ(li()->zeilen(), 1);
+    EXPECT_EQ(li()->zelle(0, "Arbeitsart"), "vorher");
+  }
+  // The second try, without typing anything anew.
+  void pruefeNeuerAnlauf(int voelker) {
+    meldungen.frageMit(QString::number(voelker) + " Völker markiert", true);
+    druecke("neu_0");
+    EXPECT_EQ(meldungen.fehler(), "");
+    EXPECT_EQ(anzahl("Arbeiten"), voelker + 1);
+    EXPECT_EQ(wert("select count(*) as n from Arbeiten where Arbeitsart = 'Waben schneiden' and "
+                   "Bemerkung = 'alle' and Zeit_h = 0.25")
+                  .toInt(),
+              voelker);
+    EXPECT_EQ(li()->zeilen(), 2);
+    EXPECT_EQ(verbindung().steuere("pragma integrity_check"), "ok");
+    form->close();
+  }
+};
+
+TEST_F(EingabeDatentraeger, VollerDatentraegerImLaufUeberDreihundertVoelker) {
+  bucheUndTippe(300);
+  fastVoll();
+  meldungen.frageMit("300 Völker markiert", true).hinweis(keinPlatz());
+  druecke("neu_0");
+  pruefeEingabeSteht(300);
+  pruefeNurFrueheresGespeichert();
+  wiederPlatz();
+  pruefeNeuerAnlauf(300);
+}
+
+TEST_F(EingabeDatentraeger, VollerDatentraegerZweimalHintereinanderVerliertNichts) {
+  bucheUndTippe(300);
+  fastVoll();
+  for (int versuch = 0; versuch < 2; ++versuch) {
+    meldungen.frageMit("300 Völker markiert", true).hinweis(keinPlatz());
+    druecke("neu_0");
+    pruefeEingabeSteht(300);
+    pruefeNurFrueheresGespeichert();
+  }
+  wiederPlatz();
+  pruefeNeuerAnlauf(300);
+}
+
+// Reading and looking into it is allowed to all, writing to nobody.
+constexpr QFileDevice::Permissions NurLesen = QFileDevice::ReadOwner | QFileDevice::ReadGroup |
+                                              QFileDevice::ReadOther | QFileDevice::ExeOwner |
+                                              QFileDevice::ExeGroup | QFileDevice::ExeOther;
+
+class Schreibschutz {
+ public:
+  Schreibschutz(const QString& ordner, const QString& datei) : m_pfade{datei, ordner} {
+    for (const QString& pfad : m_pfade) QFile::setPermissions(pfad, NurLesen);
+  }
+  ~Schreibschutz() {
+    for (const QString& pfad : m_pfade)
+      QFile::setPermissions(pfad, NurLesen | QFileDevice::WriteOwner);
+  }
+  Schreibschutz(const Schreibschutz&) = delete;
+  Schreibschutz& operator=(const Schreibschutz&) = delete;
+
+ private:
+  const QStringList m_pfade;
+};
+
+TEST_F(EingabeDatentraeger, DatenbankUndOrdnerWerdenWaehrendDerArbeitSchreibgeschuetzt) {
+  bucheUndTippe(3);
+  {
+    const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
+    const AndererBenutzer niemand;
+    ASSERT_FALSE(niemand.darfAlles());
+    meldungen.frageMit("3 Völker markiert", true)
+        .hinweisMit("Die Datenbank \"" + DatenbankPfad +
+                    "\" kann nicht beschrieben werden. Bitte prüfen Sie, ob die Datei oder ihr "
+                    "Ordner schreibgeschützt ist.");
+    druecke("neu_0");
+    pruefeEingabeSteht(3);
+    pruefeNurFrueheresGespeichert();
+  }
+  pruefeNeuerAnlauf(3);
+}
+
+TEST_F(EingabeDatentraeger, SchreibgeschuetztMisslingenAuchAendernUndLoeschenOhneVerlust) {
+  bucheUndTippe(1);
+  {
+    const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
+    const AndererBenutzer niemand;
+    ASSERT_FALSE(niemand.darfAlles());
+    meldungen.hinweisMit("kann nicht beschrieben werden");
+    druecke("neu_1");
+    EXPECT_EQ(meldungen.fehler(), "");
+    EXPECT_EQ(text(1), "Waben schneiden");
+    meldungen.hinweisMit("kann nicht beschrieben werden");
+    druecke("löschen");
+    pruefeNurFrueheresGespeichert();
+  }
+  druecke("neu_1");
+  EXPECT_EQ(li()->zelle(0, "Arbeitsart"), "Waben schneiden");
+}
+
+TEST_F(EingabeDatentraeger, SchreibgeschuetztSchliesstDieFormMitMeldung) {
+  bucheUndTippe(1);
+  const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
+  const AndererBenutzer niemand;
+  ASSERT_FALSE(niemand.darfAlles());
+  meldungen.hinweisMit("kann nicht beschrieben werden");
+  druecke("cmdschließen");
+  EXPECT_EQ(meldungen.fehler(), "");
+  EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(EingabeDatentraeger, EineMaskeLaesstSichSchreibgeschuetztNichtSichernUndDieEingabeBleibt) {
+  bucheUndTippe(1);
+  const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
+  const AndererBenutzer niemand;
+  ASSERT_FALSE(niemand.darfAlles());
+  meldungen.hinweisMit("TOVA_TE_EINGABE_STD5.TV2");
+  druecke("standard_0");
+  EXPECT_EQ(meldungen.fehler(), "");
+  EXPECT_EQ(text(1), "Waben schneiden");
+  meldungen.hinweisMit("kann nicht beschrieben werden");  // the colonies' fields, on closing
+  form->close();
+}
+
+}  // namespace
