@@ -133,7 +133,6 @@ void TA_TOVA::wechseln(int richtung) {
   VolkAnzeigen();
 }
 
-// The text output shows the file once its form exists.
 void TA_TOVA::panelListen() {
   if (aktuelleZeile() < 0) {
     Meldungen::Hinweis(QStringLiteral("Sie müssen zuerst ein Volk auswählen, bevor Sie die Daten "
