@@ -145,7 +145,7 @@ void TA_Textausgabe::drucke(const QString& datei, Textausgabe::Druckweg weg) {
   const QStringList zeilen = Textdatei::lesen(datei);
   const int rand = Textausgabe::rand(tz->text());
   Druck::Auftrag auftrag;
-  auftrag.titel = windowTitle();
+  auftrag.titel = QStringLiteral("Listen-Ausgabe");
   auftrag.schrift = schrift();
   auftrag.quer = druckformat[1]->isChecked();
   auftrag.umbruch = [&](const Druck::Satzspiegel& spiegel) {

@@ -5,9 +5,11 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QStandardPaths>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -90,6 +92,18 @@ std::pair<qsizetype, qsizetype> bereich(const QPrinter& drucker, qsizetype seite
           std::min<qsizetype>(std::max(drucker.toPage(), drucker.fromPage()), seiten)};
 }
 
+// The toolkit's own dialog has a field for the file: it proposes one among the user's documents.
+// Other systems' dialogs ask for it themselves.
+void dateiVorschlagen(const QPrintDialog& dialog, const QString& titel) {
+  auto* feld = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+  if (feld == nullptr) return;
+  QString ordner = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  if (ordner.isEmpty() || !QDir(ordner).exists()) ordner = QDir::homePath();
+  QString name = titel;
+  name.replace(u'/', u' ');
+  feld->setText(QDir(ordner).filePath(name + QStringLiteral(".pdf")));
+}
+
 }  // namespace
 
 namespace Druck {
@@ -151,6 +165,7 @@ bool drucken(const Auftrag& auftrag, QWidget* ueber) {
   QPrintDialog dialog(&drucker, ueber);
   dialog.setObjectName(QStringLiteral("druckdialog"));
   dialog.setWindowTitle(QStringLiteral("Drucken"));
+  dateiVorschlagen(dialog, auftrag.titel);
   if (dialog.exec() != QDialog::Accepted) return false;
   ausgeben(drucker, auftrag);
   return true;

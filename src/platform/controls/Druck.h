@@ -18,7 +18,7 @@ struct Satzspiegel {
 };
 
 struct Auftrag {
-  QString titel;  // of the document
+  QString titel;  // of the document, and the name proposed for a PDF file
   QFont schrift;  // family, size in points, bold, italic
   bool quer = false;
   // Gives the pages with their lines for the page that the user chose.

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPrinter>
@@ -168,6 +169,9 @@ TEST_F(Drucktest, ImDruckdialogStehtImmerEinePdfDateiZurWahl) {
   const Druckdialog dialog(pfad(), [](QPrintDialog* d) {
     EXPECT_EQ(d->objectName(), QString("druckdialog"));
     EXPECT_GE(Druckdialog::pdfEintrag(d), 0);
+    const QFileInfo vorschlag(d->findChild<QLineEdit*>("filename")->text());
+    EXPECT_EQ(vorschlag.fileName(), QString("Listen-Ausgabe Prüfung.pdf"));
+    EXPECT_TRUE(vorschlag.dir().exists());
   });
   EXPECT_TRUE(Druck::drucken(auftrag({{"gedruckt"}}), nullptr));
   EXPECT_EQ(Pdf(pfad()).zeilen(1), QStringList({"gedruckt"}));
