@@ -24,9 +24,20 @@ void einzeilig(std::string& text) {
   text.resize(ziel);
 }
 
-// UTF-8 to the code page, in which a character is a byte.
-void nachCodepage(std::string& text) {
-  if (std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; })) return;
+// Nothing but plain characters, as in most cells: nothing to do.
+bool istSchlicht(const std::string& text) {
+  bool schlicht = true;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    schlicht = schlicht & (byte >= ' ') & (byte < 0x80);
+  }
+  return schlicht;
+}
+
+// One line in the code page, in which a character is a byte.
+void fuerDieListe(std::string& text) {
+  if (istSchlicht(text)) return;
+  einzeilig(text);
   const QByteArray bytes =
       Textdatei::nachCp1252(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
   text.assign(bytes.constData(), static_cast<size_t>(bytes.size()));
@@ -34,8 +45,7 @@ void nachCodepage(std::string& text) {
 
 std::string codepage(const QString& text) {
   std::string bytes = text.toStdString();
-  einzeilig(bytes);
-  nachCodepage(bytes);
+  fuerDieListe(bytes);
   return bytes;
 }
 
@@ -55,8 +65,7 @@ class Zellen {
     for (int i = 0; i < m_spalten; ++i) {
       m_zelle.clear();
       Zelltext::anhaengen(m_zelle, *m_liste.daten(), block, i);
-      einzeilig(m_zelle);
-      nachCodepage(m_zelle);
+      fuerDieListe(m_zelle);
       m_texte += m_zelle;
       const auto nummer = static_cast<size_t>(i);
       m_breiten[nummer] = std::max(m_breiten[nummer], m_zelle.size());

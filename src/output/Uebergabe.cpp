@@ -53,12 +53,13 @@ void zelle(std::string& ziel, const Datenblock& block, int zeile, int spalte, bo
     std::array<char, 32> puffer{};
     char* const ende = puffer.data() + puffer.size();
     const double wert = block.zahl(zeile, spalte);
+    // Up to here a whole number is the same as a double; beyond, a 64-bit one is written as it is.
     constexpr double Exakt = 9e15;
-    const bool ganz = block.wert(zeile, spalte).typeId() == QMetaType::LongLong;
-    // Whole numbers up to 64 bits; a double has a point or an exponent, or is as good as whole.
-    const auto bis = ganz && std::fabs(wert) >= Exakt
-                         ? std::to_chars(puffer.data(), ende, block.ganzzahl(zeile, spalte))
-                         : std::to_chars(puffer.data(), ende, wert);
+    const bool ganz = std::fabs(wert) < Exakt
+                          ? wert == std::floor(wert)
+                          : block.wert(zeile, spalte).typeId() == QMetaType::LongLong;
+    const auto bis = ganz ? std::to_chars(puffer.data(), ende, block.ganzzahl(zeile, spalte))
+                          : std::to_chars(puffer.data(), ende, wert);
     ziel.append(puffer.data(), bis.ptr);
   }
 }
