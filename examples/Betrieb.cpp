@@ -375,7 +375,8 @@ void Erzeuger::buchen(Eintrag eintrag) {
 
 void Erzeuger::nachziehen() { VolkfelderNachziehen(DB, m_alleVoelker); }
 
-// A large operation is written without its indexes, which are built once at the end.
+// A large operation is written without its indexes, which are built once at the end; only those by
+// which the routines look up a colony's bookings stay.
 class OhneIndexe {
  public:
   explicit OhneIndexe(bool ja) : m_ja(ja) {
@@ -392,7 +393,8 @@ class OhneIndexe {
   static void jede(const std::function<void(const QString&)>& tun) {
     for (const Tabelle& tabelle : schema())
       if (buchungstabellen().contains(tabelle.name))
-        for (const QString& index : tabelle.indexe) tun(index);
+        for (const QString& index : tabelle.indexe)
+          if (!index.endsWith(QLatin1String("(Volk_ID)"))) tun(index);
   }
   bool m_ja;
 };
