@@ -77,7 +77,7 @@ TE_Eingabe::TE_Eingabe(QWidget* oeffner)
 QWidget* TE_Eingabe::baueVoelker() {
   m_kom = new QComboBox;
   m_kom->setObjectName("kom");
-  m_kom->setPlaceholderText("Standort wählen");
+  m_kom->setPlaceholderText("wählen");
   m_kom->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   m_kom->setMinimumContentsLength(7);
   m_kom->setMinimumWidth(10 * fontMetrics().averageCharWidth());

@@ -1,0 +1,262 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include "Eingabehilfen.h"
+#include "Formenliste.h"
+#include "Formregeln.h"
+#include "core/help.h"
+
+namespace {
+
+constexpr QSize KleinerSchirm(1366, 768);
+
+struct Fall {
+  size_t nummer;
+  int prozent;  // of the ordinary font
+};
+
+std::vector<Fall> faelle() {
+  std::vector<Fall> alle;
+  for (size_t i = 0; i < formenliste().size(); ++i)
+    for (const int prozent : {100, 150}) alle.push_back({i, prozent});
+  return alle;
+}
+
+std::string fallname(const testing::TestParamInfo<Fall>& info) {
+  return formenliste()[info.param.nummer].fall.toStdString() + "_" +
+         std::to_string(info.param.prozent);
+}
+
+std::string text(const QStringList& zeilen) { return zeilen.join(u'\n').toStdString(); }
+
+void PrintTo(const Fall& fall, std::ostream* aus) {
+  *aus << qPrintable(formenliste()[fall.nummer].fall) << " " << fall.prozent << " %";
+}
+
+class Formvertrag : public testing::TestWithParam<Fall> {
+ protected:
+  void SetUp() override {
+    m_schrift = QApplication::font();
+    QFont schrift = m_schrift;
+    schrift.setPointSizeF(schrift.pointSizeF() * GetParam().prozent / 100);
+    QApplication::setFont(schrift);
+    betrieb = std::make_unique<Betrieb>();
+  }
+  void TearDown() override {
+    schliessen();
+    betrieb.reset();
+    QApplication::setFont(m_schrift);
+  }
+
+  const Formfall& fall() const { return formenliste()[GetParam().nummer]; }
+  void oeffnen() {
+    schliessen();  // a second main form in the folder wouldn't start
+    zeigen(fall().machen(*betrieb));
+  }
+  void zeigen(Form neu) {
+    schliessen();
+    form = std::move(neu);
+    ASSERT_NE(form, nullptr);
+    form->show();
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    QApplication::processEvents();
+  }
+  void schliessen() {
+    if (form && form->isVisible()) form->close();
+    form.reset();
+  }
+  void neuerBetrieb() {
+    schliessen();
+    betrieb.reset();
+    betrieb = std::make_unique<Betrieb>();
+    oeffnen();
+  }
+
+  // The first stop of the Tab key of each kind of control, by name.
+  QStringList jeArt() {
+    QStringList arten, namen;
+    for (const QWidget* w : Formregeln::tabfolge(form.get())) {
+      const QString art = w->metaObject()->className();
+      if (arten.contains(art) || w->objectName().startsWith("qt_")) continue;
+      arten << art;
+      namen << w->objectName();
+    }
+    return namen;
+  }
+  QWidget* kind(const QString& name) { return form->findChild<QWidget*>(name); }
+
+  std::unique_ptr<Betrieb> betrieb;
+  Form form;
+
+ private:
+  QFont m_schrift;
+};
+
+QPushButton* standardknopf(QWidget* form) {
+  for (auto* knopf : form->findChildren<QPushButton*>())
+    if (knopf->isDefault()) return knopf;
+  return nullptr;
+}
+
+}  // namespace
+
+TEST_P(Formvertrag, TraegtIhrenNamen) {
+  oeffnen();
+  EXPECT_EQ(form->objectName().toStdString(), fall().objekt.toStdString());
+  EXPECT_FALSE(form->windowTitle().isEmpty());
+}
+
+TEST_P(Formvertrag, JedeEingabeHatNamenUndBeschriftung) {
+  oeffnen();
+  Formregeln::jedeSeite(form.get(), [&] { EXPECT_EQ(text(Formregeln::namen(form.get())), ""); });
+}
+
+TEST_P(Formvertrag, MnemonicsTreffenSichNicht) {
+  oeffnen();
+  Formregeln::jedeSeite(form.get(), [&] {
+    EXPECT_EQ(text(Formregeln::mnemonics(form.get())), text(fall().doppelt));
+  });
+  EXPECT_EQ(text(Formregeln::doppeltImMenue(form.get())), text(fall().doppeltImMenue));
+}
+
+TEST_P(Formvertrag, TabulatorGehtDurchAlleEingaben) {
+  oeffnen();
+  Formregeln::jedeSeite(form.get(),
+                        [&] { EXPECT_EQ(text(Formregeln::tabregeln(form.get())), ""); });
+}
+
+TEST_P(Formvertrag, KleinsteGroesseZeigtAllesUndPasstAufDenSchirm) {
+  oeffnen();
+  Formregeln::jedeSeite(form.get(), [&] {
+    EXPECT_EQ(text(Formregeln::beschnitten(form.get())), "");
+    EXPECT_LE(form->width(), KleinerSchirm.width());
+    EXPECT_LE(form->height(), KleinerSchirm.height());
+  });
+}
+
+TEST_P(Formvertrag, EscSchliesstUndSchreibtNichts) {
+  oeffnen();
+  const QStringList halte = jeArt();
+  ASSERT_FALSE(halte.isEmpty());
+  for (const QString& halt : halte) {
+    oeffnen();
+    const QString vorher = Betrieb::abbild();
+    kind(halt)->setFocus();
+    QTest::keyClick(kind(halt), Qt::Key_Escape);
+    EXPECT_EQ(form->isVisible(), fall().hauptformular) << qPrintable(halt);
+    EXPECT_TRUE(vorher == Betrieb::abbild()) << qPrintable(halt);
+  }
+  EXPECT_EQ(betrieb->boxen.fehler().toStdString(), "");
+}
+
+TEST_P(Formvertrag, F1FragtNachDerEigenenHilfe) {
+  if (!fall().hilfethema.isEmpty()) {
+    const auto abschnitt = Hilfe::abschnitt(fall().hilfethema);
+    ASSERT_TRUE(abschnitt.has_value()) << qPrintable(fall().hilfethema);
+    EXPECT_GE(abschnitt->size(), 3);
+  }
+  oeffnen();
+  // The main form shows its help itself, as a window over it.
+  QTimer zu;
+  QObject::connect(&zu, &QTimer::timeout, &zu, [&] {
+    if (QWidget* hilfe = QApplication::activeModalWidget()) {
+      betrieb->hilfen << TZ_Variablen::HilfeThema;
+      hilfe->close();
+    }
+  });
+  if (fall().hauptformular) zu.start(5);
+  for (const QString& halt : jeArt()) {
+    betrieb->hilfen.clear();
+    kind(halt)->setFocus();
+    QTest::keyClick(kind(halt), Qt::Key_F1);
+    const QStringList soll =
+        fall().hilfethema.isEmpty() ? QStringList() : QStringList{fall().hilfethema};
+    EXPECT_EQ(text(betrieb->hilfen), text(soll)) << qPrintable(halt);
+    EXPECT_TRUE(form->isVisible());
+  }
+}
+
+// From a button Enter presses that button, in a text of many lines it begins a new one; from all
+// else it presses the default button or at least writes nothing.
+TEST_P(Formvertrag, EingabetasteDruecktDenStandardknopfOderSchadetNicht) {
+  oeffnen();
+  // Before the Tab key gets to a button: that one is the default as long as it has the keyboard.
+  QString standard;
+  if (const QPushButton* knopf = standardknopf(form.get())) standard = knopf->objectName();
+  EXPECT_EQ(standard.toStdString(), fall().standardknopf.toStdString());
+  const QStringList halte = jeArt();
+  for (const QString& halt : halte) {
+    neuerBetrieb();
+    if (qobject_cast<QAbstractButton*>(kind(halt))) continue;
+    const QString vorher = Betrieb::abbild();
+    int gedrueckt = 0;
+    if (QPushButton* knopf = standardknopf(form.get()))
+      QObject::connect(knopf, &QPushButton::clicked, form.get(), [&] { ++gedrueckt; });
+    kind(halt)->setFocus();
+    QTest::keyClick(kind(halt), Qt::Key_Return);
+    if (qobject_cast<QLineEdit*>(kind(halt)) && !standard.isEmpty()) {
+      EXPECT_EQ(gedrueckt, 1) << qPrintable(halt);
+    }
+    if (gedrueckt == 0) {
+      EXPECT_TRUE(vorher == Betrieb::abbild()) << qPrintable(halt);
+    }
+  }
+}
+
+TEST_P(Formvertrag, GespeichertesKommtBeimWiederoeffnenGleich) {
+  if (!fall().sichern) return;
+  const Sichern& sichern = *fall().sichern;
+  oeffnen();
+  fuelle(form.get(), sichern.unberuehrt);
+  const auto vorher = inhalte(form.get());
+  ASSERT_FALSE(vorher.isEmpty());
+  if (sichern.boxen) sichern.boxen(betrieb->boxen);
+  druecke(form.get(), sichern.knopf);
+  EXPECT_EQ(betrieb->boxen.fehler().toStdString(), "");
+
+  zeigen(sichern.wieder(*betrieb));
+  if (sichern.auswaehlen) sichern.auswaehlen(form.get());
+  const auto nachher = inhalte(form.get());
+  for (auto feld = vorher.begin(); feld != vorher.end(); ++feld)
+    EXPECT_EQ(nachher.value(feld.key()).toStdString(), feld.value().toStdString())
+        << qPrintable(feld.key());
+}
+
+TEST_P(Formvertrag, AbgelehntesSpeichernSchreibtNichts) {
+  if (!fall().sichern || !fall().sichern->verderben) return;
+  oeffnen();
+  fuelle(form.get(), fall().sichern->unberuehrt);
+  fall().sichern->verderben(form.get(), betrieb->boxen);
+  const QString vorher = Betrieb::abbild();
+  druecke(form.get(), fall().sichern->knopf);
+  EXPECT_EQ(betrieb->boxen.fehler().toStdString(), "");
+  EXPECT_TRUE(vorher == Betrieb::abbild());
+  EXPECT_TRUE(form->isVisible());
+}
+
+TEST_P(Formvertrag, LoeschenFragtErst) {
+  if (!fall().loeschen) return;
+  const Loeschen& loeschen = *fall().loeschen;
+  oeffnen();
+  const QString vorher = Betrieb::abbild();
+  const qint64 anzahl = Betrieb::anzahl(loeschen.tabelle);
+  betrieb->boxen.frageMit(loeschen.frage, false);
+  loeschen.ausloesen(form.get());
+  EXPECT_EQ(betrieb->boxen.fehler().toStdString(), "");
+  EXPECT_TRUE(vorher == Betrieb::abbild());
+
+  betrieb->boxen.frageMit(loeschen.frage, true);
+  loeschen.ausloesen(form.get());
+  EXPECT_EQ(betrieb->boxen.fehler().toStdString(), "");
+  EXPECT_EQ(Betrieb::anzahl(loeschen.tabelle), anzahl - 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Alle, Formvertrag, testing::ValuesIn(faelle()), fallname);

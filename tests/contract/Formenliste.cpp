@@ -1,0 +1,162 @@
+#include "Formenliste.h"
+
+#include <QAction>
+#include <QFile>
+#include <QTest>
+
+#include "Eingabehilfen.h"
+#include "bookings/Buchungstypen.h"
+#include "bookings/forms/TE_Eingabe.h"
+#include "colonies/forms/TV_Neues_Volk.h"
+#include "core/forms/TH_Hilfe.h"
+#include "core/mainform/forms/TA_TOVA.h"
+#include "core/mainform/forms/TH_Hilfe_Wieanfangen.h"
+#include "data/forms/TS_Dateiauswahl.h"
+#include "data/forms/TS_Dateispeichern.h"
+#include "platform/controls/Grid.h"
+
+using namespace TZ_Variablen;
+
+namespace {
+
+Formfall hauptformular() {
+  Formfall f{"TA_TOVA", "TA_TOVA", "TA_TOVA", {}, {}};
+  f.machen = [](Betrieb& betrieb) -> Form {
+    betrieb.uebergeben();
+    auto form = std::make_unique<TA_TOVA>();
+    if (!form->laden({betrieb.ordner(), QDate(2026, 6, 15), [] { return true; }})) return nullptr;
+    form->datenvölkerlesen();
+    return form;
+  };
+  f.hauptformular = true;
+  f.loeschen = Loeschen{
+      "Bienenvolk", "Das Löschen eines Volkes entfernt das markierte Volk",
+      [](QWidget* form) { form->findChild<QAction*>(QString("XV_volklöschen"))->trigger(); }};
+  f.doppelt = QStringList{QString("Alt+V: &Völker und &Verwaltung")};
+  f.doppeltImMenue = QStringList{"V_Verwaltung:A", "XE_Eingabe:S", "XE_Eingabe:W", "popupliste:V"};
+  return f;
+}
+
+Formfall ersteSchritte() {
+  return {"TH_Hilfe_Wieanfangen", "TH_Hilfe_Wieanfangen", "TH_Hilfe_Wieanfangen", "schritt_2",
+          [](Betrieb&) -> Form {
+            return std::make_unique<TH_Hilfe_Wieanfangen>(
+                nullptr, TH_Hilfe_Wieanfangen::Schritte{nullptr, nullptr, [] {}});
+          }};
+}
+
+Form volkform(Betrieb& betrieb, const QString& modus, int zeile) {
+  betrieb.liste().datenvölkerlesen();
+  betrieb.liste().setAktuelleZeile(zeile);
+  VolkModus = modus;
+  auto form = std::make_unique<TV_Neues_Volk>();
+  form->laden();
+  return form;
+}
+
+Formfall neuesVolk() {
+  Formfall f{"TV_Neues_Volk_Neu", "TV_Neues_Volk", "TV_Neues_Volk", "ok", {}};
+  f.machen = [](Betrieb& betrieb) { return volkform(betrieb, "Neu", 0); };
+  f.sichern = Sichern{"ok",
+                      {"kon", "sevt_13"},  // a colony in stock hasn't gone
+                      {},
+                      [](Betrieb& betrieb) { return volkform(betrieb, QString("Ändern"), 3); },
+                      {},
+                      [](QWidget* form, Meldungen::Probe& boxen) {
+                        tippe(form, "sevt_0", {});
+                        boxen.hinweisMit("...die Volknummer angegeben werden muß.");
+                      }};
+  return f;
+}
+
+Formfall volkAendern() {
+  Formfall f{"TV_Neues_Volk_Aendern", "TV_Neues_Volk", "TV_Neues_Volk", "ok", {}};
+  f.machen = [](Betrieb& betrieb) { return volkform(betrieb, QString("Ändern"), 1); };
+  f.sichern = Sichern{"ok",
+                      {"kon", "sevt_13"},
+                      [](Meldungen::Probe& boxen) {
+                        boxen.hinweisMit("Sie haben Werte geändert")
+                            .frageMit("Sie haben den neuen Standort ", true);
+                      },
+                      f.machen,
+                      {},
+                      [](QWidget* form, Meldungen::Probe& boxen) {
+                        tippe(form, "sevt_0", "3");
+                        boxen.hinweisMit("...die Volknummer bereits existiert.");
+                      }};
+  return f;
+}
+
+// The type's name in plain letters.
+QString schlicht(QString text) { return text.replace(QString("ö"), QString("oe")).remove(u' '); }
+
+Formfall eingabe(int art) {
+  Formfall f{"TE_Eingabe_" + schlicht(buchungstyp(art).beschriftung),
+             "TE_Eingabe",
+             "TE_Eingabe",
+             "neu_0",
+             {}};
+  f.machen = [art](Betrieb& betrieb) -> Form {
+    betrieb.liste();
+    BuchungsArt = art;
+    return std::make_unique<TE_Eingabe>(nullptr);
+  };
+  f.sichern = Sichern{
+      "neu_0",
+      {"kom"},
+      {},
+      f.machen,
+      [](QWidget* form) {
+        auto* li = form->findChild<Grid*>("li");
+        for (int i = 0; i < li->zeilen(); ++i)
+          if (li->zelle(i, "Datum") == "12.04.2026") klickeZeile(li, i);
+      },
+      [](QWidget* form, Meldungen::Probe& boxen) {
+        tippe(form, "sevt_0", "31.02.2026");
+        boxen.hinweis("Die Buchung wird nicht ausgeführt, weil das Datum nicht korrekt ist.");
+      }};
+  f.loeschen = Loeschen{buchungstyp(art).tabelle,
+                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
+                        [](QWidget* form) { druecke(form, QString("löschen")); }};
+  return f;
+}
+
+Formfall hilfe() {
+  return {"TH_Hilfe", "TH_Hilfe", {}, "schliessen", [](Betrieb&) -> Form {
+            HilfeThema = "TE_Eingabe";
+            auto form = std::make_unique<TH_Hilfe>(nullptr);
+            return form->lesen() ? std::move(form) : nullptr;
+          }};
+}
+
+Formfall dateiauswahl() {
+  return {"TS_Dateiauswahl", "TS_Dateiauswahl", "TS_Dateiauswahl", "ok",
+          [](Betrieb& betrieb) -> Form {
+            for (const char* name : {"/ernte.TKS", "/frühjahr.TKS"}) {
+              QFile datei(betrieb.ordner() + QString(name));
+              if (!datei.open(QFile::WriteOnly)) return nullptr;
+            }
+            return std::make_unique<TS_Dateiauswahl>(AppPfad + "*.TKS", nullptr);
+          }};
+}
+
+Formfall dateispeichern() {
+  Formfall f{"TS_Dateispeichern", "TS_Dateispeichern", "TS_Dateispeichern", "ok", {}};
+  f.machen = [](Betrieb&) -> Form {
+    return std::make_unique<TS_Dateispeichern>(nullptr, DateiErgebnis);
+  };
+  f.sichern = Sichern{"ok", {}, {}, f.machen, {}, {}};
+  return f;
+}
+
+}  // namespace
+
+const std::vector<Formfall>& formenliste() {
+  static const std::vector<Formfall> liste = [] {
+    std::vector<Formfall> alle{hauptformular(), ersteSchritte(), neuesVolk(), volkAendern()};
+    for (int art = 0; art < 11; ++art) alle.push_back(eingabe(art));
+    alle.insert(alle.end(), {hilfe(), dateiauswahl(), dateispeichern()});
+    return alle;
+  }();
+  return liste;
+}
