@@ -112,7 +112,8 @@ void schreibschutzEntfernen(const QStringList& dateien) {
 
 void resteLoeschen() {
   Textdatei::resteLoeschen(
-      AppPfad, {QStringLiteral("*.TV2"), QStringLiteral("LISTE.TXT"), QStringLiteral("TOVA2.LAY")});
+      AppPfad, {QStringLiteral("*.TV2"), QStringLiteral("LISTE.TXT"), QStringLiteral("gridli.txt"),
+                QStringLiteral("tova_liste.xlsx"), QStringLiteral("TOVA2.LAY")});
 }
 
 void einstellungenLaden(QDate heute) {

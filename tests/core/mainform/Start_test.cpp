@@ -94,7 +94,8 @@ TEST_F(Programmstart, SchreibschutzTextNenntDieAnzahl) {
 TEST_F(Programmstart, ResteAbgeschossenerSicherungenVerschwinden) {
   for (const char* name :
        {"Einstellungen.TV2.aBcDeF", "TV_Neues_Volk.TV2.xYzabc", "LISTE.TXT.QrsTuv",
-        "TOVA2.LAY.pQRstu", "Einstellungen.TV2", "Einstellungen.TV2.backup", "TOVA2.MDB.aBcDeF"})
+        "gridli.txt.kLmnoP", "tova_liste.xlsx.WvUtsr", "TOVA2.LAY.pQRstu", "Einstellungen.TV2",
+        "Einstellungen.TV2.backup", "TOVA2.MDB.aBcDeF"})
     anlegen(name);
   Start::resteLoeschen();
   EXPECT_EQ(QDir(m_ordner.path()).entryList(QDir::Files, QDir::Name),
