@@ -4,6 +4,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTest>
 #include <cstdio>
@@ -111,6 +113,11 @@ void Hand::waehlen(QWidget* form, const QString& eintrag) {
   auto* aktion = finde<QAction>(form, eintrag);
   if (!aktion->isEnabled()) abbrechen(eintrag + " is disabled");
   aktion->trigger();
+}
+
+void Hand::reiterWaehlen(QWidget* form, const QString& reiter, int nummer) {
+  QTabBar* leiste = finde<QTabWidget>(form, reiter)->tabBar();
+  QTest::mouseClick(leiste, Qt::LeftButton, Qt::NoModifier, leiste->tabRect(nummer).center());
 }
 
 void Hand::markieren(QWidget* form, const QString& gitter, const QList<int>& zeilen) {

@@ -43,7 +43,8 @@ class Begleiter {
 namespace Hand {
 void tippen(QWidget* form, const QString& feld, const QString& text);  // replaces what is there
 void druecken(QWidget* form, const QString& knopf);
-void waehlen(QWidget* form, const QString& eintrag);  // a menu entry
+void waehlen(QWidget* form, const QString& eintrag);                   // a menu entry
+void reiterWaehlen(QWidget* form, const QString& reiter, int nummer);  // counts from 0
 // Marks rows of a grid: a click on the first, then clicks with Ctrl.
 void markieren(QWidget* form, const QString& gitter, const QList<int>& zeilen);
 }  // namespace Hand

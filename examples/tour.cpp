@@ -3,8 +3,8 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QEventLoop>
+#include <QFile>
 #include <QTemporaryDir>
 #include <cstdio>
 
@@ -12,7 +12,9 @@
 #include "Betrieb.h"
 #include "core/globals.h"
 #include "core/mainform/forms/TA_TOVA.h"
+#include "output/forms/TA_Zwischenliste.h"
 #include "platform/controls/Gestaltung.h"
+#include "platform/controls/Grid.h"
 
 namespace {
 
@@ -112,26 +114,34 @@ bool ersterTag(const QString& bilder) {
   return besuchen(ordner.path(), tag);
 }
 
-// The same forms with three seasons behind them.
-bool imDrittenJahr(const QString& bilder) {
-  QTemporaryDir ordner;
-  Betriebsgroesse groesse;
-  groesse.heute = heute;
-  betriebAnlegen(ordner.path(), groesse);
-  TZ_Variablen::DB.Close();
-  TZ_Variablen::Arbeitsbereich.Close();
-
-  Begleiter tag(bilder);
+// The main form with all it shows of one colony, its panel as a printable list, the colony's own
+// form.
+void hauptformularZeigen(Begleiter& tag) {
   tag.schritt("TA_TOVA", [&](QWidget* form) {
     Hand::markieren(form, "datali", {2});
-    Hand::druecken(form, "cmdok");
+    Hand::druecken(form, "kon1");  // the picture, and the panel with it
     tag.fotografieren(form, "hauptformular");
-    Hand::waehlen(form, "XV_volkändern");
+    Hand::druecken(form, "linksrechts");
+    tag.fotografieren(form, "hauptformular_breites_textfeld");
+    Hand::druecken(form, "linksrechts");
+    Hand::druecken(form, "comdrucken");
   });
+  tag.schritt("TA_Textausgabe", [&](QWidget* form) {
+    tag.fotografieren(form, "textausgabe");
+    Hand::druecken(form, "abbv");
+  });
+  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::waehlen(form, "XV_volkändern"); });
   tag.schritt("TV_Neues_Volk", [&](QWidget* form) {
-    tag.fotografieren(form, "volk_aendern");
+    tag.fotografieren(form, "volk_aendern_1_stammdaten");
+    Hand::reiterWaehlen(form, "reiter", 1);
+    tag.fotografieren(form, "volk_aendern_2_beute");
+    Hand::reiterWaehlen(form, "reiter", 2);
+    tag.fotografieren(form, "volk_aendern_3_bewertung");
     Hand::druecken(form, "cmdabbrechen");
   });
+}
+
+void eingabenZeigen(Begleiter& tag) {
   static const QStringList eintraege = {
       "XE_stockkarte",    "XE_honigernte",       "XE_wachsernte", "XE_pollenernte",
       "XE_sonstigeernte", "XE_arbeiten",         "XE_wanderung",  "XE_gewichtsmessung",
@@ -143,11 +153,76 @@ bool imDrittenJahr(const QString& bilder) {
       Hand::druecken(form, "cmdschließen");
     });
   }
+}
+
+// Selects the colonies of one place and marks them.
+void selektierenUndMarkieren(Begleiter& tag) {
+  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::waehlen(form, "XV_völkerselektieren"); });
+  tag.schritt("TV_Selektieren", [&](QWidget* form) {
+    Hand::tippen(form, "sevt_2", "Buckfast");
+    Hand::druecken(form, "entselekt_4");
+    tag.fotografieren(form, "selektieren");
+    Hand::druecken(form, "schliessen");
+  });
+  tag.schritt("frage", [&](QWidget* form) {
+    tag.fotografieren(form, "selektierte_markieren");
+    Hand::druecken(form, "ja");
+  });
+  tag.schritt("hinweis", [](QWidget* form) { Hand::druecken(form, "ok"); });
+  tag.bild("TA_TOVA", "hauptformular_markiert");
+}
+
+void einstellungenZeigen(Begleiter& tag) {
+  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::waehlen(form, "O_Einstellungen"); });
+  tag.schritt("TO_Einstellungen", [&](QWidget* form) {
+    static const QStringList reiter = {"allgemein", "eingabe", "werte", "auswertungen", "felder"};
+    for (int i = 0; i < reiter.size(); ++i) {
+      Hand::reiterWaehlen(form, "reiter", i);
+      tag.fotografieren(form, QStringLiteral("einstellungen_%1_%2").arg(i + 1).arg(reiter[i]));
+    }
+    Hand::druecken(form, "cmdabbrechen");
+  });
+}
+
+// No menu entry ends in this list yet; it gets what the main list shows.
+void listeWeitergeben(Begleiter& tag) {
+  tag.schritt("TA_TOVA",
+              [](QWidget* form) { zwischenlisteZeigen(form, *form->findChild<Grid*>("datali")); });
+  tag.schritt("TA_Zwischenliste", [&](QWidget* form) {
+    tag.fotografieren(form, "zwischenliste");
+    Hand::druecken(form, "comtext");
+  });
+  tag.schritt("TA_Textausgabe", [&](QWidget* form) {
+    tag.fotografieren(form, "textausgabe_liste");
+    Hand::druecken(form, "abbv");
+  });
+  tag.schritt("TA_Zwischenliste", [](QWidget* form) { Hand::druecken(form, "cmdschließen"); });
+}
+
+void hilfeLesen(Begleiter& tag) {
   tag.schritt("TA_TOVA", [](QWidget* form) { Hand::waehlen(form, "hilfestartmenue"); });
   tag.schritt("TH_Hilfe", [&](QWidget* form) {
     tag.fotografieren(form, "hilfe");
     form->close();
   });
+}
+
+// The same forms with three seasons behind them.
+bool imDrittenJahr(const QString& bilder) {
+  QTemporaryDir ordner;
+  Betriebsgroesse groesse;
+  groesse.heute = heute;
+  betriebAnlegen(ordner.path(), groesse);
+  TZ_Variablen::DB.Close();
+  TZ_Variablen::Arbeitsbereich.Close();
+
+  Begleiter tag(bilder);
+  hauptformularZeigen(tag);
+  eingabenZeigen(tag);
+  selektierenUndMarkieren(tag);
+  einstellungenZeigen(tag);
+  listeWeitergeben(tag);
+  hilfeLesen(tag);
   return besuchen(ordner.path(), tag);
 }
 
