@@ -104,7 +104,7 @@ Menue optionen() {
        spaeter("O_Datenimport_tova1", "Datenübernahme aus TOVA 1.0"),
        spaeter("O_Updatemanager", "Update-Manager"),
        spaeter("O_volkabhängigeterminesetzen", "Volkabhängige Termine setzen"),
-       spaeter("O_Interakt", "Internet-Aktualisierung")}};
+       {"O_Interakt", "Internet-Aktualisierung", Ziel::Internet, Regel::Immer, {}}}};
 }
 
 Menue hilfe() {

@@ -18,6 +18,7 @@ enum class Ziel {
   Beenden,
   Eingabe,  // the booking form
   Einstellungen,
+  Internet,  // fetching the newest set-up
   Komprimieren,
   WieAnfangen,
   Hilfe

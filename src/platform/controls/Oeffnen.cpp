@@ -19,6 +19,11 @@ bool datei(const QString& pfad) {
   return QDesktopServices::openUrl(QUrl::fromLocalFile(pfad));
 }
 
+bool adresse(const QString& url) {
+  if (gesetzt()) return gesetzt()(url);
+  return QDesktopServices::openUrl(QUrl(url));
+}
+
 void setOeffner(std::function<bool(const QString& pfad)> oeffner) {
   gesetzt() = std::move(oeffner);
 }

@@ -9,8 +9,11 @@ namespace Oeffnen {
 // False when there is no such program.
 bool datei(const QString& pfad);
 
-// What opens the files instead of the system, for tests; an empty function gives the system back
-// its own.
+// The same for an address of the web, with the system's browser.
+bool adresse(const QString& url);
+
+// What opens the files and addresses instead of the system, for tests; an empty function gives the
+// system back its own.
 void setOeffner(std::function<bool(const QString& pfad)> oeffner);
 
 }  // namespace Oeffnen

@@ -7,11 +7,13 @@
 
 #include "colonies/forms/Markieren.h"
 #include "colonies/forms/TV_Neues_Volk.h"
+#include "core/mainform/Aktualisierung.h"
 #include "core/mainform/forms/Symbol.h"
 #include "core/mainform/forms/TA_TOVA.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
+#include "platform/controls/Oeffnen.h"
 
 void TA_TOVA::menuesBauen() {
   for (const Menue::Menue& vorlage : Menue::menues()) {
@@ -109,6 +111,19 @@ void TA_TOVA::befehleAnpassen() {
   for (int i = 1; i < popzeile.size(); ++i) popzeile[i]->setEnabled(zeileDa);
 }
 
+namespace {
+
+void aktualisierungLaden(QWidget* fenster) {
+  if (!Meldungen::Frage(Aktualisierung::ladenFrage(), Meldungen::Vorgabe::Ja, fenster)) return;
+  const QString adresse = Aktualisierung::setupAdresse();
+  if (adresse.isEmpty())
+    Meldungen::Hinweis(Aktualisierung::keineAdresseText(), fenster);
+  else if (!Oeffnen::adresse(adresse))
+    Meldungen::Hinweis(Aktualisierung::nichtGeoeffnetText(adresse), fenster);
+}
+
+}  // namespace
+
 void TA_TOVA::waehlen(const QString& eintrag) { ausfuehren(Menue::eintrag(eintrag)); }
 
 void TA_TOVA::ausfuehren(const Menue::Eintrag& eintrag) {
@@ -142,6 +157,9 @@ void TA_TOVA::ausfuehren(const Menue::Eintrag& eintrag) {
     case Menue::Ziel::Einstellungen:
       m_formen.einstellungen();
       break;
+    case Menue::Ziel::Internet:
+      aktualisierungLaden(this);
+      return;
     case Menue::Ziel::Komprimieren:
       komprimieren();
       return;

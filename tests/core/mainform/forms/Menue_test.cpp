@@ -56,6 +56,7 @@ TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
                                "XE_Notizen",
                                "O_Einstellungen",
                                "O_Datenbankkomprimieren",
+                               "O_Interakt",
                                "hilfewieanfangen",
                                "hilfestartmenue",
                                "hilfewiemacheich"}));
