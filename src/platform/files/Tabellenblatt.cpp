@@ -6,7 +6,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
+#include <algorithm>
 #include <array>
+#include <cstdio>
 #include <filesystem>
 
 #include "platform/files/Textdatei.h"
@@ -20,6 +22,7 @@ struct Tabellenblatt::Innen {
 
   lxw_format* form(Form f) const { return formen[static_cast<size_t>(f)]; }
   [[noreturn]] void fehler() const;
+  bool zwischendateiGanz() const;
   void pruefe(lxw_error ergebnis) const {
     if (ergebnis != LXW_NO_ERROR) fehler();
   }
@@ -101,7 +104,21 @@ void Tabellenblatt::zahl(int zeile, int spalte, double wert, Form form) {
                                    static_cast<lxw_col_t>(spalte), wert, m->form(form)));
 }
 
+// The library doesn't look whether its temporary files can be written: it would make a workbook of
+// what fitted on the disk. Closing copies the rows once more.
+bool Tabellenblatt::Innen::zwischendateiGanz() const {
+  FILE* zeilen = blatt->optimize_tmpfile;
+  if (zeilen == nullptr) return true;
+  if (std::fflush(zeilen) != 0 || std::ferror(zeilen) != 0) return false;
+  const long laenge = std::ftell(zeilen);
+  std::error_code unbekannt;
+  const auto platz = std::filesystem::space(QDir::tempPath().toStdU16String(), unbekannt);
+  constexpr quint64 Rest = 1 << 20;
+  return unbekannt || platz.available >= static_cast<quint64>(std::max(laenge, 0L)) + Rest;
+}
+
 void Tabellenblatt::speichern() {
+  if (!m->zwischendateiGanz()) m->fehler();
   m->pruefe(workbook_close(std::exchange(m->mappe, nullptr)));
   // A temporary file is its owner's alone; the spreadsheet is to be like any other file.
   m->beginn->setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "gemeinsam/AndererBenutzer.h"
+#include "platform/database/Dateigrenze.h"
 #include "platform/files/Textdatei.h"
 
 namespace {
@@ -76,6 +77,21 @@ TEST_F(DateischreiberTest, EinSchreibgeschuetzterOrdnerWirdGemeldet) {
   if (anderer.darfAlles()) GTEST_SKIP() << "write protections don't hold here";
   for (const Art art : {Art::GanzOderGarNicht, Art::Fluechtig})
     EXPECT_THROW(Dateischreiber(pfad(), art), Dateifehler);
+}
+
+TEST_F(DateischreiberTest, VollerDatentraegerLaesstDieAlteDateiUndKeinenHalbenBericht) {
+  lege("alt");
+  const auto vollschreiben = [this](const QString& name, Art art) {
+    const Dateigrenze voll(100000);
+    Dateischreiber datei(pfad(name), art);
+    datei.puffer().append(3000000, 'x');
+    datei.weiter();
+    datei.fertig();
+  };
+  EXPECT_THROW(vollschreiben("liste.txt", Art::GanzOderGarNicht), Dateifehler);
+  EXPECT_THROW(vollschreiben("report.htm", Art::Fluechtig), Dateifehler);
+  EXPECT_EQ(Textdatei::bytesLesen(pfad()), "alt");
+  EXPECT_EQ(dateien(), QStringList{"liste.txt"});
 }
 
 TEST_F(DateischreiberTest, EinFehlenderOrdnerWirdGenannt) {

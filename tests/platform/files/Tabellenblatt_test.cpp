@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "gemeinsam/AndererBenutzer.h"
+#include "platform/database/Dateigrenze.h"
 #include "platform/files/Textdatei.h"
 #include "platform/files/Xlsx.h"
 
@@ -107,6 +108,22 @@ TEST_F(TabellenblattTest, EineSchreibgeschuetzteTabelleBleibtUndWirdGemeldet) {
     EXPECT_THROW(Tabellenblatt(pfad, "Liste"), Dateifehler);
   }
   EXPECT_EQ(Textdatei::bytesLesen(pfad), "alt");
+}
+
+TEST_F(TabellenblattTest, VollerDatentraegerGibtKeineHalbeTabelle) {
+  {
+    Tabellenblatt alt(pfad, "Liste");
+    alt.text(0, 0, "alt", Form::Standard);
+    alt.speichern();
+  }
+  for (const rlim_t grenze : {1000, 100000, 300000}) {
+    Tabellenblatt blatt(pfad, "Liste");
+    const Dateigrenze voll(grenze);
+    for (int i = 0; i < 10000; ++i) blatt.text(i, 0, "sitzt ruhig auf den Waben", Form::Standard);
+    EXPECT_THROW(blatt.speichern(), Dateifehler) << grenze;
+  }
+  EXPECT_EQ(Xlsx(pfad).text("A1"), "alt");
+  EXPECT_EQ(dateien(), QStringList{"tova_liste.xlsx"});
 }
 
 TEST_F(TabellenblattTest, EineZeileUnterDerLetztenIstEinFehler) {
