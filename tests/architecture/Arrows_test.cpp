@@ -24,16 +24,20 @@ const QStringList raeume = {"platform/locale",
                             "planning",
                             "colonies",
                             "bookings",
+                            "stores",
+                            "sites",
                             "planning/forms",
                             "colonies/forms",
                             "bookings/forms",
+                            "stores/forms",
+                            "sites/forms",
                             "core/mainform",
                             "core/mainform/forms",
                             "app"};
 
 // Subsystems know each other only where one calls the other.
 const QMultiMap<QString, QString> untereinander = {{"colonies", "planning"}};
-const QStringList subsysteme = {"planning", "colonies", "bookings"};
+const QStringList subsysteme = {"planning", "colonies", "bookings", "stores", "sites"};
 
 struct Einbindung {
   QString datei;  // below src/
