@@ -20,9 +20,13 @@ void Bildfeld::zeigen(const QString& volknr, const QString& volkname, const Volk
                       const Volkanzeige::Honig& honig) {
   m_inhalt->zeigen(volknr, volkname, bild, honig);
   setAccessibleDescription(m_inhalt->beschreibung());
+  neuEinpassen();
 }
 
-void Bildfeld::setHonigjahr(const QString& beschriftung) { m_inhalt->setHonigjahr(beschriftung); }
+void Bildfeld::setHonigjahr(const QString& beschriftung) {
+  m_inhalt->setHonigjahr(beschriftung);
+  neuEinpassen();
+}
 
 int Bildfeld::heightForWidth(int breite) const {
   return m_inhalt->schoeneHoehe(breite - 2 * frameWidth()) + 2 * frameWidth();
@@ -45,6 +49,11 @@ void Bildfeld::resizeEvent(QResizeEvent* event) {
 void Bildfeld::changeEvent(QEvent* event) {
   QScrollArea::changeEvent(event);
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  neuEinpassen();
+}
+
+// Texts and fonts change the height that the picture needs.
+void Bildfeld::neuEinpassen() {
   updateGeometry();
   einpassen();
 }

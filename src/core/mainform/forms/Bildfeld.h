@@ -30,6 +30,7 @@ class Bildfeld : public QScrollArea {
   void changeEvent(QEvent* event) override;
 
  private:
+  void neuEinpassen();
   void einpassen();
 
   Bildinhalt* m_inhalt;

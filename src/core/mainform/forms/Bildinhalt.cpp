@@ -82,6 +82,8 @@ Bildinhalt::Bildinhalt(QWidget* eltern)
                            this)) {
   m_volknr->setObjectName(QStringLiteral("bildpos_10"));
   m_volkname->setObjectName(QStringLiteral("bildpos_11"));
+  m_volkname->setWordWrap(true);
+  for (QLabel* eingegeben : {m_volknr, m_volkname}) eingegeben->setTextFormat(Qt::PlainText);
   for (int i = 0; i < Volkbild::Noten; ++i) {
     auto* marke = new Marke(this);
     marke->setObjectName(QStringLiteral("bildpos_%1").arg(i));
@@ -162,7 +164,7 @@ Bildinhalt::Lage Bildinhalt::lage(int breite, int zeilenhoehe) const {
   const bool breit = breite >= 42 * em;
   Lage l;
   kopf(l, breite);
-  const int oben = l.volknr.bottom() + 1 + rand / 2;
+  const int oben = l.volkname.bottom() + 1 + rand / 2;
   int unten = oben + Volkbild::Noten * zeilenhoehe;
 
   const int dritte = breit ? std::max(17 * em, innen * 3 / 10) : 0;
@@ -185,13 +187,23 @@ Bildinhalt::Lage Bildinhalt::lage(int breite, int zeilenhoehe) const {
   return l;
 }
 
+// The name stands beside the number, below it where it would be cut.
 void Bildinhalt::kopf(Lage& lage, int breite) const {
   const int rand = fontMetrics().height() / 2;
-  const QSize nummer = m_volknr->sizeHint();
+  const int innen = breite - 2 * rand;
   const int hoehe = m_volkname->fontMetrics().height();
-  lage.volknr = QRect(rand, rand / 2, std::min(nummer.width(), breite / 2), hoehe);
-  const int links = lage.volknr.right() + 1 + (m_volknr->text().isEmpty() ? 0 : rand);
-  lage.volkname = QRect(links, rand / 2, std::max(0, breite - rand - links), hoehe);
+  const int nummer = std::min(m_volknr->sizeHint().width(), innen);
+  lage.volknr = QRect(rand, rand / 2, nummer, hoehe);
+  QPoint ort(rand, rand / 2);
+  if (!m_volknr->text().isEmpty()) {
+    const int name = m_volkname->fontMetrics().horizontalAdvance(m_volkname->text()) + 1;
+    if (nummer + rand + name <= innen)
+      ort.rx() += nummer + rand;
+    else
+      ort.ry() += hoehe;
+  }
+  const int weite = breite - rand - ort.x();
+  lage.volkname = QRect(ort, QSize(weite, std::max(hoehe, m_volkname->heightForWidth(weite))));
 }
 
 // One below the other: caption, value, unit.

@@ -150,6 +150,56 @@ TEST(Bildfeld, MarkenGleitenMitDerNote) {
   EXPECT_NEAR(f.label(2)->x(), (f.label(0)->x() + f.label(1)->x()) / 2.0, 1);
 }
 
+TEST(Bildfeld, HonigsummenStehenInIhrenFeldern) {
+  Feld f;
+  f.feld.zeigen("1", "Anna", bildVon({}), {"12,5", "20,0", "32,5"});  // newest, year, all time
+  EXPECT_EQ(f.label(19)->text(), "12,5");
+  EXPECT_EQ(f.label(9)->text(), "20,0");
+  EXPECT_EQ(f.label(20)->text(), "32,5");
+}
+
+TEST(Bildfeld, EinNameMitSpitzenKlammernStehtDaWieEingegeben) {
+  Feld f;
+  f.groesse(460, 400);
+  f.feld.zeigen("1", "<b>Anna</b>", bildVon({}), {});
+  const QImage pixel = f.label(11)->grab().toImage();
+  int rechts = 0;  // the last column with ink
+  for (int x = 0; x < pixel.width(); ++x)
+    for (int y = 0; y < pixel.height(); ++y)
+      if (pixel.pixel(x, y) != pixel.pixel(pixel.width() - 1, 0)) rechts = x;
+  const int breite = f.label(11)->fontMetrics().horizontalAdvance("<b>Anna</b>");
+  EXPECT_NEAR(rechts, breite * pixel.devicePixelRatio(), 4);
+}
+
+TEST(Bildfeld, DerLaengsteNameUndDieLaengsteNummerSindGanzZuLesen) {
+  const QString name = "Volk am Waldrand Ost";  // as long as the fields are
+  const QString nummer = "2024-00817";
+  for (int breite : {15, 20, 26, 45}) {
+    Feld f;
+    const int w = breite * f.feld.fontMetrics().height();
+    f.groesse(w, f.feld.heightForWidth(w));
+    f.feld.zeigen(nummer, name, bildVon({}), {});
+    f.groesse(w, f.feld.heightForWidth(w));
+    for (int i : {10, 11}) {
+      const QLabel* label = f.label(i);
+      EXPECT_EQ(label->text(), i == 10 ? nummer : name);
+      EXPECT_GE(label->width(), i == 10 ? label->sizeHint().width() : 1) << breite;
+      EXPECT_GE(label->height(),
+                label->fontMetrics()
+                    .boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text())
+                    .height())
+          << breite;
+      EXPECT_LE(label->fontMetrics()
+                    .boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text())
+                    .width(),
+                label->width())
+          << breite;
+    }
+    EXPECT_FALSE(f.label(10)->geometry().intersects(f.label(11)->geometry())) << breite;
+    EXPECT_FALSE(f.feld.verticalScrollBar()->isVisible()) << breite;
+  }
+}
+
 TEST(Bildfeld, LegendeUndHinweisStehenDa) {
   Feld f;
   f.groesse(460, 400);
@@ -251,4 +301,24 @@ TEST_F(Volkgrafik, DieNotenStehenAuchOhneIhreZeilenImBild) {
   EXPECT_FALSE(panel().contains("Volkstärke"));
   EXPECT_EQ(finde<QLabel>("bildpos_0")->text(), "6,5");
   EXPECT_EQ(finde<QLabel>("bildpos_8")->text(), "10,0");
+}
+
+TEST_F(Volkgrafik, NebenUnbekannterWabenzahlBleibtDerRahmenDesVorigenVolkes) {
+  voelker(3);
+  starten();
+  DB.Execute("update Bienenvolk set Volknr = '1', Volkname = 'Anna', Waben_je_Magazin = 9");
+  DB.Execute("update Bienenvolk set Waben_je_Magazin = 7 where ID = 2");
+  DB.Execute("update Bienenvolk set Waben_je_Magazin = 16 where ID = 3");
+  form->datenvölkerlesen();
+  klick("kon1");
+  const auto zeige = [this](int zeile) {
+    form->setAktuelleZeile(zeile);
+    klick("cmdok");
+    return finde<Bildfeld>("bild")->grab().toImage();
+  };
+  const QImage neun = zeige(0);
+  EXPECT_EQ(zeige(1), neun);
+  const QImage sechzehn = zeige(2);
+  EXPECT_NE(sechzehn, neun);
+  EXPECT_EQ(zeige(1), sechzehn);
 }
