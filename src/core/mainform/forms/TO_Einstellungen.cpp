@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QToolButton>
 
 #include "bookings/Liste.h"
 #include "core/globals.h"
@@ -117,6 +118,8 @@ void TO_Einstellungen::verschieben(size_t liste, int schritt) {
   if (zeile < 0) return;
   const int neu = Feldfolge::verschieben(f.felder, zeile, schritt);
   if (neu < 0) {
+    // A button held down would go on behind the box and open the next one.
+    for (QToolButton* knopf : f.knopf) knopf->setDown(false);
     Meldungen::Hinweis(Feldfolge::unbeweglichText(), this);
     return;
   }

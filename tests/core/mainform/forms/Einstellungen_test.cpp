@@ -321,6 +321,23 @@ TEST_F(Einstellungsform, DatumUndIDLassenSichNichtVerschieben) {
   klicke("aufwaerts_0");
 }
 
+TEST_F(Einstellungsform, GehaltenerKnopfMeldetDasDatumEinmal) {
+  oeffne();
+  auto* knopf = kind<QToolButton>("aufwaertsstock_0");
+  ASSERT_TRUE(knopf->autoRepeat());
+  knopf->setAutoRepeatDelay(20);
+  knopf->setAutoRepeatInterval(20);
+  auto* stock = kind<QListWidget>("listock");
+  stock->setCurrentRow(3);
+  zeigeReiter(knopf);
+  boxen.hinweis("Das Datum und die ID können nicht verschoben werden.");
+  QTest::mousePress(knopf, Qt::LeftButton);
+  QTest::qWait(600);
+  EXPECT_EQ(stock->currentRow(), 1);
+  EXPECT_EQ(boxen.fehler().toStdString(), "");
+  QTest::mouseRelease(knopf, Qt::LeftButton);
+}
+
 TEST_F(Einstellungsform, HakenWerdenZurZeichenfolge) {
   oeffne();
   auto* zeilenliste = kind<QListWidget>("litext1");
