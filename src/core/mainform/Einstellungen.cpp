@@ -93,9 +93,12 @@ QString standardFrage() {
 }
 
 void speichern(const Stand& stand, const Database& db) {
+  const QStringList vorher = Feldfolge::lesen(Feldfolge::Liste::Volk, db);
   for (const Schalter& s : schalter())
     EinstellungenZahl[platz(s.slot)] = stand.kon.value(s.index) ? 1 : 0;
   for (const Eingabe& e : eingaben()) inSlot(e, stand.sevt.value(e.index));
+  MehrwertsteuerPruefen();
+  WabenJeMagazinPruefen();
 
   QString& trenner = EinstellungenText[platz(eingabe(3).slot)];
   if (trenner.isEmpty()) trenner = trennzeichen().first();
@@ -105,7 +108,7 @@ void speichern(const Stand& stand, const Database& db) {
 
   EinstellungenText[24].clear();
   for (const bool ja : stand.gezeigt) EinstellungenText[24] += ja ? u'1' : u'0';
-  sortierspalteMitnehmen(Feldfolge::lesen(Feldfolge::Liste::Volk, db), stand.volkfelder);
+  sortierspalteMitnehmen(vorher, stand.volkfelder);
   EinstellungenText[17] = Feldfolge::anweisung(Feldfolge::Liste::Volk, stand.volkfelder);
   EinstellungenText[22] = Feldfolge::anweisung(Feldfolge::Liste::Stockkarte, stand.stockfelder);
   ListeNeuLesen = 1;

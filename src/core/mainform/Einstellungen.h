@@ -72,10 +72,11 @@ Stand lesen(const Database& db);
 // The standard values; what has none stays.
 void standardSetzen(Stand& stand);
 QString standardFrage();
-// Puts the settings into their slots, within their bounds, and writes the settings file. A second
-// sort equal to the first is cleared, an empty separator becomes " | ". The remembered sort of the
-// list (EinstellungenZahl 25) follows its field to the new place. ListeNeuLesen becomes 1. Throws
-// Dateifehler; the slots hold the new settings then.
+// Puts the settings into their slots, within their bounds, and writes the settings file. Tax rates
+// and combs per magazine are repaired as at the start. A second sort equal to the first is cleared,
+// an empty separator becomes " | ". The remembered sort of the list (EinstellungenZahl 25) follows
+// its field to the new place. ListeNeuLesen becomes 1. Throws Dateifehler; the slots hold the new
+// settings then.
 void speichern(const Stand& stand, const Database& db);
 
 // Values that belong to the columns of one order, such as widths, for another order of the same

@@ -6,7 +6,7 @@ namespace Einstellungen {
 
 namespace {
 
-Eingabe zahl(int index, int slot, const QString& text, const QString& einheit, Grenzen grenzen,
+Eingabe zahl(int index, int slot, const QString& text, const QString& einheit, Grenzen grenzen = {},
              std::optional<QString> standard = {}) {
   return {index, Ablage::Zahl, slot, text, einheit, grenzen, std::move(standard)};
 }
@@ -63,7 +63,6 @@ const QList<Schalter>& schalter() {
 }
 
 const QList<Eingabe>& eingaben() {
-  // Tax rates and combs are kept within the bounds that the start repairs, too.
   static const QList<Eingabe> liste = {
       zahl(0, 50, "Anzahl Tage zwischen zwei Datensicherungen", "Tage", {1, 999, 14, 14}, "14"),
       zahl(1, 17, "Offene Termine beim Start berechnen bis", "Tage", {1, 365, 14, 365}, "14"),
@@ -76,12 +75,12 @@ const QList<Eingabe>& eingaben() {
       wert(7, 2, "Pollenwert je g", "€"),
       wert(8, 3, "Wert sonstige Ernte je g", "€"),
       wert(9, 4, "Kostensatz je Stunde bei Buchungen", "€"),
-      zahl(10, 44, "MwSt-Satz 1 (linke Maustaste im Taschenrechner)", "%", {1, 50, 19, 19}),
-      zahl(11, 45, "MwSt-Satz 2 (rechte Maustaste im Taschenrechner)", "%", {1, 50, 7, 7}),
+      zahl(10, 44, "MwSt-Satz 1 (linke Maustaste im Taschenrechner)", "%"),
+      zahl(11, 45, "MwSt-Satz 2 (rechte Maustaste im Taschenrechner)", "%"),
       wert(12, 5, "Honigmenge je Honigwabe in kg", "kg"),
       feld(13, 33, "1. Sortierung"),
       feld(14, 34, "2. Sortierung"),
-      zahl(15, 56, "Standardanzahl Waben je Magazin", {}, {8, 16, 10, 10}),
+      zahl(15, 56, "Standardanzahl Waben je Magazin", {}),
   };
   return liste;
 }

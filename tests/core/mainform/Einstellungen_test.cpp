@@ -163,6 +163,30 @@ TEST_F(Einstellungsdaten, WerteMitZweiNachkommastellen) {
   for (const auto& [sevt, text] : texte) EXPECT_EQ(stand().sevt[sevt], text) << sevt;
 }
 
+TEST_F(Einstellungsdaten, WerteAbTausendStehenOhneTausenderpunkt) {
+  EinstellungenWert[0] = 12345.67f;
+  EinstellungenWert[4] = 1000;
+  const Stand s = stand();
+  EXPECT_EQ(s.sevt[5], "12345,67");
+  EXPECT_EQ(s.sevt[9], "1000,00");
+  speichern(s);
+  EXPECT_EQ(EinstellungenWert[0], 12345.67f);
+  EXPECT_EQ(EinstellungenWert[4], 1000);
+}
+
+// The key sound has its own slot, which another form writes.
+TEST_F(Einstellungsdaten, PieptonSchaltetDenTastentonNicht) {
+  for (const qint16 tastenton : {qint16{0}, qint16{1}})
+    for (const bool piepton : {true, false}) {
+      EinstellungenZahl[14] = tastenton;
+      Stand s = stand();
+      s.kon[5] = piepton;
+      speichern(s);
+      EXPECT_EQ(EinstellungenZahl[24], piepton ? 1 : 0);
+      EXPECT_EQ(EinstellungenZahl[14], tastenton);
+    }
+}
+
 TEST_F(Einstellungsdaten, KopftextUndTrennzeichenBleibenWieGetippt) {
   Stand s = stand();
   s.sevt[2] = "Imkerei Müller | Waldhof";
