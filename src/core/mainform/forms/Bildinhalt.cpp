@@ -169,7 +169,7 @@ Bildinhalt::Lage Bildinhalt::lage(int breite, int zeilenhoehe) const {
 
   const int dritte = breit ? std::max(17 * em, innen * 3 / 10) : 0;
   const int uebrig = innen - dritte - (breit ? em : 0);
-  const int noten = std::clamp(uebrig * 45 / 100, std::min(8 * em, uebrig / 2), 15 * em);
+  const int noten = std::clamp(uebrig * 45 / 100, std::min(8 * em, uebrig * 3 / 5), 15 * em);
   l.stock = QRect(rand, oben, uebrig - noten - em, unten - oben);
   l.noten = QRect(l.stock.right() + 1 + em, oben, noten, unten - oben);
 

@@ -150,6 +150,15 @@ TEST(Bildfeld, MarkenGleitenMitDerNote) {
   EXPECT_NEAR(f.label(2)->x(), (f.label(0)->x() + f.label(1)->x()) / 2.0, 1);
 }
 
+TEST(Bildfeld, AuchImSchmalstenFeldSiehtManDieMarkenGleiten) {
+  Feld f;
+  const int w = f.feld.minimumSizeHint().width();
+  f.groesse(w, f.feld.heightForWidth(w));
+  f.feld.zeigen("1", "Anna", bildVon({{"Volkstärke", "10"}}), {});
+  EXPECT_GE(f.label(0)->x() - f.label(1)->x(), f.feld.fontMetrics().height());
+  EXPECT_LE(f.label(0)->geometry().right(), f.feld.widget()->width());
+}
+
 TEST(Bildfeld, HonigsummenStehenInIhrenFeldern) {
   Feld f;
   f.feld.zeigen("1", "Anna", bildVon({}), {"12,5", "20,0", "32,5"});  // newest, year, all time
