@@ -1,5 +1,6 @@
 #include "Betrieb.h"
 
+#include <QDir>
 #include <QFile>
 
 #include "bookings/Buchung.h"
@@ -99,6 +100,7 @@ Betrieb::Betrieb() {
   QFile::copy(muster, m_ordner.filePath(QStringLiteral("TOVA2.MDB")));
   QFile::copy(QStringLiteral(TOVA_QUELLEN "/src/app/HILFETOVA.HLP"),
               m_ordner.filePath(QStringLiteral("HILFETOVA.HLP")));
+  QDir::setCurrent(m_ordner.path());  // printing leaves a file there
   einrichten(m_ordner.path());
   Verdrahtung::herstellen();
   Formular::setHilfe([this](QWidget*, const QString& thema) { hilfen << thema; });
@@ -110,6 +112,7 @@ Betrieb::~Betrieb() {
   Fensterablage::setDatei({});
   trennen();
   zuruecksetzen();
+  QDir::setCurrent(m_vorher);
 }
 
 Testliste& Betrieb::liste() {

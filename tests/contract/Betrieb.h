@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <memory>
 
@@ -30,6 +31,7 @@ class Betrieb {
   QStringList hilfen;  // topics that were asked for
 
  private:
+  const QString m_vorher = QDir::currentPath();
   QTemporaryDir m_ordner;
   std::unique_ptr<Testliste> m_liste;
 };

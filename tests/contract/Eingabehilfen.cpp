@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -31,6 +33,16 @@ void tippeIn(QWidget* ziel, const QString& text) {
   QTest::keyClick(ziel, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(ziel, Qt::Key_Delete);
   QTest::keyClicks(ziel, text);
+}
+
+QString listeninhalt(const QListWidget* liste) {
+  QStringList zeilen;
+  for (int i = 0; i < liste->count(); ++i) {
+    const QListWidgetItem* zeile = liste->item(i);
+    zeilen << zeile->text() +
+                  (zeile->checkState() == Qt::Checked ? QStringLiteral(" x") : QString());
+  }
+  return zeilen.join(u'|');
 }
 
 // No two neighbours get the same.
@@ -74,15 +86,23 @@ void klickeZeile(Grid* grid, int zeile) {
   QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(index).center());
 }
 
-void fuelle(QWidget* form, const QStringList& ausser) {
+void fuelle(QWidget* form, const QStringList& ausser, const QHash<QString, QString>& werte) {
   int nummer = 0;
   Formregeln::jedeSeite(form, [&] {
     for (QWidget* eingabe : Formregeln::eingaben(form)) {
       if (!eingabe->isEnabled() || ausser.contains(eingabe->objectName())) continue;
-      if (auto* feld = qobject_cast<Eingabefeld*>(eingabe))
+      if (werte.contains(eingabe->objectName()))
+        tippeIn(eingabe, werte[eingabe->objectName()]);
+      else if (auto* feld = qobject_cast<Eingabefeld*>(eingabe))
         tippeIn(feld, probetext(feld->beschreibung(), nummer++));
+      else if (qobject_cast<QLineEdit*>(eingabe))
+        tippeIn(eingabe, QStringLiteral("7"));
       else if (qobject_cast<QPlainTextEdit*>(eingabe))
         tippeIn(eingabe, QStringLiteral("Viel Brut, wenig Platz"));
+      else if (qobject_cast<QComboBox*>(eingabe))
+        QTest::keyClick(eingabe, Qt::Key_Down);
+      else if (qobject_cast<QListWidget*>(eingabe))
+        QTest::keyClick(eingabe, Qt::Key_Space);
       else if (qobject_cast<QCheckBox*>(eingabe))
         QTest::mouseClick(eingabe, Qt::LeftButton, {}, QPoint(8, eingabe->height() / 2));
     }
@@ -98,8 +118,15 @@ QHash<QString, QString> inhalte(QWidget* form) {
         text = istZahl(feld) ? QString::number(ZahlLesen(feld->inhalt())) : feld->inhalt();
       else if (const auto* notiz = qobject_cast<const QPlainTextEdit*>(eingabe))
         text = notiz->toPlainText();
-      else if (const auto* haken = qobject_cast<const QCheckBox*>(eingabe))
-        text = haken->isChecked() ? QStringLiteral("ja") : QStringLiteral("nein");
+      else if (const auto* zeile = qobject_cast<const QLineEdit*>(eingabe))
+        text = zeile->text();
+      else if (const auto* wahl = qobject_cast<const QComboBox*>(eingabe))
+        text = wahl->currentText();
+      else if (const auto* liste = qobject_cast<const QListWidget*>(eingabe))
+        text = listeninhalt(liste);
+      else if (const auto* knopf = qobject_cast<const QAbstractButton*>(eingabe);
+               knopf != nullptr && knopf->isCheckable())
+        text = knopf->isChecked() ? QStringLiteral("ja") : QStringLiteral("nein");
       else
         texte.remove(eingabe->objectName());
     }

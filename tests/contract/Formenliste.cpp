@@ -8,11 +8,17 @@
 #include "bookings/Buchungstypen.h"
 #include "bookings/forms/TE_Eingabe.h"
 #include "colonies/forms/TV_Neues_Volk.h"
+#include "colonies/forms/TV_Selektieren.h"
 #include "core/forms/TH_Hilfe.h"
 #include "core/mainform/forms/TA_TOVA.h"
 #include "core/mainform/forms/TH_Hilfe_Wieanfangen.h"
+#include "core/mainform/forms/TO_Einstellungen.h"
 #include "data/forms/TS_Dateiauswahl.h"
 #include "data/forms/TS_Dateispeichern.h"
+#include "output/Textausgabe.h"
+#include "output/Uebergabe.h"
+#include "output/forms/TA_Textausgabe.h"
+#include "output/forms/TA_Zwischenliste.h"
 #include "platform/controls/Grid.h"
 
 using namespace TZ_Variablen;
@@ -149,13 +155,78 @@ Formfall dateispeichern() {
   return f;
 }
 
+// The button beside the input that has the keyboard is the default one.
+Formfall selektieren() {
+  Formfall f{"TV_Selektieren", "TV_Selektieren", "TV_Selektieren", "entselekt_2", {}};
+  f.machen = [](Betrieb& betrieb) -> Form {
+    betrieb.liste();
+    auto form = std::make_unique<TV_Selektieren>();
+    form->laden();
+    return form;
+  };
+  f.sichern =
+      Sichern{"schliessen",
+              {"sevt_0", "sevt_1", "sevt_2", "sevt_3", "sevt_4", "sevt_5", "sevt_6"},
+              {},
+              f.machen,
+              {},
+              [](QWidget*, Meldungen::Probe& boxen) {
+                boxen.hinweisMit("Der Selektionswunsch kann nicht ausgeführt werden, weil ");
+              },
+              {},
+              "entselekt_2"};
+  return f;
+}
+
+Formfall einstellungen() {
+  Formfall f{"TO_Einstellungen", "TO_Einstellungen", "TO_Einstellungen", "ok", {}};
+  f.machen = [](Betrieb& betrieb) -> Form {
+    betrieb.liste();
+    auto form = std::make_unique<TO_Einstellungen>();
+    form->laden();
+    return form;
+  };
+  f.sichern = Sichern{"ok", {}, {}, f.machen, {}, {}};
+  // Lines of a page from 30 on, combs of a magazine from 8 to 16, two fields to sort by.
+  f.sichern->werte = {{"sevt_4", "45"}, {"sevt_15", "12"}, {"sevt_14", "V"}};
+  return f;
+}
+
+// What is chosen there is kept when it closes.
+Formfall textausgabe() {
+  Formfall f{"TA_Textausgabe", "TA_Textausgabe", "TA_Textausgabe", "drucken", {}};
+  f.machen = [](Betrieb&) -> Form {
+    Textausgabe::listeSchreiben({"Volk       Honig", "1 Anna      3,33"});
+    auto form = std::make_unique<TA_Textausgabe>(nullptr);
+    form->laden();
+    return form;
+  };
+  f.sichern = Sichern{"abbv", {"t", "kom"}, {}, f.machen, {}, {}};
+  return f;
+}
+
+Formfall zwischenliste() {
+  Formfall f{"TA_Zwischenliste", "TA_Zwischenliste", "TA_Zwischenliste", {}, {}};
+  f.machen = [](Betrieb&) -> Form {
+    const Daten daten = DB.Lesen("select Volknr, Volkname, Standort from Bienenvolk");
+    Uebergabe::schreiben(Uebergabe::datei(), Ausgabeliste(daten));
+    auto form = std::make_unique<TA_Zwischenliste>();
+    form->laden();
+    return form;
+  };
+  f.doppeltImMenue = QStringList{"popzeile:S"};
+  f.sichern = Sichern{QString("cmdschließen"), {}, {}, f.machen, {}, {}};
+  return f;
+}
+
 }  // namespace
 
 const std::vector<Formfall>& formenliste() {
   static const std::vector<Formfall> liste = [] {
     std::vector<Formfall> alle{hauptformular(), ersteSchritte(), neuesVolk(), volkAendern()};
     for (int art = 0; art < 11; ++art) alle.push_back(eingabe(art));
-    alle.insert(alle.end(), {hilfe(), dateiauswahl(), dateispeichern()});
+    alle.insert(alle.end(), {hilfe(), dateiauswahl(), dateispeichern(), selektieren(),
+                             einstellungen(), textausgabe(), zwischenliste()});
     return alle;
   }();
   return liste;

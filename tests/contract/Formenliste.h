@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -14,7 +15,7 @@ class QWidget;
 
 using Form = std::unique_ptr<QWidget>;
 
-// How a form saves its inputs.
+// How a form saves its inputs. Without wieder it keeps none; without verderben it refuses none.
 struct Sichern {
   QString knopf;                                               // saves
   QStringList unberuehrt;                                      // inputs that stay as they are
@@ -22,6 +23,8 @@ struct Sichern {
   std::function<Form(Betrieb&)> wieder;                        // the form anew, on what was saved
   std::function<void(QWidget*)> auswaehlen;                    // brings it up in the shown form
   std::function<void(QWidget*, Meldungen::Probe&)> verderben;  // an entry that is refused
+  QHash<QString, QString> werte = {};  // texts for inputs that not every text is right for
+  QString abgelehnt = {};              // the button that refuses; empty: the one that saves
 };
 
 struct Loeschen {

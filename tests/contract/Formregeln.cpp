@@ -104,6 +104,16 @@ QRect lage(const QWidget* widget) {
   return {widget->mapTo(widget->window(), QPoint(0, 0)), widget->size()};
 }
 
+// The keyboard may begin in the midst of a group: the same round from where a group begins.
+QList<QWidget*> vonGruppenanfang(QList<QWidget*> folge) {
+  for (qsizetype i = 0; i < folge.size(); ++i) {
+    const QWidget* gruppe = folge.first()->parentWidget();
+    if (gruppe->isWindow() || gruppe != folge.last()->parentWidget()) break;
+    folge.append(folge.takeFirst());
+  }
+  return folge;
+}
+
 // Above it and not further right, or beside it on the left.
 bool liegtDavor(const QRect& a, const QRect& b) {
   if (a.bottom() < b.top()) return a.left() <= b.left();
@@ -147,7 +157,9 @@ bool zuEng(const QWidget* w) {
     const QRect feld = wahl->style()->subControlRect(QStyle::CC_ComboBox, &aussehen,
                                                      QStyle::SC_ComboBoxEditField, wahl);
     const QString text = wahl->currentIndex() < 0 ? wahl->placeholderText() : wahl->currentText();
-    return wahl->fontMetrics().horizontalAdvance(text) > feld.width() ||
+    // A list of long texts may show their beginnings.
+    const bool schmal = wahl->width() < wahl->minimumSizeHint().width();
+    return (schmal && wahl->fontMetrics().horizontalAdvance(text) > feld.width()) ||
            wahl->height() < wahl->minimumSizeHint().height();
   }
   if (ist<QGroupBox>(w))
@@ -279,12 +291,14 @@ QStringList tabregeln(QWidget* form) {
     if (anzahl != 1) fehler << QStringLiteral("%1 Halte bei ").arg(anzahl) + bezeichnung(eingabe);
   }
 
+  const QList<QWidget*> runde = vonGruppenanfang(folge);
   QList<const QWidget*> verlassen;
-  for (qsizetype i = 1; i < folge.size(); ++i) {
-    const QWidget* vorher = folge[i - 1];
-    const QWidget* jetzt = folge[i];
+  for (qsizetype i = 1; i < runde.size(); ++i) {
+    const QWidget* vorher = runde[i - 1];
+    const QWidget* jetzt = runde[i];
     if (vorher->parentWidget() != jetzt->parentWidget()) {
-      verlassen << vorher->parentWidget();
+      // What stands in the window itself is no group.
+      if (vorher->parentWidget() != form) verlassen << vorher->parentWidget();
       if (verlassen.contains(jetzt->parentWidget()))
         fehler << QStringLiteral("zurück in eine Gruppe: ") + bezeichnung(jetzt);
     } else if (liegtDavor(lage(jetzt), lage(vorher))) {
@@ -296,8 +310,12 @@ QStringList tabregeln(QWidget* form) {
 }
 
 QStringList beschnitten(QWidget* form) {
-  form->resize(1, 1);
-  QApplication::processEvents();
+  // Layouts within layouts settle one after the other.
+  for (QSize vorher; vorher != form->size();) {
+    vorher = form->size();
+    form->resize(1, 1);
+    QTest::qWait(1);
+  }
   QStringList fehler;
   const QList<QWidget*> alle = sichtbare(form);
   for (const QWidget* w : alle) {
