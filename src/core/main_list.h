@@ -13,7 +13,7 @@ class Hauptliste {
   virtual int aktuelleZeile() const = 0;
   // Makes a row current and marks it alone; -1 leaves no current row. Sets AktVolkID.
   virtual void setAktuelleZeile(int zeile) = 0;
-  virtual QList<int> markierteZeilen() const = 0;  // ascending
+  virtual QList<int> markierteZeilen() const = 0;                 // ascending
   virtual void setMarkierteZeilen(const QList<int>& zeilen) = 0;  // the current row stays
   // The cell as the list shows it; empty for a column that the configured list doesn't have.
   virtual QString zelle(int zeile, const QString& spalte) const = 0;

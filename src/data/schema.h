@@ -7,9 +7,9 @@
 // The twenty-seven tables: each one's create statement, its indexes and its seed rows.
 struct Tabelle {
   QString name;
-  QString anlegen;        // the create table statement
-  QStringList indexe;     // the create index statements, in their order
-  QStringList startwerte; // the insert statements, in their order
+  QString anlegen;         // the create table statement
+  QStringList indexe;      // the create index statements, in their order
+  QStringList startwerte;  // the insert statements, in their order
 };
 
 // In the order in which a new database gets them.

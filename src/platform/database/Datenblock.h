@@ -46,8 +46,9 @@ class Datenblock {
 
   bool istNull(int zeile, int spalte) const;
   bool istText(int zeile, int spalte) const;  // a text or a date
-  // Null, a qint64, a double, a QString or, in a column of type Datum, a QDate. A text of exactly the
-  // form yyyy-mm-dd in a column of type Ausdruck (max(Datum)) counts as a date here and in anzeige.
+  // Null, a qint64, a double, a QString or, in a column of type Datum, a QDate. A text of exactly
+  // the form yyyy-mm-dd in a column of type Ausdruck (max(Datum)) counts as a date here and in
+  // anzeige.
   QVariant wert(int zeile, int spalte) const;
   // The text of a text or date cell as it lies in memory; empty for null and for numbers.
   QByteArrayView rohtext(int zeile, int spalte) const;
