@@ -1,4 +1,5 @@
 // The guided tour: drives the real forms through a beekeeper's day and leaves a picture of each.
+// tools/bilder takes the handbook's pictures from it.
 // usage: tour FOLDER_FOR_PICTURES
 
 #include <QApplication>
