@@ -1,0 +1,131 @@
+#include "data/Verwaltungsfelder.h"
+
+#include "core/globals.h"
+#include "data/helpers.h"
+#include "platform/database/Recordset.h"
+#include "platform/locale/Deutsch.h"
+
+using TZ_Variablen::CRLF;
+
+namespace Verwaltung {
+
+Feld Feld::vorgabe(const QString& text) const {
+  Feld neu = *this;
+  neu.ersterText = text;
+  return neu;
+}
+
+Feld Feld::liste(const QString& anweisung) const {
+  Feld neu = *this;
+  neu.listenAnweisung = anweisung;
+  return neu;
+}
+
+Feld Feld::einheit(const QString& text) const {
+  Feld neu = *this;
+  neu.zeichen = text;
+  return neu;
+}
+
+Feld Feld::gezeigt() const {
+  Feld neu = *this;
+  neu.nurAnzeige = true;
+  return neu;
+}
+
+Feld text(const QString& feld, const QString& beschriftung, int laenge) {
+  return {Art::Text, feld, beschriftung, laenge};
+}
+
+Feld auswahl(const QString& feld, const QString& beschriftung, const QStringList& texte) {
+  return {Art::Auswahl, feld, beschriftung, 0, 0, 0, texte};
+}
+
+Feld ganzzahl(const QString& feld, const QString& beschriftung, qint64 bis) {
+  return {Art::Ganzzahl, feld, beschriftung, static_cast<int>(QString::number(bis).size()), 0, bis};
+}
+
+Feld dezimal(const QString& feld, const QString& beschriftung, int laenge, int nachkommastellen) {
+  return {Art::Dezimal, feld, beschriftung, laenge, nachkommastellen};
+}
+
+Feld datum(const QString& feld, const QString& beschriftung) {
+  return {Art::Datum, feld, beschriftung, 10};
+}
+
+Texte vorgaben(const Felder& felder) {
+  Texte texte;
+  for (const Feld& feld : felder) texte[feld.feld] = feld.ersterText;
+  return texte;
+}
+
+QString feldtext(const Feld& feld, const QVariant& wert) {
+  if (wert.isNull()) return {};
+  if (feld.art != Art::Dezimal) return TextLesen(wert);
+  const QString gerundet = Deutsch::zahl(wert.toDouble(), feld.nachkommastellen);
+  const QString genau = Deutsch::schlicht(wert.toDouble());
+  return ZahlLesenDoppelt(gerundet) == ZahlLesenDoppelt(genau) ? gerundet : genau;
+}
+
+QVariant feldwert(const Feld& feld, const QString& text) {
+  switch (feld.art) {
+    case Art::Ganzzahl:
+      return GanzLesen(text);
+    case Art::Dezimal:
+      return ZahlLesen(text);
+    case Art::Datum:
+      return IstDatum(text) ? QVariant(DatumLesen(text)) : QVariant();
+    case Art::Text:
+    case Art::Auswahl:
+      break;
+  }
+  return TextLesen(text);
+}
+
+QStringList pickliste(Database& datenbank, const Feld& feld) {
+  QStringList texte;
+  if (feld.listenAnweisung.isEmpty()) return texte;
+  const Daten zeilen = datenbank.Lesen(feld.listenAnweisung);
+  for (int i = 0; i < zeilen->zeilen(); ++i) {
+    const QString text = TextLesen(zeilen->wert(i, 0));
+    if (!text.isEmpty()) texte << text;
+  }
+  return texte;
+}
+
+qint64 speichern(Database& datenbank, const QString& tabelle, const Felder& felder,
+                 const Texte& texte, std::optional<qint64> id, const QVariantHash& weitere) {
+  Recordset zeile =
+      id ? datenbank.OpenRecordset("select top 1 * from " + tabelle + " where ID = ?", {*id})
+         : datenbank.OpenRecordset("select top 1 * from " + tabelle);
+  if (id && zeile.RecordCount() == 0)
+    throw Datenbankfehler(Datenbankfehler::Art::Allgemein,
+                          "Der Datensatz kann nicht geändert werden, weil er in der Datenbank "
+                          "nicht mehr vorhanden ist.");
+  if (id)
+    zeile.Edit();
+  else
+    zeile.AddNew();
+  for (auto wert = weitere.begin(); wert != weitere.end(); ++wert) zeile[wert.key()] = wert.value();
+  for (const Feld& feld : felder)
+    if (!feld.nurAnzeige) zeile[feld.feld] = feldwert(feld, texte.value(feld.feld));
+  zeile.Update();
+  return id ? *id : datenbank.LetzteID();
+}
+
+bool vorhanden(Database& datenbank, const QString& tabelle, const QString& feld,
+               const QString& text, std::optional<qint64> id) {
+  QString anweisung = "select " + feld + " from " + tabelle + " where " + feld + " = ?";
+  QVariantList werte{TextLesen(text)};
+  if (id) {
+    anweisung += " and ID <> ?";
+    werte << *id;
+  }
+  return datenbank.Lesen(anweisung, werte)->zeilen() > 0;
+}
+
+QString ablehnung(const QStringList& gruende) {
+  return "Die Daten werden nicht gespeichert, weil..." + CRLF + CRLF + gruende.join(CRLF);
+}
+
+}  // namespace Verwaltung

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QStringList>
+#include <QVariant>
+#include <optional>
+
+#include "platform/database/Datenbank.h"
+
+// The fields of a management form as data: each is described once, in the order of the form, and
+// dressing, row display and saving all read it from here.
+namespace Verwaltung {
+
+enum class Art { Text, Auswahl, Ganzzahl, Dezimal, Datum };
+
+struct Feld {
+  Art art = Art::Text;
+  QString feld;  // of the table
+  QString beschriftung;
+  int maxLaenge = 0;         // characters, 0 for no limit
+  int nachkommastellen = 0;  // Dezimal
+  qint64 bis = 0;            // Ganzzahl: from 0 to this
+  QStringList texte = {};    // Auswahl: the only texts allowed
+  QString ersterText = {};   // in the empty form
+  QString listenAnweisung = {};
+  QString zeichen = {};     // unit shown behind the input
+  bool nurAnzeige = false;  // shown, but neither typed nor saved
+
+  Feld vorgabe(const QString& text) const;     // the text in the empty form
+  Feld liste(const QString& anweisung) const;  // the statement of its pick list
+  Feld einheit(const QString& text) const;
+  Feld gezeigt() const;
+};
+
+Feld text(const QString& feld, const QString& beschriftung, int laenge);
+Feld auswahl(const QString& feld, const QString& beschriftung, const QStringList& texte);
+Feld ganzzahl(const QString& feld, const QString& beschriftung, qint64 bis);
+Feld dezimal(const QString& feld, const QString& beschriftung, int laenge, int nachkommastellen);
+Feld datum(const QString& feld, const QString& beschriftung);
+
+using Felder = QList<Feld>;
+using Texte = QHash<QString, QString>;  // the inputs' texts by field
+
+// The texts of the empty form.
+Texte vorgaben(const Felder& felder);
+// A field's value as its input shows it: numbers with the field's decimals (more where the value
+// has more, so that saving it again loses nothing), null as an empty text.
+QString feldtext(const Feld& feld, const QVariant& wert);
+// What an input's text is stored as: texts cleaned by TextLesen, no date as null.
+QVariant feldwert(const Feld& feld, const QString& text);
+// The texts of a field's pick list, without empty ones. Throws Datenbankfehler.
+QStringList pickliste(Database& datenbank, const Feld& feld);
+
+// Writes a row of the table: the one of that ID, or a new one without it. weitere are fields that
+// have no input. Gives the row's ID. Throws Datenbankfehler, also when the row isn't there any
+// more.
+qint64 speichern(Database& datenbank, const QString& tabelle, const Felder& felder,
+                 const Texte& texte, std::optional<qint64> id, const QVariantHash& weitere = {});
+
+// Whether a row other than the one of that ID has this text in the field.
+bool vorhanden(Database& datenbank, const QString& tabelle, const QString& feld,
+               const QString& text, std::optional<qint64> id);
+
+// The one box with all reasons for not saving.
+QString ablehnung(const QStringList& gruende);
+
+}  // namespace Verwaltung

@@ -1,0 +1,155 @@
+#include "sites/Standorte.h"
+
+#include <algorithm>
+
+#include "data/helpers.h"
+#include "platform/database/Recordset.h"
+#include "platform/locale/Deutsch.h"
+
+using namespace Verwaltung;
+
+namespace Standorte {
+
+const Felder& standortfelder() {
+  static const Felder felder = {
+      text("Standort", "Standort", 100),
+      text("Zusatzortshinweis", "Zusatz-Orthinweis", 50)
+          .liste("select distinct Zusatzortshinweis from Standorte order by Zusatzortshinweis"),
+      auswahl("Wintertauglich", "Wintertauglich", {"J", "N"}).vorgabe("J"),
+      text("Klima", "Klima", 20).liste("select distinct Klima from Standorte order by Klima"),
+      auswahl("Pkw_anfahrbar", "PKW anfahrbar", {"J", "N"}).vorgabe("J"),
+      ganzzahl("Entfernung_Wasser_m", "Wasserentfernung m", 9999).vorgabe("0"),
+      text("Flugrichtung", "Flugrichtung", 10)
+          .liste("select distinct Flugrichtung from Standorte order by Flugrichtung"),
+      ganzzahl("Max_Völker", "Max. Anzahl Völker", 999).vorgabe("10"),
+      dezimal("Standortprämie_Volk", "Standortprämie je Volk", 8, 2)
+          .vorgabe("0,00")
+          .einheit(QString("€")),
+      datum("Trachtzeit_von", "Trachtzeit von").gezeigt(),
+      datum("Trachtzeit_bis", "Trachtzeit bis").gezeigt(),
+  };
+  return felder;
+}
+
+const Felder& pflanzenfelder() {
+  static const Felder felder = {
+      text("Pflanze", "Pflanze", 20)
+          .liste("select distinct Pflanze from Pflanzen order by Pflanze"),
+      datum("Weidezeit_von", "Weidezeit von"),
+      datum("Weidezeit_bis", "Weidezeit bis"),
+      ganzzahl("Nektarstufe", "Nektarstufe (0..10)", 10).vorgabe("5"),
+      ganzzahl("Pollenstufe", "Pollenstufe (0..10)", 10).vorgabe("5"),
+  };
+  return felder;
+}
+
+const Felder& trachtfelder() {
+  static const Felder felder = {
+      text("Pflanze", "Pflanze", 20)
+          .liste("select distinct Pflanze from Pflanzen order by Pflanze"),
+      ganzzahl("Entfernung_m", "Entfernung m", 9999),
+      ganzzahl("Proz_Anteil", "Anteil in %", 100),
+  };
+  return felder;
+}
+
+QStringList standortGruende(const Texte& texte) {
+  if (!TextLesen(texte["Standort"]).isEmpty()) return {};
+  return {"...der Standort angegeben werden muß."};
+}
+
+QStringList pflanzenGruende(const Texte& texte) {
+  QStringList gruende;
+  if (TextLesen(texte["Pflanze"]).isEmpty()) gruende << "...die Pflanze angegeben werden muß.";
+  if (!IstDatum(texte["Weidezeit_von"]) || !IstDatum(texte["Weidezeit_bis"]))
+    gruende << "...die Weidezeit von...bis korrekt angegeben werden muß.";
+  return gruende;
+}
+
+QStringList trachtGruende(const Texte& texte, double anteilSonst) {
+  const double anteil = ZahlLesen(texte["Proz_Anteil"]);
+  QStringList gruende;
+  if (TextLesen(texte["Pflanze"]).isEmpty()) gruende << "...die Pflanze angegeben werden muß.";
+  if (ZahlLesen(texte["Entfernung_m"]) <= 0)
+    gruende << "...die Entfernung muß größer als 0 Meter sein.";
+  if (anteil <= 0) gruende << "...der prozentuale Anteil müß größer als 0 % sein.";
+  if (anteilSonst + anteil > 100)
+    gruende << "...der prozentuale Anteil bei den Pflanzen am Standort nicht über 100 sein darf.";
+  return gruende;
+}
+
+QVariantHash neuerPlatz() { return {{"PTop", 250}, {"PLeft", 250}}; }
+
+double anteilSumme(Database& datenbank, qint64 standortId) {
+  const Daten summe = datenbank.Lesen(
+      "select sum(Proz_Anteil) as xsumme from Standorte_Pflanzen where Standort_Kennung = ?",
+      {standortId});
+  return summe->zeilen() == 0 ? 0 : summe->zahl(0, 0);
+}
+
+namespace {
+
+// The first value of a select; null when it has no rows.
+QVariant ersterWert(Database& datenbank, const QString& anweisung, qint64 standortId) {
+  const Daten zeilen = datenbank.Lesen(anweisung, {standortId});
+  return zeilen->zeilen() == 0 ? QVariant() : zeilen->wert(0, 0);
+}
+
+void trachtzeitErmitteln(Database& datenbank, const QVariant& name) {
+  Recordset ort = datenbank.OpenRecordset(
+      "select Trachtzeit_von, Trachtzeit_bis, ID from Standorte where Standort = ?", {name});
+  if (ort.RecordCount() == 0) return;
+  const qint64 id = ort.Wert("ID").toLongLong();
+  ort.Edit();
+  ort["Trachtzeit_von"] = ersterWert(
+      datenbank,
+      "select top 1 Weidezeit_von from Pflanzen, Standorte_Pflanzen where Standort_Kennung = ? "
+      "and Standorte_Pflanzen.Pflanze = Pflanzen.Pflanze order by Weidezeit_von",
+      id);
+  ort["Trachtzeit_bis"] = ersterWert(
+      datenbank,
+      "select top 1 Weidezeit_bis from Pflanzen, Standorte_Pflanzen where Standort_Kennung = ? "
+      "and Standorte_Pflanzen.Pflanze = Pflanzen.Pflanze order by Weidezeit_bis DESC",
+      id);
+  ort.Update();
+}
+
+QDate verschoben(QDate tag, int jahre, const QString& pflanze) {
+  const QString alt = Deutsch::datumText(tag);
+  const int jahr = std::clamp(alt.mid(6).toInt() + jahre, 1901, 2099);
+  const QString neu = alt.left(6) + QString::number(jahr);
+  if (!IstDatum(neu))
+    throw Datenbankfehler(Datenbankfehler::Art::Allgemein,
+                          "Die Weidezeit der Pflanze \"" + pflanze +
+                              "\" kann nicht verschoben werden, weil es den " + neu +
+                              " nicht gibt. Die Pflanzen davor sind bereits verschoben, diese und "
+                              "die folgenden noch nicht.");
+  return DatumLesen(neu);
+}
+
+}  // namespace
+
+void trachtzeitenErmitteln(Database& datenbank) {
+  const Daten orte = datenbank.Lesen("select * from Standorte order by Standort");
+  const int spalte = orte->spaltenNummer(u"Standort");
+  datenbank.Sammelschreiben([&] {
+    for (int i = 0; i < orte->zeilen(); ++i) trachtzeitErmitteln(datenbank, orte->wert(i, spalte));
+  });
+}
+
+void weidezeitenVerschieben(Database& datenbank, int jahre) {
+  datenbank.Sammelschreiben([&] {
+    Recordset pflanzen = datenbank.OpenRecordset("select * from Pflanzen");
+    for (; !pflanzen.AmEnde(); pflanzen.MoveNext()) {
+      pflanzen.Edit();
+      for (const char* feld : {"Weidezeit_von", "Weidezeit_bis"}) {
+        const QDate tag = pflanzen.Wert(feld).toDate();
+        if (tag.isValid())
+          pflanzen[feld] = verschoben(tag, jahre, TextLesen(pflanzen.Wert("Pflanze")));
+      }
+      pflanzen.Update();
+    }
+  });
+}
+
+}  // namespace Standorte

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "data/Verwaltungsfelder.h"
+
+// Sites, forage plants and the ties between them: which plants stand at a site, how far away and
+// with what share of its forage. A tie holds the plant by name and the site by ID; a name that no
+// plant bears is kept. All functions throw Datenbankfehler.
+namespace Standorte {
+
+const Verwaltung::Felder& standortfelder();  // of the table Standorte
+const Verwaltung::Felder& pflanzenfelder();  // of Pflanzen
+const Verwaltung::Felder& trachtfelder();    // of Standorte_Pflanzen
+
+// Reasons for not saving, in their order; none when all is well. anteilSonst is the share in per
+// cent of the site's other plants.
+QStringList standortGruende(const Verwaltung::Texte& texte);
+QStringList pflanzenGruende(const Verwaltung::Texte& texte);
+QStringList trachtGruende(const Verwaltung::Texte& texte, double anteilSonst);
+
+// Where the map shows a new site.
+QVariantHash neuerPlatz();
+
+// The sum of the shares at a site in per cent, 0 without plants.
+double anteilSumme(Database& datenbank, qint64 standortId);
+
+// Works out Trachtzeit_von and Trachtzeit_bis of all sites: the earliest start and the latest end
+// of bloom of the plants there, as full dates; null for a site without a known plant.
+void trachtzeitenErmitteln(Database& datenbank);
+
+// Moves the bloom of all plants by so many years, within 1901 to 2099. A 29th of February that the
+// new year doesn't have ends it with a Datenbankfehler; the plants before stay moved, that plant
+// and those behind it stay as they are.
+void weidezeitenVerschieben(Database& datenbank, int jahre);
+
+}  // namespace Standorte

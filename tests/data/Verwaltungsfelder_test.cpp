@@ -1,0 +1,99 @@
+#include "data/Verwaltungsfelder.h"
+
+#include "colonies/Testbetrieb.h"
+
+using namespace Verwaltung;
+
+namespace {
+
+class Verwaltungsfelder : public Testbetrieb {
+ protected:
+  const Felder felder = {text("Standort", "Standort", 100),
+                         ganzzahl("Max_Völker", "Max. Anzahl Völker", 999).vorgabe("10"),
+                         dezimal("Standortprämie_Volk", "Standortprämie je Volk", 8, 2),
+                         datum("Trachtzeit_von", "Trachtzeit von"),
+                         datum("Trachtzeit_bis", "Trachtzeit bis").gezeigt()};
+  const Texte texte = {{"Standort", " O'Hof "},
+                       {"Max_Völker", "12"},
+                       {"Standortprämie_Volk", "3,50"},
+                       {"Trachtzeit_von", "01.05.2006"},
+                       {"Trachtzeit_bis", "01.06.2006"}};
+  void SetUp() override {
+    Testbetrieb::SetUp();
+    db().Execute("delete from Standorte");
+  }
+};
+
+TEST_F(Verwaltungsfelder, NeueZeileMitAllenFeldernUndDenWeiteren) {
+  const qint64 id = speichern(db(), "Standorte", felder, texte, std::nullopt, {{"PTop", 250}});
+  EXPECT_EQ(anzahl("Standorte"), 1);
+  EXPECT_EQ(wert("select ID from Standorte").toLongLong(), id);
+  EXPECT_EQ(wert("select Standort from Standorte").toString(), "O`Hof");
+  EXPECT_EQ(wert("select Max_Völker from Standorte").toInt(), 12);
+  EXPECT_EQ(wert("select Standortprämie_Volk from Standorte").toDouble(), 3.5);
+  EXPECT_EQ(wert("select Trachtzeit_von from Standorte").toDate(), QDate(2006, 5, 1));
+  EXPECT_EQ(wert("select PTop from Standorte").toInt(), 250);
+}
+
+TEST_F(Verwaltungsfelder, NurGezeigtesWirdNichtGeschrieben) {
+  speichern(db(), "Standorte", felder, texte, std::nullopt);
+  EXPECT_TRUE(wert("select Trachtzeit_bis from Standorte").isNull());
+}
+
+TEST_F(Verwaltungsfelder, AendernTrifftNurDieEineZeile) {
+  const qint64 erste = speichern(db(), "Standorte", felder, texte, std::nullopt, {{"PTop", 7}});
+  speichern(db(), "Standorte", felder, {{"Standort", "Heide"}}, std::nullopt);
+  Texte neu = texte;
+  neu["Standort"] = "Wald";
+  EXPECT_EQ(speichern(db(), "Standorte", felder, neu, erste), erste);
+  EXPECT_EQ(wert("select Standort from Standorte where ID = ?", {erste}).toString(), "Wald");
+  EXPECT_EQ(wert("select PTop from Standorte where ID = ?", {erste}).toInt(), 7);
+  EXPECT_EQ(anzahl("Standorte", "Standort = 'Heide'"), 1);
+}
+
+TEST_F(Verwaltungsfelder, AendernEinerVerschwundenenZeileSchlaegtFehl) {
+  EXPECT_THROW(speichern(db(), "Standorte", felder, texte, 4711), Datenbankfehler);
+  EXPECT_EQ(anzahl("Standorte"), 0);
+}
+
+TEST_F(Verwaltungsfelder, LeeresDatumWirdNull) {
+  EXPECT_TRUE(feldwert(felder[3], "").isNull());
+  EXPECT_TRUE(feldwert(felder[3], "31.02.2006").isNull());
+}
+
+TEST_F(Verwaltungsfelder, FeldtextZeigtDieStellenDesFeldesUndKeineVerlorenen) {
+  EXPECT_EQ(feldtext(felder[2], 5.0), "5,00");
+  EXPECT_EQ(feldtext(felder[2], 0.1234), "0,1234");
+  EXPECT_EQ(feldtext(felder[2], QVariant()), "");
+  EXPECT_EQ(feldtext(felder[1], 12), "12");
+  EXPECT_EQ(feldtext(felder[3], QDate(2006, 5, 1)), "01.05.2006");
+}
+
+TEST_F(Verwaltungsfelder, VorhandenZaehltDieEigeneZeileNicht) {
+  const qint64 id = speichern(db(), "Standorte", felder, texte, std::nullopt);
+  EXPECT_TRUE(vorhanden(db(), "Standorte", "Standort", "O'Hof", std::nullopt));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", "Standort", "O'Hof", id));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", "Standort", "Hof", std::nullopt));
+}
+
+TEST_F(Verwaltungsfelder, PicklisteOhneLeereTexte) {
+  for (const char* klima : {"rau", "", "mild", "rau"})
+    db().Execute("insert into Standorte(Klima) values (?)", {klima});
+  const Feld klima =
+      text("Klima", "Klima", 20).liste("select distinct Klima from Standorte order by Klima");
+  EXPECT_EQ(pickliste(db(), klima), QStringList({"mild", "rau"}));
+  EXPECT_EQ(pickliste(db(), felder[0]), QStringList());
+}
+
+TEST(Ablehnung, EineMeldungMitAllenGruenden) {
+  EXPECT_EQ(ablehnung({"...a.", "...b."}).toStdString(),
+            "Die Daten werden nicht gespeichert, weil...\r\n\r\n...a.\r\n...b.");
+}
+
+TEST(Vorgaben, JedesFeldHatSeinenErstenText) {
+  const Texte texte = vorgaben({text("A", "a", 5), ganzzahl("B", "b", 9).vorgabe("3")});
+  EXPECT_EQ(texte["A"], "");
+  EXPECT_EQ(texte["B"], "3");
+}
+
+}  // namespace
