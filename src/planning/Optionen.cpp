@@ -1,0 +1,153 @@
+#include "planning/Optionen.h"
+
+#include <QStringList>
+
+#include "core/globals.h"
+#include "data/helpers.h"
+#include "planning/Optionsfehler.h"
+#include "planning/Termine.h"
+#include "platform/database/Recordset.h"
+
+using namespace TZ_Variablen;
+
+namespace {
+
+enum Slot { Arbeitsart, Start, Ende, Frist, Volkabhaengig, Buchung, Erledigtart };
+
+// A day without its year, in this year.
+QDate tag(const QString& text) { return DatumLesen(text + HeuteText.mid(5, 5)); }
+
+// "mmdd", so that days compare as texts.
+QString tagschlüssel(const QString& text) {
+  const QDate datum = tag(text);
+  return datum.isValid() ? datum.toString("MMdd") : text.mid(3, 2) + text.left(2);
+}
+
+// As the appointments are computed from it: "dd.mm".
+QString tagMonat(const QString& text) {
+  const QDate datum = tag(TextLesen(text));
+  return datum.isValid() ? datum.toString("dd.MM") : TextLesen(text);
+}
+
+Daten völkerImBestand(Database& db) {
+  return db.Lesen("select ID from Bienenvolk where Akt_im_Bestand = 'X'");
+}
+
+void termineBerechnen(Database& db, qint64 id, const QString& volkabhängig) {
+  if (TextLesen(volkabhängig) == QLatin1String("N")) {
+    TermineBerechnen(db, id, 0);
+    return;
+  }
+  const Daten völker = völkerImBestand(db);
+  for (int i = 0; i < völker->zeilen(); ++i) TermineBerechnen(db, id, völker->ganzzahl(i, 0));
+}
+
+qint64 zeileAnlegen(Database& db, const Optionseingabe& eingabe) {
+  Recordset rs = db.OpenRecordset("select top 1 * from Arbeitsplanoptionen");
+  rs.AddNew();
+  rs["Arbeitsart"] = TextLesen(eingabe[Arbeitsart]);
+  rs["Startzeitraum"] = tagMonat(eingabe[Start]);
+  rs["Endzeitraum"] = tagMonat(eingabe[Ende]);
+  rs["Wiederholungsfrist_Tage"] = GanzLesen(eingabe[Frist]);
+  rs[QString("Volkabhängig")] = TextLesen(eingabe[Volkabhaengig]);
+  rs["Auto_erledigt_Buchung"] = TextLesen(eingabe[Buchung]);
+  rs["Auto_erledigt_Arbeitsart"] = TextLesen(eingabe[Erledigtart]);
+  rs.Update();
+  rs.MoveLast();
+  return rs.Wert("ID").toLongLong();
+}
+
+}  // namespace
+
+QString optionenAnweisung() { return "select * from Arbeitsplanoptionen order by Arbeitsart"; }
+
+const QStringList& erledigtBuchungen() {
+  static const QStringList liste = {
+      {},          "Honigernte",      "Wachsernte", "Pollenernte",
+      "Wanderung", "Gewichtsmessung", "Behandlung", QString("Königinwechsel")};
+  return liste;
+}
+
+QStringList erledigtArbeitsarten(Database& db) {
+  QStringList liste = {{}};
+  const Daten arten = db.Lesen("select distinct Arbeitsart from Arbeiten order by Arbeitsart");
+  for (int i = 0; i < arten->zeilen(); ++i) {
+    const QString text = TextLesen(arten->wert(i, 0));
+    if (!text.isEmpty()) liste << text;
+  }
+  return liste;
+}
+
+QString optionPruefen(const Optionseingabe& eingabe) {
+  const QString start = TextLesen(eingabe[Start]);
+  const QString ende = TextLesen(eingabe[Ende]);
+  QString gründe;
+  if (TextLesen(eingabe[Arbeitsart]).isEmpty())
+    gründe += QString("...die Arbeitsart angegeben werden muß.") + CRLF;
+  if (!tag(start).isValid() || !tag(ende).isValid())
+    gründe += QString("...der Start- und Endzeitraum angegeben werden muß.") + CRLF;
+  if (tagschlüssel(start) > tagschlüssel(ende))
+    gründe += QString("...der Startzeitraum nicht hinter dem Endzeitraum liegen darf.") + CRLF;
+  if (gründe.isEmpty()) return {};
+  return QString("Die Daten werden nicht gespeichert, weil...") + CRLF + CRLF + gründe;
+}
+
+QString optionsnamePruefen(Database& db, const QString& arbeitsart, qint64 id) {
+  const QString name = TextLesen(arbeitsart);
+  QString anweisung = "select Arbeitsart from Arbeitsplanoptionen where Arbeitsart = ?";
+  QVariantList werte{name};
+  if (id != 0) {
+    anweisung += " and ID <> ?";
+    werte << id;
+  }
+  if (db.Lesen(anweisung, werte)->zeilen() == 0) return {};
+  return QString("Es existiert bereits ein Arbeitsplan mit dem Namen ") + name + u'.';
+}
+
+qint64 optionAnlegen(Database& db, const Optionseingabe& eingabe) {
+  qint64 id = 0;
+  db.Sammelschreiben([&] {
+    id = zeileAnlegen(db, eingabe);
+    termineBerechnen(db, id, eingabe[Volkabhaengig]);
+  });
+  return id;
+}
+
+void optionUmbenennen(Database& db, qint64 id, const QString& arbeitsart,
+                      const QString& alteArbeitsart) {
+  const QString name = TextLesen(arbeitsart);
+  db.Sammelschreiben([&] {
+    Recordset rs = db.OpenRecordset("select top 1 * from Arbeitsplanoptionen where ID = ?", {id});
+    if (rs.RecordCount() == 0)
+      throw Datenbankfehler(Datenbankfehler::Art::Allgemein,
+                            QString("Die Arbeitsplan-Option '%1' ist in der Datenbank nicht mehr "
+                                    "vorhanden.")
+                                .arg(alteArbeitsart));
+    rs.Edit();
+    rs["Arbeitsart"] = name;
+    rs.Update();
+    db.Execute("UPDATE Termine SET Termin = ? where Termin = ?", {name, alteArbeitsart});
+  });
+}
+
+void optionLöschen(Database& db, const QString& alteArbeitsart,
+                   const std::function<void()>& zeileLöschen) {
+  db.Sammelschreiben([&] {
+    zeileLöschen();
+    db.Execute("delete from Termine where Termin = ?", {alteArbeitsart});
+  });
+}
+
+void alleTermineBerechnen(Database& db, const QList<Optionszeile>& optionen,
+                          const std::function<void(qint64, qint64)>& fortschritt) {
+  db.Sammelschreiben([&] {
+    Optionsfehler fehler;
+    for (qsizetype i = 0; i < optionen.size(); ++i) {
+      const Optionszeile& option = optionen[i];
+      db.Execute("delete from Termine where Termin = ?", {option.arbeitsart});
+      fehler.versuche(option.id, [&] { termineBerechnen(db, option.id, option.volkabhängig); });
+      if (fortschritt) fortschritt(i + 1, optionen.size());
+    }
+    fehler.wirf();
+  });
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QSet>
+#include <QStringList>
+#include <functional>
+
+#include "platform/database/Datenbankfehler.h"
+
+// What failed for single options in a run over many: an option that can't be computed (a 29th of
+// February in a year without one) doesn't take the others' appointments with it. The run leaves it
+// out and fails when it is through.
+class Optionsfehler {
+ public:
+  // Runs the work for one option; not at all for an option that has failed before. A failure that
+  // isn't the option's own (full disk, lost transaction) goes on at once.
+  void versuche(qint64 optionId, const std::function<void()>& arbeit);
+  // Throws what failed, all options in one text.
+  void wirf() const;
+
+ private:
+  QSet<qint64> m_optionen;
+  QStringList m_texte;
+  Datenbankfehler::Art m_art = Datenbankfehler::Art::Allgemein;
+  QString m_anweisung;
+};
