@@ -1,0 +1,187 @@
+#include "planning/Terminverwaltung.h"
+
+#include <cstdlib>
+
+#include "core/globals.h"
+#include "data/helpers.h"
+#include "platform/database/Recordset.h"
+#include "platform/locale/Deutsch.h"
+
+using TZ_Variablen::CRLF;
+using TZ_Variablen::HeuteText;
+
+namespace Terminverwaltung {
+
+namespace {
+
+constexpr int TageZurueck = 7;
+constexpr int TageVoraus = 14;
+constexpr qint64 MeisteTage = 9999;
+
+QString heutePlus(qint64 tage) { return Deutsch::datumText(DatumLesen(HeuteText).addDays(tage)); }
+
+QStringList texte(Database& db, const QString& anweisung) {
+  const Daten zeilen = db.Lesen(anweisung);
+  QStringList liste;
+  for (int i = 0; i < zeilen->zeilen(); ++i)
+    if (const QString text = zeilen->anzeige(i, 0); !text.trimmed().isEmpty()) liste << text;
+  return liste;
+}
+
+void fuellen(Recordset& termine, const Eingabe& eingabe, qint64 volkId) {
+  termine["Datum"] = DatumLesen(eingabe.datum);
+  termine["Termin"] = TextLesen(eingabe.termin);
+  termine["Erledigt"] = TextLesen(eingabe.erledigt);
+  termine["Volk_ID"] = volkId;
+}
+
+}  // namespace
+
+void vorgaben(Filter& filter) {
+  if (!IstDatum(filter.von)) filter.von = heutePlus(-TageZurueck);
+  if (!IstDatum(filter.bis)) filter.bis = heutePlus(TageVoraus);
+}
+
+Daten liste(Database& db, const Filter& filter) {
+  QString anweisung =
+      filter.ansicht == Ansicht::Volkabhaengig
+          ? QString(
+                "select Datum, Termin, Erledigt, Volknr, Volkname, Standort, Volk_ID, "
+                "Termine.ID from Bienenvolk, Termine where Volk_ID = Bienenvolk.ID")
+          : QString(
+                "select Datum, Termin, Erledigt, Volk_ID, Termine.ID from Termine where "
+                "Volk_ID = 0");
+  anweisung += " and Datum >= ? and Datum <= ?";
+  QVariantList werte = {DatumLesen(filter.von), DatumLesen(filter.bis)};
+  if (!filter.volknr.isEmpty()) {
+    const Daten volk =
+        db.Lesen("select Volknr, ID from Bienenvolk where Volknr = ?", {filter.volknr});
+    if (volk->zeilen() > 0) {
+      anweisung += " and Volk_ID = ?";
+      werte << volk->wert(0, 1);
+    }
+  }
+  if (!filter.termin.isEmpty()) {
+    anweisung += " and Termin = ?";
+    werte << filter.termin;
+  }
+  if (!filter.erledigt.isEmpty()) {
+    anweisung += " and Erledigt = ?";
+    werte << filter.erledigt;
+  }
+  return db.Lesen(anweisung + " order by Datum", werte);
+}
+
+Pruefung pruefen(Database& db, const Eingabe& eingabe) {
+  Pruefung ergebnis;
+  if (!IstDatum(eingabe.datum))
+    ergebnis.gruende += "...das Datum des Termins angegeben werden muß." + CRLF;
+  if (eingabe.termin.trimmed().isEmpty())
+    ergebnis.gruende += "...die Terminart angegeben werden muß." + CRLF;
+  if (eingabe.volknr.trimmed().isEmpty()) return ergebnis;
+  const Daten volk = db.Lesen("select ID from Bienenvolk where Volknr = ? and Akt_im_Bestand = 'X'",
+                              {eingabe.volknr});
+  if (volk->zeilen() > 0)
+    ergebnis.volkId = volk->ganzzahl(0, 0);
+  else
+    ergebnis.gruende += "...das angegebene Volk nicht existiert (aktuell im Bestand ist)." + CRLF;
+  return ergebnis;
+}
+
+QString abgelehntText(const QString& gruende) {
+  return "Die Daten werden nicht gespeichert, weil..." + CRLF + CRLF + gruende;
+}
+
+QString standortFrage(const QString& standort) {
+  return "Soll der Termin wirklich bei allen Völkern am Standort '" + standort +
+         "' eingetragen werden?";
+}
+
+bool existiert(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 ausser) {
+  QString anweisung = "select Termin from Termine where Datum = ? and Termin = ? and Volk_ID = ?";
+  QVariantList werte = {DatumLesen(eingabe.datum), TextLesen(eingabe.termin), volkId};
+  if (ausser != 0) {
+    anweisung += " and ID <> ?";
+    werte << ausser;
+  }
+  return db.Lesen(anweisung, werte)->zeilen() > 0;
+}
+
+qint64 speichern(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 id) {
+  if (id == 0) {
+    Recordset termine = db.OpenRecordset("select top 1 * from Termine");
+    termine.AddNew();
+    fuellen(termine, eingabe, volkId);
+    termine.Update();
+    return db.LetzteID();
+  }
+  Recordset termine = db.OpenRecordset("select top 1 * from Termine where ID = ?", {id});
+  termine.Edit();
+  fuellen(termine, eingabe, volkId);
+  termine.Update();
+  return id;
+}
+
+qint64 amStandortEintragen(Database& db, const Eingabe& eingabe) {
+  qint64 letzte = 0;
+  db.Sammelschreiben([&] {
+    Recordset termine = db.OpenRecordset("select top 1 * from Termine");
+    const Daten voelker =
+        db.Lesen("select ID from Bienenvolk where Standort = ?", {eingabe.standort});
+    for (int i = 0; i < voelker->zeilen(); ++i) {
+      termine.AddNew();
+      fuellen(termine, eingabe, voelker->ganzzahl(i, 0));
+      termine.Update();
+      letzte = db.LetzteID();
+    }
+  });
+  return letzte;
+}
+
+void erledigteLoeschen(Database& db) { db.Execute("delete from Termine where Erledigt = 'J'"); }
+
+QString volknummer(Database& db, qint64 volkId) {
+  if (volkId == 0) return {};
+  const Daten volk = db.Lesen("select Volknr from Bienenvolk where ID = ?", {volkId});
+  return volk->zeilen() == 0 ? QString() : volk->anzeige(0, 0);
+}
+
+QStringList volknummern(Database& db) {
+  return texte(db, "select distinct Volknr from Bienenvolk order by Volknr");
+}
+
+QStringList terminarten(Database& db) {
+  return texte(db, "select distinct Termin from Termine order by Termin");
+}
+
+QStringList standorte(Database& db) {
+  return texte(db, "select distinct Standort from Bienenvolk order by Standort");
+}
+
+QString nurTage(const QString& text) {
+  QString rein;
+  qsizetype ziffern = 0;
+  for (const QChar zeichen : text) {
+    if (zeichen == u'-' && rein.isEmpty()) rein += zeichen;
+    if (zeichen >= u'0' && zeichen <= u'9' && ziffern < 4) {
+      rein += zeichen;
+      ++ziffern;
+    }
+  }
+  return rein;
+}
+
+QString datumInTagen(const QString& tage) {
+  bool zahl = false;
+  const qint64 anzahl = tage.trimmed().toLongLong(&zahl);
+  return zahl && std::abs(anzahl) <= MeisteTage ? heutePlus(anzahl) : QString();
+}
+
+QString tageBis(const QString& datum) {
+  const QDate tag = DatumLesen(datum);
+  if (!tag.isValid()) return {};
+  const qint64 tage = DatumLesen(HeuteText).daysTo(tag);
+  return std::abs(tage) <= MeisteTage ? QString::number(tage) : QString();
+}
+
+}  // namespace Terminverwaltung
