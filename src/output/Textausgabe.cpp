@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/globals.h"
+#include "output/Textliste.h"
 #include "platform/files/Textdatei.h"
 #include "platform/locale/Deutsch.h"
 
@@ -54,7 +55,7 @@ QString ohneBlankVorn(const QString& text) {
 namespace Textausgabe {
 
 void listeSchreiben(const QStringList& zeilen) {
-  AusgabeDatei = AppPfad + QStringLiteral("LISTE.TXT");
+  AusgabeDatei = Textliste::datei();
   Textdatei::schreiben(AusgabeDatei, zeilen);
 }
 

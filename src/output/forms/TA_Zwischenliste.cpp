@@ -51,7 +51,7 @@ void TA_Zwischenliste::aufbauen() {
   gridli = new Grid;
   gridli->setObjectName("gridli");
   gridli->setAccessibleName("Liste");
-  gridli->setLayoutSchluessel("ta_zwischenliste_gridli");
+  gridli->setLayoutSchluessel("TOVA/ta_zwischenliste_gridli/ColWidths");
   gridli->setContextMenuPolicy(Qt::CustomContextMenu);
   kon = new QCheckBox("Automatische Spaltenbreite");
   kon->setObjectName("kon");

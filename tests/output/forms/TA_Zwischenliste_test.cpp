@@ -291,11 +291,12 @@ TEST_F(ZwischenlisteTest, AngepassteBreitenVerdraengenDieGezogenenNicht) {
       Listen::block({{"A", Feldtyp::Text, 99}, {"B", Feldtyp::Text, 9}}, {{QString(60, 'W'), "1"}});
   oeffne(Ausgabeliste(d));
   gridli()->setColumnWidth(0, 133);
-  const QVariant gezogen = Fensterablage::lesen("Spaltenbreiten/ta_zwischenliste_gridli");
+  const QString schluessel = "Spaltenbreiten/TOVA/ta_zwischenliste_gridli/ColWidths";
+  const QVariant gezogen = Fensterablage::lesen(schluessel);
   EXPECT_EQ(gezogen.toList().value(0).toInt(), 133);
   klicke("kon");
   EXPECT_NE(gridli()->columnWidth(0), 133);
-  EXPECT_EQ(Fensterablage::lesen("Spaltenbreiten/ta_zwischenliste_gridli"), gezogen);
+  EXPECT_EQ(Fensterablage::lesen(schluessel), gezogen);
   klicke("kon");
   form->close();
   oeffne(Ausgabeliste(d));

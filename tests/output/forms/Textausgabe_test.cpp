@@ -370,6 +370,24 @@ TEST_F(Listenausgabe, QuerformatUndGroesseGehenAufDasPapier) {
   EXPECT_GE(blatt.seitenzahl(), 3);  // 60 lines of about 23 points on 538 points of height
 }
 
+TEST_F(Listenausgabe, SchriftFettUndKursivGehenAufDasPapier) {
+  oeffne({"Zeile"});
+  const auto gedruckt = [this] {
+    const Druckdialog dialog(pdf());
+    klicke("dateidrucken");
+    return Pdf(pdf()).schriften();
+  };
+  const QString familie = schrift().family().remove(' ');
+  const QString schlicht = gedruckt();
+  EXPECT_TRUE(schlicht.contains(familie)) << schlicht.toStdString();
+  EXPECT_FALSE(schlicht.contains("Bold"));
+  klicke("kon_0");
+  klicke("kon_1");
+  const QString betont = gedruckt();
+  EXPECT_TRUE(betont.contains("Bold")) << betont.toStdString();
+  EXPECT_TRUE(betont.contains("Italic") || betont.contains("Oblique")) << betont.toStdString();
+}
+
 TEST_F(Listenausgabe, DerRandSchiebtDieZeilenNachRechts) {
   oeffne({"Zeile"});
   const auto links = [this](const QString& rand) {
