@@ -1,0 +1,260 @@
+#include "data/forms/Verwaltungsblock.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "data/forms/helpers_forms.h"
+#include "data/helpers.h"
+#include "platform/controls/Eingabefeld.h"
+#include "platform/controls/Ereignis.h"
+#include "platform/controls/Formular.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/Meldungen.h"
+
+using namespace Verwaltung;
+
+namespace {
+
+Eingabefeld::Beschreibung beschreibung(const Feld& feld) {
+  Eingabefeld::Beschreibung b;
+  b.maxLaenge = feld.maxLaenge;
+  b.ersterText = feld.ersterText;
+  b.einheit = feld.zeichen;
+  if (feld.nurAnzeige) return b;  // no button for what isn't typed
+  switch (feld.art) {
+    case Art::Text:
+      break;
+    case Art::Auswahl:
+      b.art = Eingabefeld::Art::Auswahl;
+      b.auswahl = feld.texte;
+      break;
+    case Art::Ganzzahl:
+      b.art = Eingabefeld::Art::Ganzzahl;
+      b.bis = feld.bis;
+      break;
+    case Art::Dezimal:
+      b.art = Eingabefeld::Art::Dezimal;
+      b.nachkommastellen = feld.nachkommastellen;
+      break;
+    case Art::Datum:
+      b.art = Eingabefeld::Art::Datum;
+      break;
+  }
+  return b;
+}
+
+QPushButton* knopf(const QString& text, const QString& name, const QString& hinweis) {
+  auto* ergebnis = new QPushButton(text);
+  ergebnis->setObjectName(name);
+  ergebnis->setToolTip(hinweis);
+  return ergebnis;
+}
+
+}  // namespace
+
+Verwaltungsblock::Verwaltungsblock(const Plan& plan, QWidget* eltern)
+    : QWidget(eltern), m_plan(plan) {
+  aufbauen();
+  verbinden();
+}
+
+// ---- layout ----
+
+void Verwaltungsblock::aufbauen() {
+  m_neu[0] = knopf("&Neu", m_plan.neu + "_0", "Die Eingaben als neuen Datensatz eintragen");
+  m_neu[1] = knopf("&Ändern", m_plan.neu + "_1", "Den in der Liste gewählten Datensatz ändern");
+  m_löschen = knopf("&Löschen", m_plan.loeschen, "Den in der Liste gewählten Datensatz löschen");
+  m_knopfzeile = new QHBoxLayout;
+  for (QPushButton* k : {m_neu[0], m_neu[1], m_löschen}) m_knopfzeile->addWidget(k);
+  m_knopfzeile->addStretch(1);
+
+  m_liste = new Grid;
+  m_liste->setObjectName(m_plan.liste);
+  m_liste->setAccessibleName(m_plan.listentitel);
+  m_liste->setLayoutSchluessel(m_plan.schluessel);
+  m_liste->setSelectionMode(QAbstractItemView::SingleSelection);
+  m_liste->setMinimumHeight(6 * fontMetrics().height());
+  m_listenkopf = new QHBoxLayout;
+
+  auto* spalte = new QVBoxLayout(this);
+  spalte->setContentsMargins(0, 0, 0, 0);
+  spalte->addWidget(eingabenBauen());
+  spalte->addLayout(m_knopfzeile);
+  spalte->addLayout(m_listenkopf);
+  spalte->addWidget(m_liste, 1);
+}
+
+// Two columns of captions and inputs, read downwards; what is only shown stands below.
+QWidget* Verwaltungsblock::eingabenBauen() {
+  auto* rahmen = new QGroupBox(m_plan.titel);
+  auto* raster = new QGridLayout(rahmen);
+  raster->setColumnMinimumWidth(2, 2 * fontMetrics().averageCharWidth());
+  raster->setColumnStretch(1, 1);
+  raster->setColumnStretch(4, 1);
+  int getippte = 0;
+  for (const Feld& feld : m_plan.felder) getippte += feld.nurAnzeige ? 0 : 1;
+  const int hoehe = (getippte + 1) / 2;
+  int gezeigte = 0;
+  for (int i = 0; i < m_plan.felder.size(); ++i) {
+    const Feld& feld = m_plan.felder[i];
+    Eingabefeld* eingabe = feldBauen(i);
+    const int platz = feld.nurAnzeige ? gezeigte++ : i;
+    const int zeile = feld.nurAnzeige ? hoehe + 1 + platz / 2 : platz % hoehe;
+    const int spalte = 3 * (feld.nurAnzeige ? platz % 2 : platz / hoehe);
+    raster->addWidget(Formular::beschriften(feld.beschriftung, eingabe), zeile, spalte);
+    const bool breit = feld.art == Art::Text && feld.maxLaenge > 20;
+    raster->addWidget(eingabe, zeile, spalte + 1, breit ? Qt::Alignment() : Qt::AlignLeft);
+  }
+  if (!m_plan.hinweis.isEmpty()) {
+    auto* hinweis = new QLabel(m_plan.hinweis);
+    hinweis->setWordWrap(true);
+    raster->addWidget(hinweis, hoehe, 0, 1, 5);
+  }
+  return rahmen;
+}
+
+Eingabefeld* Verwaltungsblock::feldBauen(int nummer) {
+  auto* eingabe = new Eingabefeld;
+  eingabe->setObjectName(m_plan.eingabe + "_" + QString::number(nummer));
+  eingabe->einrichten(beschreibung(m_plan.felder[nummer]));
+  if (m_plan.felder[nummer].nurAnzeige) {
+    eingabe->setReadOnly(true);
+    eingabe->setFocusPolicy(Qt::ClickFocus);
+  }
+  m_eingaben << eingabe;
+  return eingabe;
+}
+
+void Verwaltungsblock::verbinden() {
+  for (const int i : {0, 1})
+    Ereignis::wenn(m_neu[i], &QPushButton::clicked, this, [this, i] { speichern(i == 1); });
+  Ereignis::wenn(m_löschen, &QPushButton::clicked, this, [this] { löschen(); });
+  for (const auto signal : {&Grid::zeileGewechselt, &Grid::zeileAngeklickt})
+    Ereignis::wenn(m_liste, signal, this, [this](int zeile) { zeigeZeile(zeile); });
+}
+
+QList<QWidget*> Verwaltungsblock::tabfolge() const {
+  QList<QWidget*> folge;
+  for (Eingabefeld* eingabe : m_eingaben) folge << eingabe;
+  folge << m_neu[0] << m_neu[1] << m_löschen;
+  for (int i = 0; i < m_knopfzeile->count(); ++i)
+    if (QWidget* weiterer = m_knopfzeile->itemAt(i)->widget(); !folge.contains(weiterer))
+      if (weiterer != nullptr) folge << weiterer;
+  return folge << m_liste;
+}
+
+// ---- reading and showing ----
+
+void Verwaltungsblock::laden(const Database& datenbank) {
+  m_datenbank = datenbank;
+  picklistenLesen();
+  leeren();
+  listeLesen();
+}
+
+void Verwaltungsblock::picklistenLesen() {
+  for (int i = 0; i < m_plan.felder.size(); ++i)
+    if (!m_plan.felder[i].listenAnweisung.isEmpty())
+      m_eingaben[i]->setListe(pickliste(m_datenbank, m_plan.felder[i]));
+}
+
+void Verwaltungsblock::listeLesen() {
+  m_liste->setDaten(m_datenbank.Lesen(m_plan.anweisung, listenwerte()));
+  nachListe();
+}
+
+Eingabefeld* Verwaltungsblock::eingabe(const QString& feld) const {
+  for (int i = 0; i < m_plan.felder.size(); ++i)
+    if (m_plan.felder[i].feld == feld) return m_eingaben[i];
+  return nullptr;
+}
+
+Texte Verwaltungsblock::texte() const {
+  Texte texte;
+  for (int i = 0; i < m_plan.felder.size(); ++i)
+    texte[m_plan.felder[i].feld] = m_eingaben[i]->inhalt();
+  return texte;
+}
+
+std::optional<qint64> Verwaltungsblock::aktuelleId() const {
+  const int zeile = m_liste->aktuelleZeile();
+  if (zeile < 0) return std::nullopt;
+  return m_liste->wert(zeile, "ID").toLongLong();
+}
+
+void Verwaltungsblock::zeigeDatensatz(qint64 id) {
+  const int zeile = m_liste->findeZeile("ID = " + QString::number(id));
+  if (zeile < 0) return;
+  m_liste->setAktuelleZeile(zeile);
+  zeigeZeile(zeile);
+}
+
+void Verwaltungsblock::zeigeZeile(int zeile) {
+  if (zeile < 0) return;
+  for (int i = 0; i < m_plan.felder.size(); ++i) {
+    const Feld& feld = m_plan.felder[i];
+    m_eingaben[i]->setInhalt(feldtext(feld, m_liste->wert(zeile, feld.feld)));
+  }
+  gezeigt();
+}
+
+void Verwaltungsblock::leeren() {
+  for (int i = 0; i < m_plan.felder.size(); ++i)
+    m_eingaben[i]->setInhalt(m_plan.felder[i].ersterText);
+}
+
+void Verwaltungsblock::fokusAufErstesFeld() {
+  m_eingaben.first()->setFocus();
+  m_eingaben.first()->selectAll();
+}
+
+// ---- saving and deleting ----
+
+QStringList Verwaltungsblock::prüfe(const Texte&, bool) { return {}; }
+
+QString Verwaltungsblock::vorSpeichern(const Texte&, std::optional<qint64>, QVariantHash&) {
+  return {};
+}
+
+void Verwaltungsblock::nachSpeichern(qint64, bool) {}
+
+void Verwaltungsblock::speichern(bool ändern) {
+  const Texte eingaben = texte();
+  if (const QStringList gründe = prüfe(eingaben, ändern); !gründe.isEmpty()) {
+    Meldungen::Hinweis(ablehnung(gründe), this);
+    return;
+  }
+  const std::optional<qint64> id = ändern ? aktuelleId() : std::nullopt;
+  if (ändern && !id) {
+    Meldungen::Hinweis(m_plan.zuerstMarkieren, this);
+    return;
+  }
+  QVariantHash weitere;
+  if (const QString einwand = vorSpeichern(eingaben, id, weitere); !einwand.isEmpty()) {
+    Meldungen::Hinweis(einwand, this);
+    return;
+  }
+  const qint64 gespeichert =
+      Verwaltung::speichern(m_datenbank, m_plan.tabelle, m_plan.felder, eingaben, id, weitere);
+  nachSpeichern(gespeichert, !id);
+  picklistenLesen();
+  listeLesen();
+  zeigeDatensatz(gespeichert);
+  fokusAufErstesFeld();
+}
+
+void Verwaltungsblock::löschen() {
+  const int zeile = m_liste->aktuelleZeile();
+  if (zeile < 0) {
+    Meldungen::Hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.", this);
+    return;
+  }
+  if (!LoeschenBestaetigt()) return;
+  m_liste->loescheZeile(zeile, m_datenbank, m_plan.tabelle);  // shows the row now at that place
+  if (m_liste->zeilen() == 0) leeren();
+  nachLöschen();
+}

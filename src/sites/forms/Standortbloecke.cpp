@@ -1,0 +1,139 @@
+#include "sites/forms/Standortbloecke.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <algorithm>
+
+#include "data/helpers.h"
+#include "platform/controls/Grid.h"
+#include "platform/locale/Deutsch.h"
+#include "sites/Standorte.h"
+
+using Verwaltung::Texte;
+
+namespace {
+
+Verwaltungsblock::Plan standortplan() {
+  Verwaltungsblock::Plan plan;
+  plan.tabelle = "Standorte";
+  plan.felder = Standorte::standortfelder();
+  plan.titel = "Standorte eingeben / ändern";
+  plan.anweisung = "select * from Standorte order by Standort";
+  plan.liste = "listandorte";
+  plan.listentitel = "Standorte";
+  plan.schluessel = "tv_pflanzen_standorte_listandorte";
+  plan.eingabe = "sevtstandort";
+  plan.neu = "neustandort";
+  plan.loeschen = "lschstandort";
+  plan.hinweis =
+      "Folgende Werte werden über die Pflanzen-Eintragungen zum Standort automatisch ermittelt:";
+  return plan;
+}
+
+Verwaltungsblock::Plan pflanzenplan() {
+  Verwaltungsblock::Plan plan;
+  plan.tabelle = "Pflanzen";
+  plan.felder = Standorte::pflanzenfelder();
+  plan.titel = "Pflanzen eingeben / ändern";
+  plan.anweisung = "select * from Pflanzen order by Pflanze";
+  plan.liste = "lipflanzen";
+  plan.listentitel = "Pflanzen";
+  plan.schluessel = "tv_pflanzen_standorte_lipflanzen";
+  plan.eingabe = "sevt";
+  plan.neu = "neu";
+  plan.loeschen = "löschen";
+  return plan;
+}
+
+Verwaltungsblock::Plan trachtplan() {
+  Verwaltungsblock::Plan plan;
+  plan.tabelle = "Standorte_Pflanzen";
+  plan.felder = Standorte::trachtfelder();
+  plan.titel = "Pflanzen am Standort eingeben / ändern";
+  plan.anweisung = "select * from Standorte_Pflanzen where Standort_Kennung = ? order by Pflanze";
+  plan.liste = "lijepflanze";
+  plan.listentitel = "Pflanzen (Tracht) am ausgewählten Standort";
+  plan.schluessel = "tv_pflanzen_standorte_lijepflanze";
+  plan.eingabe = "sevtje";
+  plan.neu = "neuje";
+  plan.loeschen = "lschje";
+  plan.zuerstMarkieren =
+      "Bitte markieren Sie zuerst den Datensatz (die Pflanze), den Sie ändern möchten!";
+  return plan;
+}
+
+}  // namespace
+
+// ---- sites ----
+
+Standortblock::Standortblock() : Verwaltungsblock(standortplan()) {}
+
+QStringList Standortblock::prüfe(const Texte& texte, bool) {
+  return Standorte::standortGruende(texte);
+}
+
+QString Standortblock::vorSpeichern(const Texte& texte, std::optional<qint64> id,
+                                    QVariantHash& weitere) {
+  if (Verwaltung::vorhanden(datenbank(), "Standorte", "Standort", texte["Standort"], id))
+    return "Der Standort existiert bereits!";
+  if (!id) weitere = Standorte::neuerPlatz();
+  return {};
+}
+
+// ---- plants ----
+
+Pflanzenblock::Pflanzenblock() : Verwaltungsblock(pflanzenplan()) {}
+
+QStringList Pflanzenblock::prüfe(const Texte& texte, bool) {
+  return Standorte::pflanzenGruende(texte);
+}
+
+QString Pflanzenblock::vorSpeichern(const Texte& texte, std::optional<qint64> id, QVariantHash&) {
+  if (Verwaltung::vorhanden(datenbank(), "Pflanzen", "Pflanze", texte["Pflanze"], id))
+    return "Die Pflanze existiert bereits!";
+  return {};
+}
+
+// ---- plants at a site ----
+
+Trachtblock::Trachtblock() : Verwaltungsblock(trachtplan()) {
+  auto* titel = new QLabel("Pflanzen (Tracht) am ausgewählten Standort");
+  QFont schrift = titel->font();
+  schrift.setBold(true);
+  titel->setFont(schrift);
+  bezproz = new QLabel("0");
+  bezproz->setObjectName("bezproz");
+  bezproz->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  bezproz->setMinimumWidth(fontMetrics().horizontalAdvance("00000"));
+  listenkopf()->addWidget(titel);
+  listenkopf()->addStretch(1);
+  listenkopf()->addWidget(new QLabel("Pflanzen am Standort in %: "));
+  listenkopf()->addWidget(bezproz);
+}
+
+void Trachtblock::setStandort(qint64 id) {
+  m_standort = id;
+  listeLesen();
+}
+
+QStringList Trachtblock::prüfe(const Texte& texte, bool ändern) {
+  double sonst = ZahlLesen(bezproz->text());
+  const int zeile = liste()->aktuelleZeile();
+  if (ändern && zeile >= 0) sonst -= ZahlLesen(liste()->wert(zeile, "Proz_Anteil"));
+  return Standorte::trachtGruende(texte, sonst);
+}
+
+QString Trachtblock::vorSpeichern(const Texte&, std::optional<qint64>, QVariantHash& weitere) {
+  weitere["Standort_Kennung"] = m_standort;
+  return {};
+}
+
+void Trachtblock::nachListe() {
+  bezproz->setText(Deutsch::schlicht(Standorte::anteilSumme(datenbank(), m_standort)));
+}
+
+void Trachtblock::nachLöschen() {
+  const int zeile = liste()->aktuelleZeile();
+  listeLesen();
+  if (zeile >= 0) liste()->setAktuelleZeile(std::min(zeile, liste()->zeilen() - 1));
+}

@@ -1,0 +1,219 @@
+#include "sites/forms/TV_Pflanzen_Standorte.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include "core/globals.h"
+#include "platform/controls/Ereignis.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/Meldungen.h"
+#include "sites/Standorte.h"
+#include "sites/forms/Standortbloecke.h"
+
+namespace {
+
+enum Reiter { ReiterStandorte, ReiterJeStandort, ReiterPflanzen };
+
+QPushButton* knopf(const QString& text, const QString& name, const QString& hinweis = {}) {
+  auto* ergebnis = new QPushButton(text);
+  ergebnis->setObjectName(name);
+  ergebnis->setToolTip(hinweis);
+  return ergebnis;
+}
+
+}  // namespace
+
+TV_Pflanzen_Standorte::TV_Pflanzen_Standorte(QWidget* oeffner)
+    : Formular("TV_Pflanzen_Standorte", "Pflanzen und Standorte (Wanderung)", oeffner) {
+  aufbauen();
+  verbinden();
+}
+
+// ---- layout ----
+
+void TV_Pflanzen_Standorte::aufbauen() {
+  m_standorte = new Standortblock;
+  m_pflanzen = new Pflanzenblock;
+  m_tracht = new Trachtblock;
+  aufwaerts[0] =
+      knopf("Weidezeit + 1 Jahr", "aufwaerts_0", "Die Weidezeit aller Pflanzen um ein Jahr vor");
+  aufwaerts[1] =
+      knopf("Weidezeit - 1 Jahr", "aufwaerts_1", "Die Weidezeit aller Pflanzen um ein Jahr zurück");
+  for (QPushButton* k : aufwaerts) m_pflanzen->knopfzeile()->addWidget(k);
+
+  m_reiter = new QTabWidget;
+  m_reiter->setObjectName("reiter");
+  m_reiter->setAccessibleName("Standorte und Pflanzen");
+  m_reiter->addTab(reiterBauen(m_standorte), "Standorte");
+  m_reiter->addTab(reiterJeStandort(), "Pflanzen je Standort");
+  m_reiter->addTab(reiterBauen(m_pflanzen), "Pflanzen");
+
+  auto* spalte = new QVBoxLayout(this);
+  spalte->addWidget(m_reiter, 1);
+  spalte->addWidget(fussBauen());
+  reihenfolgeSetzen();
+  const QSize schirm = screen()->availableSize() - QSize(20, 60);
+  const QSize wunsch(110 * fontMetrics().averageCharWidth(), 38 * fontMetrics().height());
+  resize(wunsch.expandedTo(minimumSizeHint()).boundedTo(schirm));
+}
+
+QWidget* TV_Pflanzen_Standorte::reiterBauen(QWidget* block) {
+  auto* seite = new QWidget;
+  auto* spalte = new QVBoxLayout(seite);
+  spalte->addWidget(block);
+  return seite;
+}
+
+// Left the site chooser, right what grows there.
+QWidget* TV_Pflanzen_Standorte::reiterJeStandort() {
+  lijeort = new Grid;
+  lijeort->setObjectName("lijeort");
+  lijeort->setAccessibleName("Standort wählen");
+  lijeort->setSelectionMode(QAbstractItemView::SingleSelection);
+  lijeort->setMinimumWidth(18 * fontMetrics().averageCharWidth());
+  auto* teiler = new QSplitter;
+  teiler->setObjectName("teiler");
+  teiler->addWidget(lijeort);
+  teiler->addWidget(m_tracht);
+  teiler->setStretchFactor(0, 1);
+  teiler->setStretchFactor(1, 3);
+  teiler->setChildrenCollapsible(false);
+  teiler->setHandleWidth(2 * fontMetrics().averageCharWidth());
+  return reiterBauen(teiler);
+}
+
+QWidget* TV_Pflanzen_Standorte::fussBauen() {
+  comstandortlisten = knopf("&Standorte / Pflanzen auswerten", "comstandortlisten");
+  comstandortlisten->setEnabled(false);  // its form does not exist
+  hilfe = knopf("&Hilfe", "hilfe");
+  beenden = knopf("&Schließen", "beenden", "Die Trachtzeiten neu ermitteln und schließen");
+  auto* fuss = new QWidget;
+  auto* zeile = new QHBoxLayout(fuss);
+  zeile->setContentsMargins(0, 0, 0, 0);
+  zeile->addWidget(comstandortlisten);
+  zeile->addStretch(1);
+  zeile->addWidget(hilfe);
+  zeile->addWidget(beenden);
+  return fuss;
+}
+
+void TV_Pflanzen_Standorte::reihenfolgeSetzen() {
+  QList<QWidget*> folge{m_reiter->tabBar()};
+  folge << m_standorte->tabfolge() << lijeort << m_tracht->tabfolge() << m_pflanzen->tabfolge()
+        << comstandortlisten << hilfe << beenden;
+  for (qsizetype i = 1; i < folge.size(); ++i) setTabOrder(folge[i - 1], folge[i]);
+}
+
+void TV_Pflanzen_Standorte::verbinden() {
+  Ereignis::wenn(m_reiter, &QTabWidget::currentChanged, this,
+                 [this](int reiter) { reiterGewechselt(reiter); });
+  Ereignis::wenn(lijeort, &Grid::zeileGewechselt, this,
+                 [this](int ort) { pflanzenDesStandortsZeigen(ort); });
+  for (const int i : {0, 1})
+    Ereignis::wenn(aufwaerts[i], &QPushButton::clicked, this,
+                   [this, i] { jahreVerschieben(i == 0 ? 1 : -1); });
+  Ereignis::wenn(hilfe, &QPushButton::clicked, this, [this] { hilfeZeigen(); });
+  Ereignis::wenn(beenden, &QPushButton::clicked, this, [this] { schliessen(); });
+}
+
+// ---- opening and closing ----
+
+void TV_Pflanzen_Standorte::zeigen() {
+  laden();
+  Formular::zeigen();
+  m_db.Close();
+}
+
+void TV_Pflanzen_Standorte::laden() {
+  m_db = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
+  m_reiter->setCurrentIndex(ReiterStandorte);
+  m_pflanzen->laden(m_db);
+  m_standorte->laden(m_db);
+  m_tracht->laden(m_db);
+  if (TZ_Variablen::FormModus == "2") m_reiter->setCurrentIndex(ReiterPflanzen);
+  reiterGewechselt(m_reiter->currentIndex());
+}
+
+// The window's own close box and Esc don't come this way and leave the forage periods.
+void TV_Pflanzen_Standorte::schliessen() {
+  {
+    const Ereignis::Sanduhr sanduhr;
+    Standorte::trachtzeitenErmitteln(m_db);
+  }
+  accept();
+}
+
+// ---- tabs ----
+
+void TV_Pflanzen_Standorte::reiterGewechselt(int reiter) {
+  if (reiter == ReiterJeStandort) {
+    pflanzenJeStandortOeffnen();
+    return;
+  }
+  Verwaltungsblock* block = m_standorte;
+  if (reiter == ReiterPflanzen) block = m_pflanzen;
+  block->neuKnopf()->setDefault(true);
+  if (!m_reiter->tabBar()->hasFocus()) block->fokusAufErstesFeld();
+}
+
+void TV_Pflanzen_Standorte::pflanzenJeStandortOeffnen() {
+  if (m_standorte->liste()->zeilen() == 0) {
+    Meldungen::Hinweis(
+        "Bevor die Pflanzen für die Standorte eingegeben werden, muß mindestens ein Standort "
+        "eingetragen werden. Deshalb wird jetzt das Register für die Standorte geöffnet.",
+        this);
+    m_reiter->setCurrentIndex(ReiterStandorte);
+    return;
+  }
+  const QString ort =
+      m_standorte->liste()->zelle(m_standorte->liste()->aktuelleZeile(), "Standort");
+  m_tracht->picklistenLesen();
+  m_tracht->leeren();
+  m_tracht->neuKnopf()->setDefault(true);
+  lijeort->setDaten(m_db.Lesen("select Standort from Standorte order by Standort"));
+  int zeile = 0;
+  for (int i = 0; i < lijeort->zeilen() && !ort.isEmpty(); ++i)
+    if (lijeort->zelle(i, "Standort") == ort) {
+      zeile = i;
+      break;
+    }
+  lijeort->setAktuelleZeile(zeile);
+  if (!m_reiter->tabBar()->hasFocus()) lijeort->setFocus();
+}
+
+// Both lists come in the same order; only where the user has sorted one of them the name decides.
+int TV_Pflanzen_Standorte::zeileInStandorten(int ort) const {
+  const Grid* liste = m_standorte->liste();
+  const QString name = lijeort->zelle(ort, "Standort");
+  if (liste->zelle(ort, "Standort") == name) return ort;
+  for (int i = 0; i < liste->zeilen(); ++i)
+    if (liste->zelle(i, "Standort") == name) return i;
+  return -1;
+}
+
+void TV_Pflanzen_Standorte::pflanzenDesStandortsZeigen(int ort) {
+  if (ort < 0) return;
+  m_standorte->liste()->setAktuelleZeile(zeileInStandorten(ort));
+  if (const auto id = m_standorte->aktuelleId()) m_tracht->setStandort(*id);
+}
+
+// The inputs are a copy of the current row, so it is shown anew, also when a plant stopped the run.
+void TV_Pflanzen_Standorte::jahreVerschieben(int jahre) {
+  const Ereignis::Sanduhr sanduhr;
+  const auto id = m_pflanzen->aktuelleId();
+  const auto neuLesen = [&] {
+    m_pflanzen->listeLesen();
+    if (id) m_pflanzen->zeigeDatensatz(*id);
+  };
+  try {
+    Standorte::weidezeitenVerschieben(m_db, jahre);
+  } catch (...) {
+    neuLesen();
+    throw;
+  }
+  neuLesen();
+}
