@@ -16,7 +16,8 @@ enum class Ziel {
   SelektierteMarkieren,
   MarkierteSelektieren,
   Beenden,
-  Eingabe,  // the booking form
+  Eingabe,    // the booking form
+  Standorte,  // sites and plants
   Einstellungen,
   Internet,  // fetching the newest set-up
   Komprimieren,
@@ -32,7 +33,7 @@ struct Eintrag {
   QString titel;
   Ziel ziel = Ziel::NochNicht;
   Regel regel = Regel::Immer;
-  QString wert;  // BuchungsArt of a booking, HilfeThema of a help entry
+  QString wert;  // BuchungsArt of a booking, FormModus, HilfeThema of a help entry
 };
 
 struct Menue {

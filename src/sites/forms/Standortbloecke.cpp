@@ -106,6 +106,7 @@ Trachtblock::Trachtblock() : Verwaltungsblock(trachtplan()) {
   bezproz->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   bezproz->setMinimumWidth(fontMetrics().horizontalAdvance("00000"));
   listenkopf()->addWidget(titel);
+  listenkopf()->addSpacing(2 * fontMetrics().averageCharWidth());
   listenkopf()->addStretch(1);
   listenkopf()->addWidget(new QLabel("Pflanzen am Standort in %: "));
   listenkopf()->addWidget(bezproz);

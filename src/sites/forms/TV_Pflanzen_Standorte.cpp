@@ -80,7 +80,8 @@ QWidget* TV_Pflanzen_Standorte::reiterJeStandort() {
   teiler->addWidget(lijeort);
   teiler->addWidget(m_tracht);
   teiler->setStretchFactor(0, 1);
-  teiler->setStretchFactor(1, 3);
+  teiler->setStretchFactor(1, 2);
+  teiler->setSizes({300, 600});
   teiler->setChildrenCollapsible(false);
   teiler->setHandleWidth(2 * fontMetrics().averageCharWidth());
   return reiterBauen(teiler);

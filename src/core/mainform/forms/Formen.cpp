@@ -7,6 +7,7 @@
 #include "core/mainform/forms/TH_Hilfe_Wieanfangen.h"
 #include "core/mainform/forms/TO_Einstellungen.h"
 #include "platform/controls/Ereignis.h"
+#include "sites/forms/TV_Pflanzen_Standorte.h"
 
 using namespace TZ_Variablen;
 
@@ -28,6 +29,15 @@ void Formen::eingabe(int buchungsArt) {
   m_eingabe->zeigen();
 }
 
+void Formen::standorte(const QString& formModus) {
+  FormModus = formModus;
+  if (!m_standorte) {
+    const Ereignis::Sanduhr sanduhr;
+    m_standorte = new TV_Pflanzen_Standorte(m_haupt);
+  }
+  m_standorte->zeigen();
+}
+
 void Formen::einstellungen() {
   if (!m_einstellungen) {
     const Ereignis::Sanduhr sanduhr;
@@ -38,8 +48,9 @@ void Formen::einstellungen() {
 
 void Formen::wieAnfangen() {
   if (!m_wieAnfangen)
-    m_wieAnfangen = new TH_Hilfe_Wieanfangen(
-        m_haupt, {nullptr, nullptr, [this] { volk(QStringLiteral("Neu")); }});
+    m_wieAnfangen =
+        new TH_Hilfe_Wieanfangen(m_haupt, {[this] { standorte(QStringLiteral("0")); }, nullptr,
+                                           [this] { volk(QStringLiteral("Neu")); }});
   m_wieAnfangen->zeigen();
 }
 

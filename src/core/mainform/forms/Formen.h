@@ -8,6 +8,7 @@ class TE_Eingabe;
 class TH_Hilfe_Wieanfangen;
 class TO_Einstellungen;
 class TV_Neues_Volk;
+class TV_Pflanzen_Standorte;
 
 // The forms that open over the main form: one instance each, made on first use. Each call shows
 // the form modally and returns when it was closed.
@@ -17,6 +18,7 @@ class Formen {
 
   void volk(const QString& volkModus);
   void eingabe(int buchungsArt);
+  void standorte(const QString& formModus);
   void einstellungen();
   void wieAnfangen();
   // Over whatever form asks for it.
@@ -26,6 +28,7 @@ class Formen {
   QWidget* m_haupt;
   QPointer<TV_Neues_Volk> m_volk;
   QPointer<TE_Eingabe> m_eingabe;
+  QPointer<TV_Pflanzen_Standorte> m_standorte;
   QPointer<TO_Einstellungen> m_einstellungen;
   QPointer<TH_Hilfe_Wieanfangen> m_wieAnfangen;
 };

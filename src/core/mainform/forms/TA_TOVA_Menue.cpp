@@ -154,6 +154,9 @@ void TA_TOVA::ausfuehren(const Menue::Eintrag& eintrag) {
     case Menue::Ziel::Eingabe:
       m_formen.eingabe(eintrag.wert.toInt());
       break;
+    case Menue::Ziel::Standorte:
+      m_formen.standorte(eintrag.wert);
+      break;
     case Menue::Ziel::Einstellungen:
       m_formen.einstellungen();
       break;

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QMenu>
+#include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -54,6 +55,8 @@ TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
                                "XE_behandlung",
                                "XE_Königinenwechsel",
                                "XE_Notizen",
+                               "XV_standorte",
+                               "XV_pflanzen",
                                "O_Einstellungen",
                                "O_Datenbankkomprimieren",
                                "O_Interakt",
@@ -63,9 +66,10 @@ TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
   QStringList tasten;
   for (const auto& taste : Menue::tasten())
     if (aktion(taste.name)->isEnabled()) tasten << taste.name;
-  EXPECT_EQ(tasten, QStringList({"btn_neuesvolk", "btn_volkändern", "btn_e_stockkarte",
-                                 "btn_e_honigernte", "btn_e_wachsernte", "btn_e_arbeiten",
-                                 "btn_e_wanderung", "btn_e_behandlung", "btn_o_einstellungen"}));
+  EXPECT_EQ(tasten,
+            QStringList({"btn_neuesvolk", "btn_volkändern", "btn_e_stockkarte", "btn_e_honigernte",
+                         "btn_e_wachsernte", "btn_e_arbeiten", "btn_e_wanderung",
+                         "btn_e_behandlung", "btn_v_standorte", "btn_o_einstellungen"}));
 }
 
 TEST_F(Hauptmenue, OhneZeileSindVolkUndBuchungenGesperrt) {
@@ -179,6 +183,21 @@ TEST_F(Hauptmenue, TasteDerLeisteHandeltWieIhrEintrag) {
   EXPECT_TRUE(besuch.war());
 }
 
+TEST_F(Hauptmenue, StandorteUndPflanzenOeffnenDieselbeFormAufIhremReiter) {
+  voelker(1);
+  starten();
+  for (const auto& [eintrag, reiter] :
+       {std::pair("XV_standorte", 0), {"XV_pflanzen", 2}, {"btn_v_standorte", 0}}) {
+    int gesehen = -1;
+    Formbesuch besuch("TV_Pflanzen_Standorte", [&](QWidget* orte) {
+      gesehen = orte->findChild<QTabWidget*>("reiter")->currentIndex();
+    });
+    aktion(eintrag)->trigger();
+    EXPECT_TRUE(besuch.war()) << eintrag;
+    EXPECT_EQ(gesehen, reiter) << eintrag;
+  }
+}
+
 TEST_F(Hauptmenue, LoeschenFragtMitNeinAlsVorgabe) {
   voelker(2);
   starten();
@@ -252,9 +271,14 @@ TEST_F(Hauptmenue, ErsteSchritteHabenDreiKnoepfeUndDerDritteOeffnetDasNeueVolk) 
   voelker(1);
   starten();
   bool volkOffen = false;
+  bool standorteOffen = false;
   Formbesuch besuch("TH_Hilfe_Wieanfangen", [&](QWidget* hilfe) {
     EXPECT_EQ(hilfe->windowTitle(), QStringLiteral("Die ersten Schritte in TOVA"));
-    EXPECT_FALSE(hilfe->findChild<QAbstractButton*>("schritt_0")->isEnabled());
+    Formbesuch orte("TV_Pflanzen_Standorte", [&](QWidget*) {
+      standorteOffen = true;
+      EXPECT_EQ(FormModus, QStringLiteral("0"));
+    });
+    QTest::mouseClick(hilfe->findChild<QAbstractButton*>("schritt_0"), Qt::LeftButton);
     EXPECT_FALSE(hilfe->findChild<QAbstractButton*>("schritt_1")->isEnabled());
     Formbesuch volk("TV_Neues_Volk", [&](QWidget*) { volkOffen = true; });
     QTest::mouseClick(hilfe->findChild<QAbstractButton*>("schritt_2"), Qt::LeftButton);
@@ -262,6 +286,7 @@ TEST_F(Hauptmenue, ErsteSchritteHabenDreiKnoepfeUndDerDritteOeffnetDasNeueVolk) 
   aktion("hilfewieanfangen")->trigger();
   EXPECT_TRUE(besuch.war());
   EXPECT_TRUE(volkOffen);
+  EXPECT_TRUE(standorteOffen);
   EXPECT_EQ(VolkModus, QStringLiteral("Neu"));
 }
 
