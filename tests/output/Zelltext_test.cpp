@@ -43,6 +43,11 @@ TEST(Zelltext, ZahlenGleichenDerAnzeigeZiffernFuerZiffer) {
       ASSERT_EQ(text(d, zeile, spalte), d->anzeige(zeile, spalte).toStdString());
 }
 
+TEST(Zelltext, EinGeldbetragZeigtKeinRauschen) {
+  const Daten d = Listen::block({{"Erlös", Feldtyp::Waehrung, 0}}, {{0.1 + 0.2}});
+  EXPECT_EQ(text(d, 0, 0), "0,30");
+}
+
 TEST(Zelltext, GrosseGanzeZahlenVerlierenKeineZiffer) {
   const qint64 gross = std::numeric_limits<qint64>::max();
   const Daten d = Listen::block({{"a", Feldtyp::Ausdruck, 0}}, {{QVariant(gross)}});

@@ -100,7 +100,7 @@ QString Datenblock::anzeige(int zeile, int spalteNummer) const {
     case Art::Ganz:
       return geld ? geldbetrag(static_cast<double>(z.ganz)) : QString::number(z.ganz);
     case Art::Gleitkomma:
-      return geld ? geldbetrag(z.gleit) : Deutsch::schlicht(lesbar(z.gleit));
+      return geld ? geldbetrag(lesbar(z.gleit)) : Deutsch::schlicht(lesbar(z.gleit));
     case Art::Text:
       break;
   }

@@ -73,6 +73,20 @@ TEST(Datenblock, RauschenHinterDerFuenfzehntenStelleZeigtSichNicht) {
   EXPECT_EQ(beispiel()->anzeige(1, 2), s("0,3"));
 }
 
+TEST(Datenblock, AuchEinGeldbetragZeigtKeinRauschen) {
+  Datenblock::Bauer bauer({{s("Erlös"), Feldtyp::Waehrung, 0}});
+  double summe = 0;
+  for (int i = 0; i < 7; ++i) summe += 11.1;
+  ASSERT_NE(summe, 77.7);
+  for (const double wert : {summe, -summe, 0.1 + 0.2, 4.35 * 100, 1.2345}) bauer.gleitkomma(wert);
+  const Daten d = bauer.fertig();
+  EXPECT_EQ(d->anzeige(0, 0), s("77,70"));
+  EXPECT_EQ(d->anzeige(1, 0), s("-77,70"));
+  EXPECT_EQ(d->anzeige(2, 0), s("0,30"));
+  EXPECT_EQ(d->anzeige(3, 0), s("435,00"));
+  EXPECT_EQ(d->anzeige(4, 0), s("1,2345"));
+}
+
 TEST(Datenblock, SpaltenFindetManOhneRuecksichtAufGrossschreibung) {
   const Daten d = beispiel();
   EXPECT_EQ(d->spaltenNummer(u"menge_KG"), 2);
