@@ -19,7 +19,8 @@ function(tova_room name folder)
   endforeach()
 endfunction()
 
-# tova_test(FOLDER LIBRARIES...): one GoogleTest program per folder of tests/, offscreen.
+# tova_test(FOLDER LIBRARIES...): one GoogleTest program per folder of tests/, offscreen and in a
+# folder of its own, so that what is written into the current folder stays out of the sources.
 function(tova_test folder)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp)
   if(NOT sources)
@@ -32,7 +33,9 @@ function(tova_test folder)
   target_compile_definitions(${name} PRIVATE
     TOVA_TESTDATEN="${CMAKE_SOURCE_DIR}/tests/${folder}" TOVA_QUELLEN="${CMAKE_SOURCE_DIR}")
   target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest)
-  add_test(NAME ${name} COMMAND ${name})
+  set(run ${CMAKE_CURRENT_BINARY_DIR}/run/${name})
+  file(MAKE_DIRECTORY ${run})
+  add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY ${run})
   set_tests_properties(${name} PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=Europe/Berlin" TIMEOUT 600)
 endfunction()
