@@ -1,0 +1,145 @@
+// How the form is laid out and wired.
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "planning/forms/TV_Arplanoptionen.h"
+#include "platform/controls/Eingabefeld.h"
+#include "platform/controls/Ereignis.h"
+#include "platform/controls/Grid.h"
+
+namespace {
+
+struct Feld {
+  const char* beschriftung;
+  Eingabefeld::Beschreibung beschreibung;
+  int zeile;  // in the frame
+  int spalte;
+};
+
+using Art = Eingabefeld::Art;
+
+const std::array<Feld, 7>& felder() {
+  static const std::array<Feld, 7> liste = {
+      {{"Arbeitsart", {Art::Text, 30, 0, {}, {}, {}, {}}, 0, 0},
+       {"Startzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 1, 0},
+       {"Endzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 2, 0},
+       {"Wiederholungsfrist (Tage)", {Art::Ganzzahl, 2, 0, 99, "0", {}, {}}, 3, 0},
+       {"Volkabhängig (J/N)", {Art::Auswahl, 1, 0, {}, {}, {}, {"J", "N"}}, 0, 1},
+       {"Autom. Erled. Buchung", {Art::Auswahl, 15, 0, {}, {}, {}, erledigtBuchungen()}, 1, 1},
+       {"Autom. Erled. Arbeitsart", {Art::Auswahl, 30, 0, {}, {}, {}, {}}, 2, 1}}};
+  return liste;
+}
+
+QPushButton* knopf(const QString& text, const QString& name) {
+  auto* k = new QPushButton(text);
+  k->setObjectName(name);
+  return k;
+}
+
+// A row of buttons without a margin of its own.
+QWidget* leiste(const QList<QWidget*>& links, const QList<QWidget*>& rechts) {
+  auto* streifen = new QWidget;
+  auto* zeile = new QHBoxLayout(streifen);
+  zeile->setContentsMargins(0, 0, 0, 0);
+  for (QWidget* w : links) zeile->addWidget(w);
+  zeile->addStretch(1);
+  for (QWidget* w : rechts) zeile->addWidget(w);
+  return streifen;
+}
+
+}  // namespace
+
+void TV_Arplanoptionen::aufbauen() {
+  liarplan = new Grid;
+  liarplan->setObjectName("liarplan");
+  liarplan->setAccessibleName("Arbeitsplan-Optionen");
+  liarplan->setSelectionMode(QAbstractItemView::SingleSelection);
+  liarplan->setLayoutSchluessel("TOVA/tv_arplanoptionen_liarplan/ColWidths");
+  liarplan->setMinimumHeight(6 * fontMetrics().height() + 40);
+
+  auto* spalte = new QVBoxLayout(this);
+  spalte->addWidget(liarplan, 1);
+  spalte->addWidget(feldgruppeBauen());
+  spalte->addWidget(knoepfeBauen());
+  spalte->addWidget(hinweisBauen());
+  spalte->addWidget(fussBauen());
+  verbinden();
+  reihenfolgeSetzen();
+  resize(110 * fontMetrics().averageCharWidth(), 28 * fontMetrics().height());
+}
+
+QWidget* TV_Arplanoptionen::feldgruppeBauen() {
+  auto* rahmen = new QGroupBox("Arbeitsplan-Option");
+  auto* gitter = new QGridLayout(rahmen);
+  for (size_t i = 0; i < sevt.size(); ++i) {
+    const Feld& f = felder()[i];
+    auto* eingabe = new Eingabefeld;
+    eingabe->setObjectName("sevt_" + QString::number(i));
+    eingabe->einrichten(f.beschreibung);
+    sevt[i] = eingabe;
+    gitter->addWidget(beschriften(QString::fromUtf8(f.beschriftung), eingabe), f.zeile,
+                      3 * f.spalte);
+    gitter->addWidget(eingabe, f.zeile, 3 * f.spalte + 1);
+  }
+  gitter->setColumnMinimumWidth(2, fontMetrics().averageCharWidth() * 2);
+  gitter->setColumnStretch(1, 1);
+  gitter->setColumnStretch(4, 1);
+  return rahmen;
+}
+
+QWidget* TV_Arplanoptionen::knoepfeBauen() {
+  m_neu[0] = knopf("&Neu", "neu_0");
+  m_neu[0]->setDefault(true);
+  m_neu[1] = knopf("&Ändern", "neu_1");
+  m_loeschen = knopf("&Löschen", "löschen");
+  calender = knopf({}, "calender");
+  return leiste({m_neu[0], m_neu[1], m_loeschen}, {});
+}
+
+// Wraps, and keeps the height that the text needs at the form's width.
+QWidget* TV_Arplanoptionen::hinweisBauen() {
+  auto* hinweis = new QLabel(
+      QString("Hinweis: Durch das Hinzufüngen, Ändern und Löschen von Arbeitsplanoptionen werden "
+              "alle daraus resultierenden Termine automatisch berechnet und in die "
+              "Terminverwaltung eingetragen. Durch das Löschen einer Arbeitsplan-Option werden die "
+              "entsprechenden Termine gelöscht."));
+  hinweis->setObjectName("hinweis");
+  hinweis->setWordWrap(true);
+  hinweis->setMinimumWidth(fontMetrics().averageCharWidth() * 90);
+  hinweis->setMinimumHeight(hinweis->heightForWidth(hinweis->minimumWidth()));
+  return hinweis;
+}
+
+QWidget* TV_Arplanoptionen::fussBauen() {
+  terminverwaltung = knopf("&Terminverwaltung", "terminverwaltung");
+  terminverwaltung->setEnabled(false);
+  hilfe = knopf("&Hilfe", "hilfe");
+  m_schliessen = knopf("&Schließen", "cmdschließen");
+  return leiste({calender, terminverwaltung}, {hilfe, m_schliessen});
+}
+
+void TV_Arplanoptionen::verbinden() {
+  using Ereignis::wenn;
+  wenn(liarplan, &Grid::zeileAngeklickt, this, [this](int zeile) { zeileZeigen(zeile); });
+  wenn(liarplan, &Grid::zeileGewechselt, this, [this](int zeile) { zeileZeigen(zeile); });
+  for (int i : {0, 1})
+    wenn(m_neu[static_cast<size_t>(i)], &QPushButton::clicked, this, [this, i] { neu(i); });
+  wenn(m_loeschen, &QPushButton::clicked, this, [this] { loeschen(); });
+  wenn(calender, &QPushButton::clicked, this, [this] { alleBerechnen(); });
+  wenn(terminverwaltung, &QPushButton::clicked, this, [this] { m_terminverwaltung(); });
+  wenn(hilfe, &QPushButton::clicked, this, [this] { hilfeZeigen(); });
+  wenn(m_schliessen, &QPushButton::clicked, this, [this] { reject(); });
+}
+
+// From the list to the inputs, then the buttons.
+void TV_Arplanoptionen::reihenfolgeSetzen() {
+  QList<QWidget*> folge = {liarplan};
+  for (Eingabefeld* feld : sevt) folge << feld;
+  folge << m_neu[0] << m_neu[1] << m_loeschen << calender << terminverwaltung << hilfe
+        << m_schliessen;
+  for (qsizetype i = 1; i < folge.size(); ++i) setTabOrder(folge.at(i - 1), folge.at(i));
+}
