@@ -82,7 +82,11 @@ Menue verwaltung() {
           {spaeter("XV_Zuchtbuch", "&Zuchtbuch"),
            {"XV_standorte", "&Standorte (Wanderung)", Ziel::Standorte, Regel::Immer, "0"},
            {"XV_pflanzen", "&Pflanzen (Tracht)", Ziel::Standorte, Regel::Immer, "2"},
-           spaeter("XV_Arbeitsplanoptionen", "&Arbeitsplanoptionen"),
+           {"XV_Arbeitsplanoptionen",
+            "&Arbeitsplanoptionen",
+            Ziel::Arbeitsplanoptionen,
+            Regel::Immer,
+            {}},
            spaeter("XV_Termine", "&Terminverwaltung"),
            spaeter("XV_Aktuelle_Termine", "&Aktuelle Termine"),
            spaeter("XV_wetterdaten", "&Wetterdaten"),
@@ -107,7 +111,11 @@ Menue optionen() {
        spaeter("TO_OPocketimport", "Datenimport von Pocket-TOVA"),
        spaeter("O_Datenimport_tova1", "Datenübernahme aus TOVA 1.0"),
        spaeter("O_Updatemanager", "Update-Manager"),
-       spaeter("O_volkabhängigeterminesetzen", "Volkabhängige Termine setzen"),
+       {"O_volkabhängigeterminesetzen",
+        "Volkabhängige Termine setzen",
+        Ziel::TermineSetzen,
+        Regel::Immer,
+        {}},
        {"O_Interakt", "Internet-Aktualisierung", Ziel::Internet, Regel::Immer, {}}}};
 }
 

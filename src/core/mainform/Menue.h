@@ -16,8 +16,10 @@ enum class Ziel {
   SelektierteMarkieren,
   MarkierteSelektieren,
   Beenden,
-  Eingabe,    // the booking form
-  Standorte,  // sites and plants
+  Eingabe,  // the booking form
+  Arbeitsplanoptionen,
+  TermineSetzen,  // the yearly run of the appointments
+  Standorte,      // sites and plants
   Einstellungen,
   Internet,  // fetching the newest set-up
   Komprimieren,

@@ -6,6 +6,7 @@
 #include "core/globals.h"
 #include "core/mainform/forms/TH_Hilfe_Wieanfangen.h"
 #include "core/mainform/forms/TO_Einstellungen.h"
+#include "planning/forms/TV_Arplanoptionen.h"
 #include "platform/controls/Ereignis.h"
 #include "sites/forms/TV_Pflanzen_Standorte.h"
 
@@ -46,11 +47,19 @@ void Formen::einstellungen() {
   m_einstellungen->zeigen();
 }
 
+void Formen::arbeitsplanoptionen() {
+  if (!m_arbeitsplanoptionen) {
+    const Ereignis::Sanduhr sanduhr;
+    m_arbeitsplanoptionen = new TV_Arplanoptionen(m_haupt);
+  }
+  m_arbeitsplanoptionen->zeigen();
+}
+
 void Formen::wieAnfangen() {
   if (!m_wieAnfangen)
-    m_wieAnfangen =
-        new TH_Hilfe_Wieanfangen(m_haupt, {[this] { standorte(QStringLiteral("0")); }, nullptr,
-                                           [this] { volk(QStringLiteral("Neu")); }});
+    m_wieAnfangen = new TH_Hilfe_Wieanfangen(
+        m_haupt, {[this] { standorte(QStringLiteral("0")); }, [this] { arbeitsplanoptionen(); },
+                  [this] { volk(QStringLiteral("Neu")); }});
   m_wieAnfangen->zeigen();
 }
 

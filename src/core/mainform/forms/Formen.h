@@ -7,6 +7,7 @@ class QWidget;
 class TE_Eingabe;
 class TH_Hilfe_Wieanfangen;
 class TO_Einstellungen;
+class TV_Arplanoptionen;
 class TV_Neues_Volk;
 class TV_Pflanzen_Standorte;
 
@@ -20,6 +21,7 @@ class Formen {
   void eingabe(int buchungsArt);
   void standorte(const QString& formModus);
   void einstellungen();
+  void arbeitsplanoptionen();
   void wieAnfangen();
   // Over whatever form asks for it.
   static void hilfe(QWidget* oeffner, const QString& thema);
@@ -30,5 +32,6 @@ class Formen {
   QPointer<TE_Eingabe> m_eingabe;
   QPointer<TV_Pflanzen_Standorte> m_standorte;
   QPointer<TO_Einstellungen> m_einstellungen;
+  QPointer<TV_Arplanoptionen> m_arbeitsplanoptionen;
   QPointer<TH_Hilfe_Wieanfangen> m_wieAnfangen;
 };

@@ -10,6 +10,7 @@
 #include "core/mainform/Aktualisierung.h"
 #include "core/mainform/forms/Symbol.h"
 #include "core/mainform/forms/TA_TOVA.h"
+#include "planning/forms/Terminlauf.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
@@ -156,6 +157,12 @@ void TA_TOVA::ausfuehren(const Menue::Eintrag& eintrag) {
       break;
     case Menue::Ziel::Standorte:
       m_formen.standorte(eintrag.wert);
+      break;
+    case Menue::Ziel::Arbeitsplanoptionen:
+      m_formen.arbeitsplanoptionen();
+      break;
+    case Menue::Ziel::TermineSetzen:
+      volkTermineSetzen(this);
       break;
     case Menue::Ziel::Einstellungen:
       m_formen.einstellungen();

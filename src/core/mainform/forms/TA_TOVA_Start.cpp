@@ -15,6 +15,8 @@
 #include "core/mainform/forms/Verdrahtung.h"
 #include "core/settings.h"
 #include "data/schema.h"
+#include "planning/Jahreslauf.h"
+#include "planning/forms/Terminlauf.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Formular.h"
 #include "platform/controls/Grid.h"
@@ -89,6 +91,8 @@ void TA_TOVA::schreibschutzAufheben() {
 void TA_TOVA::einstellungenAnwenden() {
   MehrwertsteuerPruefen();
   breitenTeilen();
+  // A run that fails is told; the start goes on and asks again next time.
+  if (neuesJahr()) Ereignis::ausfuehren(this, [this] { volkTermineSetzen(this); });
   m_grafikGesperrt = true;
   kon1->setChecked(EinstellungenZahl[69] != 0);
   m_grafikGesperrt = false;

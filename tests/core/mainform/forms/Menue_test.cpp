@@ -57,8 +57,10 @@ TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
                                "XE_Notizen",
                                "XV_standorte",
                                "XV_pflanzen",
+                               "XV_Arbeitsplanoptionen",
                                "O_Einstellungen",
                                "O_Datenbankkomprimieren",
+                               "O_volkabhängigeterminesetzen",
                                "O_Interakt",
                                "hilfewieanfangen",
                                "hilfestartmenue",
@@ -66,10 +68,10 @@ TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
   QStringList tasten;
   for (const auto& taste : Menue::tasten())
     if (aktion(taste.name)->isEnabled()) tasten << taste.name;
-  EXPECT_EQ(tasten,
-            QStringList({"btn_neuesvolk", "btn_volkändern", "btn_e_stockkarte", "btn_e_honigernte",
-                         "btn_e_wachsernte", "btn_e_arbeiten", "btn_e_wanderung",
-                         "btn_e_behandlung", "btn_v_standorte", "btn_o_einstellungen"}));
+  EXPECT_EQ(tasten, QStringList({"btn_neuesvolk", "btn_volkändern", "btn_e_stockkarte",
+                                 "btn_e_honigernte", "btn_e_wachsernte", "btn_e_arbeiten",
+                                 "btn_e_wanderung", "btn_e_behandlung", "btn_v_standorte",
+                                 "btn_v_Arbeitsplanoptionen", "btn_o_einstellungen"}));
 }
 
 TEST_F(Hauptmenue, OhneZeileSindVolkUndBuchungenGesperrt) {
@@ -198,6 +200,30 @@ TEST_F(Hauptmenue, StandorteUndPflanzenOeffnenDieselbeFormAufIhremReiter) {
   }
 }
 
+TEST_F(Hauptmenue, ArbeitsplanoptionenGehenUeberMenueUndTaste) {
+  voelker(1);
+  starten();
+  for (const char* name : {"XV_Arbeitsplanoptionen", "btn_v_Arbeitsplanoptionen"}) {
+    Formbesuch besuch("TV_Arplanoptionen");
+    aktion(name)->trigger();
+    EXPECT_TRUE(besuch.war()) << name;
+  }
+}
+
+TEST_F(Hauptmenue, TermineSetzenFragtUndSchreibtDieTermineDesJahres) {
+  voelker(1);
+  starten();
+  probe.frageMit("Sie starten TOVA das erste mal im neuen Jahr oder haben die Funktion", false);
+  aktion("O_volkabhängigeterminesetzen")->trigger();
+  EXPECT_EQ(DB.Lesen("select ID from Termine")->zeilen(), 0);
+  probe.frageMit("ab dem heutigen Datum 15.06.2024 allen im Bestand", true)
+      .hinweis(
+          "Die volkabhängigen Termine wurden für das Jahr 2024 neu berechnet und im "
+          "Terminkalender eingetragen.");
+  aktion("O_volkabhängigeterminesetzen")->trigger();
+  EXPECT_GT(DB.Lesen("select ID from Termine where Termin = 'Einwinterung'")->zeilen(), 0);
+}
+
 TEST_F(Hauptmenue, LoeschenFragtMitNeinAlsVorgabe) {
   voelker(2);
   starten();
@@ -279,7 +305,10 @@ TEST_F(Hauptmenue, ErsteSchritteHabenDreiKnoepfeUndDerDritteOeffnetDasNeueVolk) 
       EXPECT_EQ(FormModus, QStringLiteral("0"));
     });
     QTest::mouseClick(hilfe->findChild<QAbstractButton*>("schritt_0"), Qt::LeftButton);
-    EXPECT_FALSE(hilfe->findChild<QAbstractButton*>("schritt_1")->isEnabled());
+    bool planOffen = false;
+    Formbesuch plan("TV_Arplanoptionen", [&](QWidget*) { planOffen = true; });
+    QTest::mouseClick(hilfe->findChild<QAbstractButton*>("schritt_1"), Qt::LeftButton);
+    EXPECT_TRUE(planOffen);
     Formbesuch volk("TV_Neues_Volk", [&](QWidget*) { volkOffen = true; });
     QTest::mouseClick(hilfe->findChild<QAbstractButton*>("schritt_2"), Qt::LeftButton);
   });

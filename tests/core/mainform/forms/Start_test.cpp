@@ -240,3 +240,72 @@ TEST_F(Hauptstart, MisslungenesKomprimierenBehaeltDieAlteDatei) {
   EXPECT_TRUE(form->isVisible());
   EXPECT_EQ(dateiLesen("TOVA2.MDB"), vorher);
 }
+
+// A start on the 15th of June 2024 after one in another year.
+class NeuesJahr : public Hauptumfeld {
+ protected:
+  void jahrStellen(qint16 jahr) {
+    voelker(1);
+    ASSERT_TRUE(laden());
+    EinstellungenZahl[28] = jahr;
+    schliessen();
+    zuruecksetzen();
+  }
+  void erwarteFrage(bool ja) {
+    probe.frageMit("Sie starten TOVA das erste mal im neuen Jahr oder haben die Funktion", ja);
+  }
+  static int termine() { return DB.Lesen("select ID from Termine")->zeilen(); }
+};
+
+TEST_F(NeuesJahr, ImselbenJahrKommtKeineFrage) {
+  jahrStellen(2024);
+  EXPECT_TRUE(laden());
+  EXPECT_EQ(termine(), 0);
+}
+
+TEST_F(NeuesJahr, NeinWiederholtDieFrageBeiJedemStart) {
+  jahrStellen(2023);
+  for (int i = 0; i < 2; ++i) {
+    erwarteFrage(false);
+    EXPECT_TRUE(laden());
+    EXPECT_EQ(EinstellungenZahl[28], 2023);
+    EXPECT_EQ(termine(), 0);
+    schliessen();
+    zuruecksetzen();
+  }
+}
+
+TEST_F(NeuesJahr, JaSetztTermineUndDieFrageKommtNichtWieder) {
+  jahrStellen(2023);
+  erwarteFrage(true);
+  probe.hinweisMit("Die volkabhängigen Termine wurden für das Jahr 2024 neu berechnet");
+  EXPECT_TRUE(laden());
+  EXPECT_GT(termine(), 0);
+  EXPECT_TRUE(dateiLesen("Einstellungen.TV2").split('\n').value(28).startsWith("2024"));
+  beenden();  // without the close's own saving
+  zuruecksetzen();
+  EXPECT_TRUE(laden());
+}
+
+TEST_F(NeuesJahr, EineZurueckgestellteUhrFragtAuch) {
+  jahrStellen(2025);
+  erwarteFrage(false);
+  EXPECT_TRUE(laden());
+}
+
+TEST_F(NeuesJahr, EineUngueltigeOptionWirdGenanntUndDerStartGehtWeiter) {
+  jahrStellen(2023);
+  Start::pfadeSetzen(m_ordner.path());
+  Start::datenbankOeffnen();
+  DB.Execute(
+      QString("insert into Arbeitsplanoptionen(Arbeitsart, Startzeitraum, Endzeitraum, "
+              "Wiederholungsfrist_Tage, Volkabhängig) values ('Silvester', '31.11', "
+              "'31.12', 0, 'J')"));
+  trennen();
+  erwarteFrage(true);
+  probe.hinweisMit("'Silvester'");
+  EXPECT_TRUE(laden());
+  EXPECT_EQ(EinstellungenZahl[28], 2023);
+  EXPECT_GT(termine(), 0);
+  EXPECT_EQ(EinstellungenZahl[56], 10);
+}

@@ -228,6 +228,7 @@ class Einstellungsstoerung : public Hauptumfeld {
   void startetUndSchreibtGanz(const QByteArray& inhalt) {
     voelker(2);
     dateiSchreiben("Einstellungen.TV2", inhalt);
+    probe.frageMit("Sie starten TOVA das erste mal im neuen Jahr", false);
     starten();
     EXPECT_EQ(nummern(), QStringList({"1", "2"}));
     EXPECT_EQ(EinstellungenZahl[44], 19);
