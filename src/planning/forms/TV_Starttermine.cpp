@@ -1,0 +1,280 @@
+#include "planning/forms/TV_Starttermine.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "core/globals.h"
+#include "output/forms/TA_Zwischenliste.h"
+#include "platform/controls/Eingabefeld.h"
+#include "platform/controls/Ereignis.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/Meldungen.h"
+
+using TZ_Variablen::EinstellungenZahl;
+using TZ_Variablen::HeuteText;
+
+namespace {
+
+enum Slot : size_t { Erledigungstag, Art, Ort, Bis };
+
+QPushButton* knopf(const QString& text, const QString& name) {
+  auto* k = new QPushButton(text);
+  k->setObjectName(name);
+  k->setAutoDefault(false);
+  return k;
+}
+
+Eingabefeld* feld(size_t index, Eingabefeld::Art art, int maxLaenge = 0) {
+  auto* f = new Eingabefeld;
+  f->setObjectName("sevt_" + QString::number(index));
+  Eingabefeld::Beschreibung beschreibung;
+  beschreibung.art = art;
+  beschreibung.maxLaenge = maxLaenge;
+  f->einrichten(beschreibung);
+  return f;
+}
+
+QStringList texte(Database& db, const QString& anweisung) {
+  const Daten zeilen = db.Lesen(anweisung);
+  QStringList liste;
+  for (int i = 0; i < zeilen->zeilen(); ++i)
+    if (const QString text = zeilen->anzeige(i, 0); !text.isEmpty()) liste << text;
+  return liste;
+}
+
+void nichtsZuListen(QWidget* fenster) {
+  Meldungen::Hinweis("Keine zu listenden Daten gefunden", fenster);
+}
+
+}  // namespace
+
+TV_Starttermine::TV_Starttermine(QWidget* oeffner)
+    : Formular("TV_Starttermine", Starttermine::titel(), oeffner) {
+  aufbauen();
+  verbinden();
+}
+
+void TV_Starttermine::aufbauen() {
+  litermine = new Grid;
+  litermine->setObjectName("litermine");
+  litermine->setAccessibleName("Offene Termine");
+  litermine->setLayoutSchluessel("tv_starttermine_litermine");
+  litermine->setSpalteVerborgen("ID", true);
+  litermine->setMinimumHeight(litermine->fontMetrics().height() * 9);
+  kon = new QCheckBox("Terminliste bei jedem Programmstart öffnen (falls offene Termine anstehen)");
+  kon->setObjectName("kon");
+
+  auto* seite = new QVBoxLayout(this);
+  seite->addWidget(litermine, 1);
+  seite->addWidget(tagBauen());
+  auto* gruppen = new QHBoxLayout;
+  gruppen->addWidget(einzelnBauen(), 1);
+  gruppen->addWidget(standortBauen(), 1);
+  seite->addLayout(gruppen);
+  seite->addWidget(kon);
+  seite->addWidget(fussBauen());
+  resize(sizeHint().expandedTo(QSize(760, 560)));
+}
+
+// Both groups below close to this day.
+QWidget* TV_Starttermine::tagBauen() {
+  sevt[Erledigungstag] = feld(Erledigungstag, Eingabefeld::Art::Datum);
+  konterminreihe = new QCheckBox("Terminreihe bei regelmäßigen Terminen neu anpassen?");
+  konterminreihe->setObjectName("konterminreihe");
+  auto* leiste = new QWidget;
+  auto* zeile = new QHBoxLayout(leiste);
+  zeile->setContentsMargins(0, 0, 0, 0);
+  zeile->addWidget(beschriften("Erledigungsdatum", sevt[Erledigungstag]));
+  zeile->addWidget(sevt[Erledigungstag]);
+  zeile->addSpacing(fontMetrics().height());
+  zeile->addWidget(konterminreihe);
+  zeile->addStretch(1);
+  return leiste;
+}
+
+QWidget* TV_Starttermine::einzelnBauen() {
+  cmdok[0] = knopf("Aktuellen Termin erledigen zum obigen Datum", "cmdok_0");
+  cmdok[1] = knopf("Markierte Termine erledigen", "cmdok_1");
+  cmdok[2] = knopf("Alle Termine bis heute erledigen", "cmdok_2");
+  auto* rahmen = new QGroupBox("Termine erledigen");
+  auto* zeilen = new QVBoxLayout(rahmen);
+  for (size_t i = 0; i < 3; ++i) zeilen->addWidget(cmdok[i]);
+  zeilen->addStretch(1);
+  return rahmen;
+}
+
+QWidget* TV_Starttermine::standortBauen() {
+  sevt[Art] = feld(Art, Eingabefeld::Art::Text, 30);
+  sevt[Ort] = feld(Ort, Eingabefeld::Art::Text, 30);
+  sevt[Bis] = feld(Bis, Eingabefeld::Art::Datum);
+  cmdok[3] = knopf("zum obigen Datum erledigen", "cmdok_3");
+  cmdok[3]->setToolTip("Zum Erledigungsdatum erledigen");
+
+  auto* rahmen = new QGroupBox("Termine an einem Standort erledigen");
+  auto* zeilen = new QFormLayout(rahmen);
+  zeilen->addRow(beschriften("Die Termine", sevt[Art]), sevt[Art]);
+  zeilen->addRow(beschriften("am Standort", sevt[Ort]), sevt[Ort]);
+  zeilen->addRow(beschriften("bis einschl.", sevt[Bis]), sevt[Bis]);
+  zeilen->addRow(cmdok[3]);
+  return rahmen;
+}
+
+QWidget* TV_Starttermine::fussBauen() {
+  ok = knopf("&Liste", "ok");
+  ok->setToolTip("Die Termine listen");
+  okgruppiert = knopf("Liste &gruppiert", "okgruppiert");
+  okgruppiert->setToolTip("Je Standort, Tag und Termin die Zahl der Völker listen");
+  hilfe = knopf("&Hilfe", "hilfe");
+  schließen = knopf("&Schließen", QString("schließen"));
+  schließen->setDefault(true);
+  auto* leiste = new QWidget;
+  auto* zeile = new QHBoxLayout(leiste);
+  zeile->setContentsMargins(0, 0, 0, 0);
+  zeile->addWidget(ok);
+  zeile->addWidget(okgruppiert);
+  zeile->addStretch(1);
+  zeile->addWidget(hilfe);
+  zeile->addWidget(schließen);
+  return leiste;
+}
+
+void TV_Starttermine::verbinden() {
+  Ereignis::wenn(litermine, &Grid::zeileGewechselt, this, [this](int z) { zeileZeigen(z); });
+  Ereignis::wenn(litermine, &Grid::zeileAngeklickt, this, [this](int z) { zeileZeigen(z); });
+  Ereignis::wenn(litermine, &Grid::zeileDoppelgeklickt, this, [this](int zeile) {
+    sevt[Erledigungstag]->setInhalt(litermine->zelle(zeile, "Datum"));
+    erledigen(zeile);
+  });
+  Ereignis::wenn(cmdok[0], &QPushButton::clicked, this,
+                 [this] { erledigen(litermine->aktuelleZeile()); });
+  Ereignis::wenn(cmdok[1], &QPushButton::clicked, this, [this] { markierteErledigen(); });
+  Ereignis::wenn(cmdok[2], &QPushButton::clicked, this, [this] { bisHeuteErledigen(); });
+  Ereignis::wenn(cmdok[3], &QPushButton::clicked, this, [this] { amStandortErledigen(); });
+  Ereignis::wenn(ok, &QPushButton::clicked, this, [this] {
+    if (litermine->zeilen() == 0) return nichtsZuListen(this);
+    zwischenlisteZeigen(this, *litermine);
+  });
+  Ereignis::wenn(okgruppiert, &QPushButton::clicked, this, [this] { gruppiertListen(); });
+  Ereignis::wenn(hilfe, &QPushButton::clicked, this, [this] { hilfeZeigen(); });
+  Ereignis::wenn(schließen, &QPushButton::clicked, this, [this] { accept(); });
+  for (Eingabefeld* f : sevt) f->installEventFilter(this);
+}
+
+// Enter in an input does what its group's button does.
+bool TV_Starttermine::eventFilter(QObject* objekt, QEvent* event) {
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+    QPushButton* vorgabe = schließen;
+    if (event->type() == QEvent::FocusIn)
+      vorgabe = objekt == sevt[Erledigungstag] ? cmdok[0] : cmdok[3];
+    vorgabe->setDefault(true);
+  }
+  return Formular::eventFilter(objekt, event);
+}
+
+void TV_Starttermine::zeigen() {
+  laden();
+  Formular::zeigen();
+}
+
+void TV_Starttermine::laden() {
+  const Ereignis::Sanduhr sanduhr;
+  m_db = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
+  setWindowTitle(Starttermine::titel());
+  kon->setChecked(EinstellungenZahl[13] != 0);
+  for (const size_t i : {Erledigungstag, Bis}) sevt[i]->setInhalt(HeuteText);
+  for (const size_t i : {Art, Ort}) sevt[i]->clear();
+  sevt[Art]->setListe(
+      texte(m_db, "select Arbeitsart from Arbeitsplanoptionen order by Arbeitsart"));
+  sevt[Ort]->setListe(texte(m_db, "select distinct Standort from Bienenvolk order by Standort"));
+  litermine->setDaten(Starttermine::liste(m_db));
+  litermine->setFocus();
+}
+
+// A sort that the user has chosen stays.
+void TV_Starttermine::listeLesen() {
+  const Ereignis::Sanduhr sanduhr;
+  const int zeile = litermine->aktuelleZeile();
+  const int spalte = litermine->sortierSpalte();
+  const Qt::SortOrder richtung = litermine->sortierRichtung();
+  litermine->setDaten(Starttermine::liste(m_db));
+  if (spalte >= 0) litermine->sortiere(spalte, richtung);
+  if (zeile >= 0) litermine->setAktuelleZeile(std::min(zeile, litermine->zeilen() - 1));
+}
+
+// A click prepares the closing of the same kind at the site.
+void TV_Starttermine::zeileZeigen(int zeile) {
+  if (zeile < 0) return;
+  sevt[Bis]->setInhalt(litermine->zelle(zeile, "Datum"));
+  sevt[Art]->setInhalt(litermine->zelle(zeile, "Termin"));
+  sevt[Ort]->setInhalt(litermine->zelle(zeile, "Standort"));
+}
+
+Starttermine::Erledigung TV_Starttermine::erledigung() const {
+  return {sevt[Erledigungstag]->inhalt(), konterminreihe->isChecked()};
+}
+
+void TV_Starttermine::erledigen(int zeile) {
+  if (zeile < 0) {
+    Meldungen::Hinweis("Bitte markieren Sie zuerst den zu erledigenden Termin.", this);
+    return;
+  }
+  Starttermine::aktuellenErledigen(m_db, litermine->wert(zeile, "ID").toLongLong(),
+                                   litermine->wert(zeile, "Termin").toString(), erledigung());
+  listeLesen();
+}
+
+void TV_Starttermine::markierteErledigen() {
+  const QList<int> markiert = litermine->markierteZeilen();
+  if (markiert.isEmpty()) {
+    Meldungen::Hinweis("Bitter markieren Sie zuerst die zu erledigenden Termine.", this);
+    return;
+  }
+  if (!Meldungen::Frage(Starttermine::markierteFrage(markiert.size()), Meldungen::Vorgabe::Ja,
+                        this))
+    return;
+  std::vector<qint64> ids;
+  for (const int zeile : markiert) ids.push_back(litermine->wert(zeile, "ID").toLongLong());
+  const Ereignis::Sanduhr sanduhr;
+  Starttermine::markierteErledigen(m_db, ids);
+  listeLesen();
+}
+
+void TV_Starttermine::bisHeuteErledigen() {
+  if (!Meldungen::Frage(Starttermine::bisHeuteFrage(), Meldungen::Vorgabe::Ja, this)) return;
+  const Ereignis::Sanduhr sanduhr;
+  Starttermine::bisHeuteErledigen(m_db);
+  listeLesen();
+}
+
+void TV_Starttermine::amStandortErledigen() {
+  const Starttermine::Standortauftrag auftrag = {sevt[Art]->inhalt(), sevt[Ort]->inhalt(),
+                                                 sevt[Bis]->inhalt()};
+  if (Starttermine::unvollstaendig(auftrag)) {
+    Meldungen::Hinweis(Starttermine::unvollstaendigText(), this);
+    return;
+  }
+  const int anzahl = Starttermine::gefunden(m_db, auftrag);
+  if (anzahl == 0 ||
+      !Meldungen::Frage(Starttermine::standortFrage(anzahl), Meldungen::Vorgabe::Ja, this))
+    return;
+  const Ereignis::Sanduhr sanduhr;
+  Starttermine::amStandortErledigen(m_db, auftrag, litermine->daten(), litermine->ordnung(),
+                                    erledigung());
+  listeLesen();
+}
+
+void TV_Starttermine::gruppiertListen() {
+  const Daten daten = Starttermine::gruppiert(m_db);
+  if (daten->zeilen() == 0) return nichtsZuListen(this);
+  zwischenlisteZeigen(this, daten);
+}
+
+void TV_Starttermine::done(int ergebnis) {
+  EinstellungenZahl[13] = kon->isChecked() ? 1 : 0;
+  m_db.Close();
+  Formular::done(ergebnis);
+}

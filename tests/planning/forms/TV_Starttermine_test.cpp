@@ -1,0 +1,288 @@
+#include "planning/forms/TV_Starttermine.h"
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QGroupBox>
+#include <QPushButton>
+
+#include "planning/forms/Terminformprobe.h"
+
+namespace {
+
+using TZ_Variablen::EinstellungenZahl;
+
+class TVStarttermine : public Terminformprobe<TV_Starttermine> {
+ protected:
+  // Colonies 1 and 2 at Hof; four open appointments within the horizon.
+  void fuenf() {
+    volk1 = neuesVolk("1", "X", "Hof");
+    volk2 = neuesVolk("2", "X", "Hof");
+    termin(tag(6, 15), "Durchsicht", volk1);
+    termin(tag(6, 16), "Durchsicht", volk2);
+    termin(tag(6, 20), "Schau");
+    termin(tag(7, 4), "Durchsicht", volk1);
+    termin(tag(7, 5), "Durchsicht", volk1);
+  }
+  qint64 volk1 = 0;
+  qint64 volk2 = 0;
+};
+
+TEST_F(TVStarttermine, JedesFeldHatNamenUndBeschriftung) {
+  oeffne();
+  EXPECT_EQ(form->objectName(), "TV_Starttermine");
+  EXPECT_EQ(form->windowTitle(), "Aktuelle offene Termine (bis 14 Tage ab heute)");
+  EXPECT_EQ(kind<QCheckBox>("kon")->text(),
+            "Terminliste bei jedem Programmstart öffnen (falls offene Termine anstehen)");
+  EXPECT_EQ(kind<QCheckBox>("konterminreihe")->text(),
+            "Terminreihe bei regelmäßigen Terminen neu anpassen?");
+  EXPECT_EQ(kind<QPushButton>("cmdok_0")->text(), "Aktuellen Termin erledigen zum obigen Datum");
+  EXPECT_EQ(kind<QPushButton>("cmdok_3")->text(), "zum obigen Datum erledigen");
+  for (const char* name : {"cmdok_1", "cmdok_2", "ok", "okgruppiert"}) kind<QPushButton>(name);
+  const QStringList namen = {"Erledigungsdatum", "Die Termine", "am Standort", "bis einschl."};
+  for (int i = 0; i < 4; ++i) EXPECT_EQ(feld(i)->accessibleName(), namen[i]);
+}
+
+TEST_F(TVStarttermine, ErsteWerteUndListen) {
+  option("Durchsicht", "01.06", 14, "31.08");
+  neuesVolk("1", "X", "Hof");
+  neuesVolk("2", "X", "Heide");
+  oeffne();
+  EXPECT_EQ(inhalt(0), "20.06.2006");
+  EXPECT_EQ(inhalt(3), "20.06.2006");
+  EXPECT_EQ(feld(1)->liste(), QStringList({"Durchsicht"}));
+  EXPECT_EQ(feld(2)->liste(), QStringList({"Heide", "Hof"}));
+  EXPECT_FALSE(kind<QCheckBox>("konterminreihe")->isChecked());
+}
+
+TEST_F(TVStarttermine, HakenKommtAusPlatz13UndGehtBeimSchliessenDorthin) {
+  EinstellungenZahl[13] = 1;
+  oeffne();
+  EXPECT_TRUE(kind<QCheckBox>("kon")->isChecked());
+  klicke("kon");
+  EXPECT_EQ(EinstellungenZahl[13], 1);
+  QTest::keyClick(form.get(), Qt::Key_Escape);
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(EinstellungenZahl[13], 0);
+}
+
+TEST_F(TVStarttermine, ListeZeigtOffeneBisZurGrenze) {
+  fuenf();
+  oeffne();
+  EXPECT_EQ(spalte("Datum"), "15.06.2006 16.06.2006 20.06.2006 04.07.2006");
+  EXPECT_EQ(li()->aktuelleZeile(), -1);
+}
+
+TEST_F(TVStarttermine, EinKlickBereitetDieErledigungAmStandortVor) {
+  fuenf();
+  oeffne();
+  klickeZeile(3);
+  EXPECT_EQ(inhalt(0), "20.06.2006");
+  EXPECT_EQ(inhalt(1), "Durchsicht");
+  EXPECT_EQ(inhalt(2), "Hof");
+  EXPECT_EQ(inhalt(3), "04.07.2006");
+}
+
+TEST_F(TVStarttermine, DoppelklickErledigtAmGeplantenTag) {
+  fuenf();
+  oeffne();
+  doppelklick(1);
+  EXPECT_EQ(termine("Erledigt = 'J'"), "16.06. Durchsicht J " + std::to_string(volk2));
+  EXPECT_EQ(inhalt(0), "16.06.2006");
+  EXPECT_EQ(li()->zeilen(), 3);
+  EXPECT_EQ(li()->aktuelleZeile(), 1);
+}
+
+TEST_F(TVStarttermine, OhneZeileWirdUmMarkierungGebeten) {
+  fuenf();
+  oeffne();
+  boxen.hinweis("Bitte markieren Sie zuerst den zu erledigenden Termin.");
+  klicke("cmdok_0");
+  boxen.hinweis("Bitter markieren Sie zuerst die zu erledigenden Termine.");
+  klicke("cmdok_1");
+  EXPECT_EQ(termine("Erledigt = 'J'"), "");
+}
+
+TEST_F(TVStarttermine, AktuellerWirdZumObigenDatumErledigt) {
+  fuenf();
+  oeffne();
+  klickeZeile(0);
+  tippe(0, "19.6.06");
+  klicke("cmdok_0");
+  EXPECT_EQ(termine("Erledigt = 'J'"), "19.06. Durchsicht J " + std::to_string(volk1));
+}
+
+TEST_F(TVStarttermine, UngueltigesDatumErledigtOhneDenTagUndOhneDieReihe) {
+  fuenf();
+  option("Durchsicht", "01.06", 14, "31.08");
+  oeffne();
+  klickeZeile(0);
+  klicke("konterminreihe");
+  tippe(0, "31.02.2006");
+  klicke("cmdok_0");
+  EXPECT_EQ(termine("Erledigt = 'J'"), "15.06. Durchsicht J " + std::to_string(volk1));
+  EXPECT_EQ(anzahl("Termine"), 5);
+}
+
+TEST_F(TVStarttermine, HakenPasstDieReiheAn) {
+  fuenf();
+  option("Durchsicht", "01.06", 14, "31.07");
+  oeffne();
+  klickeZeile(0);
+  klicke("konterminreihe");
+  klicke("cmdok_0");
+  const std::string volk = std::to_string(volk1);
+  EXPECT_EQ(termine("Volk_ID = " + QString::number(volk1)), "20.06. Durchsicht J " + volk +
+                                                                "; 04.07. Durchsicht N " + volk +
+                                                                "; 18.07. Durchsicht N " + volk);
+}
+
+TEST_F(TVStarttermine, LetzteZeileErledigtMachtDieNeueLetzteAktuell) {
+  fuenf();
+  oeffne();
+  klickeZeile(3);
+  klicke("cmdok_0");
+  EXPECT_EQ(li()->zeilen(), 3);
+  EXPECT_EQ(li()->aktuelleZeile(), 2);
+}
+
+TEST_F(TVStarttermine, MarkierteMitJaErledigenUndMitNeinNicht) {
+  fuenf();
+  oeffne();
+  li()->setMarkierteZeilen({0, 2});
+  boxen.frage("Sollen die 2 Termine wirklich als erledigt markiert werden?", false);
+  klicke("cmdok_1");
+  EXPECT_EQ(termine("Erledigt = 'J'"), "");
+  boxen.frage("Sollen die 2 Termine wirklich als erledigt markiert werden?", true);
+  klicke("cmdok_1");
+  EXPECT_EQ(termine("Erledigt = 'J'"),
+            "15.06. Durchsicht J " + std::to_string(volk1) + "; 20.06. Schau J 0");
+}
+
+TEST_F(TVStarttermine, BisHeuteMitJaErledigenUndMitNeinNicht) {
+  fuenf();
+  oeffne();
+  const QString frage =
+      "Sollen wirklich alle Termine bis einschließlich zum 20.06.2006 als erledigt markiert "
+      "werden?";
+  boxen.frage(frage, false);
+  klicke("cmdok_2");
+  EXPECT_EQ(anzahl("Termine", "Erledigt = 'J'"), 0);
+  boxen.frage(frage, true);
+  klicke("cmdok_2");
+  EXPECT_EQ(anzahl("Termine", "Erledigt = 'J'"), 3);
+  EXPECT_EQ(spalte("Datum"), "04.07.2006");
+}
+
+TEST_F(TVStarttermine, StandortOhneAngabenWirdErklaert) {
+  fuenf();
+  oeffne();
+  boxen.hinweis(
+      "Die Terminart, der betroffene Standort und der Zeitraum (bis wann eine Erledigung "
+      "gewünscht wird) muss angegeben werden!");
+  klicke("cmdok_3");
+}
+
+TEST_F(TVStarttermine, StandortOhneTrefferBleibtStill) {
+  fuenf();
+  oeffne();
+  tippe(1, "Anderes");
+  tippe(2, "Hof");
+  klicke("cmdok_3");
+  EXPECT_EQ(anzahl("Termine", "Erledigt = 'J'"), 0);
+}
+
+TEST_F(TVStarttermine, StandortZaehltAlleUndErledigtDieDerListe) {
+  fuenf();
+  oeffne();
+  tippe(1, "Durchsicht");
+  tippe(2, "Hof");
+  tippe(3, "31.07.2006");
+  boxen.frage("Es wurden 4 Termine gefunden. Sollen diese wirklich erledigt werden?", true);
+  klicke("cmdok_3");
+  EXPECT_EQ(anzahl("Termine", "Erledigt = 'J' and Datum = #06/20/2006#"), 3);
+  EXPECT_EQ(termine("Erledigt = 'N'"),
+            "20.06. Schau N 0; 05.07. Durchsicht N " + std::to_string(volk1));
+}
+
+TEST_F(TVStarttermine, LeereListenWerdenNichtUebergeben) {
+  oeffne();
+  boxen.hinweis("Keine zu listenden Daten gefunden");
+  klicke("ok");
+  boxen.hinweis("Keine zu listenden Daten gefunden");
+  klicke("okgruppiert");
+  EXPECT_FALSE(QFile::exists(TZ_Variablen::AppPfad + "gridli.txt"));
+}
+
+TEST_F(TVStarttermine, ListeGehtAnDieZwischenliste) {
+  fuenf();
+  oeffne();
+  int zeilen = 0;
+  Formblick blick([&](QWidget* f) { zeilen = f->findChild<Grid*>("gridli")->zeilen(); });
+  klicke("ok");
+  EXPECT_EQ(blick.name, "TA_Zwischenliste");
+  EXPECT_EQ(zeilen, 4);
+  EXPECT_TRUE(QFile::exists(TZ_Variablen::AppPfad + "gridli.txt"));
+}
+
+TEST_F(TVStarttermine, GruppierteListeHatIhreVierSpalten) {
+  fuenf();
+  oeffne();
+  QStringList spalten;
+  int zeilen = 0;
+  Formblick blick([&](QWidget* f) {
+    auto* gridli = f->findChild<Grid*>("gridli");
+    for (int i = 0; i < gridli->spalten(); ++i) spalten << gridli->spaltenName(i);
+    zeilen = gridli->zeilen();
+  });
+  klicke("okgruppiert");
+  EXPECT_EQ(blick.name, "TA_Zwischenliste");
+  EXPECT_EQ(spalten, QStringList({"Standort", "Datum", "Termin", QString("Anz_Völker")}));
+  EXPECT_EQ(zeilen, 3);
+}
+
+TEST_F(TVStarttermine, SpaltenbreitenHabenIhrenSchluessel) {
+  Fensterablage::setDatei(TZ_Variablen::AppPfad + "TOVA2.LAY");
+  fuenf();
+  oeffne();
+  li()->setColumnWidth(1, 187);
+  EXPECT_EQ(
+      Fensterablage::lesen("Spaltenbreiten/tv_starttermine_litermine").toList().value(1).toInt(),
+      187);
+  Fensterablage::setDatei({});
+}
+
+TEST_F(TVStarttermine, FuenfzigtausendFaelligeZeilenOeffnenAlle) {
+  const qint64 volk = neuesVolk("1", "X", "Hof");
+  db().Sammelschreiben([&] {
+    for (int i = 0; i < 50000; ++i) termin(tag(6, 1).addDays(i % 30), "Durchsicht", volk);
+  });
+  QElapsedTimer uhr;
+  uhr.start();
+  oeffne();
+  RecordProperty("oeffnen_ms", static_cast<int>(uhr.elapsed()));
+  EXPECT_EQ(li()->zeilen(), 50000);
+}
+
+TEST_F(TVStarttermine, BildBeiHundertUndHundertfuenfzigProzent) {
+  fuenf();
+  const QFont vorher = QApplication::font();
+  for (const double faktor : {1.0, 1.5}) {
+    QFont schrift = vorher;
+    schrift.setPointSizeF(vorher.pointSizeF() * faktor);
+    QApplication::setFont(schrift);
+    oeffne();
+    klickeZeile(1);
+    EXPECT_LE(form->minimumSizeHint().width(), 1366);
+    EXPECT_LE(form->minimumSizeHint().height(), 700);
+    for (auto* k : form->findChildren<QPushButton*>())
+      EXPECT_GE(k->width(), k->minimumSizeHint().width()) << k->text().toStdString();
+    if (const QString ordner = qEnvironmentVariable("TOVA_BILDER"); !ordner.isEmpty()) {
+      EXPECT_TRUE(form->grab().save(
+          QString("%1/termine_start_%2.png").arg(ordner).arg(qRound(faktor * 100))));
+    }
+    form.reset();
+  }
+  QApplication::setFont(vorher);
+}
+
+}  // namespace

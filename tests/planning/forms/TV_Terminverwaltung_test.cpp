@@ -1,0 +1,333 @@
+#include "planning/forms/TV_Terminverwaltung.h"
+
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "planning/forms/Terminformprobe.h"
+
+namespace {
+
+using TZ_Variablen::EinstellungenZahl;
+
+class TVTerminverwaltung : public Terminformprobe<TV_Terminverwaltung> {
+ protected:
+  void SetUp() override {
+    Terminformprobe::SetUp();
+    volk = neuesVolk("7", "X", "Heide");
+    neuesVolk("8", "", "Heide");
+    termin(tag(6, 21), "Schau");
+    termin(tag(6, 22), "Steuer", 0, "J");
+    termin(tag(6, 23), "Durchsicht", volk);
+    termin(tag(8, 1), "Fest");
+  }
+  void volkansicht() { klicke("opti_1"); }
+  void neu() { klicke("neu_0"); }
+  void aendern() { klicke("neu_1"); }
+
+  qint64 volk = 0;
+};
+
+TEST_F(TVTerminverwaltung, JedesFeldHatNamenUndBeschriftung) {
+  oeffne();
+  EXPECT_EQ(form->objectName(), "TV_Terminverwaltung");
+  EXPECT_EQ(form->windowTitle(), "Terminverwaltung");
+  EXPECT_EQ(kind<QRadioButton>("opti_0")->text(), "Allgemeine Termine");
+  EXPECT_EQ(kind<QRadioButton>("opti_1")->text(), "Volkabhängige Termine");
+  EXPECT_EQ(kind<QPushButton>("neu_0")->text(), "&Neu");
+  EXPECT_EQ(kind<QPushButton>("neu_1")->text(), "&Ändern");
+  EXPECT_EQ(kind<QPushButton>("lschalleerledigte")->text(),
+            "Alle als erledigt markierte Termine löschen");
+  const QStringList namen = {"Datum",
+                             "Termin",
+                             "Erledigt (J/N)",
+                             "...die Volknummer",
+                             "...die Terminart",
+                             "...den Erledigungs-Status",
+                             "...Termindatum vom",
+                             "...Termindatum bis",
+                             "Volknummer",
+                             "Heute in...",
+                             "oder alle Völker am Standort"};
+  for (int i = 0; i < 11; ++i) EXPECT_EQ(feld(i)->accessibleName(), namen[i]);
+  EXPECT_EQ(feld(9)->beschreibung().einheit, "Tagen");
+}
+
+TEST_F(TVTerminverwaltung, ErsteWerteUndAuswahlen) {
+  oeffne();
+  EXPECT_EQ(inhalt(0), "20.06.2006");
+  EXPECT_EQ(inhalt(2), "N");
+  EXPECT_EQ(inhalt(6), "13.06.2006");
+  EXPECT_EQ(inhalt(7), "04.07.2006");
+  EXPECT_EQ(inhalt(9), "0");
+  EXPECT_EQ(feld(3)->beschreibung().auswahl, QStringList({"", "7", "8"}));
+  EXPECT_EQ(feld(5)->beschreibung().auswahl, QStringList({"", "J", "N"}));
+  EXPECT_EQ(feld(2)->beschreibung().auswahl, QStringList({"J", "N"}));
+  EXPECT_EQ(feld(10)->beschreibung().auswahl, QStringList({"", "Heide"}));
+  for (const int i : {1, 4})
+    EXPECT_EQ(feld(i)->liste(), QStringList({"Durchsicht", "Fest", "Schau", "Steuer"}));
+  EXPECT_EQ(feld(8)->liste(), QStringList({"7", "8"}));
+  EXPECT_TRUE(kind<QRadioButton>("opti_0")->isChecked());
+  EXPECT_EQ(spalte("Termin"), "Schau Steuer");
+}
+
+TEST_F(TVTerminverwaltung, DieZweiAnsichtenWechselnPerKlick) {
+  oeffne();
+  volkansicht();
+  EXPECT_EQ(spalte("Termin"), "Durchsicht");
+  EXPECT_EQ(spalte("Volknr"), "7");
+  klicke("opti_0");
+  EXPECT_EQ(spalte("Termin"), "Schau Steuer");
+}
+
+TEST_F(TVTerminverwaltung, GeaenderterFilterWirktBeimVerlassen) {
+  oeffne();
+  tippe(4, "Steuer");
+  EXPECT_EQ(spalte("Termin"), "Schau Steuer");
+  feld(0)->setFocus();
+  EXPECT_EQ(spalte("Termin"), "Steuer");
+  tippe(4, "");
+  tippe(7, "1.8.06");
+  feld(0)->setFocus();
+  EXPECT_EQ(spalte("Termin"), "Schau Steuer Fest");
+}
+
+TEST_F(TVTerminverwaltung, UnveraenderterFilterLiestNichtNeu) {
+  oeffne();
+  klickeZeile(1);
+  feld(4)->setFocus();
+  feld(0)->setFocus();
+  EXPECT_EQ(li()->aktuelleZeile(), 1);
+}
+
+TEST_F(TVTerminverwaltung, EingabetasteImFilterZeigtDieListeUndSpeichertNichts) {
+  oeffne();
+  tippe(1, "Neues");
+  tippe(4, "Steuer");
+  QTest::keyClick(feld(4), Qt::Key_Return);
+  EXPECT_EQ(spalte("Termin"), "Steuer");
+  EXPECT_EQ(anzahl("Termine"), 4);
+}
+
+TEST_F(TVTerminverwaltung, LeeresVomDatumWirdBeimNaechstenLesenGefuellt) {
+  oeffne();
+  tippe(6, "");
+  feld(0)->setFocus();
+  EXPECT_EQ(inhalt(6), "13.06.2006");
+}
+
+TEST_F(TVTerminverwaltung, FilterNachErledigungsStatus) {
+  oeffne();
+  feld(5)->setFocus();
+  QTest::keyClicks(feld(5), "J");
+  feld(0)->setFocus();
+  EXPECT_EQ(spalte("Termin"), "Steuer");
+}
+
+TEST_F(TVTerminverwaltung, ZeileKommtInDieEingaben) {
+  oeffne();
+  klickeZeile(1);
+  EXPECT_EQ(inhalt(0), "22.06.2006");
+  EXPECT_EQ(inhalt(1), "Steuer");
+  EXPECT_EQ(inhalt(2), "J");
+  EXPECT_EQ(inhalt(8), "");
+  EXPECT_EQ(inhalt(9), "2");
+  volkansicht();
+  klickeZeile(0);
+  EXPECT_EQ(inhalt(8), "7");
+}
+
+TEST_F(TVTerminverwaltung, AllgemeinerTerminLeertDieVolknummer) {
+  oeffne();
+  tippe(8, "7");
+  klickeZeile(0);
+  EXPECT_EQ(inhalt(8), "");
+}
+
+TEST_F(TVTerminverwaltung, HeuteInTagenSetztDasDatumUndUmgekehrt) {
+  oeffne();
+  tippe(9, "14");
+  EXPECT_EQ(inhalt(0), "04.07.2006");
+  tippe(9, "-1");
+  EXPECT_EQ(inhalt(0), "19.06.2006");
+  EXPECT_EQ(inhalt(9), "-1");
+  tippe(0, "30.6.2006");
+  EXPECT_EQ(inhalt(9), "10");
+}
+
+TEST_F(TVTerminverwaltung, InTageKommenNurZiffernUndVorzeichen) {
+  oeffne();
+  tippe(9, "1a2,3");
+  EXPECT_EQ(inhalt(9), "123");
+}
+
+TEST_F(TVTerminverwaltung, NeuerTerminStehtDanachAktuellInDerListe) {
+  oeffne();
+  tippe(0, "24.06.2006");
+  tippe(1, "Markt");
+  neu();
+  EXPECT_EQ(spalte("Termin"), "Schau Steuer Markt");
+  EXPECT_EQ(li()->aktuelleZeile(), 2);
+  EXPECT_EQ(inhalt(2), "N");
+  EXPECT_TRUE(feld(1)->liste().contains("Markt"));
+}
+
+TEST_F(TVTerminverwaltung, NeuerTerminFuerEinVolk) {
+  oeffne();
+  volkansicht();
+  tippe(1, "Zarge");
+  tippe(8, "7");
+  neu();
+  EXPECT_EQ(termine("Termin = 'Zarge'"), "20.06. Zarge N " + std::to_string(volk));
+}
+
+TEST_F(TVTerminverwaltung, AlleGruendeStehenInEinemHinweis) {
+  oeffne();
+  tippe(0, "31.02.2006");
+  tippe(8, "8");
+  boxen.hinweis(
+      "Die Daten werden nicht gespeichert, weil...\n\n"
+      "...das Datum des Termins angegeben werden muß.\n"
+      "...die Terminart angegeben werden muß.\n"
+      "...das angegebene Volk nicht existiert (aktuell im Bestand ist).\n");
+  neu();
+  EXPECT_EQ(anzahl("Termine"), 4);
+}
+
+TEST_F(TVTerminverwaltung, AendernOhneZeileWirdErklaert) {
+  oeffne();
+  tippe(1, "Markt");
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!");
+  aendern();
+}
+
+TEST_F(TVTerminverwaltung, DoppelterTerminWirdAbgelehnt) {
+  oeffne();
+  klickeZeile(0);
+  boxen.hinweis("Dieser Termin existiert bereits.");
+  neu();
+  EXPECT_EQ(anzahl("Termine"), 4);
+}
+
+TEST_F(TVTerminverwaltung, AendernSchreibtDieZeileUndBehaeltIhrKennzeichen) {
+  oeffne();
+  klickeZeile(1);
+  tippe(0, "25.06.2006");
+  aendern();
+  EXPECT_EQ(termine("Termin = 'Steuer'"), "25.06. Steuer J 0");
+  EXPECT_EQ(li()->aktuelleZeile(), 1);
+  EXPECT_EQ(inhalt(2), "J");
+}
+
+TEST_F(TVTerminverwaltung, AendernAufEinenVorhandenenWirdAbgelehnt) {
+  oeffne();
+  klickeZeile(1);
+  tippe(0, "21.06.2006");
+  tippe(1, "Schau");
+  boxen.hinweis("Dieser Termin existiert bereits.");
+  aendern();
+  EXPECT_EQ(termine("Termin = 'Steuer'"), "22.06. Steuer J 0");
+}
+
+TEST_F(TVTerminverwaltung, DoppelklickMarkiertAlsErledigt) {
+  oeffne();
+  doppelklick(0);
+  EXPECT_EQ(termine("Termin = 'Schau'"), "21.06. Schau J 0");
+  EXPECT_EQ(inhalt(2), "J");
+}
+
+TEST_F(TVTerminverwaltung, StandortFragtUndTraegtBeiAllenVoelkernEin) {
+  oeffne();
+  volkansicht();
+  tippe(1, "Zarge");
+  feld(10)->setFocus();
+  QTest::keyClicks(feld(10), "H");
+  const QString frage =
+      "Soll der Termin wirklich bei allen Völkern am Standort 'Heide' eingetragen werden?";
+  boxen.frage(frage, false);
+  neu();
+  EXPECT_EQ(anzahl("Termine", "Termin = 'Zarge'"), 0);
+  boxen.frage(frage, true);
+  neu();
+  EXPECT_EQ(anzahl("Termine", "Termin = 'Zarge'"), 2);
+  EXPECT_EQ(inhalt(10), "");
+  EXPECT_EQ(li()->zelle(li()->aktuelleZeile(), "Termin"), "Zarge");
+}
+
+TEST_F(TVTerminverwaltung, LoeschenFragtUndNimmtDieZeileWeg) {
+  EinstellungenZahl[55] = 1;
+  oeffne();
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
+  klicke(QString("löschen"));
+  klickeZeile(0);
+  boxen.frageMit("Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?", false);
+  klicke(QString("löschen"));
+  EXPECT_EQ(anzahl("Termine"), 4);
+  boxen.frageMit("Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?", true);
+  klicke(QString("löschen"));
+  EXPECT_EQ(anzahl("Termine", "Termin = 'Schau'"), 0);
+  EXPECT_EQ(spalte("Termin"), "Steuer");
+  EXPECT_EQ(inhalt(1), "Steuer");
+}
+
+TEST_F(TVTerminverwaltung, AlleErledigtenLoeschenFragt) {
+  oeffne();
+  const QString frage =
+      "Sollen wirklich alle als erledigt markierte Termine aus der Terminverwaltung gelöscht "
+      "werden?";
+  boxen.frage(frage, false);
+  klicke("lschalleerledigte");
+  EXPECT_EQ(anzahl("Termine"), 4);
+  boxen.frage(frage, true);
+  klicke("lschalleerledigte");
+  EXPECT_EQ(anzahl("Termine", "Erledigt = 'J'"), 0);
+  EXPECT_EQ(spalte("Termin"), "Schau");
+}
+
+TEST_F(TVTerminverwaltung, OkOeffnetDieOffenenTermineUndLiestDanachNeu) {
+  oeffne();
+  klickeZeile(0);
+  Formblick blick([](QWidget*) {
+    TZ_Variablen::DB.Execute("update Termine set Erledigt = 'J' where Termin = 'Schau'");
+  });
+  klicke("ok");
+  EXPECT_EQ(blick.name, "TV_Starttermine");
+  EXPECT_EQ(spalte("Erledigt"), "J J");
+  EXPECT_EQ(li()->aktuelleZeile(), 0);
+}
+
+TEST_F(TVTerminverwaltung, SpaltenbreitenHabenIhrenSchluessel) {
+  Fensterablage::setDatei(TZ_Variablen::AppPfad + "TOVA2.LAY");
+  oeffne();
+  li()->setColumnWidth(1, 187);
+  EXPECT_EQ(Fensterablage::lesen("Spaltenbreiten/tv_terminverwaltung_litermine")
+                .toList()
+                .value(1)
+                .toInt(),
+            187);
+  Fensterablage::setDatei({});
+}
+
+TEST_F(TVTerminverwaltung, BildBeiHundertUndHundertfuenfzigProzent) {
+  const QFont vorher = QApplication::font();
+  for (const double faktor : {1.0, 1.5}) {
+    QFont schrift = vorher;
+    schrift.setPointSizeF(vorher.pointSizeF() * faktor);
+    QApplication::setFont(schrift);
+    oeffne();
+    volkansicht();
+    klickeZeile(0);
+    EXPECT_LE(form->minimumSizeHint().width(), 1366);
+    EXPECT_LE(form->minimumSizeHint().height(), 700);
+    for (auto* k : form->findChildren<QPushButton*>())
+      EXPECT_GE(k->width(), k->minimumSizeHint().width()) << k->text().toStdString();
+    if (const QString ordner = qEnvironmentVariable("TOVA_BILDER"); !ordner.isEmpty()) {
+      EXPECT_TRUE(form->grab().save(
+          QString("%1/termine_verwaltung_%2.png").arg(ordner).arg(qRound(faktor * 100))));
+    }
+    form.reset();
+  }
+  QApplication::setFont(vorher);
+}
+
+}  // namespace

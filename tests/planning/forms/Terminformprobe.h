@@ -1,0 +1,97 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+#include <memory>
+
+#include "data/helpers.h"
+#include "planning/Terminbestand.h"
+#include "platform/controls/Eingabefeld.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/Meldungen.h"
+
+// A form of the calendar, driven by key and mouse. Boxes that no test expected fail.
+template <typename T>
+class Terminformprobe : public Terminbestand {
+ protected:
+  void SetUp() override {
+    Terminbestand::SetUp();
+    Eingabefeld::setDatumErgaenzer([](const QString& text) { return DatumErgaenzen(text); });
+  }
+  void TearDown() override {
+    EXPECT_EQ(boxen.fehler().toStdString(), "");
+    form.reset();
+    Terminbestand::TearDown();
+  }
+
+  void oeffne() {
+    form = std::make_unique<T>();
+    form->laden();
+    form->show();
+    form->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  }
+  template <typename K = QWidget>
+  K* kind(const QString& name) {
+    K* k = form->template findChild<K*>(name);
+    EXPECT_NE(k, nullptr) << name.toStdString();
+    return k;
+  }
+  Grid* li() { return kind<Grid>("litermine"); }
+  Eingabefeld* feld(int index) { return kind<Eingabefeld>(QString("sevt_%1").arg(index)); }
+  std::string inhalt(int index) { return feld(index)->inhalt().toStdString(); }
+  void tippe(int index, const QString& text) {
+    feld(index)->setFocus();
+    feld(index)->selectAll();
+    QTest::keyClick(feld(index), Qt::Key_Delete);
+    QTest::keyClicks(feld(index), text);
+  }
+  void klicke(const QString& name) {
+    auto* k = kind<QAbstractButton>(name);
+    QTest::mouseClick(k, Qt::LeftButton, {}, QPoint(8, k->height() / 2));
+  }
+  QPoint mitte(int zeile) {
+    const QModelIndex index = li()->model()->index(zeile, 0);
+    li()->scrollTo(index);
+    return li()->visualRect(index).center();
+  }
+  void klickeZeile(int zeile) {
+    QTest::mouseClick(li()->viewport(), Qt::LeftButton, {}, mitte(zeile));
+  }
+  void doppelklick(int zeile) {
+    klickeZeile(zeile);
+    QTest::mouseDClick(li()->viewport(), Qt::LeftButton, {}, mitte(zeile));
+  }
+  // The column's texts from top to bottom.
+  std::string spalte(const QString& name) {
+    QStringList texte;
+    for (int i = 0; i < li()->zeilen(); ++i) texte << li()->zelle(i, name);
+    return texte.join(' ').toStdString();
+  }
+
+  Meldungen::Probe boxen;
+  std::unique_ptr<T> form;
+};
+
+// Looks at the modal form that comes up and closes it.
+class Formblick {
+ public:
+  explicit Formblick(std::function<void(QWidget*)> blick) : m_blick(std::move(blick)) {
+    QObject::connect(&m_takt, &QTimer::timeout, &m_takt, [this] {
+      QWidget* form = QApplication::activeModalWidget();
+      if (form == nullptr) return;
+      m_takt.stop();
+      name = form->objectName();
+      m_blick(form);
+      form->close();
+    });
+    m_takt.start(5);
+  }
+  QString name;
+
+ private:
+  std::function<void(QWidget*)> m_blick;
+  QTimer m_takt;
+};
