@@ -60,7 +60,8 @@ class TE_Eingabe : public Formular {
   void neu(int index);
   void neuBuchen();
   void aendern();
-  void nachFehler(std::exception_ptr fehler, const Buchung& buchung, const QString& buchungId);
+  void nachFehler(const std::exception_ptr& fehler, const Buchung& buchung,
+                  const QString& buchungId);
   bool zugestimmt(const Pruefergebnis& ergebnis);
   void datumVervollstaendigen();
   void loeschen();

@@ -98,7 +98,7 @@ void TE_Eingabe::aendern() {
 
 // Shows the texts that saving changed. After a failure the entry stays, the list shows what was
 // saved, and the failure goes on.
-void TE_Eingabe::nachFehler(std::exception_ptr fehler, const Buchung& buchung,
+void TE_Eingabe::nachFehler(const std::exception_ptr& fehler, const Buchung& buchung,
                             const QString& buchungId) {
   const Fuellen fuellen(m_fuellt);
   for (const Buchungsslot& slot : buchungstyp(buchung.art).plaetze)

@@ -19,7 +19,7 @@ bool ausfuehren(QWidget* fenster, const std::function<void()>& aktion);
 template <typename Sender, typename Signal, typename Handler>
 QMetaObject::Connection wenn(const Sender* sender, Signal signal, QWidget* fenster,
                              Handler handler) {
-  return QObject::connect(sender, signal, fenster, [fenster, handler](auto&&... werte) {
+  return QObject::connect(sender, signal, fenster, [fenster, handler](auto&&... werte) -> void {
     ausfuehren(fenster, [&] {
       if constexpr (std::is_invocable_v<Handler, decltype(werte)...>)
         handler(std::forward<decltype(werte)>(werte)...);

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 #include <QSettings>
 
@@ -65,6 +66,21 @@ Formular::~Formular() = default;
 void Formular::zeigen() {
   setModal(true);
   exec();
+}
+
+void Formular::setVisible(bool sichtbar) {
+  // A dialog only learns of its default button when that is set within it; otherwise it takes the
+  // first button that gets the focus, for good.
+  if (sichtbar && !m_vorgabeFest) {
+    m_vorgabeFest = true;
+    for (QPushButton* knopf : findChildren<QPushButton*>()) {
+      if (!knopf->isDefault()) continue;
+      knopf->setDefault(false);  // else setting it again does nothing
+      knopf->setDefault(true);
+      break;
+    }
+  }
+  QDialog::setVisible(sichtbar);
 }
 
 void Formular::setHilfe(std::function<void(QWidget*, const QString&)> hilfe) {

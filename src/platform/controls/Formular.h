@@ -17,6 +17,10 @@ class Formular : public QDialog {
   // Shows the form modally and returns when it was closed.
   void zeigen();
 
+  // Takes the button made default (setDefault) as the one that Enter presses whenever no other
+  // button has the focus, also when it was made before it stood in the form.
+  void setVisible(bool sichtbar) override;
+
   // What F1 and the help buttons call with the topic; set once by the program.
   static void setHilfe(std::function<void(QWidget*, const QString&)> hilfe);
   void hilfeZeigen();
@@ -31,6 +35,7 @@ class Formular : public QDialog {
 
  private:
   bool m_geometrieGeladen = false;
+  bool m_vorgabeFest = false;
 };
 
 // Column widths, geometry and splits of windows, by key, in one file of the program folder.

@@ -42,6 +42,29 @@ TEST_F(Buchen, DieEingabetasteBuchtAusJedemPlatz) {
   EXPECT_TRUE(hatFokus(0));
 }
 
+TEST_F(Buchen, NachLoeschenUndNeinBuchtDieEingabetasteWieder) {
+  zeile("Arbeiten", 1, "2026-05-20", {{"Arbeitsart", "Füttern"}});
+  TZ_Variablen::EinstellungenZahl[55] = 1;
+  oeffne(5);
+  meldungen.frageMit("Soll der markierte Datensatz", false);
+  finde<QAbstractButton>("löschen")->setFocus();
+  druecke("löschen");
+  tippe(1, "Kontrolle");
+  taste(feld(1), Qt::Key_Return);
+  EXPECT_EQ(anzahl("Arbeiten"), 2);
+}
+
+TEST_F(Buchen, NachDemSchliessenUndWiederoeffnenBuchtDieEingabetaste) {
+  oeffne(5);
+  finde<QAbstractButton>("cmdschließen")->setFocus();
+  druecke("cmdschließen");
+  oeffne(5);
+  tippe(1, "Kontrolle");
+  taste(feld(1), Qt::Key_Return);
+  EXPECT_EQ(anzahl("Arbeiten"), 1);
+  EXPECT_TRUE(form->isVisible());
+}
+
 TEST_F(Buchen, EineGehalteneEingabetasteBuchtNurEinmal) {
   oeffne(5);
   tippe(1, "Füttern");

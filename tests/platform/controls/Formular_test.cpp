@@ -224,6 +224,45 @@ TEST(Ereignis, SanduhrEndetAuchBeiFehlern) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
+// A form whose default button is made before it stands in the form, as layouts are built.
+class Vorgabeform : public Formular {
+ public:
+  Vorgabeform() : Formular(QStringLiteral("Vorgabeform"), QString(), nullptr) {
+    neu = new QPushButton(QStringLiteral("Neu"));
+    neu->setDefault(true);
+    loeschen = new QPushButton(QStringLiteral("Löschen"));
+    feld = new QLineEdit;
+    auto* spalte = new QVBoxLayout(this);
+    for (QWidget* teil : std::initializer_list<QWidget*>{loeschen, feld, neu})
+      spalte->addWidget(teil);
+    connect(neu, &QPushButton::clicked, this, [this] { ++gebucht; });
+    connect(loeschen, &QPushButton::clicked, this, [this] { ++geloescht; });
+  }
+  QPushButton* neu;
+  QPushButton* loeschen;
+  QLineEdit* feld;
+  int gebucht = 0;
+  int geloescht = 0;
+};
+
+TEST(Formular, EnterDruecktDenVorgabeknopfAuchNachdemEinAndererGedruecktWurde) {
+  Vorgabeform form;
+  form.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  QTest::mouseClick(form.loeschen, Qt::LeftButton);
+  form.loeschen->setFocus();
+  form.feld->setFocus();
+  QTest::keyClick(form.feld, Qt::Key_Return);
+  EXPECT_EQ(form.geloescht, 1);
+  EXPECT_EQ(form.gebucht, 1);
+  form.close();
+  form.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  form.feld->setFocus();
+  QTest::keyClick(form.feld, Qt::Key_Return);
+  EXPECT_EQ(form.gebucht, 2);
+}
+
 TEST(Dateidialoge, ProbeGibtDieAntwortenDerReiheNach) {
   QTemporaryDir ordner;
   Dateidialoge::Probe probe;
