@@ -19,7 +19,9 @@ enum class Ziel {
   Eingabe,  // the booking form
   Arbeitsplanoptionen,
   TermineSetzen,  // the yearly run of the appointments
-  Standorte,      // sites and plants
+  Termine,        // the calendar
+  AktuelleTermine,
+  Standorte,  // sites and plants
   Einstellungen,
   Internet,  // fetching the newest set-up
   Komprimieren,

@@ -7,6 +7,8 @@
 #include "core/mainform/forms/TH_Hilfe_Wieanfangen.h"
 #include "core/mainform/forms/TO_Einstellungen.h"
 #include "planning/forms/TV_Arplanoptionen.h"
+#include "planning/forms/TV_Starttermine.h"
+#include "planning/forms/TV_Terminverwaltung.h"
 #include "platform/controls/Ereignis.h"
 #include "sites/forms/TV_Pflanzen_Standorte.h"
 
@@ -53,6 +55,22 @@ void Formen::arbeitsplanoptionen() {
     m_arbeitsplanoptionen = new TV_Arplanoptionen(m_haupt);
   }
   m_arbeitsplanoptionen->zeigen();
+}
+
+void Formen::termine() {
+  if (!m_termine) {
+    const Ereignis::Sanduhr sanduhr;
+    m_termine = new TV_Terminverwaltung(m_haupt);
+  }
+  m_termine->zeigen();
+}
+
+void Formen::aktuelleTermine() {
+  if (!m_aktuelleTermine) {
+    const Ereignis::Sanduhr sanduhr;
+    m_aktuelleTermine = new TV_Starttermine(m_haupt);
+  }
+  m_aktuelleTermine->zeigen();
 }
 
 void Formen::wieAnfangen() {

@@ -10,6 +10,8 @@ class TO_Einstellungen;
 class TV_Arplanoptionen;
 class TV_Neues_Volk;
 class TV_Pflanzen_Standorte;
+class TV_Starttermine;
+class TV_Terminverwaltung;
 
 // The forms that open over the main form: one instance each, made on first use. Each call shows
 // the form modally and returns when it was closed.
@@ -22,6 +24,8 @@ class Formen {
   void standorte(const QString& formModus);
   void einstellungen();
   void arbeitsplanoptionen();
+  void termine();
+  void aktuelleTermine();
   void wieAnfangen();
   // Over whatever form asks for it.
   static void hilfe(QWidget* oeffner, const QString& thema);
@@ -33,5 +37,7 @@ class Formen {
   QPointer<TV_Pflanzen_Standorte> m_standorte;
   QPointer<TO_Einstellungen> m_einstellungen;
   QPointer<TV_Arplanoptionen> m_arbeitsplanoptionen;
+  QPointer<TV_Terminverwaltung> m_termine;
+  QPointer<TV_Starttermine> m_aktuelleTermine;
   QPointer<TH_Hilfe_Wieanfangen> m_wieAnfangen;
 };

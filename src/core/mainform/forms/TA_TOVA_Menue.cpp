@@ -164,6 +164,12 @@ void TA_TOVA::ausfuehren(const Menue::Eintrag& eintrag) {
     case Menue::Ziel::TermineSetzen:
       volkTermineSetzen(this);
       break;
+    case Menue::Ziel::Termine:
+      m_formen.termine();
+      break;
+    case Menue::Ziel::AktuelleTermine:
+      m_formen.aktuelleTermine();
+      break;
     case Menue::Ziel::Einstellungen:
       m_formen.einstellungen();
       break;

@@ -167,6 +167,7 @@ void TA_TOVA::ersteAktivierung() {
     listeBeiBedarfLesen();
   }
   Start::startZaehlen();
+  if (EinstellungenZahl[13] == 1 && Start::termineFaellig(m_db)) m_formen.aktuelleTermine();
 }
 
 void TA_TOVA::closeEvent(QCloseEvent* event) {

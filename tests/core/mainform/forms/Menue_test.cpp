@@ -58,6 +58,8 @@ TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
                                "XV_standorte",
                                "XV_pflanzen",
                                "XV_Arbeitsplanoptionen",
+                               "XV_Termine",
+                               "XV_Aktuelle_Termine",
                                "O_Einstellungen",
                                "O_Datenbankkomprimieren",
                                "O_volkabhängigeterminesetzen",
@@ -68,10 +70,11 @@ TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
   QStringList tasten;
   for (const auto& taste : Menue::tasten())
     if (aktion(taste.name)->isEnabled()) tasten << taste.name;
-  EXPECT_EQ(tasten, QStringList({"btn_neuesvolk", "btn_volkändern", "btn_e_stockkarte",
-                                 "btn_e_honigernte", "btn_e_wachsernte", "btn_e_arbeiten",
-                                 "btn_e_wanderung", "btn_e_behandlung", "btn_v_standorte",
-                                 "btn_v_Arbeitsplanoptionen", "btn_o_einstellungen"}));
+  EXPECT_EQ(tasten,
+            QStringList({"btn_neuesvolk", "btn_volkändern", "btn_e_stockkarte", "btn_e_honigernte",
+                         "btn_e_wachsernte", "btn_e_arbeiten", "btn_e_wanderung",
+                         "btn_e_behandlung", "btn_v_standorte", "btn_v_Arbeitsplanoptionen",
+                         "btn_v_termine", "btn_o_einstellungen"}));
 }
 
 TEST_F(Hauptmenue, OhneZeileSindVolkUndBuchungenGesperrt) {
@@ -208,6 +211,19 @@ TEST_F(Hauptmenue, ArbeitsplanoptionenGehenUeberMenueUndTaste) {
     aktion(name)->trigger();
     EXPECT_TRUE(besuch.war()) << name;
   }
+}
+
+TEST_F(Hauptmenue, TermineGehenUeberMenueUndTaste) {
+  voelker(1);
+  starten();
+  for (const char* name : {"XV_Termine", "btn_v_termine"}) {
+    Formbesuch besuch("TV_Terminverwaltung");
+    aktion(name)->trigger();
+    EXPECT_TRUE(besuch.war()) << name;
+  }
+  Formbesuch besuch("TV_Starttermine");
+  aktion("XV_Aktuelle_Termine")->trigger();
+  EXPECT_TRUE(besuch.war());
 }
 
 TEST_F(Hauptmenue, TermineSetzenFragtUndSchreibtDieTermineDesJahres) {

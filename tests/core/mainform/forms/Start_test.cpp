@@ -309,3 +309,53 @@ TEST_F(NeuesJahr, EineUngueltigeOptionWirdGenanntUndDerStartGehtWeiter) {
   EXPECT_GT(termine(), 0);
   EXPECT_EQ(EinstellungenZahl[56], 10);
 }
+
+// The open appointments of the next days, which the start shows once.
+class Terminliste : public Hauptstart {
+ protected:
+  void termin(QDate datum, const QString& erledigt = "N") {
+    voelker(1);
+    Start::pfadeSetzen(m_ordner.path());
+    Start::datenbankOeffnen();
+    DB.Execute("insert into Termine(Datum, Termin, Erledigt, Volk_ID) values (?, 'Schau', ?, 0)",
+               {datum, erledigt});
+    trennen();
+  }
+  bool kommt() {
+    Formbesuch besuch("TV_Starttermine");
+    starten();
+    return besuch.war();
+  }
+};
+
+TEST_F(Terminliste, KommtBeimStartWennAmGrenztagEtwasOffenIst) {
+  termin(QDate(2024, 6, 29));
+  EXPECT_TRUE(kommt());
+  Formbesuch nochmal("TV_Starttermine");
+  form->aktivieren();
+  EXPECT_FALSE(nochmal.war());
+}
+
+TEST_F(Terminliste, KommtNichtFuerSpaetere) {
+  termin(QDate(2024, 6, 30));
+  EXPECT_FALSE(kommt());
+}
+
+TEST_F(Terminliste, KommtNichtFuerErledigte) {
+  termin(QDate(2024, 6, 1), "J");
+  EXPECT_FALSE(kommt());
+}
+
+TEST_F(Terminliste, OhneHakenKommtSieNicht) {
+  termin(QDate(2024, 6, 1));
+  {
+    Formbesuch besuch("TV_Starttermine",
+                      [](QWidget* f) { f->findChild<QAbstractButton*>("kon")->click(); });
+    starten();
+    EXPECT_TRUE(besuch.war());
+  }
+  EXPECT_EQ(EinstellungenZahl[13], 0);
+  schliessen();
+  zuruecksetzen();
+  EXPECT_FALSE(kommt());
+}
