@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QFile>
+#include <QTabWidget>
 #include <QTest>
 
 #include "Eingabehilfen.h"
@@ -20,6 +21,7 @@
 #include "output/forms/TA_Textausgabe.h"
 #include "output/forms/TA_Zwischenliste.h"
 #include "platform/controls/Grid.h"
+#include "sites/forms/TV_Pflanzen_Standorte.h"
 
 using namespace TZ_Variablen;
 
@@ -178,6 +180,75 @@ Formfall selektieren() {
   return f;
 }
 
+// A site with a plant, so that every tab can be opened; a new database has plants, but no site.
+Form standortform(const QString& modus) {
+  if (DB.Lesen("select ID from Standorte")->zeilen() == 0) {
+    DB.Execute("insert into Standorte(Standort) values (?)", {QString("Hausgarten")});
+    DB.Execute(
+        "insert into Standorte_Pflanzen(Pflanze, Entfernung_m, Proz_Anteil, Standort_Kennung) "
+        "values (?, ?, ?, ?)",
+        {QString("Krokus"), 500, 60, DB.LetzteID()});
+  }
+  FormModus = modus;
+  auto form = std::make_unique<TV_Pflanzen_Standorte>();
+  form->laden();
+  return form;
+}
+
+// Clicks the first row for which the condition holds.
+void zeileAufReiter(QWidget* form, int reiter, const QString& liste, const QString& bedingung) {
+  form->findChild<QTabWidget*>("reiter")->setCurrentIndex(reiter);
+  auto* grid = form->findChild<Grid*>(liste);
+  klickeZeile(grid, grid->findeZeile(bedingung));
+}
+
+// The given captions; the first of the two can't be chosen.
+QStringList alleSDesFusses() {
+  return {
+      "Alt+S: QPushButton comstandortlisten \"&Standorte / Pflanzen auswerten\" und QPushButton "
+      "beenden \"&Schließen\""};
+}
+
+Formfall standorte() {
+  Formfall f{"TV_Pflanzen_Standorte_Standorte", "TV_Pflanzen_Standorte", "TV_Pflanzen_Standorte",
+             "neustandort_0", [](Betrieb&) { return standortform("0"); }};
+  f.loeschen = Loeschen{"Standorte",
+                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
+                        [](QWidget* form) {
+                          zeileAufReiter(form, 0, "listandorte", "Standort = 'Hausgarten'");
+                          druecke(form, "lschstandort");
+                        }};
+  f.doppelt = alleSDesFusses();
+  return f;
+}
+
+Formfall pflanzen() {
+  Formfall f{"TV_Pflanzen_Standorte_Pflanzen", "TV_Pflanzen_Standorte", "TV_Pflanzen_Standorte",
+             "neu_0", [](Betrieb&) { return standortform("2"); }};
+  QStringList andere{"sevtje_0", "sevtje_1", "sevtje_2"};
+  for (int i = 0; i < 11; ++i) andere << QString("sevtstandort_%1").arg(i);
+  f.sichern = Sichern{"neu_0",
+                      andere,
+                      {},
+                      f.machen,
+                      [](QWidget* form) {
+                        zeileAufReiter(form, 0, "listandorte", "Standort = 'Hausgarten'");
+                        zeileAufReiter(form, 2, "lipflanzen", "Pflanze = 'Wert0'");
+                      },
+                      [](QWidget* form, Meldungen::Probe& boxen) {
+                        tippe(form, "sevt_0", {});
+                        boxen.hinweisMit("...die Pflanze angegeben werden muß.");
+                      }};
+  f.loeschen = Loeschen{"Pflanzen",
+                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
+                        [](QWidget* form) {
+                          zeileAufReiter(form, 2, "lipflanzen", "Pflanze = 'Krokus'");
+                          druecke(form, QString("löschen"));
+                        }};
+  f.doppelt = alleSDesFusses();
+  return f;
+}
+
 Formfall einstellungen() {
   Formfall f{"TO_Einstellungen", "TO_Einstellungen", "TO_Einstellungen", "ok", {}};
   f.machen = [](Betrieb& betrieb) -> Form {
@@ -225,8 +296,8 @@ const std::vector<Formfall>& formenliste() {
   static const std::vector<Formfall> liste = [] {
     std::vector<Formfall> alle{hauptformular(), ersteSchritte(), neuesVolk(), volkAendern()};
     for (int art = 0; art < 11; ++art) alle.push_back(eingabe(art));
-    alle.insert(alle.end(), {hilfe(), dateiauswahl(), dateispeichern(), selektieren(),
-                             einstellungen(), textausgabe(), zwischenliste()});
+    alle.insert(alle.end(), {hilfe(), dateiauswahl(), dateispeichern(), selektieren(), standorte(),
+                             pflanzen(), einstellungen(), textausgabe(), zwischenliste()});
     return alle;
   }();
   return liste;

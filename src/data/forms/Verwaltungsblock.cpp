@@ -90,23 +90,25 @@ void Verwaltungsblock::aufbauen() {
 
 // Two columns of captions and inputs, read downwards; what is only shown stands below.
 QWidget* Verwaltungsblock::eingabenBauen() {
+  constexpr int Vorrang = 1000;  // of a long text before the empty room on the right
   auto* rahmen = new QGroupBox(m_plan.titel);
   auto* raster = new QGridLayout(rahmen);
   raster->setColumnMinimumWidth(2, 2 * fontMetrics().averageCharWidth());
-  raster->setColumnStretch(1, 1);
-  raster->setColumnStretch(4, 1);
-  int getippte = 0;
-  for (const Feld& feld : m_plan.felder) getippte += feld.nurAnzeige ? 0 : 1;
-  const int hoehe = (getippte + 1) / 2;
-  int gezeigte = 0;
+  raster->setColumnStretch(5, 1);
+  int anzahl = 0;
+  for (const Feld& feld : m_plan.felder) anzahl += feld.nurAnzeige ? 0 : 1;
+  const int hoehe = (anzahl + 1) / 2;
+  int getippt = 0;
+  int gezeigt = 0;
   for (int i = 0; i < m_plan.felder.size(); ++i) {
     const Feld& feld = m_plan.felder[i];
     Eingabefeld* eingabe = feldBauen(i);
-    const int platz = feld.nurAnzeige ? gezeigte++ : i;
+    const int platz = feld.nurAnzeige ? gezeigt++ : getippt++;
     const int zeile = feld.nurAnzeige ? hoehe + 1 + platz / 2 : platz % hoehe;
     const int spalte = 3 * (feld.nurAnzeige ? platz % 2 : platz / hoehe);
     raster->addWidget(Formular::beschriften(feld.beschriftung, eingabe), zeile, spalte);
     const bool breit = feld.art == Art::Text && feld.maxLaenge > 20;
+    if (breit) raster->setColumnStretch(spalte + 1, Vorrang);
     raster->addWidget(eingabe, zeile, spalte + 1, breit ? Qt::Alignment() : Qt::AlignLeft);
   }
   if (!m_plan.hinweis.isEmpty()) {
@@ -121,10 +123,7 @@ Eingabefeld* Verwaltungsblock::feldBauen(int nummer) {
   auto* eingabe = new Eingabefeld;
   eingabe->setObjectName(m_plan.eingabe + "_" + QString::number(nummer));
   eingabe->einrichten(beschreibung(m_plan.felder[nummer]));
-  if (m_plan.felder[nummer].nurAnzeige) {
-    eingabe->setReadOnly(true);
-    eingabe->setFocusPolicy(Qt::ClickFocus);
-  }
+  eingabe->setReadOnly(m_plan.felder[nummer].nurAnzeige);
   m_eingaben << eingabe;
   return eingabe;
 }
