@@ -57,7 +57,7 @@ void TV_Pflanzen_Standorte::aufbauen() {
   spalte->addWidget(fussBauen());
   reihenfolgeSetzen();
   const QSize schirm = screen()->availableSize() - QSize(20, 60);
-  const QSize wunsch(110 * fontMetrics().averageCharWidth(), 38 * fontMetrics().height());
+  const QSize wunsch(125 * fontMetrics().averageCharWidth(), 38 * fontMetrics().height());
   resize(wunsch.expandedTo(minimumSizeHint()).boundedTo(schirm));
 }
 
