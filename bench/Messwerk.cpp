@@ -64,6 +64,8 @@ void betriebOeffnen(int voelker) {
   offen = voelker;
 }
 
+void betriebVerwerfen() { offen = 0; }
+
 Blank::Blank(const QString& pfad) {
   if (sqlite3_open_v2(pfad.toUtf8().constData(), &m_db, SQLITE_OPEN_READWRITE, nullptr) !=
       SQLITE_OK)

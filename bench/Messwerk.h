@@ -18,6 +18,8 @@
 // Opens it as the program does (AppPfad, DB, main list); the copy is the program's own until the
 // next call.
 void betriebOeffnen(int voelker);
+// The next betriebOeffnen takes a fresh copy; for a benchmark that changes more than it adds.
+void betriebVerwerfen();
 
 // Runs the registered benchmarks and prints the table of ratios; the program's exit code.
 int messen(int argc, char** argv);
