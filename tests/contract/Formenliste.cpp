@@ -20,6 +20,7 @@
 #include "output/Uebergabe.h"
 #include "output/forms/TA_Textausgabe.h"
 #include "output/forms/TA_Zwischenliste.h"
+#include "planning/forms/TV_Arplanoptionen.h"
 #include "platform/controls/Grid.h"
 #include "sites/forms/TV_Pflanzen_Standorte.h"
 
@@ -209,6 +210,22 @@ QStringList alleSDesFusses() {
       "beenden \"&Schließen\""};
 }
 
+Formfall arbeitsplanoptionen() {
+  Formfall f{"TV_Arplanoptionen", "TV_Arplanoptionen", "TV_Arplanoptionen", "neu_0", {}};
+  f.machen = [](Betrieb&) -> Form {
+    auto form = std::make_unique<TV_Arplanoptionen>();
+    form->laden();
+    return form;
+  };
+  f.loeschen = Loeschen{"Arbeitsplanoptionen",
+                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
+                        [](QWidget* form) {
+                          klickeZeile(form->findChild<Grid*>("liarplan"), 0);
+                          druecke(form, QString("löschen"));
+                        }};
+  return f;
+}
+
 Formfall standorte() {
   Formfall f{"TV_Pflanzen_Standorte_Standorte", "TV_Pflanzen_Standorte", "TV_Pflanzen_Standorte",
              "neustandort_0", [](Betrieb&) { return standortform("0"); }};
@@ -296,8 +313,9 @@ const std::vector<Formfall>& formenliste() {
   static const std::vector<Formfall> liste = [] {
     std::vector<Formfall> alle{hauptformular(), ersteSchritte(), neuesVolk(), volkAendern()};
     for (int art = 0; art < 11; ++art) alle.push_back(eingabe(art));
-    alle.insert(alle.end(), {hilfe(), dateiauswahl(), dateispeichern(), selektieren(), standorte(),
-                             pflanzen(), einstellungen(), textausgabe(), zwischenliste()});
+    alle.insert(alle.end(),
+                {hilfe(), dateiauswahl(), dateispeichern(), selektieren(), standorte(), pflanzen(),
+                 arbeitsplanoptionen(), einstellungen(), textausgabe(), zwischenliste()});
     return alle;
   }();
   return liste;

@@ -53,6 +53,7 @@ void Formen::arbeitsplanoptionen() {
   if (!m_arbeitsplanoptionen) {
     const Ereignis::Sanduhr sanduhr;
     m_arbeitsplanoptionen = new TV_Arplanoptionen(m_haupt);
+    m_arbeitsplanoptionen->setTerminverwaltung([this] { termine(); });
   }
   m_arbeitsplanoptionen->zeigen();
 }

@@ -226,6 +226,19 @@ TEST_F(Hauptmenue, TermineGehenUeberMenueUndTaste) {
   EXPECT_TRUE(besuch.war());
 }
 
+TEST_F(Hauptmenue, AusDenArbeitsplanoptionenGehtEsInDieTerminverwaltung) {
+  voelker(1);
+  starten();
+  bool termineOffen = false;
+  Formbesuch besuch("TV_Arplanoptionen", [&](QWidget* plan) {
+    Formbesuch termine("TV_Terminverwaltung", [&](QWidget*) { termineOffen = true; });
+    QTest::mouseClick(plan->findChild<QAbstractButton*>("terminverwaltung"), Qt::LeftButton);
+  });
+  aktion("XV_Arbeitsplanoptionen")->trigger();
+  EXPECT_TRUE(besuch.war());
+  EXPECT_TRUE(termineOffen);
+}
+
 TEST_F(Hauptmenue, TermineSetzenFragtUndSchreibtDieTermineDesJahres) {
   voelker(1);
   starten();
