@@ -217,6 +217,17 @@ Formfall arbeitsplanoptionen() {
     form->laden();
     return form;
   };
+  f.sichern = Sichern{"neu_0",
+                      {},
+                      {},
+                      f.machen,
+                      [](QWidget* form) { klickeZeile(form->findChild<Grid*>("liarplan"), 0); },
+                      [](QWidget* form, Meldungen::Probe& boxen) {
+                        tippe(form, "sevt_0", {});
+                        boxen.hinweisMit("...die Arbeitsart angegeben werden muß.");
+                      }};
+  // The first of the list; a period that ends behind its start.
+  f.sichern->werte = {{"sevt_0", "1. Durchsicht"}, {"sevt_1", "01.05"}, {"sevt_2", "30.06"}};
   f.loeschen = Loeschen{"Arbeitsplanoptionen",
                         "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
                         [](QWidget* form) {
