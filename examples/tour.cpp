@@ -72,6 +72,11 @@ bool ersterTag(const QString& bilder) {
     });
   tag.schritt("TV_Neues_Volk", [](QWidget* form) { Hand::druecken(form, "cmdabbrechen"); });
   tag.schritt("TH_Hilfe_Wieanfangen", [](QWidget* form) { form->close(); });
+  // The work plan has made appointments for the new colonies; some are due soon.
+  tag.schritt("TV_Starttermine", [&](QWidget* form) {
+    tag.fotografieren(form, "02_offene_termine");
+    form->close();
+  });
   tag.schritt("TA_TOVA", [&](QWidget* form) {
     tag.fotografieren(form, "03_vier_voelker");
     Hand::markieren(form, "datali", {0});
@@ -218,6 +223,10 @@ bool imDrittenJahr(const QString& bilder) {
   TZ_Variablen::Arbeitsbereich.Close();
 
   Begleiter tag(bilder);
+  tag.schritt("TV_Starttermine", [&](QWidget* form) {
+    tag.fotografieren(form, "offene_termine");
+    form->close();
+  });
   hauptformularZeigen(tag);
   eingabenZeigen(tag);
   selektierenUndMarkieren(tag);
