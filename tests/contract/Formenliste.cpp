@@ -35,6 +35,7 @@ Formfall hauptformular() {
     auto form = std::make_unique<TA_TOVA>();
     if (!form->laden({betrieb.ordner(), QDate(2026, 6, 15), [] { return true; }})) return nullptr;
     form->datenvölkerlesen();
+    EinstellungenZahl[13] = 0;  // the open appointments would stand in front of it
     return form;
   };
   f.hauptformular = true;
