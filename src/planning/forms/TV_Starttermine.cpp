@@ -109,7 +109,7 @@ QWidget* TV_Starttermine::einzelnBauen() {
 
 QWidget* TV_Starttermine::standortBauen() {
   sevt[Art] = feld(Art, Eingabefeld::Art::Text, 30);
-  sevt[Ort] = feld(Ort, Eingabefeld::Art::Text, 30);
+  sevt[Ort] = feld(Ort, Eingabefeld::Art::Text, 100);
   sevt[Bis] = feld(Bis, Eingabefeld::Art::Datum);
   cmdok[3] = knopf("zum obigen Datum erledigen", "cmdok_3");
   cmdok[3]->setToolTip("Zum Erledigungsdatum erledigen");
@@ -184,7 +184,9 @@ void TV_Starttermine::laden() {
   const Ereignis::Sanduhr sanduhr;
   m_db = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
   setWindowTitle(Starttermine::titel());
-  kon->setChecked(EinstellungenZahl[13] != 0);
+  kon->setChecked(EinstellungenZahl[13] == 1);
+  // Realigning deletes appointments: it is chosen anew each time the form opens.
+  konterminreihe->setChecked(false);
   for (const size_t i : {Erledigungstag, Bis}) sevt[i]->setInhalt(HeuteText);
   for (const size_t i : {Art, Ort}) sevt[i]->clear();
   sevt[Art]->setListe(

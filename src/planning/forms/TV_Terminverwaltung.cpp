@@ -10,6 +10,7 @@
 
 #include "core/globals.h"
 #include "data/forms/helpers_forms.h"
+#include "data/helpers.h"
 #include "planning/forms/TV_Starttermine.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
@@ -102,7 +103,6 @@ QWidget* TV_Terminverwaltung::filterBauen() {
     opti[i]->setObjectName("opti_" + QString::number(i));
     wahl->addWidget(opti[i]);
   }
-  opti[0]->setChecked(true);
   wahl->addStretch(1);
 
   auto* rahmen = new QGroupBox("Termine anzeigen, eingeschränkt auf...");
@@ -231,6 +231,7 @@ void TV_Terminverwaltung::laden() {
 
 void TV_Terminverwaltung::einrichten() {
   using Art = Eingabefeld::Art;
+  opti[0]->setChecked(true);
   sevt[NurVolk]->einrichten(beschreibung(Art::Auswahl));
   sevt[NurTermin]->einrichten(beschreibung(Art::Text, 30));
   sevt[NurErledigt]->einrichten(beschreibung(Art::Auswahl, 0, {}, {"", "J", "N"}));
@@ -308,7 +309,7 @@ void TV_Terminverwaltung::tageGeaendert() {
 }
 
 void TV_Terminverwaltung::datumGeaendert() {
-  if (m_abgleich) return;
+  if (m_abgleich || !IstDatum(sevt[Datum]->inhalt())) return;
   m_abgleich = true;
   sevt[InTagen]->setInhalt(Terminverwaltung::tageBis(sevt[Datum]->inhalt()));
   m_abgleich = false;

@@ -65,6 +65,27 @@ TEST_F(TVStarttermine, HakenKommtAusPlatz13UndGehtBeimSchliessenDorthin) {
   EXPECT_EQ(EinstellungenZahl[13], 0);
 }
 
+TEST_F(TVStarttermine, LangerStandortnameErledigtSeineTermine) {
+  const QString ort = "Lindenallee am Schloßpark hinter der Mühle";
+  const qint64 volk = neuesVolk("1", "X", ort);
+  termin(tag(6, 15), "Durchsicht", volk);
+  oeffne();
+  klickeZeile(0);
+  EXPECT_EQ(inhalt(2), ort.toStdString());
+  boxen.frageMit("Es wurden 1 Termine gefunden.", true);
+  klicke("cmdok_3");
+  EXPECT_EQ(spalte("Datum"), "");
+}
+
+TEST_F(TVStarttermine, AnpassenWirdBeiJedemOeffnenNeuGewaehlt) {
+  oeffne();
+  klicke("konterminreihe");
+  ASSERT_TRUE(kind<QCheckBox>("konterminreihe")->isChecked());
+  form->close();
+  form->laden();
+  EXPECT_FALSE(kind<QCheckBox>("konterminreihe")->isChecked());
+}
+
 TEST_F(TVStarttermine, ListeZeigtOffeneBisZurGrenze) {
   fuenf();
   oeffne();

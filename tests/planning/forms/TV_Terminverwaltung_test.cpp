@@ -28,6 +28,22 @@ class TVTerminverwaltung : public Terminformprobe<TV_Terminverwaltung> {
   qint64 volk = 0;
 };
 
+TEST_F(TVTerminverwaltung, EinUngueltigesDatumLaesstDieTageStehen) {
+  oeffne();
+  tippe(9, "3");
+  ASSERT_EQ(inhalt(0), "23.06.2006");
+  tippe(0, "31.02.2006");
+  EXPECT_EQ(inhalt(9), "3");
+}
+
+TEST_F(TVTerminverwaltung, JedesOeffnenBeginntMitDenAllgemeinenTerminen) {
+  oeffne();
+  klicke("opti_1");
+  form->close();
+  form->laden();
+  EXPECT_TRUE(kind<QAbstractButton>("opti_0")->isChecked());
+}
+
 TEST_F(TVTerminverwaltung, JedesFeldHatNamenUndBeschriftung) {
   oeffne();
   EXPECT_EQ(form->objectName(), "TV_Terminverwaltung");
