@@ -61,7 +61,11 @@ Formular::Formular(const QString& name, const QString& titel, QWidget* oeffner)
   setSizeGripEnabled(true);
 }
 
-Formular::~Formular() = default;
+// A form destroyed while it is shown hides its controls once more, when the form's own part is gone
+// already: none of them may call a handler then.
+Formular::~Formular() {
+  for (QObject* teil : findChildren<QObject*>()) teil->disconnect(this);
+}
 
 void Formular::zeigen() {
   setModal(true);

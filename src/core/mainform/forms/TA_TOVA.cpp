@@ -67,6 +67,7 @@ TA_TOVA::TA_TOVA() {
 }
 
 TA_TOVA::~TA_TOVA() {
+  hide();                      // as long as the list may still ask this object for its first column
   datali->blockSignals(true);  // it goes after this object has lost its members
   if (hauptliste() == this) setHauptliste(nullptr);
 }
