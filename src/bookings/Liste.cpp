@@ -64,3 +64,5 @@ QString listenUeberschrift(const QString& volknr, const QString& volkname) {
 }
 
 QString listenLayout(int art) { return QString::number(art) + "bewegungsdaten"; }
+
+QString listenLayoutSchluessel(int art) { return "Tova/ColWidths/" + listenLayout(art); }

@@ -31,3 +31,5 @@ QList<Slotaenderung> zeilentexte(const Datenblock& daten, int zeile, int art);
 QString listenUeberschrift(const QString& volknr, const QString& volkname);
 // The name under which the list's column widths are kept, as "1bewegungsdaten".
 QString listenLayout(int art);
+// The whole key under which the grid keeps them.
+QString listenLayoutSchluessel(int art);

@@ -66,7 +66,7 @@ void zeilenLesen(const QStringList& zeilen) {
 void EinstellungenLesen() {
   if (!Textdatei::existiert(pfad())) return;
   zeilenLesen(Textdatei::lesen(pfad()));
-  if (EinstellungenText[4].isEmpty()) EinstellungenText[4] = QStringLiteral(" | ");
+  if (EinstellungenText[4].isEmpty()) EinstellungenText[4] = TrennzeichenStandard;
 }
 
 void EinstellungenSchreiben() {
@@ -90,7 +90,7 @@ void EinstellungenStandard(QDate heute) {
   EinstellungenZahl[50] = 14;
   EinstellungenZahl[55] = 1;
   EinstellungenZahl[57] = 1;
-  EinstellungenText[4] = QStringLiteral(" | ");
+  EinstellungenText[4] = TrennzeichenStandard;
 }
 
 void MehrwertsteuerPruefen() {

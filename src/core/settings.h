@@ -1,6 +1,11 @@
 #pragma once
 
 #include <QDate>
+#include <QString>
+
+// What stands between two columns of a text list as long as the user wants nothing else
+// (EinstellungenText 4).
+inline const QString TrennzeichenStandard = QStringLiteral(" | ");
 
 // The settings file Einstellungen.TV2 in AppPfad: 173 lines, strictly by position, for the three
 // slot stores of TZ_Variablen.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/globals.h"
+#include "core/settings.h"
 #include "output/Zelltext.h"
 #include "platform/files/Dateischreiber.h"
 #include "platform/files/Textdatei.h"
@@ -121,7 +122,7 @@ QString datei() { return TZ_Variablen::AppPfad + QStringLiteral("LISTE.TXT"); }
 
 QString trennzeichen() {
   const QString& gewaehlt = TZ_Variablen::EinstellungenText[4];
-  return gewaehlt.isEmpty() ? QStringLiteral(" | ") : gewaehlt;
+  return gewaehlt.isEmpty() ? TrennzeichenStandard : gewaehlt;
 }
 
 void schreiben(const QString& pfad, const Ausgabeliste& liste, const Listenkopf& kopf,

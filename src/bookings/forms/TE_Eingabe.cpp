@@ -221,7 +221,7 @@ void TE_Eingabe::BuchungenLaden() {
 
 // The list shows the bookings of the current colony, or nothing at all: never rows of another type.
 void TE_Eingabe::listeBinden() {
-  m_li->setLayoutSchluessel("Tova/ColWidths/" + listenLayout(BuchungsArt));
+  m_li->setLayoutSchluessel(listenLayoutSchluessel(BuchungsArt));
   auto leeren = qScopeGuard([this] { listeLeeren(); });
   const auto bereich = static_cast<Anzeigebereich>(m_anzeige->checkedId());
   m_daten = buchungenLesen(m_datenbank, BuchungsArt, volkId(), bereich);

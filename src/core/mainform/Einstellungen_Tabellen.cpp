@@ -1,6 +1,7 @@
 #include "bookings/Buchungstypen.h"
 #include "core/mainform/Einstellungen.h"
 #include "core/mainform/Volkanzeige.h"
+#include "core/settings.h"
 
 namespace Einstellungen {
 
@@ -89,7 +90,7 @@ const Schalter& schalter(int index) { return mitIndex(schalter(), index); }
 
 const Eingabe& eingabe(int index) { return mitIndex(eingaben(), index); }
 
-QStringList trennzeichen() { return {" | ", "  ", "; ", ", ", " - ", " / "}; }
+QStringList trennzeichen() { return {TrennzeichenStandard, "  ", "; ", ", ", " - ", " / "}; }
 
 QStringList zeilentexte() {
   QStringList texte;

@@ -6,6 +6,9 @@
 
 // The list of colonies: its statement, the settings it rests on, and the counts of its filter.
 
+// The key under which the list's column widths are kept.
+inline const QString VolklisteLayout = QStringLiteral("TOVA/datali/ColWidths");
+
 enum class Volkfilter { Bestand = 0, Abgang = 1, Alles = 2 };
 
 // The list's select (EinstellungenText 17): a field list without "Futterwaben" is dropped, an

@@ -122,7 +122,7 @@ void TA_TOVA::knoepfeBauen(QHBoxLayout* zeile) {
 QWidget* TA_TOVA::listeBauen() {
   datali = benannt(new Grid(teiler), QStringLiteral("datali"));
   datali->setAccessibleName(QStringLiteral("Völkerliste"));
-  datali->setLayoutSchluessel(QStringLiteral("TOVA/datali/ColWidths"));
+  datali->setLayoutSchluessel(VolklisteLayout);
   datali->setErsteSpalte([this](int zeile) {
     return ersteSpalte(zeile, datali->zelle(zeile, QStringLiteral("Volknr")));
   });

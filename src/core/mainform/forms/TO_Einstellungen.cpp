@@ -100,9 +100,8 @@ void TO_Einstellungen::standardSetzen() {
 
 void TO_Einstellungen::speichern() {
   Einstellungen::speichern(stand(), TZ_Variablen::DB);
-  breitenUmordnen("TOVA/datali/ColWidths", m_feldlisten[0].geladen, m_feldlisten[0].felder);
-  breitenUmordnen("Tova/ColWidths/" + listenLayout(0), m_feldlisten[1].geladen,
-                  m_feldlisten[1].felder);
+  breitenUmordnen(VolklisteLayout, m_feldlisten[0].geladen, m_feldlisten[0].felder);
+  breitenUmordnen(listenLayoutSchluessel(0), m_feldlisten[1].geladen, m_feldlisten[1].felder);
   accept();
 }
 
