@@ -17,6 +17,7 @@ void Optionsfehler::versuche(qint64 optionId, const std::function<void()>& arbei
   if (m_optionen.contains(optionId)) return;
   try {
     arbeit();
+    m_gelungene.insert(optionId);
   } catch (const Datenbankfehler& fehler) {
     if (!nurDieserOption(fehler)) throw;
     if (m_texte.isEmpty()) {
@@ -31,9 +32,8 @@ void Optionsfehler::versuche(qint64 optionId, const std::function<void()>& arbei
 void Optionsfehler::wirf() const {
   if (m_texte.isEmpty()) return;
   const QString ende = TZ_Variablen::CRLF + TZ_Variablen::CRLF;
-  throw Datenbankfehler(
-      m_art,
-      m_texte.join(ende) + ende +
-          QString("Die Termine aller anderen Arbeitsplan-Optionen wurden eingetragen."),
-      m_anweisung);
+  QString text = m_texte.join(ende);
+  if (!(m_gelungene - m_optionen).isEmpty())
+    text += ende + QString("Die Termine aller anderen Arbeitsplan-Optionen wurden eingetragen.");
+  throw Datenbankfehler(m_art, text, m_anweisung);
 }

@@ -18,7 +18,8 @@ class Optionsfehler {
   void wirf() const;
 
  private:
-  QSet<qint64> m_optionen;
+  QSet<qint64> m_optionen;   // that failed
+  QSet<qint64> m_gelungene;  // that were computed for a colony at least
   QStringList m_texte;
   Datenbankfehler::Art m_art = Datenbankfehler::Art::Allgemein;
   QString m_anweisung;
