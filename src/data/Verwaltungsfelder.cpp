@@ -21,6 +21,22 @@ Feld Feld::liste(const QString& anweisung) const {
   return neu;
 }
 
+Feld Feld::angebot(const QStringList& angebotene) const {
+  Feld neu = *this;
+  neu.texte = angebotene;
+  return neu;
+}
+
+Feld Feld::knapp() const {
+  Feld neu = *this;
+  neu.ohneFuellnullen = true;
+  return neu;
+}
+
+bool Feld::hatPickliste() const {
+  return !listenAnweisung.isEmpty() || (art == Art::Text && !texte.isEmpty());
+}
+
 Feld Feld::einheit(const QString& text) const {
   Feld neu = *this;
   neu.zeichen = text;
@@ -30,6 +46,12 @@ Feld Feld::einheit(const QString& text) const {
 Feld Feld::gezeigt() const {
   Feld neu = *this;
   neu.nurAnzeige = true;
+  return neu;
+}
+
+Feld Feld::ohneNull() const {
+  Feld neu = *this;
+  neu.nullVerboten = true;
   return neu;
 }
 
@@ -62,8 +84,9 @@ Texte vorgaben(const Felder& felder) {
 QString feldtext(const Feld& feld, const QVariant& wert) {
   if (wert.isNull()) return {};
   if (feld.art != Art::Dezimal) return TextLesen(wert);
-  const QString gerundet = Deutsch::zahl(wert.toDouble(), feld.nachkommastellen);
   const QString genau = Deutsch::schlicht(wert.toDouble());
+  if (feld.ohneFuellnullen) return genau;
+  const QString gerundet = Deutsch::zahl(wert.toDouble(), feld.nachkommastellen);
   return ZahlLesenDoppelt(gerundet) == ZahlLesenDoppelt(genau) ? gerundet : genau;
 }
 
@@ -84,7 +107,7 @@ QVariant feldwert(const Feld& feld, const QString& text) {
 
 QStringList pickliste(Database& datenbank, const Feld& feld) {
   QStringList texte;
-  if (feld.listenAnweisung.isEmpty()) return texte;
+  if (feld.listenAnweisung.isEmpty()) return feld.hatPickliste() ? feld.texte : texte;
   const Daten zeilen = datenbank.Lesen(feld.listenAnweisung);
   for (int i = 0; i < zeilen->zeilen(); ++i) {
     const QString text = TextLesen(zeilen->wert(i, 0));

@@ -20,17 +20,23 @@ struct Feld {
   QString beschriftung;
   int maxLaenge = 0;         // characters, 0 for no limit
   int nachkommastellen = 0;  // Dezimal
-  qint64 bis = 0;            // Ganzzahl: from 0 to this
-  QStringList texte = {};    // Auswahl: the only texts allowed
+  qint64 bis = 0;            // Ganzzahl: from 0 (from 1 with ohneNull) to this
+  QStringList texte = {};    // Auswahl: the only texts allowed; Text: a fixed pick list
   QString ersterText = {};   // in the empty form
   QString listenAnweisung = {};
   QString zeichen = {};     // unit shown behind the input
   bool nurAnzeige = false;  // shown, but neither typed nor saved
+  bool nullVerboten = false;
+  bool ohneFuellnullen = false;
 
-  Feld vorgabe(const QString& text) const;     // the text in the empty form
-  Feld liste(const QString& anweisung) const;  // the statement of its pick list
+  Feld vorgabe(const QString& text) const;       // the text in the empty form
+  Feld liste(const QString& anweisung) const;    // the statement of its pick list
+  Feld angebot(const QStringList& texte) const;  // a fixed pick list; free text stays allowed
+  Feld knapp() const;  // a decimal number with no more decimals than it has
   Feld einheit(const QString& text) const;
   Feld gezeigt() const;
+  Feld ohneNull() const;  // a whole number from 1 on
+  bool hatPickliste() const;
 };
 
 Feld text(const QString& feld, const QString& beschriftung, int laenge);
@@ -45,11 +51,13 @@ using Texte = QHash<QString, QString>;  // the inputs' texts by field
 // The texts of the empty form.
 Texte vorgaben(const Felder& felder);
 // A field's value as its input shows it: numbers with the field's decimals (more where the value
-// has more, so that saving it again loses nothing), null as an empty text.
+// has more), null as an empty text.
 QString feldtext(const Feld& feld, const QVariant& wert);
-// What an input's text is stored as: texts cleaned by TextLesen, no date as null.
+// What an input's text is stored as: texts cleaned by TextLesen, no date as null, decimal numbers
+// read by ZahlLesen: in single precision (some seven digits) and without a sign.
 QVariant feldwert(const Feld& feld, const QString& text);
-// The texts of a field's pick list, without empty ones. Throws Datenbankfehler.
+// The texts of a field's pick list, without empty ones; fixed ones in their order. Throws
+// Datenbankfehler.
 QStringList pickliste(Database& datenbank, const Feld& feld);
 
 // Writes a row of the table: the one of that ID, or a new one without it. weitere are fields that

@@ -35,6 +35,7 @@ Eingabefeld::Beschreibung beschreibung(const Feld& feld) {
     case Art::Ganzzahl:
       b.art = Eingabefeld::Art::Ganzzahl;
       b.bis = feld.bis;
+      b.ohneNull = feld.nullVerboten;
       break;
     case Art::Dezimal:
       b.art = Eingabefeld::Art::Dezimal;
@@ -149,15 +150,19 @@ QList<QWidget*> Verwaltungsblock::tabfolge() const {
 // ---- reading and showing ----
 
 void Verwaltungsblock::laden(const Database& datenbank) {
-  m_datenbank = datenbank;
+  oeffnen(datenbank);
   picklistenLesen();
-  leeren();
   listeLesen();
+}
+
+void Verwaltungsblock::oeffnen(const Database& datenbank) {
+  m_datenbank = datenbank;
+  leeren();
 }
 
 void Verwaltungsblock::picklistenLesen() {
   for (int i = 0; i < m_plan.felder.size(); ++i)
-    if (!m_plan.felder[i].listenAnweisung.isEmpty())
+    if (m_plan.felder[i].hatPickliste())
       m_eingaben[i]->setListe(pickliste(m_datenbank, m_plan.felder[i]));
 }
 
@@ -219,12 +224,19 @@ QString Verwaltungsblock::vorSpeichern(const Texte&, std::optional<qint64>, QVar
   return {};
 }
 
+QString Verwaltungsblock::meldung(const QStringList& gründe) const { return ablehnung(gründe); }
+
+qint64 Verwaltungsblock::schreiben(const Texte& texte, std::optional<qint64> id,
+                                   const QVariantHash& weitere) {
+  return Verwaltung::speichern(m_datenbank, m_plan.tabelle, m_plan.felder, texte, id, weitere);
+}
+
 void Verwaltungsblock::nachSpeichern(qint64, bool) {}
 
 void Verwaltungsblock::speichern(bool ändern) {
   const Texte eingaben = texte();
   if (const QStringList gründe = prüfe(eingaben, ändern); !gründe.isEmpty()) {
-    Meldungen::Hinweis(ablehnung(gründe), this);
+    Meldungen::Hinweis(meldung(gründe), this);
     return;
   }
   const std::optional<qint64> id = ändern ? aktuelleId() : std::nullopt;
@@ -237,8 +249,7 @@ void Verwaltungsblock::speichern(bool ändern) {
     Meldungen::Hinweis(einwand, this);
     return;
   }
-  const qint64 gespeichert =
-      Verwaltung::speichern(m_datenbank, m_plan.tabelle, m_plan.felder, eingaben, id, weitere);
+  const qint64 gespeichert = schreiben(eingaben, id, weitere);
   nachSpeichern(gespeichert, !id);
   picklistenLesen();
   listeLesen();
@@ -253,7 +264,19 @@ void Verwaltungsblock::löschen() {
     return;
   }
   if (!LoeschenBestaetigt()) return;
-  m_liste->loescheZeile(zeile, m_datenbank, m_plan.tabelle);  // shows the row now at that place
+  const qint64 id = *aktuelleId();
+  try {
+    m_datenbank.Sammelschreiben([&] {
+      vorLöschen(id);
+      m_liste->loescheZeile(zeile, m_datenbank, m_plan.tabelle);  // shows the row now at that place
+    });
+  } catch (const Datenbankfehler& fehler) {
+    if (fehler.allesVerworfen()) {  // the row is still there
+      listeLesen();
+      zeigeDatensatz(id);
+    }
+    throw;
+  }
   if (m_liste->zeilen() == 0) leeren();
   nachLöschen();
 }

@@ -37,7 +37,11 @@ class Verwaltungsblock : public QWidget {
   // Pick lists, the empty form and the list, without a current row. All three reading functions
   // throw Datenbankfehler.
   void laden(const Database& datenbank);
-  void listeLesen();  // the rows anew, none current; the inputs stay
+  // The handle and the empty form alone, for a form with an order of its own.
+  void oeffnen(const Database& datenbank);
+  // Lets go of the database: the form was closed. What is shown stays until it is loaded again.
+  void entladen() { m_datenbank.Close(); }
+  virtual void listeLesen();  // the rows anew, none current; the inputs stay
   void picklistenLesen();
 
   Grid* liste() const { return m_liste; }
@@ -61,12 +65,18 @@ class Verwaltungsblock : public QWidget {
   virtual QVariantList listenwerte() const { return {}; }  // values of the list's statement
   // The reasons for not saving, which one box tells.
   virtual QStringList prüfe(const Verwaltung::Texte& texte, bool ändern);
+  virtual QString meldung(const QStringList& gründe) const;  // the text of that box
   // The text of a box that stops the saving, or an empty one. Fields without an input go into
   // weitere. Without an ID a new row is being saved.
   virtual QString vorSpeichern(const Verwaltung::Texte& texte, std::optional<qint64> id,
                                QVariantHash& weitere);
+  // Writes the row, and gives its ID. What belongs to the row and has to be in one commit with it
+  // goes here and into vorLöschen.
+  virtual qint64 schreiben(const Verwaltung::Texte& texte, std::optional<qint64> id,
+                           const QVariantHash& weitere);
   virtual void nachSpeichern(qint64 id, bool neu);  // before the list is read anew
   virtual void nachListe() {}                       // the list was read
+  virtual void vorLöschen(qint64) {}  // the user has agreed; in one commit with the row
   virtual void nachLöschen() {}
   // The current row was shown in the inputs.
   virtual void gezeigt() {}

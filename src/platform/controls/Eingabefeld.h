@@ -26,8 +26,9 @@ class Eingabefeld : public QLineEdit {
     int nachkommastellen = 0;   // Dezimal
     std::optional<qint64> bis;  // Ganzzahl: from 0 to this
     QString ersterText;
-    QString einheit;      // shown behind the text, as "€"
-    QStringList auswahl;  // Auswahl: the only texts allowed
+    QString einheit;        // shown behind the text, as "€"
+    QStringList auswahl;    // Auswahl: the only texts allowed
+    bool ohneNull = false;  // Ganzzahl: from 1 on
   };
 
   explicit Eingabefeld(QWidget* eltern = nullptr);

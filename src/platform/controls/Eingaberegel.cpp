@@ -25,12 +25,12 @@ bool istDezimal(const QString& text, int nachkommastellen) {
          nurZiffern(QStringView(text).left(komma));
 }
 
-bool istGanzzahl(const QString& text, const std::optional<qint64>& bis) {
+bool istGanzzahl(const QString& text, const Beschreibung& b) {
   if (!nurZiffern(text)) return false;
   if (text.isEmpty()) return true;
   bool lesbar = false;
   const qint64 wert = text.toLongLong(&lesbar);
-  return lesbar && (!bis || wert <= *bis);
+  return lesbar && (!b.bis || wert <= *b.bis) && (!b.ohneNull || wert > 0);
 }
 
 bool istDatumstext(const QString& text) {
@@ -180,7 +180,7 @@ bool passt(const Beschreibung& b, const QString& text) {
     case Art::Dezimal:
       return laengeReicht(b, text) && istDezimal(text, b.nachkommastellen);
     case Art::Ganzzahl:
-      return laengeReicht(b, text) && istGanzzahl(text, b.bis);
+      return laengeReicht(b, text) && istGanzzahl(text, b);
     case Art::Datum:
     case Art::TagMonat:
       return laengeReicht(b, text) && istDatumstext(text);
