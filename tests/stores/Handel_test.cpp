@@ -1,0 +1,469 @@
+#include "stores/Handel.h"
+
+#include "platform/database/Verbindung.h"
+#include "stores/Handelsbetrieb.h"
+
+using namespace Verwaltung;
+using Handel::Seite;
+
+namespace {
+
+class Handelsfelder : public Handelsbetrieb {};
+class Geschaeft : public Handelsbetrieb {};
+class Bewegung : public Handelsbetrieb {};
+class Partner : public Handelsbetrieb {};
+class BewegungLoeschen : public Handelsbetrieb {};
+class Lagerzeile : public Handelsbetrieb {};
+class Bestandsliste : public Handelsbetrieb {};
+class Summenzeile : public Handelsbetrieb {};
+
+const QString KeinDatum = "...das Datum korrekt angegeben werden muß.";
+const QString KeinProdukt = "...das Produkt angegeben werden muß.";
+const QString KeineMenge = "...die Menge über 0 liegen muß.";
+const QString KeineLagermenge =
+    "...entweder eine Zugangs- oder Abgangsmenge eingetragen werden muß.";
+
+template <typename Was>
+QStringList jeFeld(const Felder& felder, Was was) {
+  QStringList alle;
+  for (const Feld& feld : felder) alle << was(feld);
+  return alle;
+}
+QStringList namen(const Felder& felder) {
+  return jeFeld(felder, [](const Feld& f) { return f.feld; });
+}
+QStringList beschriftungen(const Felder& felder) {
+  return jeFeld(felder, [](const Feld& f) { return f.beschriftung; });
+}
+QStringList listen(const Felder& felder) {
+  return jeFeld(felder, [](const Feld& f) { return f.listenAnweisung; });
+}
+QStringList laengen(const Felder& felder) {
+  return jeFeld(felder, [](const Feld& f) {
+    return f.art == Art::Text ? QString::number(f.maxLaenge) : QString("-");
+  });
+}
+
+// ---- fields ----
+
+TEST_F(Handelsfelder, EinkaufAchtEingabenInIhrerFolge) {
+  const Felder felder = Handel::geschaeftsfelder(Seite::Einkauf);
+  EXPECT_EQ(namen(felder), QStringList({"Datum", "Produkt", "Qualität", "Lieferant", "Menge",
+                                        "Einheit", "Ausgaben", "Charge"}));
+  EXPECT_EQ(beschriftungen(felder),
+            QStringList({"Datum", "Produkt", "Qualität", "Lieferant", "Menge", "Mengeneinheit",
+                         "Ausgaben", "Chargen-Nr"}));
+  EXPECT_EQ(jeFeld(felder, [](const Feld& f) { return f.ersterText; }),
+            QStringList({"20.06.2006", "", "", "", "0", "", "0", ""}));
+  EXPECT_EQ(laengen(felder), QStringList({"-", "20", "20", "30", "-", "2", "-", "15"}));
+  EXPECT_EQ(listen(felder),
+            QStringList(
+                {"", "select distinct Produkt from Einkauf order by Produkt",
+                 "select distinct Qualität from Einkauf order by Qualität",
+                 "select distinct Kundenname from Kunden where Lieferant = 'J' order by Kundenname",
+                 "", "", "", "select distinct Charge from Honiglager order by Charge"}));
+}
+
+TEST_F(Handelsfelder, VerkaufMitAbnehmerUndEinnahmen) {
+  const Felder felder = Handel::geschaeftsfelder(Seite::Verkauf);
+  EXPECT_EQ(beschriftungen(felder),
+            QStringList({"Datum", "Produkt", "Qualität", "Abnehmer", "Menge", "Mengeneinheit",
+                         "Einnahmen", "Chargen-Nr"}));
+  EXPECT_EQ(namen(felder), QStringList({"Datum", "Produkt", "Qualität", "Abnehmer", "Menge",
+                                        "Einheit", "Einnahmen", "Charge"}));
+  EXPECT_EQ(listen(felder),
+            QStringList(
+                {"", "select distinct Produkt from Verkauf order by Produkt",
+                 "select distinct Qualität from Verkauf order by Qualität",
+                 "select distinct Kundenname from Kunden where Lieferant = 'N' order by Kundenname",
+                 "", "", "", "select distinct Charge from Honiglager order by Charge"}));
+}
+
+TEST_F(Handelsfelder, HoniglagerSiebenEingabenOhneEvkId) {
+  const Felder felder = Handel::lagerfelder();
+  EXPECT_EQ(namen(felder), QStringList({"Datum", "Produkt", "Zugang", "Abgang", "Bemerkung",
+                                        "Charge", "Abfülldatum"}));
+  EXPECT_EQ(beschriftungen(felder),
+            QStringList({"Datum", "Produkt (Sorte)", "Eingang (kg)", "Ausgang (kg)", "Bemerkung",
+                         "Chargen-Nr", "Abfülldatum"}));
+  EXPECT_EQ(jeFeld(felder, [](const Feld& f) { return f.ersterText; }),
+            QStringList({"20.06.2006", "", "0", "0", "", "", ""}));
+  EXPECT_EQ(laengen(felder), QStringList({"-", "20", "-", "-", "30", "15", "-"}));
+  EXPECT_EQ(listen(felder),
+            QStringList({"", "select distinct Produkt from Honiglager order by Produkt", "", "",
+                         "select distinct Bemerkung from Honiglager order by Bemerkung",
+                         "select distinct Charge from Honiglager order by Charge", ""}));
+}
+
+TEST_F(Handelsfelder, EinheitenInFesterFolgeMitFreiemText) {
+  for (const Seite seite : {Seite::Einkauf, Seite::Verkauf}) {
+    const Feld einheit = Handel::geschaeftsfelder(seite)[5];
+    EXPECT_EQ(einheit.art, Art::Text);
+    EXPECT_EQ(pickliste(db(), einheit), QStringList({"kg", "g", "l", "ml", "St"}));
+  }
+}
+
+TEST_F(Handelsfelder, HeuteIstDerTagDesStartsAuchBeimNaechstenMal) {
+  EXPECT_EQ(Handel::lagerfelder()[0].ersterText, "20.06.2006");
+  TZ_Variablen::HeuteText = "21.06.2006";
+  EXPECT_EQ(Handel::lagerfelder()[0].ersterText, "21.06.2006");
+  EXPECT_EQ(Handel::geschaeftsfelder(Seite::Verkauf)[0].ersterText, "21.06.2006");
+}
+
+TEST_F(Handelsfelder, MengenZeigenNurDieNoetigenStellenGeldZwei) {
+  const Felder felder = Handel::geschaeftsfelder(Seite::Verkauf);
+  EXPECT_EQ(feldtext(felder[4], 12.5), "12,5");
+  EXPECT_EQ(feldtext(felder[4], 1000000.0), "1000000");
+  EXPECT_EQ(feldtext(felder[4], 1.239), "1,239");
+  EXPECT_EQ(feldtext(felder[6], 12.5), "12,50");
+  EXPECT_EQ(feldtext(felder[6], QVariant()), "");
+}
+
+// ---- reasons ----
+
+TEST_F(Geschaeft, AlleGruendeInIhrerFolge) {
+  EXPECT_EQ(Handel::geschaeftsgruende({}), QStringList({KeinDatum, KeinProdukt, KeineMenge}));
+  Texte texte = geschaeft(Seite::Verkauf, "   ", "0");
+  texte["Datum"] = "31.02.2006";
+  EXPECT_EQ(Handel::geschaeftsgruende(texte), QStringList({KeinDatum, KeinProdukt, KeineMenge}));
+  EXPECT_EQ(Handel::geschaeftsgruende(geschaeft(Seite::Verkauf, "Wachs", "1")), QStringList());
+}
+
+TEST_F(Geschaeft, MengeNullUndMinusEinsWerdenAbgelehnt) {
+  for (const char* menge : {"0", "", "-1", " -1,5", "0,0", "kg"})
+    EXPECT_EQ(Handel::geschaeftsgruende(geschaeft(Seite::Verkauf, "Wachs", menge)),
+              QStringList(KeineMenge))
+        << menge;
+  for (const char* menge : {"0,001", "1000000", "1.5"})
+    EXPECT_EQ(Handel::geschaeftsgruende(geschaeft(Seite::Verkauf, "Wachs", menge)), QStringList())
+        << menge;
+}
+
+TEST_F(Lagerzeile, AlleGruendeInIhrerFolge) {
+  EXPECT_EQ(Handel::lagergruende({}), QStringList({KeinDatum, KeinProdukt, KeineLagermenge}));
+}
+
+TEST_F(Lagerzeile, BeideMengenGehenBeideNullNichtNegativeGehen) {
+  const auto gruende = [](const QString& zugang, const QString& abgang) {
+    return Handel::lagergruende(
+        {{"Datum", "01.05.2006"}, {"Produkt", "Raps"}, {"Zugang", zugang}, {"Abgang", abgang}});
+  };
+  EXPECT_EQ(gruende("5", "3"), QStringList());
+  EXPECT_EQ(gruende("5", "0"), QStringList());
+  EXPECT_EQ(gruende("", "3"), QStringList());
+  EXPECT_EQ(gruende("-5", "0"), QStringList());
+  EXPECT_EQ(gruende("0", "0"), QStringList(KeineLagermenge));
+  EXPECT_EQ(gruende("", ""), QStringList(KeineLagermenge));
+}
+
+// ---- deals ----
+
+TEST_F(Geschaeft, EinkaufSchreibtAlleFelder) {
+  Texte texte = geschaeft(Seite::Einkauf, " Gläser ", "1,239", "Imkerbedarf Süd", "B7");
+  texte["Datum"] = "1.5.06";
+  texte["Qualität"] = "500 g";
+  texte["Einheit"] = "St";
+  texte["Ausgaben"] = "24,5";
+  const qint64 id = Handel::geschaeftSpeichern(db(), Seite::Einkauf, texte, {});
+  EXPECT_EQ(
+      zeilen("select * from Einkauf"),
+      QStringList(QString("01.05.2006|Gläser|500 g|Imkerbedarf Süd|1,239|St|24,50|B7|%1").arg(id)));
+}
+
+TEST_F(Geschaeft, AendernSchreibtNurDieseZeile) {
+  const qint64 erste = verkaufe("Wachs", "1");
+  const qint64 zweite = verkaufe("Wachs", "2");
+  aendere(Seite::Verkauf, zweite, geschaeft(Seite::Verkauf, "Kerzen", "5"));
+  EXPECT_EQ(zeilen("select Produkt, Menge, ID from Verkauf order by ID"),
+            QStringList({QString("Wachs|1|%1").arg(erste), QString("Kerzen|5|%1").arg(zweite)}));
+}
+
+TEST_F(Geschaeft, EineMillionKommtGanzAn) {
+  verkaufe("Honig", "1000000");
+  EXPECT_EQ(wert("select Menge from Verkauf").toDouble(), 1e6);
+  EXPECT_EQ(wert("select Abgang from Honiglager").toDouble(), 1e6);
+}
+
+TEST_F(Geschaeft, ApostropheWerdenGravis) {
+  verkaufe("Honig 'D'", "1", "O'Neill", "A'1");
+  EXPECT_EQ(zeilen("select Produkt, Abnehmer, Charge from Verkauf"),
+            QStringList("Honig `D`|O`Neill|A`1"));
+  EXPECT_EQ(zeilen("select Produkt, Charge from Honiglager"), QStringList("Honig `D`|A`1"));
+  EXPECT_EQ(zeilen("select Kundenname from Kunden"), QStringList("O`Neill"));
+  verkaufe("Honig 'D'", "1", "O'Neill", "A'1");
+  EXPECT_EQ(anzahl("Kunden"), 1);
+}
+
+TEST_F(Geschaeft, EinundzwanzigZeichenSindEinFehlerUndSchreibenNichts) {
+  EXPECT_THROW(verkaufe("Honigbrot mit Walnuss", "1", "Meier"), Datenbankfehler);
+  EXPECT_EQ(anzahl("Verkauf") + anzahl("Kunden") + anzahl("Honiglager"), 0);
+}
+
+TEST_F(Geschaeft, EineVerschwundeneZeileKannNichtGeaendertWerden) {
+  const qint64 id = verkaufe("Honig", "1");
+  db().Execute("delete from Verkauf");
+  EXPECT_THROW(Handel::geschaeftSpeichern(db(), Seite::Verkauf,
+                                          geschaeft(Seite::Verkauf, "Honig", "2", "Meier"), id),
+               Datenbankfehler);
+  EXPECT_EQ(anzahl("Kunden"), 0);
+  EXPECT_EQ(zeilen("select Abgang from Honiglager"), QStringList("1"));
+}
+
+TEST_F(Geschaeft, WasVorEinemFehlerGeschriebenWurdeBleibt) {
+  db().Execute("drop table Honiglager");
+  EXPECT_THROW(verkaufe("Honig", "1", "Meier"), Datenbankfehler);
+  EXPECT_EQ(zeilen("select Produkt from Verkauf"), QStringList("Honig"));
+  EXPECT_EQ(zeilen("select Kundenname from Kunden"), QStringList("Meier"));
+}
+
+TEST_F(Geschaeft, VolleFestplatteVerwirftAllesUndSagtEs) {
+  Verbindung* verbindung = Verbindung::zu(TZ_Variablen::DatenbankPfad);
+  const QByteArray seiten = verbindung->steuere("pragma page_count");
+  verbindung->steuere("pragma max_page_count = " + seiten);
+  bool verworfen = false;
+  int gespeichert = 0;
+  while (!verworfen && gespeichert < 500) {
+    try {
+      verkaufe("Honig", "1", QString("Kunde mit langem Namen %1").arg(gespeichert), "C");
+      ++gespeichert;
+    } catch (const Datenbankfehler& fehler) {
+      verworfen = true;
+      EXPECT_EQ(fehler.art(), Datenbankfehler::Art::Voll);
+      EXPECT_TRUE(fehler.allesVerworfen());
+    }
+  }
+  ASSERT_TRUE(verworfen);
+  verbindung->steuere("pragma max_page_count = 1000000");
+  EXPECT_EQ(anzahl("Verkauf"), gespeichert);
+  EXPECT_EQ(anzahl("Kunden"), gespeichert);
+  EXPECT_EQ(anzahl("Honiglager"), gespeichert);
+}
+
+// ---- the other party ----
+
+TEST_F(Partner, UnbekannterAbnehmerWirdKundeMitLeerenFeldern) {
+  verkaufe("Wachs", "1", "  Meier, Anna ");
+  EXPECT_EQ(zeilen("select Kundenname, Lieferant, Firma, Strasse, PLZ, Ort, Kontoinhaber, Bank, "
+                   "BLZ, Konto, Telefon, FAX, Handy, Web, Mail, Bemerkung, Geburtsdatum from "
+                   "Kunden"),
+            QStringList("Meier, Anna|N" + QString("|").repeated(15) + "<null>"));
+}
+
+TEST_F(Partner, UnbekannterLieferantBekommtJ) {
+  kaufe("Gläser", "1", "Glashütte");
+  EXPECT_EQ(zeilen("select Kundenname, Lieferant from Kunden"), QStringList("Glashütte|J"));
+  EXPECT_EQ(pickliste(db(), Handel::geschaeftsfelder(Seite::Einkauf)[3]), QStringList("Glashütte"));
+  EXPECT_EQ(pickliste(db(), Handel::geschaeftsfelder(Seite::Verkauf)[3]), QStringList());
+}
+
+TEST_F(Partner, AbnehmerWirdAlsLieferantNichtZweimalAngelegt) {
+  verkaufe("Wachs", "1", "Meier");
+  kaufe("Gläser", "1", "Meier");
+  EXPECT_EQ(zeilen("select Kundenname, Lieferant from Kunden"), QStringList("Meier|N"));
+  EXPECT_EQ(pickliste(db(), Handel::geschaeftsfelder(Seite::Einkauf)[3]), QStringList());
+  EXPECT_EQ(pickliste(db(), Handel::geschaeftsfelder(Seite::Verkauf)[3]), QStringList("Meier"));
+}
+
+TEST_F(Partner, GrossUndKleinschreibungMachtKeinenZweiten) {
+  verkaufe("Wachs", "1", "Meier");
+  verkaufe("Wachs", "1", "MEIER");
+  EXPECT_EQ(zeilen("select Kundenname from Kunden"), QStringList("Meier"));
+  EXPECT_EQ(zeilen("select Abnehmer from Verkauf order by ID"), QStringList({"Meier", "MEIER"}));
+}
+
+TEST_F(Partner, LeererNameLegtNiemandenAn) {
+  verkaufe("Wachs", "1", "");
+  kaufe("Gläser", "1", "   ");
+  EXPECT_EQ(anzahl("Kunden"), 0);
+}
+
+// ---- movements ----
+
+TEST_F(Bewegung, VerkaufVonWaldhonigGehtAusDemLager) {
+  const qint64 id = verkaufe("Waldhonig", "12,5", "Meier", "A1");
+  EXPECT_EQ(bewegungen(), QStringList(QString("20.06.2006|Waldhonig|0|12,5|A1||%1").arg(id)));
+  EXPECT_TRUE(wert("select Abfülldatum from Honiglager").isNull());
+}
+
+TEST_F(Bewegung, EinkaufVonHonigGehtInsLager) {
+  const qint64 id = kaufe("Honig", "40");
+  EXPECT_EQ(bewegungen(), QStringList(QString("20.06.2006|Honig|40|0|||%1").arg(id)));
+}
+
+TEST_F(Bewegung, AendernErsetztSieUndBehaeltDasAbfuelldatum) {
+  const qint64 id = verkaufe("Waldhonig", "12,5", "Meier", "A1");
+  db().Execute("update Honiglager set Abfülldatum = ?, Bemerkung = 'alt'", {QDate(2006, 6, 1)});
+  Texte texte = geschaeft(Seite::Verkauf, "Sommerhonig", "10", "Meier", "A2");
+  texte["Datum"] = "21.06.2006";
+  aendere(Seite::Verkauf, id, texte);
+  EXPECT_EQ(bewegungen(), QStringList(QString("21.06.2006|Sommerhonig|0|10|A2||%1").arg(id)));
+  EXPECT_EQ(wert("select Abfülldatum from Honiglager").toDate(), QDate(2006, 6, 1));
+}
+
+TEST_F(Bewegung, GleicheNummerInBeidenTabellenZweiBewegungen) {
+  const qint64 verkauf = verkaufe("Honig", "3");
+  const qint64 einkauf = kaufe("Honig", "8");
+  ASSERT_EQ(verkauf, einkauf);
+  aendere(Seite::Verkauf, verkauf, geschaeft(Seite::Verkauf, "Honig", "4"));
+  EXPECT_EQ(zeilen("select Zugang, Abgang from Honiglager order by Abgang"),
+            QStringList({"8|0", "0|4"}));
+  Handel::bewegungLoeschen(db(), Seite::Einkauf, "20.06.2006", "Honig", einkauf);
+  EXPECT_EQ(zeilen("select Zugang, Abgang from Honiglager"), QStringList("0|4"));
+}
+
+TEST_F(Bewegung, WachsSchreibtKeine) {
+  verkaufe("Wachs", "3");
+  EXPECT_EQ(anzahl("Honiglager"), 0);
+}
+
+TEST_F(Bewegung, DasWortHonigZaehltUeberallUndInJederSchreibung) {
+  for (const char* produkt : {"Waldhonig", "Honig", "honigwein", "HONIG", "Met (Honigwein)"})
+    EXPECT_TRUE(Handel::istHonig(produkt)) << produkt;
+  for (const char* produkt : {"Wachs", "Hon ig", "", "Honi'g"})
+    EXPECT_FALSE(Handel::istHonig(produkt)) << produkt;
+}
+
+TEST_F(Bewegung, DieEinheitSpieltKeineRolle) {
+  Texte texte = geschaeft(Seite::Verkauf, "Honig", "500");
+  texte["Einheit"] = "g";
+  Handel::geschaeftSpeichern(db(), Seite::Verkauf, texte, {});
+  EXPECT_EQ(wert("select Abgang from Honiglager").toDouble(), 500);
+}
+
+TEST_F(Bewegung, MengeWieGetipptInDerBewegungAufZweiStellen) {
+  verkaufe("Honig", "1,239");
+  EXPECT_EQ(wert("select Menge from Verkauf").toDouble(), 1.239);
+  EXPECT_EQ(wert("select Abgang from Honiglager").toDouble(), 1.24);
+}
+
+TEST_F(Bewegung, AusHonigWirdKerzenUndDieAlteBleibt) {
+  const qint64 id = verkaufe("Honig", "3", "", "A1");
+  aendere(Seite::Verkauf, id, geschaeft(Seite::Verkauf, "Kerzen", "7"));
+  EXPECT_EQ(bewegungen(), QStringList(QString("20.06.2006|Honig|0|3|A1||%1").arg(id)));
+}
+
+TEST_F(Bewegung, AusKerzenWirdHonigUndEineNeueKommtDazu) {
+  const qint64 id = verkaufe("Kerzen", "3");
+  aendere(Seite::Verkauf, id, geschaeft(Seite::Verkauf, "Honig", "7"));
+  EXPECT_EQ(bewegungen(), QStringList(QString("20.06.2006|Honig|0|7|||%1").arg(id)));
+}
+
+TEST_F(Bewegung, NurDieErsteWirdErsetzt) {
+  const qint64 id = verkaufe("Honig", "3");
+  lager("Honig", 0, 2, "B", id);
+  aendere(Seite::Verkauf, id, geschaeft(Seite::Verkauf, "Honig", "4"));
+  EXPECT_EQ(zeilen("select Abgang from Honiglager order by ID"), QStringList({"2", "4"}));
+}
+
+TEST_F(Bewegung, ImLagerGeloeschtKommtSieBeimAendernNeu) {
+  const qint64 id = verkaufe("Honig", "3");
+  db().Execute("delete from Honiglager");
+  aendere(Seite::Verkauf, id, geschaeft(Seite::Verkauf, "Honig", "4"));
+  EXPECT_EQ(bewegungen(), QStringList(QString("20.06.2006|Honig|0|4|||%1").arg(id)));
+}
+
+TEST_F(Bewegung, BuchungenOhneGeschaeftBleibenUnberuehrt) {
+  lager("Honig", 0, 5, "A");  // typed in
+  lager("Honig", 7, 0, "A");  // a harvest
+  verkaufe("Honig", "3");
+  kaufe("Honig", "4");
+  EXPECT_EQ(anzahl("Honiglager"), 4);
+}
+
+// ---- deleting ----
+
+TEST_F(BewegungLoeschen, MitTagUndProduktWieGebucht) {
+  const qint64 id = verkaufe("Honig", "3");
+  Handel::bewegungLoeschen(db(), Seite::Verkauf, "20.06.2006", "Honig", id);
+  EXPECT_EQ(anzahl("Honiglager"), 0);
+}
+
+TEST_F(BewegungLoeschen, AndererTagOderAnderesProduktLaesstSieStehen) {
+  const qint64 id = verkaufe("Honig", "3");
+  Handel::bewegungLoeschen(db(), Seite::Verkauf, "21.06.2006", "Honig", id);
+  Handel::bewegungLoeschen(db(), Seite::Verkauf, "20.06.2006", "Kerzen", id);
+  EXPECT_EQ(anzahl("Honiglager"), 1);
+}
+
+TEST_F(BewegungLoeschen, KeinDatumWirdGesagtUndLoeschtNichts) {
+  const qint64 id = verkaufe("Honig", "3");
+  EXPECT_THROW(Handel::bewegungLoeschen(db(), Seite::Verkauf, "", "Honig", id), Datenbankfehler);
+  EXPECT_EQ(anzahl("Honiglager"), 1);
+}
+
+TEST_F(BewegungLoeschen, ApostrophImProdukt) {
+  const qint64 id = kaufe("Honig 'D'", "3");
+  Handel::bewegungLoeschen(db(), Seite::Einkauf, "20.06.2006", "Honig 'D'", id);
+  EXPECT_EQ(anzahl("Honiglager"), 0);
+}
+
+// ---- rows of the store ----
+
+TEST_F(Lagerzeile, NeuOhneGeschaeftGeaendertMitSeinem) {
+  Texte texte = vorgaben(Handel::lagerfelder());
+  texte["Produkt"] = "Raps";
+  texte["Zugang"] = "5";
+  texte["Abgang"] = "3";
+  texte["Abfülldatum"] = "31.02.2006";
+  speichern(db(), "Honiglager", Handel::lagerfelder(), texte, {}, {{"EVK_ID", 0}});
+  EXPECT_EQ(bewegungen(), QStringList("20.06.2006|Raps|5|3|||0"));
+  EXPECT_TRUE(wert("select Abfülldatum from Honiglager").isNull());
+  const qint64 id = lager("Honig", 0, 2, "B", 17);
+  texte["Abfülldatum"] = "01.06.2006";
+  speichern(db(), "Honiglager", Handel::lagerfelder(), texte, id);
+  EXPECT_EQ(bewegungen().last(), "20.06.2006|Raps|5|3|||17");
+  EXPECT_EQ(wert("select Abfülldatum from Honiglager where EVK_ID = 17").toDate(),
+            QDate(2006, 6, 1));
+}
+
+// ---- stock and sums ----
+
+TEST_F(Bestandsliste, JeProduktUndCharge) {
+  lager("Raps", 10, 0, "A1");
+  lager("Raps", 0, 2.5, "A1");
+  lager("Raps", 4, 0, "A2");
+  lager("Wald", 3, 1, "A1");
+  const Daten d = Handel::bestand(db());
+  QStringList spalten;
+  for (int i = 0; i < d->spalten(); ++i) spalten << d->spalte(i).name;
+  EXPECT_EQ(spalten, QStringList({"Produkt", "Charge", "Summe", "Anzahl", "Zugänge", "Abgänge"}));
+  QStringList zeilen;
+  for (int i = 0; i < d->zeilen(); ++i) {
+    QStringList zellen;
+    for (int j = 0; j < d->spalten(); ++j) zellen << d->anzeige(i, j);
+    zeilen << zellen.join("|");
+  }
+  zeilen.sort();
+  EXPECT_EQ(zeilen, QStringList({"Raps|A1|7,5|2|10|2,5", "Raps|A2|4|1|4|0", "Wald|A1|2|1|3|1"}));
+}
+
+TEST_F(Bestandsliste, LeereChargeIstEineGruppeFuerSichOhneChargeEineZweite) {
+  lager("Raps", 10, 0, "A1");
+  lager("Raps", 1, 0, QString(""));
+  lager("Raps", 2, 0, QString(""));
+  lager("Raps", 4, 0, QVariant());
+  const Daten d = Handel::bestand(db());
+  ASSERT_EQ(d->zeilen(), 3);
+  QStringList summen;
+  for (int i = 0; i < 3; ++i)
+    summen << (d->istNull(i, 1) ? "null" : d->anzeige(i, 1)) + "=" + d->anzeige(i, 2);
+  summen.sort();
+  EXPECT_EQ(summen, QStringList({"=3", "A1=10", "null=4"}));
+}
+
+TEST_F(Bestandsliste, OhneBuchungenLeer) { EXPECT_EQ(Handel::bestand(db())->zeilen(), 0); }
+
+TEST_F(Summenzeile, OhneGeschaefteDreimalNull) {
+  EXPECT_EQ(Handel::summenzeile(db()), "Einkauf: 0,00 €   Verkauf: 0,00 €   Summe: 0,00 €");
+}
+
+TEST_F(Summenzeile, VerkaufWenigerEinkauf) {
+  db().Execute("insert into Einkauf(Ausgaben) values (?)", {1500.5});
+  db().Execute("insert into Einkauf(Ausgaben) values (?)", {QVariant()});
+  db().Execute("insert into Verkauf(Einnahmen) values (?)", {200.25});
+  db().Execute("insert into Verkauf(Einnahmen) values (?)", {65.5});
+  EXPECT_EQ(Handel::summenzeile(db()),
+            "Einkauf: 1.500,50 €   Verkauf: 265,75 €   Summe: -1.234,75 €");
+}
+
+}  // namespace
