@@ -169,7 +169,8 @@ void bisHeuteErledigen(Database& db) {
 }
 
 bool unvollstaendig(const Standortauftrag& auftrag) {
-  return auftrag.termin.isEmpty() || auftrag.standort.isEmpty() || !IstDatum(auftrag.bis);
+  return TextLesen(auftrag.termin).isEmpty() || TextLesen(auftrag.standort).isEmpty() ||
+         !IstDatum(auftrag.bis);
 }
 
 int gefunden(Database& db, const Standortauftrag& auftrag) {
@@ -178,15 +179,15 @@ int gefunden(Database& db, const Standortauftrag& auftrag) {
           "select Datum, Termin, Standort, Volk_ID, Termine.ID from Termine, Bienenvolk where "
           "Datum <= ? and Bienenvolk.ID = Volk_ID and Erledigt = 'N' and Standort = ? and "
           "Termin = ?",
-          {DatumLesen(auftrag.bis), auftrag.standort, auftrag.termin})
+          {DatumLesen(auftrag.bis), TextLesen(auftrag.standort), TextLesen(auftrag.termin)})
       ->zeilen();
 }
 
 void amStandortErledigen(Database& db, const Standortauftrag& auftrag, const Daten& liste,
                          const std::vector<int>& ordnung, const Erledigung& erledigung) {
   const QDate bis = DatumLesen(auftrag.bis);
-  const QByteArray termin = auftrag.termin.toUtf8();
-  const QByteArray standort = auftrag.standort.toUtf8();
+  const QByteArray termin = TextLesen(auftrag.termin).toUtf8();
+  const QByteArray standort = TextLesen(auftrag.standort).toUtf8();
   db.Sammelschreiben([&] {
     for (const int zeile : ordnung) {
       if (vergleiche(liste->rohtext(zeile, Termin), termin) != 0 ||

@@ -42,7 +42,7 @@ void markierteErledigen(Database& db, const std::vector<qint64>& ids);
 // All up to today, whatever the list shows.
 void bisHeuteErledigen(Database& db);
 
-// All of a kind at a site up to a day.
+// All of a kind at a site up to a day; texts as typed, compared as they are stored.
 struct Standortauftrag {
   QString termin;
   QString standort;

@@ -53,17 +53,16 @@ Daten liste(Database& db, const Filter& filter) {
                 "Volk_ID = 0");
   anweisung += " and Datum >= ? and Datum <= ?";
   QVariantList werte = {DatumLesen(filter.von), DatumLesen(filter.bis)};
-  if (!filter.volknr.isEmpty()) {
-    const Daten volk =
-        db.Lesen("select Volknr, ID from Bienenvolk where Volknr = ?", {filter.volknr});
+  if (const QString nummer = TextLesen(filter.volknr); !nummer.isEmpty()) {
+    const Daten volk = db.Lesen("select Volknr, ID from Bienenvolk where Volknr = ?", {nummer});
     if (volk->zeilen() > 0) {
       anweisung += " and Volk_ID = ?";
       werte << volk->wert(0, 1);
     }
   }
-  if (!filter.termin.isEmpty()) {
+  if (const QString termin = TextLesen(filter.termin); !termin.isEmpty()) {
     anweisung += " and Termin = ?";
-    werte << filter.termin;
+    werte << termin;
   }
   if (!filter.erledigt.isEmpty()) {
     anweisung += " and Erledigt = ?";
@@ -76,11 +75,12 @@ Pruefung pruefen(Database& db, const Eingabe& eingabe) {
   Pruefung ergebnis;
   if (!IstDatum(eingabe.datum))
     ergebnis.gruende += "...das Datum des Termins angegeben werden muß." + CRLF;
-  if (eingabe.termin.trimmed().isEmpty())
+  if (TextLesen(eingabe.termin).isEmpty())
     ergebnis.gruende += "...die Terminart angegeben werden muß." + CRLF;
-  if (eingabe.volknr.trimmed().isEmpty()) return ergebnis;
-  const Daten volk = db.Lesen("select ID from Bienenvolk where Volknr = ? and Akt_im_Bestand = 'X'",
-                              {eingabe.volknr});
+  const QString volknr = TextLesen(eingabe.volknr);
+  if (volknr.isEmpty()) return ergebnis;
+  const Daten volk =
+      db.Lesen("select ID from Bienenvolk where Volknr = ? and Akt_im_Bestand = 'X'", {volknr});
   if (volk->zeilen() > 0)
     ergebnis.volkId = volk->ganzzahl(0, 0);
   else

@@ -11,7 +11,8 @@ namespace Terminverwaltung {
 
 enum class Ansicht { Allgemein, Volkabhaengig };  // Volk_ID 0, and the colonies' appointments
 
-// What the list is to show; texts as the user typed them, empty for "all".
+// What the list is to show; texts as the user typed them (they are compared as they are stored,
+// trimmed and with backticks), empty for "all".
 struct Filter {
   Ansicht ansicht = Ansicht::Allgemein;
   QString volknr;
@@ -32,8 +33,10 @@ struct Eingabe {
   QString datum;
   QString termin;
   QString erledigt;
-  QString volknr;    // empty: not tied to a colony
+  QString volknr;    // empty or blank: not tied to a colony
   QString standort;  // not empty: for all colonies of the site
+
+  bool operator==(const Eingabe&) const = default;
 };
 
 struct Pruefung {

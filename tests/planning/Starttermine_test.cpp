@@ -36,6 +36,14 @@ TEST_F(StarttermineTest, GrenzeIstHeutePlusTageUndGehoertDazu) {
   EXPECT_EQ(zeilen(liste(db())), "04.07.2006|am Grenztag|||");
 }
 
+TEST_F(StarttermineTest, NullTageZeigenVersaeumtesUndHeute) {
+  TZ_Variablen::EinstellungenZahl[17] = 0;
+  termin(QDate(2003, 1, 1), "vor Jahren");
+  termin(tag(6, 20), "heute");
+  termin(tag(6, 21), "morgen");
+  EXPECT_EQ(zeilen(liste(db())), "01.01.2003|vor Jahren|||; 20.06.2006|heute|||");
+}
+
 TEST_F(StarttermineTest, ErledigteUndVerwaisteZeilenKommenNicht) {
   const qint64 volk = neuesVolk("1", "X", "Hof");
   termin(tag(6, 1), "erledigt", volk, "J");
@@ -156,6 +164,40 @@ TEST_F(StarttermineTest, LeeresEndeDesZeitraumsGibtKeineReihe) {
   EXPECT_EQ(termine(), "20.06. A J 7");
 }
 
+// The period ends in this year, whatever the year of the work.
+TEST_F(StarttermineTest, TagDerArbeitImVorjahrFuehrtDieReiheBisZumEndeInDiesemJahr) {
+  const qint64 id = termin(tag(1, 5), "A", 7);
+  option("A", "01.01", 14, "31.01");
+  TerminErledigen(db(), id, "J", "A", {"28.12.2005", true});
+  EXPECT_EQ(termine(), "28.12. A J 7; 11.01. A N 7; 25.01. A N 7");
+  EXPECT_EQ(anzahl("Termine", "Datum >= #01/01/2006# and Erledigt = 'N'"), 2);
+}
+
+TEST_F(StarttermineTest, TagDerArbeitImNaechstenJahrGibtKeineReihe) {
+  const qint64 id = termin(tag(6, 15), "A", 7);
+  termin(tag(6, 29), "A", 7);
+  option("A", "01.01", 14, "31.12");
+  TerminErledigen(db(), id, "J", "A", {"02.01.2007", true});
+  EXPECT_EQ(termine(), "02.01. A J 7");
+}
+
+TEST_F(StarttermineTest, ZeitraumUeberNeujahrEndetMitSeinemEndeInDiesemJahr) {
+  option("A", "01.10", 14, "28.02");
+  const qint64 januar = termin(tag(1, 8), "A", 7);
+  TerminErledigen(db(), januar, "J", "A", {"10.01.2006", true});
+  EXPECT_EQ(termine(), "10.01. A J 7; 24.01. A N 7; 07.02. A N 7; 21.02. A N 7");
+  const qint64 november = termin(tag(11, 20), "A", 8);
+  TerminErledigen(db(), november, "J", "A", {"20.11.2006", true});
+  EXPECT_EQ(termine("Volk_ID = 8"), "20.11. A J 8");
+}
+
+TEST_F(StarttermineTest, EndeAm29FebruarGiltAuchImJahrOhneDiesenTag) {
+  const qint64 id = termin(tag(1, 20), "A", 7);
+  option("A", "01.01", 14, "29.02");
+  TerminErledigen(db(), id, "J", "A", {"20.01.2006", true});
+  EXPECT_EQ(termine("Erledigt = 'N'"), "03.02. A N 7; 17.02. A N 7");
+}
+
 TEST_F(StarttermineTest, AllgemeinerTerminMitReiheLoeschtSeineOffenenBruederOhneVolk) {
   const qint64 id = termin(tag(6, 15), "Schau");
   termin(tag(6, 29), "Schau");
@@ -269,11 +311,44 @@ TEST_F(StarttermineTest, StandortPasstDieReiheJedesVolkesAn) {
             "20.06. A J " + std::to_string(b) + "; 04.07. A N " + std::to_string(b));
 }
 
-TEST_F(StarttermineTest, StandortMitUngueltigemDatumBehaeltDieTage) {
+TEST_F(StarttermineTest, StandortMitUngueltigemDatumBehaeltDieTageUndDieReihe) {
   const qint64 volk = neuesVolk("1", "X", "Hof");
+  option("A", "01.06", 14, "31.08");
+  for (const char* datum : {"", "31.02.2006"}) {
+    db().Execute("delete from Termine");
+    termin(tag(6, 15), "A", volk);
+    termin(tag(7, 20), "A", volk);
+    amStandort("A", "Hof", "30.06.2006", {datum, true});
+    EXPECT_EQ(termine(),
+              "15.06. A J " + std::to_string(volk) + "; 20.07. A N " + std::to_string(volk));
+  }
+}
+
+TEST_F(StarttermineTest, StandortFindetWasMitBacktickGespeichertIst) {
+  const qint64 volk = neuesVolk("1", "X", "Bauer`s Hof");
+  termin(tag(6, 15), "Rund um`s Volk", volk);
+  EXPECT_EQ(gefunden(db(), {"Rund um's Volk", "Bauer's Hof", "30.06.2006"}), 1);
+  amStandort(" Rund um's Volk", "Bauer's Hof ", "30.06.2006", {"20.06.2006", false});
+  EXPECT_EQ(termine(), "20.06. Rund um`s Volk J " + std::to_string(volk));
+  EXPECT_TRUE(unvollstaendig({" ", "Hof", "30.06.2006"}));
+  EXPECT_TRUE(unvollstaendig({"A", " ", "30.06.2006"}));
+}
+
+TEST_F(StarttermineTest, StandortAchtetNichtAufGrossUndKlein) {
+  const qint64 volk = neuesVolk("1", "X", "Hof");
+  termin(tag(6, 15), "Durchsicht", volk);
+  EXPECT_EQ(gefunden(db(), {"durchsicht", "HOF", "30.06.2006"}), 1);
+  amStandort("durchsicht", "HOF", "30.06.2006", {"20.06.2006", false});
+  EXPECT_EQ(termine(), "20.06. Durchsicht J " + std::to_string(volk));
+}
+
+TEST_F(StarttermineTest, StandortLaesstAllgemeineTermineDerselbenArtOffen) {
+  const qint64 volk = neuesVolk("1", "X", "");
+  termin(tag(6, 15), "A");
   termin(tag(6, 15), "A", volk);
-  amStandort("A", "Hof", "30.06.2006", {"", true});
-  EXPECT_EQ(termine(), "15.06. A J " + std::to_string(volk));
+  termin(tag(6, 15), "A", neuesVolk("2", "X", "Hof"));
+  amStandort("A", "Hof", "30.06.2006", {"20.06.2006", false});
+  EXPECT_EQ(anzahl("Termine", "Erledigt = 'N'"), 2);
 }
 
 TEST_F(StarttermineTest, FragenUndHinweisNennenZahlUndTag) {

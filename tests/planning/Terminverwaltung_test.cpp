@@ -109,11 +109,20 @@ TEST_F(TerminverwaltungTest, FilterNachTerminartUndErledigt) {
   EXPECT_EQ(texte(f), "A; B");
 }
 
-TEST_F(TerminverwaltungTest, FilterNachTerminartMitApostroph) {
-  termin(tag(6, 21), "Rund um's Volk");
+TEST_F(TerminverwaltungTest, FilterNachTerminartMitApostrophFindetWasMitBacktickGespeichertIst) {
+  speichern(db(), eingabe("21.06.2006", "Rund um's Volk"), 0);
   Filter f = filter();
   f.termin = "Rund um's Volk";
-  EXPECT_EQ(texte(f), "Rund um's Volk");
+  EXPECT_EQ(texte(f), "Rund um`s Volk");
+  f.termin = " Rund um`s Volk ";
+  EXPECT_EQ(texte(f), "Rund um`s Volk");
+}
+
+TEST_F(TerminverwaltungTest, BlankImFilterSchraenktNichtEin) {
+  termin(tag(6, 21), "Schau");
+  Filter f = filter();
+  f.termin = " ";
+  EXPECT_EQ(texte(f), "Schau");
 }
 
 TEST_F(TerminverwaltungTest, ListeIstNachDatumGeordnet) {
@@ -160,6 +169,18 @@ TEST_F(TerminverwaltungTest, LeereVolknummerIstVolkNullUndEineNummerDasVolkImBes
   EXPECT_EQ(pruefen(db(), eingabe()).volkId, 0);
   EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "4")).volkId, volk);
   EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "4")).gruende, "");
+}
+
+TEST_F(TerminverwaltungTest, BlankAlsVolknummerIstEinAllgemeinerTermin) {
+  neuesVolk("");
+  const Pruefung pruefung = pruefen(db(), eingabe("21.06.2006", "Schau", " "));
+  EXPECT_EQ(pruefung.gruende, "");
+  EXPECT_EQ(pruefung.volkId, 0);
+}
+
+TEST_F(TerminverwaltungTest, VolknummerWirdGesuchtWieSieGespeichertIst) {
+  const qint64 volk = neuesVolk("7`a");
+  EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", " 7'a")).volkId, volk);
 }
 
 TEST_F(TerminverwaltungTest, GleicherTextAmSelbenTagBeimSelbenVolkExistiert) {
@@ -229,6 +250,12 @@ TEST_F(TerminverwaltungTest, ZuLangerTextAmStandortIstEinFehlerUndSchreibtNichts
   e.standort = "Heide";
   EXPECT_THROW(amStandortEintragen(db(), e), Datenbankfehler);
   EXPECT_EQ(anzahl("Termine"), 0);
+}
+
+TEST_F(TerminverwaltungTest, StandortTraegtDasKennzeichenUndDenTextWieBeimEinzelnenEin) {
+  const qint64 a = neuesVolk("1", "X", "Heide");
+  amStandortEintragen(db(), {"21.06.2006", " Rund um's Volk ", "J", {}, "Heide"});
+  EXPECT_EQ(termine(), "21.06. Rund um`s Volk J " + std::to_string(a));
 }
 
 TEST_F(TerminverwaltungTest, StandortFrageNenntDenStandort) {

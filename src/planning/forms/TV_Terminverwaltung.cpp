@@ -1,11 +1,7 @@
 #include "planning/forms/TV_Terminverwaltung.h"
 
 #include <QEvent>
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include "core/globals.h"
@@ -21,27 +17,6 @@ using Terminverwaltung::Ansicht;
 using TZ_Variablen::HeuteText;
 
 namespace {
-
-enum Slot : size_t {
-  Datum,
-  Termin,
-  Erledigt,
-  NurVolk,
-  NurTermin,
-  NurErledigt,
-  Von,
-  Bis,
-  Volk,
-  InTagen,
-  Standort
-};
-
-QPushButton* knopf(const QString& text, const QString& name) {
-  auto* k = new QPushButton(text);
-  k->setObjectName(name);
-  k->setAutoDefault(false);
-  return k;
-}
 
 Eingabefeld::Beschreibung beschreibung(Eingabefeld::Art art, int maxLaenge = 0,
                                        const QString& ersterText = {},
@@ -67,133 +42,6 @@ TV_Terminverwaltung::TV_Terminverwaltung(QWidget* oeffner)
     : Formular("TV_Terminverwaltung", "Terminverwaltung", oeffner) {
   aufbauen();
   verbinden();
-}
-
-void TV_Terminverwaltung::aufbauen() {
-  for (size_t i = 0; i < sevt.size(); ++i) {
-    sevt[i] = new Eingabefeld;
-    sevt[i]->setObjectName("sevt_" + QString::number(i));
-  }
-  litermine = new Grid;
-  litermine->setObjectName("litermine");
-  litermine->setAccessibleName("Termine");
-  litermine->setLayoutSchluessel("tv_terminverwaltung_litermine");
-  for (const char* spalte : {"Volk_ID", "ID"}) litermine->setSpalteVerborgen(spalte, true);
-  litermine->setMinimumHeight(litermine->fontMetrics().height() * 8);
-
-  auto* seite = new QVBoxLayout(this);
-  seite->addWidget(filterBauen());
-  seite->addWidget(litermine, 1);
-  seite->addWidget(terminBauen());
-  seite->addWidget(fussBauen());
-  resize(sizeHint().expandedTo(QSize(820, 600)));
-}
-
-void TV_Terminverwaltung::setzen(QGridLayout* gitter, int zeile, int spalte, size_t index,
-                                 const QString& titel) {
-  gitter->addWidget(beschriften(titel, sevt[index]), zeile, spalte);
-  gitter->addWidget(sevt[index], zeile, spalte + 1);
-}
-
-QWidget* TV_Terminverwaltung::filterBauen() {
-  const QStringList ansichten = {"Allgemeine Termine", "Volkabhängige Termine"};
-  auto* wahl = new QHBoxLayout;
-  for (size_t i = 0; i < opti.size(); ++i) {
-    opti[i] = new QRadioButton(ansichten.at(static_cast<qsizetype>(i)));
-    opti[i]->setObjectName("opti_" + QString::number(i));
-    wahl->addWidget(opti[i]);
-  }
-  wahl->addStretch(1);
-
-  auto* rahmen = new QGroupBox("Termine anzeigen, eingeschränkt auf...");
-  auto* gitter = new QGridLayout(rahmen);
-  gitter->addLayout(wahl, 0, 0, 1, 4);
-  setzen(gitter, 1, 0, NurVolk, "...die Volknummer");
-  setzen(gitter, 2, 0, NurTermin, "...die Terminart");
-  setzen(gitter, 3, 0, NurErledigt, "...den Erledigungs-Status");
-  setzen(gitter, 1, 2, Von, "...Termindatum vom");
-  setzen(gitter, 2, 2, Bis, "...Termindatum bis");
-  gitter->setColumnStretch(1, 3);
-  gitter->setColumnStretch(3, 2);
-  return rahmen;
-}
-
-QWidget* TV_Terminverwaltung::terminBauen() {
-  auto* rahmen = new QGroupBox("Termin");
-  auto* gitter = new QGridLayout(rahmen);
-  setzen(gitter, 0, 0, Datum, "Datum");
-  setzen(gitter, 1, 0, InTagen, "Heute in...");
-  setzen(gitter, 2, 0, Erledigt, "Erledigt (J/N)");
-  setzen(gitter, 0, 2, Termin, "Termin");
-  setzen(gitter, 1, 2, Volk, "Volknummer");
-  setzen(gitter, 2, 2, Standort, "oder alle Völker am Standort");
-  gitter->addWidget(knoepfeBauen(), 3, 0, 1, 4);
-  gitter->setColumnStretch(1, 2);
-  gitter->setColumnStretch(3, 3);
-  QWidget* vorher = nullptr;
-  for (const size_t i : {Datum, InTagen, Termin, Erledigt, Volk, Standort}) {
-    if (vorher != nullptr) setTabOrder(vorher, sevt[i]);
-    vorher = sevt[i];
-  }
-  return rahmen;
-}
-
-QWidget* TV_Terminverwaltung::knoepfeBauen() {
-  neu[0] = knopf("&Neu", "neu_0");
-  neu[0]->setDefault(true);
-  neu[1] = knopf("&Ändern", "neu_1");
-  löschen = knopf("&Löschen", QString("löschen"));
-  lschalleerledigte = knopf("Alle als erledigt markierte Termine löschen", "lschalleerledigte");
-  auto* leiste = new QWidget;
-  auto* zeile = new QHBoxLayout(leiste);
-  zeile->setContentsMargins(0, 0, 0, 0);
-  for (QPushButton* k : {neu[0], neu[1], löschen}) zeile->addWidget(k);
-  zeile->addStretch(1);
-  zeile->addWidget(lschalleerledigte);
-  return leiste;
-}
-
-QWidget* TV_Terminverwaltung::fussBauen() {
-  ok = knopf("Aktuelle &offene Termine", "ok");
-  hilfe = knopf("&Hilfe", "hilfe");
-  schließen = knopf("&Schließen", QString("schließen"));
-  auto* leiste = new QWidget;
-  auto* zeile = new QHBoxLayout(leiste);
-  zeile->setContentsMargins(0, 0, 0, 0);
-  zeile->addWidget(ok);
-  zeile->addStretch(1);
-  zeile->addWidget(hilfe);
-  zeile->addWidget(schließen);
-  return leiste;
-}
-
-void TV_Terminverwaltung::verbinden() {
-  Ereignis::wenn(litermine, &Grid::zeileGewechselt, this, [this](int z) { zeileZeigen(z); });
-  Ereignis::wenn(litermine, &Grid::zeileAngeklickt, this, [this](int z) { zeileZeigen(z); });
-  Ereignis::wenn(litermine, &Grid::zeileDoppelgeklickt, this, [this](int zeile) {
-    zeileZeigen(zeile);
-    sevt[Erledigt]->setInhalt("J");
-    speichern(false);
-  });
-  Ereignis::wenn(sevt[InTagen], &Eingabefeld::inhaltGeaendert, this, [this] { tageGeaendert(); });
-  Ereignis::wenn(sevt[Datum], &Eingabefeld::inhaltGeaendert, this, [this] { datumGeaendert(); });
-  Ereignis::wenn(neu[0], &QPushButton::clicked, this, [this] { speichern(true); });
-  Ereignis::wenn(neu[1], &QPushButton::clicked, this, [this] { speichern(false); });
-  Ereignis::wenn(löschen, &QPushButton::clicked, this, [this] { loeschen(); });
-  Ereignis::wenn(lschalleerledigte, &QPushButton::clicked, this, [this] { erledigteLoeschen(); });
-  Ereignis::wenn(ok, &QPushButton::clicked, this, [this] { aktuelleTermine(); });
-  Ereignis::wenn(hilfe, &QPushButton::clicked, this, [this] { hilfeZeigen(); });
-  Ereignis::wenn(schließen, &QPushButton::clicked, this, [this] { accept(); });
-  filterVerbinden();
-}
-
-void TV_Terminverwaltung::filterVerbinden() {
-  for (QRadioButton* o : opti)
-    Ereignis::wenn(o, &QRadioButton::clicked, this, [this] { listeLesen(); });
-  for (size_t i = NurVolk; i <= Bis; ++i) {
-    sevt[i]->installEventFilter(this);
-    Ereignis::wenn(sevt[i], &Eingabefeld::verlassen, this, [this, i] { filterPruefen(i); });
-  }
 }
 
 // Keeps the filter's text for the comparison on leaving.
@@ -225,6 +73,7 @@ void TV_Terminverwaltung::zeigen() {
 void TV_Terminverwaltung::laden() {
   m_db = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
   einrichten();
+  litermine->sortiere(-1, Qt::AscendingOrder);
   listeLesen();
   sevt[Datum]->setFocus();
 }
@@ -259,11 +108,11 @@ void TV_Terminverwaltung::listenFuellen() {
   for (const size_t i : {NurTermin, Termin}) sevt[i]->setListe(arten);
 }
 
-// The flag follows the row that is shown; without one it begins anew.
+// The flag begins anew, whatever the row has: else the next new appointment would be entered as
+// done when the one before was.
 void TV_Terminverwaltung::eingabenSetzen() {
-  const int zeile = litermine->aktuelleZeile();
   if (sevt[Datum]->inhalt().isEmpty()) sevt[Datum]->setInhalt(HeuteText);
-  sevt[Erledigt]->setInhalt(zeile < 0 ? "N" : litermine->zelle(zeile, "Erledigt"));
+  sevt[Erledigt]->setInhalt("N");
   sevt[Standort]->clear();
   listenFuellen();
 }
@@ -274,6 +123,7 @@ void TV_Terminverwaltung::filterPruefen(size_t index) {
   listeLesen();
 }
 
+// A sort that the user has chosen stays, where the view has that column.
 void TV_Terminverwaltung::listeLesen() {
   const Ereignis::Sanduhr sanduhr;
   Terminverwaltung::Filter filter;
@@ -286,16 +136,29 @@ void TV_Terminverwaltung::listeLesen() {
   Terminverwaltung::vorgaben(filter);
   if (filter.von != sevt[Von]->inhalt()) sevt[Von]->setInhalt(filter.von);
   if (filter.bis != sevt[Bis]->inhalt()) sevt[Bis]->setInhalt(filter.bis);
+  const QString spalte = litermine->spaltenName(litermine->sortierSpalte());
+  const Qt::SortOrder richtung = litermine->sortierRichtung();
   litermine->setDaten(Terminverwaltung::liste(m_db, filter));
+  if (!spalte.isEmpty()) litermine->sortiere(litermine->spaltenNummer(spalte), richtung);
+}
+
+// What the row puts into the inputs.
+Terminverwaltung::Eingabe TV_Terminverwaltung::zeileneingabe(int zeile) {
+  const qint64 volkId = litermine->wert(zeile, "Volk_ID").toLongLong();
+  return {litermine->zelle(zeile, "Datum"),
+          litermine->zelle(zeile, "Termin"),
+          litermine->zelle(zeile, "Erledigt"),
+          Terminverwaltung::volknummer(m_db, volkId),
+          {}};
 }
 
 void TV_Terminverwaltung::zeileZeigen(int zeile) {
-  if (zeile < 0) return;
-  sevt[Datum]->setInhalt(litermine->zelle(zeile, "Datum"));
-  sevt[Termin]->setInhalt(litermine->zelle(zeile, "Termin"));
-  sevt[Erledigt]->setInhalt(litermine->zelle(zeile, "Erledigt"));
-  sevt[Volk]->setInhalt(
-      Terminverwaltung::volknummer(m_db, litermine->wert(zeile, "Volk_ID").toLongLong()));
+  if (zeile < 0 || m_eingabenBehalten) return;
+  const Terminverwaltung::Eingabe daten = zeileneingabe(zeile);
+  sevt[Datum]->setInhalt(daten.datum);
+  sevt[Termin]->setInhalt(daten.termin);
+  sevt[Erledigt]->setInhalt(daten.erledigt);
+  sevt[Volk]->setInhalt(daten.volknr);
 }
 
 void TV_Terminverwaltung::tageGeaendert() {
@@ -313,6 +176,10 @@ void TV_Terminverwaltung::datumGeaendert() {
   m_abgleich = true;
   sevt[InTagen]->setInhalt(Terminverwaltung::tageBis(sevt[Datum]->inhalt()));
   m_abgleich = false;
+}
+
+void TV_Terminverwaltung::aktuellSetzen(qint64 id) {
+  litermine->setAktuelleZeile(litermine->findeZeile("ID = " + QString::number(id)));
 }
 
 qint64 TV_Terminverwaltung::id(int zeile) const {
@@ -344,7 +211,7 @@ void TV_Terminverwaltung::speichern(bool neuerTermin) {
                             ? Terminverwaltung::amStandortEintragen(m_db, daten)
                             : Terminverwaltung::speichern(m_db, daten, pruefung.volkId, alt);
   listeLesen();
-  litermine->setAktuelleZeile(litermine->findeZeile("ID = " + QString::number(neueId)));
+  aktuellSetzen(neueId);
   Tastenton();
   eingabenSetzen();
 }
@@ -369,14 +236,18 @@ void TV_Terminverwaltung::erledigteLoeschen() {
   eingabenSetzen();
 }
 
-// What was closed there shows here at once.
+// What was closed there shows here at once. Inputs that no longer are the row's have been typed in
+// and stay.
 void TV_Terminverwaltung::aktuelleTermine() {
-  TV_Starttermine(this).zeigen();
   const int zeile = litermine->aktuelleZeile();
   const qint64 vorher = zeile < 0 ? 0 : id(zeile);
+  const bool getippt = zeile >= 0 && eingabe() != zeileneingabe(zeile);
+  TV_Starttermine(this).zeigen();
   listeLesen();
-  if (vorher != 0)
-    litermine->setAktuelleZeile(litermine->findeZeile("ID = " + QString::number(vorher)));
+  if (vorher == 0) return;
+  m_eingabenBehalten = getippt;
+  aktuellSetzen(vorher);
+  m_eingabenBehalten = false;
 }
 
 void TV_Terminverwaltung::done(int ergebnis) {

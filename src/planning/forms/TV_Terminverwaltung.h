@@ -29,6 +29,20 @@ class TV_Terminverwaltung : public Formular {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  enum Slot : size_t {
+    Datum,
+    Termin,
+    Erledigt,
+    NurVolk,
+    NurTermin,
+    NurErledigt,
+    Von,
+    Bis,
+    Volk,
+    InTagen,
+    Standort
+  };
+
   void aufbauen();
   QWidget* filterBauen();
   QWidget* terminBauen();
@@ -50,14 +64,17 @@ class TV_Terminverwaltung : public Formular {
   void loeschen();
   void erledigteLoeschen();
   void aktuelleTermine();
+  void aktuellSetzen(qint64 id);
   qint64 id(int zeile) const;
   Terminverwaltung::Eingabe eingabe() const;
+  Terminverwaltung::Eingabe zeileneingabe(int zeile);
 
   Database m_db;
   std::array<QRadioButton*, 2> opti{};
   std::array<Eingabefeld*, 11> sevt{};
   std::array<QString, 11> m_vorher;  // a filter's text when the focus came
   bool m_abgleich = false;           // date and days are being brought into line
+  bool m_eingabenBehalten = false;   // a row becomes current without being shown
   Grid* litermine = nullptr;
   std::array<QPushButton*, 2> neu{};
   QPushButton* löschen = nullptr;

@@ -1,6 +1,7 @@
 #include "planning/forms/TV_Terminverwaltung.h"
 
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -132,6 +133,73 @@ TEST_F(TVTerminverwaltung, LeeresVomDatumWirdBeimNaechstenLesenGefuellt) {
   EXPECT_EQ(inhalt(6), "13.06.2006");
 }
 
+TEST_F(TVTerminverwaltung, LeeresBisDatumWirdBeimNaechstenLesenGefuellt) {
+  oeffne();
+  tippe(7, "");
+  feld(0)->setFocus();
+  EXPECT_EQ(inhalt(7), "04.07.2006");
+  EXPECT_EQ(inhalt(6), "13.06.2006");
+  EXPECT_EQ(spalte("Termin"), "Schau Steuer");
+}
+
+TEST_F(TVTerminverwaltung, FilterNachVolknummerInDerVolkansicht) {
+  const qint64 anderes = neuesVolk("9", "X", "Hof");
+  termin(tag(6, 24), "Zarge", anderes);
+  oeffne();
+  volkansicht();
+  EXPECT_EQ(spalte("Volknr"), "7 9");
+  feld(3)->setFocus();
+  QTest::keyClicks(feld(3), "9");
+  feld(0)->setFocus();
+  EXPECT_EQ(spalte("Termin"), "Zarge");
+}
+
+TEST_F(TVTerminverwaltung, FilterNachTerminartMitApostroph) {
+  oeffne();
+  tippe(1, "Rund um's Volk");
+  neu();
+  tippe(4, "Rund um's Volk");
+  feld(0)->setFocus();
+  EXPECT_EQ(spalte("Termin"), "Rund um`s Volk");
+}
+
+TEST_F(TVTerminverwaltung, FilterLaesstGetipptesStehen) {
+  oeffne();
+  klickeZeile(0);
+  tippe(1, "halb getip");
+  tippe(4, "Steuer");
+  feld(0)->setFocus();
+  volkansicht();
+  EXPECT_EQ(inhalt(1), "halb getip");
+  EXPECT_EQ(inhalt(0), "21.06.2006");
+}
+
+TEST_F(TVTerminverwaltung, SortierungPerKopfBleibtBeimNeulesen) {
+  termin(tag(6, 24), "Ausflug");
+  oeffne();
+  auto* kopf = li()->horizontalHeader();
+  const int stelle = kopf->sectionViewportPosition(li()->spaltenNummer("Termin")) + 5;
+  QTest::mouseClick(kopf->viewport(), Qt::LeftButton, {}, QPoint(stelle, kopf->height() / 2));
+  ASSERT_EQ(spalte("Termin"), "Ausflug Schau Steuer");
+  tippe(1, "Markt");
+  neu();
+  EXPECT_EQ(spalte("Termin"), "Ausflug Markt Schau Steuer");
+  EXPECT_EQ(li()->aktuelleZeile(), 1);
+  form->close();
+  form->laden();
+  EXPECT_EQ(spalte("Datum"), "20.06.2006 21.06.2006 22.06.2006 24.06.2006");
+}
+
+// The general view has no such column.
+TEST_F(TVTerminverwaltung, SortierungNachVolknummerEndetInDerAllgemeinenAnsicht) {
+  oeffne();
+  volkansicht();
+  li()->sortiere(li()->spaltenNummer("Volknr"), Qt::DescendingOrder);
+  klicke("opti_0");
+  EXPECT_EQ(li()->sortierSpalte(), -1);
+  EXPECT_EQ(spalte("Termin"), "Schau Steuer");
+}
+
 TEST_F(TVTerminverwaltung, FilterNachErledigungsStatus) {
   oeffne();
   feld(5)->setFocus();
@@ -197,6 +265,74 @@ TEST_F(TVTerminverwaltung, NeuerTerminFuerEinVolk) {
   EXPECT_EQ(termine("Termin = 'Zarge'"), "20.06. Zarge N " + std::to_string(volk));
 }
 
+TEST_F(TVTerminverwaltung, BlankAlsVolknummerIstEinAllgemeinerTermin) {
+  oeffne();
+  tippe(1, "Markt");
+  tippe(8, " ");
+  neu();
+  EXPECT_EQ(termine("Termin = 'Markt'"), "20.06. Markt N 0");
+}
+
+// Else the next new appointment would be entered as done.
+TEST_F(TVTerminverwaltung, ErledigtStehtNachJedemSpeichernWiederAufN) {
+  oeffne();
+  tippe(1, "Markt");
+  feld(2)->setFocus();
+  QTest::keyClicks(feld(2), "J");
+  ASSERT_EQ(inhalt(2), "J");
+  neu();
+  EXPECT_EQ(termine("Termin = 'Markt'"), "20.06. Markt J 0");
+  EXPECT_EQ(inhalt(2), "N");
+  doppelklick(1);
+  EXPECT_EQ(termine("Termin = 'Schau'"), "21.06. Schau J 0");
+  EXPECT_EQ(inhalt(2), "N");
+  klickeZeile(1);
+  EXPECT_EQ(inhalt(2), "J");
+}
+
+TEST_F(TVTerminverwaltung, LeeresDatumWirdNachDemLoeschenDerErledigtenHeute) {
+  oeffne();
+  klickeZeile(1);
+  tippe(0, "");
+  feld(10)->setFocus();
+  QTest::keyClicks(feld(10), "H");
+  ASSERT_EQ(inhalt(10), "Heide");
+  ASSERT_EQ(inhalt(2), "J");
+  boxen.frageMit("Sollen wirklich alle als erledigt markierte Termine", true);
+  klicke("lschalleerledigte");
+  EXPECT_EQ(inhalt(0), "20.06.2006");
+  EXPECT_EQ(inhalt(2), "N");
+  EXPECT_EQ(inhalt(10), "");
+  EXPECT_EQ(feld(1)->liste(), QStringList({"Durchsicht", "Fest", "Schau"}));
+}
+
+TEST_F(TVTerminverwaltung, ErstKommenDieGruendeDannDieZeile) {
+  oeffne();
+  boxen.hinweis(
+      "Die Daten werden nicht gespeichert, weil...\n\n"
+      "...die Terminart angegeben werden muß.\n");
+  aendern();
+}
+
+TEST_F(TVTerminverwaltung, ErstKommtDieZeileDannDerDoppelteTermin) {
+  oeffne();
+  tippe(0, "21.06.2006");
+  tippe(1, "Schau");
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!");
+  aendern();
+}
+
+TEST_F(TVTerminverwaltung, ErstKommtDerDoppelteTerminDannDieFrageNachDemStandort) {
+  oeffne();
+  klickeZeile(0);
+  feld(10)->setFocus();
+  QTest::keyClicks(feld(10), "H");
+  boxen.hinweis("Dieser Termin existiert bereits.");
+  neu();
+  EXPECT_EQ(anzahl("Termine"), 4);
+  EXPECT_EQ(inhalt(10), "Heide");
+}
+
 TEST_F(TVTerminverwaltung, AlleGruendeStehenInEinemHinweis) {
   oeffne();
   tippe(0, "31.02.2006");
@@ -225,6 +361,36 @@ TEST_F(TVTerminverwaltung, DoppelterTerminWirdAbgelehnt) {
   EXPECT_EQ(anzahl("Termine"), 4);
 }
 
+TEST_F(TVTerminverwaltung, AendernMitStandortFragtUndAendertNurDieZeile) {
+  oeffne();
+  klickeZeile(0);
+  tippe(1, "Messe");
+  feld(10)->setFocus();
+  QTest::keyClicks(feld(10), "H");
+  const QString frage =
+      "Soll der Termin wirklich bei allen Völkern am Standort 'Heide' eingetragen werden?";
+  boxen.frage(frage, false);
+  aendern();
+  EXPECT_EQ(anzahl("Termine", "Termin = 'Messe'"), 0);
+  EXPECT_EQ(inhalt(1), "Messe");
+  boxen.frage(frage, true);
+  aendern();
+  EXPECT_EQ(termine("Termin = 'Messe'"), "21.06. Messe N 0");
+  EXPECT_EQ(anzahl("Termine"), 4);
+  EXPECT_EQ(inhalt(10), "");
+}
+
+TEST_F(TVTerminverwaltung, AendernKannDasVolkWegnehmen) {
+  oeffne();
+  volkansicht();
+  klickeZeile(0);
+  tippe(8, "");
+  aendern();
+  EXPECT_EQ(termine("Termin = 'Durchsicht'"), "23.06. Durchsicht N 0");
+  EXPECT_EQ(li()->zeilen(), 0);
+  EXPECT_EQ(li()->aktuelleZeile(), -1);
+}
+
 TEST_F(TVTerminverwaltung, AendernSchreibtDieZeileUndBehaeltIhrKennzeichen) {
   oeffne();
   klickeZeile(1);
@@ -232,7 +398,6 @@ TEST_F(TVTerminverwaltung, AendernSchreibtDieZeileUndBehaeltIhrKennzeichen) {
   aendern();
   EXPECT_EQ(termine("Termin = 'Steuer'"), "25.06. Steuer J 0");
   EXPECT_EQ(li()->aktuelleZeile(), 1);
-  EXPECT_EQ(inhalt(2), "J");
 }
 
 TEST_F(TVTerminverwaltung, AendernAufEinenVorhandenenWirdAbgelehnt) {
@@ -249,7 +414,30 @@ TEST_F(TVTerminverwaltung, DoppelklickMarkiertAlsErledigt) {
   oeffne();
   doppelklick(0);
   EXPECT_EQ(termine("Termin = 'Schau'"), "21.06. Schau J 0");
-  EXPECT_EQ(inhalt(2), "J");
+  EXPECT_EQ(spalte("Erledigt"), "J J");
+}
+
+TEST_F(TVTerminverwaltung, DoppelklickBeimVolkNichtImBestandWirdAbgelehnt) {
+  db().Execute("update Bienenvolk set Akt_im_Bestand = '' where ID = ?", {volk});
+  oeffne();
+  volkansicht();
+  boxen.hinweisMit("...das angegebene Volk nicht existiert (aktuell im Bestand ist).");
+  doppelklick(0);
+  EXPECT_EQ(termine("Termin = 'Durchsicht'"), "23.06. Durchsicht N " + std::to_string(volk));
+}
+
+// The colonies have moved away since the form was opened.
+TEST_F(TVTerminverwaltung, StandortOhneVoelkerTraegtNichtsEin) {
+  oeffne();
+  tippe(1, "Zarge");
+  feld(10)->setFocus();
+  QTest::keyClicks(feld(10), "H");
+  db().Execute("update Bienenvolk set Standort = 'Hof'");
+  boxen.frageMit("Soll der Termin wirklich bei allen Völkern am Standort 'Heide'", true);
+  neu();
+  EXPECT_EQ(anzahl("Termine"), 4);
+  EXPECT_EQ(li()->aktuelleZeile(), -1);
+  EXPECT_EQ(feld(10)->beschreibung().auswahl, QStringList({"", "Hof"}));
 }
 
 TEST_F(TVTerminverwaltung, StandortFragtUndTraegtBeiAllenVoelkernEin) {
@@ -286,6 +474,27 @@ TEST_F(TVTerminverwaltung, LoeschenFragtUndNimmtDieZeileWeg) {
   EXPECT_EQ(inhalt(1), "Steuer");
 }
 
+TEST_F(TVTerminverwaltung, LoeschenDerLetztenZeileZeigtDieDavor) {
+  oeffne();
+  klickeZeile(1);
+  klicke(QString("löschen"));
+  EXPECT_EQ(spalte("Termin"), "Schau");
+  EXPECT_EQ(li()->aktuelleZeile(), 0);
+  EXPECT_EQ(inhalt(1), "Schau");
+}
+
+TEST_F(TVTerminverwaltung, LoeschenDerEinzigenZeileLaesstDieEingabenStehen) {
+  oeffne();
+  volkansicht();
+  klickeZeile(0);
+  klicke(QString("löschen"));
+  EXPECT_EQ(li()->zeilen(), 0);
+  EXPECT_EQ(li()->aktuelleZeile(), -1);
+  EXPECT_EQ(inhalt(1), "Durchsicht");
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
+  klicke(QString("löschen"));
+}
+
 TEST_F(TVTerminverwaltung, AlleErledigtenLoeschenFragt) {
   oeffne();
   const QString frage =
@@ -310,6 +519,42 @@ TEST_F(TVTerminverwaltung, OkOeffnetDieOffenenTermineUndLiestDanachNeu) {
   EXPECT_EQ(blick.name, "TV_Starttermine");
   EXPECT_EQ(spalte("Erledigt"), "J J");
   EXPECT_EQ(li()->aktuelleZeile(), 0);
+}
+
+TEST_F(TVTerminverwaltung, RueckkehrAusDenOffenenTerminenZeigtDasNeueKennzeichen) {
+  oeffne();
+  klickeZeile(0);
+  Formblick blick([](QWidget*) {
+    TZ_Variablen::DB.Execute("update Termine set Erledigt = 'J' where Termin = 'Schau'");
+  });
+  klicke("ok");
+  EXPECT_EQ(inhalt(2), "J");
+}
+
+TEST_F(TVTerminverwaltung, RueckkehrAusDenOffenenTerminenLaesstGetipptesStehen) {
+  oeffne();
+  klickeZeile(0);
+  tippe(0, "30.06.2006");
+  tippe(1, "Markt in der St");
+  Formblick blick([](QWidget*) {});
+  klicke("ok");
+  EXPECT_EQ(blick.name, "TV_Starttermine");
+  EXPECT_EQ(inhalt(0), "30.06.2006");
+  EXPECT_EQ(inhalt(1), "Markt in der St");
+  EXPECT_EQ(inhalt(9), "10");
+  EXPECT_EQ(li()->aktuelleZeile(), 0);
+  klickeZeile(1);
+  EXPECT_EQ(inhalt(1), "Steuer");
+}
+
+TEST_F(TVTerminverwaltung, RueckkehrAusDenOffenenTerminenLaesstEinenGewaehltenStandortStehen) {
+  oeffne();
+  klickeZeile(0);
+  feld(10)->setFocus();
+  QTest::keyClicks(feld(10), "H");
+  Formblick blick([](QWidget*) {});
+  klicke("ok");
+  EXPECT_EQ(inhalt(10), "Heide");
 }
 
 TEST_F(TVTerminverwaltung, SpaltenbreitenHabenIhrenSchluessel) {
