@@ -69,6 +69,36 @@ TEST_F(Verwaltungsfelder, FeldtextZeigtDieStellenDesFeldesUndKeineVerlorenen) {
   EXPECT_EQ(feldtext(felder[3], QDate(2006, 5, 1)), "01.05.2006");
 }
 
+TEST_F(Verwaltungsfelder, EineDezimalzahlWirdInEinfacherGenauigkeitGelesen) {
+  EXPECT_EQ(feldwert(felder[2], "1234,56").toDouble(), 1234.56);
+  // Seven digits and a bit: of ten the last ones are lost.
+  const double gelesen = feldwert(felder[2], "12345678,91").toDouble();
+  EXPECT_NE(gelesen, 12345678.91);
+  EXPECT_NEAR(gelesen, 12345678.91, 1);
+  EXPECT_EQ(feldwert(felder[2], "-3,50").toDouble(), 3.5);
+  EXPECT_EQ(feldwert(felder[2], "").toDouble(), 0);
+}
+
+TEST_F(Verwaltungsfelder, EineGanzzahlBehaeltIhrVorzeichen) {
+  EXPECT_EQ(feldwert(felder[1], "-12").toLongLong(), -12);
+  EXPECT_EQ(feldwert(felder[1], "").toLongLong(), 0);
+}
+
+TEST(OhneNull, VerbietetNurDieNull) {
+  const Feld anteil = ganzzahl("Proz_Anteil", "Anteil in %", 100).ohneNull();
+  EXPECT_TRUE(anteil.nullVerboten);
+  EXPECT_EQ(anteil.bis, 100);
+  EXPECT_FALSE(ganzzahl("Max_Völker", "Max. Anzahl Völker", 999).nullVerboten);
+}
+
+TEST_F(Verwaltungsfelder, NamenDieSichNurInDerSchreibungUnterscheidenSindVorhanden) {
+  const qint64 id =
+      speichern(db(), "Standorte", felder, {{"Standort", "Müllers Hof"}}, std::nullopt);
+  EXPECT_TRUE(vorhanden(db(), "Standorte", "Standort", "MÜLLERS HOF", std::nullopt));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", "Standort", "MÜLLERS HOF", id));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", "Standort", "Mullers Hof", std::nullopt));
+}
+
 TEST_F(Verwaltungsfelder, VorhandenZaehltDieEigeneZeileNicht) {
   const qint64 id = speichern(db(), "Standorte", felder, texte, std::nullopt);
   EXPECT_TRUE(vorhanden(db(), "Standorte", "Standort", "O'Hof", std::nullopt));

@@ -148,6 +148,18 @@ TEST_F(Verwaltungsblocktest, EineVerschwundeneZeileWirdGesagt) {
   EXPECT_EQ(anzahl("Kunden"), 1);
 }
 
+TEST_F(Verwaltungsblocktest, EntladenLaesstDieDatenbankLosUndLadenNimmtSieWieder) {
+  block->entladen();
+  tippe("Kundenname", "Caesar");
+  boxen.hinweisMit("Die Datenbank ist geschlossen.");
+  klicke("neu_0");
+  EXPECT_EQ(block->liste()->zeilen(), 2);
+  block->laden(db());
+  tippe("Kundenname", "Caesar");
+  klicke("neu_0");
+  EXPECT_EQ(anzahl("Kunden"), 3);
+}
+
 TEST_F(Verwaltungsblocktest, LoeschenFragtUndZeigtDieNaechsteZeile) {
   TZ_Variablen::EinstellungenZahl[55] = 1;
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");

@@ -129,6 +129,17 @@ TEST(Eingaberegel, GanzzahlBisZurGrenze) {
   EXPECT_EQ(nach(ganz(3, 100), QStringLiteral("|"), QStringLiteral("-")), QString());
 }
 
+TEST(Eingaberegel, GanzzahlOhneNullBeginntMitEins) {
+  Beschreibung anteil = ganz(3, 100);
+  anteil.ohneNull = true;
+  EXPECT_EQ(nach(anteil, QStringLiteral("|"), QStringLiteral("0")), QString());
+  EXPECT_EQ(nach(anteil, QStringLiteral("|"), QStringLiteral("00")), QString());
+  EXPECT_EQ(nach(anteil, QStringLiteral("|"), QStringLiteral("1")), QStringLiteral("1"));
+  EXPECT_EQ(nach(anteil, QStringLiteral("10|"), QStringLiteral("0")), QStringLiteral("100"));
+  EXPECT_FALSE(Eingaberegel::passt(anteil, QStringLiteral("0")));  // from the calculator
+  EXPECT_TRUE(Eingaberegel::passt(anteil, QString()));
+}
+
 TEST(Eingaberegel, GanzzahlMitSehrVielenZiffernWirdAbgelehnt) {
   EXPECT_EQ(nach(Beschreibung{Art::Ganzzahl, 0, 0, {}, {}, {}, {}}, QStringLiteral("|"),
                  QString(40, u'9')),
