@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <exception>
+#include <utility>
 
 #include "platform/database/Dateipruefung.h"
 #include "platform/database/Recordset.h"
@@ -93,8 +95,9 @@ Database Workspace::OpenDatabase(const QString& pfad) {
   for (auto it = m_verbindungen.begin(); it != m_verbindungen.end(); ++it) {
     if (!(*it)->istDatei(pfad)) continue;
     if (!(*it)->verschoben()) return Database(*it);
-    (*it)->schliesse();
+    const std::shared_ptr<Verbindung> alte = *it;
     m_verbindungen.erase(it);
+    alte->schliesse();
     break;
   }
   // Reading a file beside the engine's back ends the locks that this process holds on it.
@@ -119,8 +122,15 @@ Database Workspace::OpenDatabase(const QString& pfad) {
 }
 
 void Workspace::Close() {
-  for (const auto& verbindung : m_verbindungen) verbindung->schliesse();
-  m_verbindungen.clear();
+  std::exception_ptr erster;
+  for (const auto& verbindung : std::exchange(m_verbindungen, {})) {
+    try {
+      verbindung->schliesse();
+    } catch (...) {
+      if (!erster) erster = std::current_exception();
+    }
+  }
+  if (erster) std::rethrow_exception(erster);
 }
 
 void Workspace::CompactDatabase(const QString& von, const QString& nach) {

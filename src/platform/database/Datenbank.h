@@ -64,7 +64,9 @@ class Workspace {
   // database of this program's engine, is cut short, is a folder or can't be read or written: then
   // a Datenbankfehler names the file and says in German what to do.
   Database OpenDatabase(const QString& pfad);
-  // Closes every connection; handles still held throw on use.
+  // Closes every connection; handles still held throw on use. Inside a Sammelschreiben what it has
+  // written so far is committed first; where that fails all are closed nevertheless, and the first
+  // failure is thrown.
   void Close();
   // Writes a compacted copy. The source must not be open; the target must not exist.
   static void CompactDatabase(const QString& von, const QString& nach);

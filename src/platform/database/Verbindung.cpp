@@ -97,11 +97,24 @@ Verbindung::Verbindung(const QString& pfad, Modus modus) : m_pfad(pfad) {
   offeneVerbindungen().append(this);
 }
 
-Verbindung::~Verbindung() { schliesse(); }
+// A running Sammelschreiben holds its connection, so that nothing waits for a commit here.
+Verbindung::~Verbindung() { trenne(); }
 
 void Verbindung::schliesse() {
   if (!m_db) return;
-  if (!sqlite3_get_autocommit(m_db)) sqlite3_exec(m_db, "commit", nullptr, nullptr, nullptr);
+  if (!sqlite3_get_autocommit(m_db)) {
+    try {
+      schreibeFest();
+    } catch (const Datenbankfehler& fehler) {
+      m_verlust = fehler;  // the Sammelschreiben tells it too, should its action swallow it
+    }
+  }
+  trenne();
+  if (m_verlust) throw Datenbankfehler(*m_verlust);
+}
+
+void Verbindung::trenne() {
+  if (!m_db) return;
   vergiss();
   sqlite3_close_v2(m_db);
   m_db = nullptr;

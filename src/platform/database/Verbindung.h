@@ -35,7 +35,8 @@ class Verbindung {
 
   const QString& pfad() const { return m_pfad; }
   bool offen() const { return m_db != nullptr; }
-  // What a running Sammelschreiben has written so far is kept.
+  // What a running Sammelschreiben has written so far is kept. When that fails it is lost and the
+  // failure says so (allesVerworfen); closed it is in any case.
   void schliesse();
   // Whether the file was renamed or deleted under the connection.
   bool verschoben() const;
@@ -73,6 +74,7 @@ class Verbindung {
   Daten liesZeilen(Anweisung& a);
   void pruefeNutzbar(const QString& anweisung) const;
   void schreibeFest();
+  void trenne();
   [[noreturn]] void wirf(int code, const QString& anweisung, bool beimVorbereiten = false);
   void vergiss();
 

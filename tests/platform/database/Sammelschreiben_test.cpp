@@ -192,6 +192,75 @@ TEST_F(Sammelschreiben, ScheitertDasFestschreibenIstAllesVerworfen) {
   EXPECT_EQ(anzahlInDerDatei(), 2);
 }
 
+// --- closed in the middle ---------------------------------------------------------------------
+
+TEST_F(Sammelschreiben, ScheitertDasFestschreibenBeimSchliessenSagtEsDerFehler) {
+  volk(s("vorher"));
+  bool amEnde = false;
+  const auto fehler = fehlerVon([&] {
+    const Dateigrenze grenze(static_cast<rlim_t>(QFileInfo(pfad()).size()) + 4096);
+    db.Sammelschreiben([&] {
+      for (int i = 0; i < 300; ++i) grosseZeile();
+      arbeitsbereich.Close();
+      amEnde = true;
+    });
+  });
+  ASSERT_TRUE(fehler.has_value());
+  EXPECT_FALSE(amEnde);
+  EXPECT_EQ(fehler->art(), Datenbankfehler::Art::Voll) << fehler->what();
+  EXPECT_TRUE(fehler->allesVerworfen());
+  EXPECT_EQ(fehler->text().count(s("Von diesem Vorgang wurde nichts gespeichert.")), 1);
+  EXPECT_FALSE(db.IsOpen());
+  EXPECT_EQ(Verbindung::zu(pfad()), nullptr);
+  db = arbeitsbereich.OpenDatabase(pfad());
+  EXPECT_EQ(anzahl(), 1);
+  EXPECT_EQ(befund(), "ok");
+  grosseZeile();
+  EXPECT_EQ(anzahlInDerDatei(), 2);
+}
+
+TEST_F(Sammelschreiben, VerschlucktDieAktionDenFehlerDesSchliessensSagtIhnDasSammelschreiben) {
+  volk(s("vorher"));
+  const auto fehler = fehlerVon([&] {
+    const Dateigrenze grenze(static_cast<rlim_t>(QFileInfo(pfad()).size()) + 4096);
+    db.Sammelschreiben([&] {
+      for (int i = 0; i < 300; ++i) grosseZeile();
+      EXPECT_THROW(arbeitsbereich.Close(), Datenbankfehler);
+    });
+  });
+  ASSERT_TRUE(fehler.has_value());
+  EXPECT_TRUE(fehler->allesVerworfen());
+  EXPECT_EQ(anzahlInDerDatei(), 1);
+}
+
+TEST_F(Sammelschreiben, ScheitertEinesSchliesstDerArbeitsbereichAuchDieAnderen) {
+  volk(s("vorher"));
+  Database zweite = arbeitsbereich.CreateDatabase(imOrdner(s("zweite.mdb")));
+  Database dritte = arbeitsbereich.CreateDatabase(imOrdner(s("dritte.mdb")));
+  const QString anlegen = s("create table Bienenvolk (Volkname TEXT (20), ID COUNTER)");
+  zweite.Execute(anlegen);
+  dritte.Execute(anlegen);
+  const auto fehler = fehlerVon([&] {
+    db.Sammelschreiben([&] {
+      for (int i = 0; i < 300; ++i) grosseZeile();
+      dritte.Sammelschreiben([&] {
+        dritte.Execute(s("insert into Bienenvolk (Volkname) values ('Anna')"));
+        const Dateigrenze grenze(static_cast<rlim_t>(QFileInfo(pfad()).size()) + 4096);
+        arbeitsbereich.Close();
+      });
+    });
+  });
+  ASSERT_TRUE(fehler.has_value());
+  EXPECT_TRUE(fehler->allesVerworfen());
+  EXPECT_TRUE(fehler->text().contains(pfad()));
+  EXPECT_FALSE(db.IsOpen());
+  EXPECT_FALSE(zweite.IsOpen());
+  EXPECT_FALSE(dritte.IsOpen());
+  EXPECT_EQ(anzahlInDerDatei(), 1);
+  dritte = arbeitsbereich.OpenDatabase(imOrdner(s("dritte.mdb")));
+  EXPECT_EQ(dritte.Lesen(s("select count(*) from Bienenvolk"))->ganzzahl(0, 0), 1);
+}
+
 // --- locked -----------------------------------------------------------------------------------
 
 class Gesperrt : public Sammelschreiben {
@@ -225,6 +294,23 @@ TEST_F(Gesperrt, LiestEinAnderesProgrammBeimFestschreibenIstAllesVerworfen) {
   ASSERT_TRUE(fehler.has_value());
   EXPECT_EQ(fehler->art(), Datenbankfehler::Art::Gesperrt);
   EXPECT_TRUE(fehler->allesVerworfen());
+  imAnderen("commit");
+  EXPECT_EQ(anzahlInDerDatei(), 1);
+}
+
+TEST_F(Gesperrt, LiestEinAnderesProgrammBeimSchliessenMittendrinIstAllesVerworfen) {
+  volk(s("vorher"));
+  imAnderen("begin; select * from sqlite_schema");
+  const auto fehler = fehlerVon([&] {
+    db.Sammelschreiben([&] {
+      volk(s("Anna"));
+      arbeitsbereich.Close();
+    });
+  });
+  ASSERT_TRUE(fehler.has_value());
+  EXPECT_EQ(fehler->art(), Datenbankfehler::Art::Gesperrt);
+  EXPECT_TRUE(fehler->allesVerworfen());
+  EXPECT_FALSE(db.IsOpen());
   imAnderen("commit");
   EXPECT_EQ(anzahlInDerDatei(), 1);
 }
