@@ -3,7 +3,10 @@
 #include <QDir>
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
+#include "Arbeitskalender.h"
+#include "Trachtgebiet.h"
 #include "Zufall.h"
 #include "bookings/Buchung.h"
 #include "bookings/Volkfelder.h"
@@ -19,20 +22,7 @@ using namespace TZ_Variablen;
 
 namespace {
 
-struct Standort {
-  const char* name;
-  const char* klima;
-  const char* hinweis;
-  double praemie;
-};
-
-// The first one is the winter stand at home, the others are visited for their forage.
-const Standort standorte[] = {
-    {"Hausgarten Oberndorf", "mild", "hinter der Scheune", 0},
-    {"Rapsfeld Mühlenweg", "offen, windig", "Zufahrt über den Feldweg", 0},
-    {"Lindenallee am Schloßpark", "geschützt", "Schlüssel beim Gärtner", 5},
-    {"Waldlichtung Schwarzer Grund", "kühl, feucht", "nur mit Allrad", 3.5},
-};
+constexpr int terminjahre = 2;  // the calendar's years; what was done before has been deleted
 
 const QStringList namen = {"Auguste",  "Berta",  "Clothilde", "Dorothea", "Emma",    "Friederike",
                            "Gisela",   "Hanna",  "Ida",       "Johanna",  "Käthe",   "Luise",
@@ -80,17 +70,33 @@ class Eintrag {
   Buchung m_buchung;
 };
 
+// A colony as its keeper knows it.
+struct Volkstand {
+  QString id;
+  QDate zugang;
+  QDate abgang;  // invalid while held
+  double stimmung = 0;
+  int eigenart = 0;
+  int gebucht = 0;
+};
+
 class Erzeuger {
  public:
-  Erzeuger(const Betriebsgroesse& groesse, QDate heute)
-      : m_groesse(groesse), m_heute(heute), m_zufall(groesse.saat) {}
+  Erzeuger(const Betriebsgroesse& groesse, QDate heute, Zufall& zufall)
+      : m_groesse(groesse), m_heute(heute), m_zufall(zufall) {}
 
-  void standorteAnlegen();
+  // The last day on which a colony came.
+  QDate saisonstart() const { return ersterZugang().addDays(zugangstage); }
+
   void volkAnlegen(int nummer);
+  void saison(int nummer, int jahr);
+  void auffuellen(int nummer);  // with weighings to the wanted count
   void nachziehen();
 
  private:
-  void saison(int jahr);
+  static constexpr int zugangstage = 20;
+
+  QDate ersterZugang() const { return QDate(m_heute.year() - m_groesse.jahre + 1, 3, 1); }
   void durchsichten(int jahr);
   void durchsicht(QDate tag);
   void ernten(int jahr);
@@ -99,6 +105,7 @@ class Erzeuger {
   void arbeiten(int jahr);
   void behandlungen(int jahr);
   void koenigin(int jahr);
+  void notiz(int jahr);
   void waagstockTage(int anzahl);
   void buchen(Eintrag eintrag);
   QDate tag(int jahr, int monat, int erster, int letzter) {
@@ -107,47 +114,21 @@ class Erzeuger {
 
   Betriebsgroesse m_groesse;
   QDate m_heute;
-  Zufall m_zufall;
+  Zufall& m_zufall;
   Buchungskontext m_kontext;
-  QString m_alleVoelker;
-
-  // The colony at work.
-  QString m_volkId;
-  QDate m_zugang;
-  QDate m_abgang;  // invalid while held
-  double m_stimmung = 0;
-  int m_eigenart = 0;
-  int m_gebucht = 0;
+  std::vector<Volkstand> m_voelker;
+  Volkstand* m_volk = nullptr;  // the colony at work
 };
 
-void Erzeuger::standorteAnlegen() {
-  Recordset orte = DB.OpenRecordset("select * from Standorte where ID = 0");
-  for (const Standort& ort : standorte) {
-    orte.AddNew();
-    orte["Standort"] = QString(ort.name);
-    orte["Zusatzortshinweis"] = QString(ort.hinweis);
-    orte["Wintertauglich"] = QString(&ort == &standorte[0] ? "J" : "N");
-    orte["Klima"] = QString(ort.klima);
-    orte["Pkw_anfahrbar"] = QString("J");
-    orte["Entfernung_Wasser_m"] = m_zufall.zahl(1, 12) * 50;
-    orte["Flugrichtung"] = QString("Süd-Ost");
-    orte["Max_Völker"] = 40;
-    orte["Standortprämie_Volk"] = ort.praemie;
-    orte["PTop"] = 250;
-    orte["PLeft"] = 0;
-    orte.Update();
-  }
-}
-
 void Erzeuger::volkAnlegen(int nummer) {
-  const int erstesJahr = m_heute.year() - m_groesse.jahre + 1;
-  m_zugang = QDate(erstesJahr, 3, 1).addDays(m_zufall.zahl(0, 20));
+  m_volk = &m_voelker.emplace_back();
+  m_volk->zugang = ersterZugang().addDays(m_zufall.zahl(0, zugangstage));
+  const int erstesJahr = m_volk->zugang.year();
   // One in eight doesn't come through its second winter.
   const bool weg = nummer % 8 == 5 && m_groesse.jahre > 1;
-  m_abgang = weg ? QDate(erstesJahr + 1, 2, m_zufall.zahl(5, 25)) : QDate();
-  m_stimmung = m_zufall.bruch(2.5, 4);
-  m_eigenart = m_zufall.zahl(-2, 2);
-  m_gebucht = 0;
+  m_volk->abgang = weg ? QDate(erstesJahr + 1, 2, m_zufall.zahl(5, 25)) : QDate();
+  m_volk->stimmung = m_zufall.bruch(2.5, 4);
+  m_volk->eigenart = m_zufall.zahl(-2, 2);
 
   Volkeingabe e;
   e.kon = !weg;
@@ -163,42 +144,48 @@ void Erzeuger::volkAnlegen(int nummer) {
   setze("Bienenrasse", m_zufall.aus(rassen));
   setze("Beuteart", m_zufall.aus(beuten));
   setze("Waben_je_Magazin", "10");
-  setze("Standort", standorte[0].name);
+  setze("Standort", bienenstaende()[Hausgarten].name);
   setze("Königin_Nr", QStringLiteral("%1-%2").arg(erstesJahr - 1).arg(nummer));
   setze("Königin_Farbe", jahresfarbe(erstesJahr - 1));
-  setze("Königin_Zugangsdatum", Deutsch::datumText(m_zugang));
-  setze("Volk_Zugangsdatum", Deutsch::datumText(m_zugang));
+  setze("Königin_Zugangsdatum", Deutsch::datumText(m_volk->zugang));
+  setze("Volk_Zugangsdatum", Deutsch::datumText(m_volk->zugang));
   setze("Volk_Herkunft", nummer % 3 == 0 ? "eigener Ableger" : "Imkerei Grünwald");
   setze("Volk_Einkaufspreis", nummer % 3 == 0 ? "0,00" : "120,00");
   setze("Volk_Verkaufspreis", "0,00");
   if (weg) {
-    setze("Abgangsdatum", Deutsch::datumText(m_abgang));
+    setze("Abgangsdatum", Deutsch::datumText(m_volk->abgang));
     setze("Abgangsgrund", "Winterverlust");
   }
   const Volkfragen keineFragen = {[](const QString&) { return true; }, [](const QString&) {}};
-  m_volkId = QString::number(volkSpeichern(DB, 0, e, e, keineFragen));
-  m_alleVoelker += "/" + m_volkId + "/";
-
-  for (int jahr = erstesJahr; jahr <= m_heute.year(); ++jahr) saison(jahr);
-  if (m_groesse.buchungenJeVolk > m_gebucht) waagstockTage(m_groesse.buchungenJeVolk - m_gebucht);
+  m_volk->id = QString::number(volkSpeichern(DB, 0, e, e, keineFragen));
 }
 
-void Erzeuger::saison(int jahr) {
+void Erzeuger::saison(int nummer, int jahr) {
+  m_volk = &m_voelker[static_cast<size_t>(nummer - 1)];
   durchsichten(jahr);
   ernten(jahr);
   wanderungen(jahr);
   arbeiten(jahr);
   behandlungen(jahr);
   koenigin(jahr);
-  if (m_zufall.chance(60)) {
-    Eintrag notiz(10, tag(jahr, 5, 1, 28));
-    notiz.buchung().texte[NotizSlot] =
-        "Beim Öffnen ruhig, schöne geschlossene Brutfläche.\nIm Auge behalten, ob das Volk "
-        "schwärmen will; " +
-        m_zufall.aus({"Absperrgitter nachsehen.", "zwei Mittelwände nachgeben.",
-                      "Nachbarvolk verstärken.", "Ableger vormerken."});
-    buchen(notiz);
-  }
+  notiz(jahr);
+}
+
+void Erzeuger::notiz(int jahr) {
+  if (!m_zufall.chance(60)) return;
+  Eintrag e(10, tag(jahr, 5, 1, 28));
+  e.buchung().texte[NotizSlot] =
+      "Beim Öffnen ruhig, schöne geschlossene Brutfläche.\nIm Auge behalten, ob das Volk "
+      "schwärmen will; " +
+      m_zufall.aus({"Absperrgitter nachsehen.", "zwei Mittelwände nachgeben.",
+                    "Nachbarvolk verstärken.", "Ableger vormerken."});
+  buchen(e);
+}
+
+void Erzeuger::auffuellen(int nummer) {
+  m_volk = &m_voelker[static_cast<size_t>(nummer - 1)];
+  if (m_groesse.buchungenJeVolk > m_volk->gebucht)
+    waagstockTage(m_groesse.buchungenJeVolk - m_volk->gebucht);
 }
 
 void Erzeuger::durchsichten(int jahr) {
@@ -214,7 +201,7 @@ void Erzeuger::durchsichten(int jahr) {
 void Erzeuger::durchsicht(QDate am) {
   const double jahreslauf = std::sin(M_PI * (am.dayOfYear() - 40) / 260.0);
   const double kraft = std::clamp(jahreslauf, 0.1, 1.0);
-  const int brut = std::max(1, static_cast<int>(kraft * 9) + m_eigenart);
+  const int brut = std::max(1, static_cast<int>(kraft * 9) + m_volk->eigenart);
   const int honig = am.month() >= 5 && am.month() <= 7 ? m_zufall.zahl(2, 9) : m_zufall.zahl(0, 2);
   const int pollen = m_zufall.zahl(1, 2);
   const int drohnen = am.month() >= 4 && am.month() <= 7 ? 1 : 0;
@@ -228,8 +215,8 @@ void Erzeuger::durchsicht(QDate am) {
   Eintrag e(0, am);
   e.zahl("Volkstärke", note(1.5 + kraft * 3), 1)
       .zahl("Brutstand", note(1 + kraft * 3.5), 1)
-      .zahl("Wabensitz", note(m_stimmung), 1)
-      .zahl("Sanftmut", note(m_stimmung), 1)
+      .zahl("Wabensitz", note(m_volk->stimmung), 1)
+      .zahl("Sanftmut", note(m_volk->stimmung), 1)
       .zahl("Schwarmtrieb", am.month() == 5 ? note(2) : note(0.8), 1)
       .zahl("Frühjahrsentw", am.month() < 6 ? note(3) : 0, 1)
       .zahl("Winterfestigkeit", am.month() < 5 ? note(3) : 0, 1)
@@ -268,8 +255,8 @@ void Erzeuger::honig(QDate am, const QString& sorte, double kg) {
 
 void Erzeuger::ernten(int jahr) {
   const double guete = m_zufall.bruch(0.6, 1.3);
-  honig(tag(jahr, 5, 20, 28), "Raps", m_zufall.bruch(8, 18) * guete);
-  honig(tag(jahr, 7, 2, 12), "Linde", m_zufall.bruch(6, 16) * guete);
+  honig(tag(jahr, 5, 20, 28), "Rapshonig", m_zufall.bruch(8, 18) * guete);
+  honig(tag(jahr, 7, 2, 12), "Lindenhonig", m_zufall.bruch(6, 16) * guete);
   if (m_zufall.chance(40)) honig(tag(jahr, 7, 25, 31), "Waldhonig", m_zufall.bruch(4, 14) * guete);
   buchen(Eintrag(2, tag(jahr, 9, 5, 25))
              .zahl("Menge_kg", m_zufall.bruch(0.2, 0.8))
@@ -292,17 +279,28 @@ void Erzeuger::ernten(int jahr) {
 }
 
 void Erzeuger::wanderungen(int jahr) {
-  const auto wandern = [this](QDate am, const Standort& ort) {
+  const auto wandern = [this](QDate am, Stand stand) {
+    const Bienenstand& ort = bienenstaende()[stand];
     buchen(Eintrag(6, am)
                .text("Standort", ort.name)
                .zeit(0.75)
                .zahl("Standortprämie", ort.praemie)
                .text("Prämie_erhalten", ort.praemie > 0 && m_zufall.chance(70) ? "J" : "N"));
   };
-  if (m_zufall.chance(70)) wandern(tag(jahr, 4, 20, 28), standorte[1]);
-  if (m_zufall.chance(60)) wandern(tag(jahr, 6, 5, 15), standorte[2]);
-  if (m_zufall.chance(30)) wandern(tag(jahr, 7, 14, 20), standorte[3]);
-  wandern(tag(jahr, 8, 8, 20), m_zufall.chance(75) ? standorte[0] : standorte[m_eigenart & 3]);
+  if (m_zufall.chance(70))
+    wandern(tag(jahr, 4, 20, 28), m_zufall.chance(75) ? Rapsfeld : Streuobstwiese);
+  if (m_zufall.chance(60)) wandern(tag(jahr, 6, 5, 15), Lindenallee);
+  if (m_zufall.chance(30)) wandern(tag(jahr, 7, 14, 20), Waldlichtung);
+  if (m_zufall.chance(15)) {
+    wandern(tag(jahr, 8, 2, 6), Heideflaeche);
+    wandern(tag(jahr, 9, 15, 25), Hausgarten);
+    return;
+  }
+  // Most come home for the winter; the queerest stay where a colony may.
+  const bool heim = m_zufall.chance(75);
+  wandern(tag(jahr, 8, 8, 20), heim || m_volk->eigenart < 1
+                                   ? Hausgarten
+                                   : (m_volk->eigenart == 1 ? Lindenallee : Waldlichtung));
 }
 
 void Erzeuger::arbeiten(int jahr) {
@@ -355,10 +353,10 @@ void Erzeuger::koenigin(int jahr) {
 
 // A hive on a scale is weighed day by day.
 void Erzeuger::waagstockTage(int anzahl) {
-  QDate am = m_abgang.isValid() ? m_abgang : m_heute;
+  QDate am = m_volk->abgang.isValid() ? m_volk->abgang : m_heute;
   const double gewicht = m_zufall.bruch(30, 45);
-  const int vorher = m_gebucht;
-  while (m_gebucht - vorher < anzahl && am > m_zugang) {
+  const int vorher = m_volk->gebucht;
+  while (m_volk->gebucht - vorher < anzahl && am > m_volk->zugang) {
     buchen(Eintrag(7, am).zahl("Gewicht_kg", gewicht + m_zufall.bruch(-3, 3), 3));
     am = am.addDays(-1);
   }
@@ -367,13 +365,18 @@ void Erzeuger::waagstockTage(int anzahl) {
 // Nothing is booked before the colony came, after it left, or tomorrow.
 void Erzeuger::buchen(Eintrag eintrag) {
   const QDate am = DatumLesen(eintrag.buchung().texte[0]);
-  if (am < m_zugang || am > m_heute || (m_abgang.isValid() && am > m_abgang)) return;
-  BuchungSpeichern(DB, eintrag.buchung(), m_volkId, "-1", m_kontext);
+  if (am < m_volk->zugang || am > m_heute || (m_volk->abgang.isValid() && am > m_volk->abgang))
+    return;
+  BuchungSpeichern(DB, eintrag.buchung(), m_volk->id, "-1", m_kontext);
   m_kontext.geaenderteVoelker.clear();
-  ++m_gebucht;
+  ++m_volk->gebucht;
 }
 
-void Erzeuger::nachziehen() { VolkfelderNachziehen(DB, m_alleVoelker); }
+void Erzeuger::nachziehen() {
+  QString alle;
+  for (const Volkstand& volk : m_voelker) alle += "/" + volk.id + "/";
+  VolkfelderNachziehen(DB, alle);
+}
 
 // A large operation is written without its indexes, which are built once at the end; only those by
 // which the routines look up a colony's bookings stay.
@@ -399,6 +402,28 @@ class OhneIndexe {
   bool m_ja;
 };
 
+// Does the work for each colony, a hundred to a commit.
+void stapelweise(int voelker, const std::function<void(int)>& arbeit,
+                 const std::function<void(int)>& fortschritt = {}) {
+  constexpr int stapel = 100;
+  for (int erstes = 1; erstes <= voelker; erstes += stapel) {
+    const int letztes = std::min(erstes + stapel - 1, voelker);
+    DB.Sammelschreiben([&] {
+      for (int nummer = erstes; nummer <= letztes; ++nummer) arbeit(nummer);
+    });
+    if (fortschritt) fortschritt(letztes);
+  }
+}
+
+// The register is filled in the quiet time before the first season, so that no appointment comes
+// of it; those come with the yearly run.
+void voelkerAnlegen(Erzeuger& erzeuger, int voelker, int erstesJahr) {
+  const QString heute = HeuteText;
+  HeuteText = Deutsch::datumText(QDate(erstesJahr - 1, 12, 31));
+  stapelweise(voelker, [&](int nummer) { erzeuger.volkAnlegen(nummer); });
+  HeuteText = heute;
+}
+
 }  // namespace
 
 void betriebAnlegen(const QString& ordner, const Betriebsgroesse& groesse,
@@ -411,22 +436,32 @@ void betriebAnlegen(const QString& ordner, const Betriebsgroesse& groesse,
   EinstellungenStandard(heute);
   WabenJeMagazinPruefen();
   MehrwertsteuerPruefen();
+  EinstellungenZahl[68] = 1;  // harvests go into the honey store
   EinstellungenWert = {7.5F, 9.0F, 0.02F, 0.1F, 18.0F, 2.0F};
   DatenbankAnlegen();
 
-  Erzeuger erzeuger(groesse, heute);
+  Zufall zufall(groesse.saat);
+  const int erstesJahr = heute.year() - groesse.jahre + 1;
+  Arbeitskalender kalender(zufall, heute, std::max(erstesJahr, heute.year() - terminjahre + 1));
+  Erzeuger erzeuger(groesse, heute, zufall);
   OhneIndexe ohne(groesse.voelker * std::max(groesse.buchungenJeVolk, 100) > 100000);
-  DB.Sammelschreiben([&] { erzeuger.standorteAnlegen(); });
-  constexpr int stapel = 100;  // colonies a commit
-  for (int erstes = 1; erstes <= groesse.voelker; erstes += stapel) {
-    const int letztes = std::min(erstes + stapel - 1, groesse.voelker);
-    DB.Sammelschreiben([&] {
-      for (int nummer = erstes; nummer <= letztes; ++nummer) erzeuger.volkAnlegen(nummer);
-    });
-    if (fortschritt) fortschritt(letztes);
+  trachtgebietAnlegen(zufall, heute.year());
+  voelkerAnlegen(erzeuger, groesse.voelker, erstesJahr);
+  kalender.optionenEinrichten();
+  for (int jahr = erstesJahr; jahr <= heute.year(); ++jahr) {
+    kalender.jahrBeginnen(jahr, erzeuger.saisonstart());
+    stapelweise(
+        groesse.voelker,
+        [&](int nummer) {
+          erzeuger.saison(nummer, jahr);
+          if (jahr == heute.year()) erzeuger.auffuellen(nummer);
+        },
+        jahr == heute.year() ? fortschritt : nullptr);
+    kalender.jahrAbschliessen(jahr);
   }
   ohne.bauen();
   erzeuger.nachziehen();
+  kalender.bisHeute();
   ListeNeuLesen = 1;
   EinstellungenSchreiben();
 }

@@ -1,55 +1,14 @@
-#include "Betrieb.h"
-
-#include <gtest/gtest.h>
-
 #include <QFile>
-#include <QMap>
-#include <QTemporaryDir>
 
-#include "core/globals.h"
-#include "data/schema.h"
+#include "Betriebsfall.h"
 
 namespace {
-
-using TZ_Variablen::DB;
 
 // All rows of all tables as text, by table.
 using Bestand = QMap<QString, QStringList>;
 
-const QDate Heute(2026, 6, 15);
-
-class Beispielbetrieb : public ::testing::Test {
+class Beispielbetrieb : public Betriebsfall {
  protected:
-  void TearDown() override { schliessen(); }
-
-  static void schliessen() {
-    DB.Close();
-    TZ_Variablen::Arbeitsbereich.Close();
-    TZ_Variablen::zuruecksetzen();
-  }
-
-  static Betriebsgroesse klein(quint32 saat) {
-    Betriebsgroesse groesse;
-    groesse.voelker = 6;
-    groesse.jahre = 2;
-    groesse.saat = saat;
-    groesse.heute = Heute;
-    return groesse;
-  }
-
-  // Makes the operation in a folder of its own and leaves it open.
-  void anlegen(const Betriebsgroesse& groesse) {
-    schliessen();
-    m_ordner = std::make_unique<QTemporaryDir>();
-    ASSERT_TRUE(m_ordner->isValid());
-    betriebAnlegen(m_ordner->path(), groesse);
-  }
-  void standard() {
-    Betriebsgroesse groesse;
-    groesse.heute = Heute;
-    anlegen(groesse);
-  }
-
   static Bestand bestand() {
     Bestand alles;
     for (const Tabelle& tabelle : schema()) {
@@ -65,30 +24,10 @@ class Beispielbetrieb : public ::testing::Test {
     }
     return alles;
   }
-  QByteArray einstellungen() const {
+  static QByteArray einstellungen() {
     QFile datei(m_ordner->filePath("Einstellungen.TV2"));
     return datei.open(QFile::ReadOnly) ? datei.readAll() : QByteArray();
   }
-  static qint64 anzahl(const QString& tabelle, const QString& bedingung = {}) {
-    return DB
-        .Lesen("select count(*) as n from " + tabelle +
-               (bedingung.isEmpty() ? QString() : " where " + bedingung))
-        ->ganzzahl(0, 0);
-  }
-  static QList<qint64> voelker(const QString& bedingung) {
-    const Daten daten = DB.Lesen("select ID from Bienenvolk where " + bedingung + " order by ID");
-    QList<qint64> ids;
-    for (int i = 0; i < daten->zeilen(); ++i) ids << daten->ganzzahl(i, 0);
-    return ids;
-  }
-  static qint64 buchungen(qint64 volk) {
-    qint64 summe = 0;
-    for (const QString& tabelle : buchungstabellen())
-      summe += anzahl(tabelle, "Volk_ID = " + QString::number(volk));
-    return summe;
-  }
-
-  std::unique_ptr<QTemporaryDir> m_ordner;
 };
 
 TEST_F(Beispielbetrieb, GleicheGroesseSaatUndTagGebenInAllenTabellenDasselbe) {
@@ -113,10 +52,10 @@ TEST_F(Beispielbetrieb, EineAndereSaatGibtAndereDaten) {
     EXPECT_NE(erster[tabelle], zweiter[tabelle]) << tabelle;
 }
 
-TEST_F(Beispielbetrieb, VierundzwanzigVoelkerAnVierStandorten) {
+TEST_F(Beispielbetrieb, VierundzwanzigVoelkerAnSechsStandorten) {
   standard();
   EXPECT_EQ(anzahl("Bienenvolk"), 24);
-  EXPECT_EQ(anzahl("Standorte"), 4);
+  EXPECT_EQ(anzahl("Standorte"), 6);
   // Colonies 5, 13 and 21 don't come through a winter.
   EXPECT_EQ(voelker("Akt_im_Bestand = 'X'").size(), 21);
   EXPECT_EQ(anzahl("Bienenvolk", "Akt_im_Bestand <> 'X' and Abgangsgrund = 'Winterverlust'"), 3);
@@ -195,6 +134,7 @@ TEST_F(Beispielbetrieb, DerFortschrittNenntDieFertigenVoelker) {
   groesse.voelker = 150;
   groesse.jahre = 1;
   QList<int> fertig;
+  schliessen();
   m_ordner = std::make_unique<QTemporaryDir>();
   betriebAnlegen(m_ordner->path(), groesse, [&](int voelker) { fertig << voelker; });
   EXPECT_EQ(fertig, QList<int>({100, 150}));

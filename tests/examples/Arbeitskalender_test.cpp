@@ -1,0 +1,175 @@
+#include "Betriebsfall.h"
+
+namespace {
+
+class Kalender : public Betriebsfall {};
+
+struct Termin {
+  QDate tag;
+  QString text;
+  bool erledigt;
+  qint64 volk;
+};
+
+QList<Termin> termine() {
+  const Daten zeilen = DB.Lesen("select Datum, Termin, Erledigt, Volk_ID from Termine order by ID");
+  QList<Termin> alle;
+  for (int i = 0; i < zeilen->zeilen(); ++i)
+    alle << Termin{zeilen->wert(i, 0).toDate(), zeilen->anzeige(i, 1), zeilen->anzeige(i, 2) == "J",
+                   zeilen->ganzzahl(i, 3)};
+  return alle;
+}
+
+struct Zeitraum {
+  QString von;  // "mmdd"
+  QString bis;
+  bool jeVolk;
+};
+
+QMap<QString, Zeitraum> optionen() {
+  const Daten zeilen =
+      DB.Lesen(QString("select Arbeitsart, Startzeitraum, Endzeitraum, Volkabhängig from "
+                       "Arbeitsplanoptionen"));
+  const auto mmdd = [](const QString& ttmm) { return ttmm.mid(3, 2) + ttmm.left(2); };
+  QMap<QString, Zeitraum> alle;
+  for (int i = 0; i < zeilen->zeilen(); ++i)
+    alle[zeilen->anzeige(i, 0)] = {mmdd(zeilen->anzeige(i, 1)), mmdd(zeilen->anzeige(i, 2)),
+                                   zeilen->anzeige(i, 3) == "J"};
+  return alle;
+}
+
+TEST_F(Kalender, JedeOptionHatEinenZeitraumInnerhalbDesJahres) {
+  standard();
+  const QMap<QString, Zeitraum> alle = optionen();
+  EXPECT_GE(alle.size(), 15);
+  for (auto option = alle.begin(); option != alle.end(); ++option)
+    EXPECT_LE(option->von, option->bis) << option.key().toStdString();
+}
+
+TEST_F(Kalender, KeinTerminLiegtVorDemZeitraumSeinerOption) {
+  standard();
+  const QMap<QString, Zeitraum> alle = optionen();
+  int geprueft = 0;
+  for (const Termin& termin : termine()) {
+    if (!alle.contains(termin.text)) continue;
+    const Zeitraum zeitraum = alle[termin.text];
+    EXPECT_GE(termin.tag.toString("MMdd"), zeitraum.von) << termin.text.toStdString();
+    if (!termin.erledigt) {
+      EXPECT_LE(termin.tag.toString("MMdd"), zeitraum.bis) << termin.text.toStdString();
+    }
+    EXPECT_EQ(termin.volk != 0, zeitraum.jeVolk) << termin.text.toStdString();
+    ++geprueft;
+  }
+  EXPECT_GT(geprueft, 1000);
+}
+
+TEST_F(Kalender, JedesVolkImBestandHatAlleVolkabhaengigenArbeiten) {
+  standard();
+  const QMap<QString, Zeitraum> alle = optionen();
+  for (auto option = alle.begin(); option != alle.end(); ++option) {
+    if (!option->jeVolk) continue;
+    const Daten voelker =
+        DB.Lesen("select distinct Volk_ID from Termine where Termin = ?", {option.key()});
+    EXPECT_EQ(voelker->zeilen(), 21) << option.key().toStdString();
+  }
+}
+
+TEST_F(Kalender, AbgegangeneVoelkerUndVoelkerVorDemZugangHabenKeineTermine) {
+  standard();
+  EXPECT_EQ(DB.Lesen("select Termine.ID from Termine, Bienenvolk where Volk_ID = Bienenvolk.ID and "
+                     "Akt_im_Bestand <> 'X'")
+                ->zeilen(),
+            0);
+  Betriebsgroesse eineSaison = klein(3);
+  eineSaison.jahre = 1;
+  anlegen(eineSaison);
+  EXPECT_GT(anzahl("Termine", "Volk_ID > 0"), 0);
+  EXPECT_EQ(DB.Lesen("select Termine.ID from Termine, Bienenvolk where Volk_ID = Bienenvolk.ID and "
+                     "Datum < Volk_Zugangsdatum")
+                ->zeilen(),
+            0);
+}
+
+TEST_F(Kalender, DasVergangeneIstMeistErledigtUndEinRestIstFaellig) {
+  standard();
+  int erledigt = 0;
+  int faellig = 0;
+  for (const Termin& termin : termine()) {
+    if (termin.tag >= Heute) {
+      EXPECT_FALSE(termin.erledigt && termin.tag > Heute) << termin.text.toStdString();
+      continue;
+    }
+    if (termin.erledigt) {
+      ++erledigt;
+      continue;
+    }
+    ++faellig;
+    EXPECT_GE(termin.tag, Heute.addDays(-9)) << termin.text.toStdString();
+  }
+  EXPECT_GE(faellig, 5);
+  EXPECT_LE(faellig, 60);
+  EXPECT_GT(erledigt, 10 * faellig);
+}
+
+TEST_F(Kalender, DieNaechstenVierzehnTageBringenTermineMitUndOhneVolk) {
+  standard();
+  int mitVolk = 0;
+  int ohneVolk = 0;
+  for (const Termin& termin : termine())
+    if (!termin.erledigt && termin.tag >= Heute && termin.tag <= Heute.addDays(14))
+      ++(termin.volk ? mitVolk : ohneVolk);
+  EXPECT_GE(mitVolk, 20);
+  EXPECT_GE(ohneVolk, 3);
+}
+
+TEST_F(Kalender, AmStandortEingetragenesGiltFuerAlleVoelkerDort) {
+  standard();
+  const Daten orte = DB.Lesen(
+      "select distinct Standort from Termine, Bienenvolk where Volk_ID = Bienenvolk.ID and Termin "
+      "= ?",
+      {QString("Gras mähen, Tränke füllen")});
+  ASSERT_EQ(orte->zeilen(), 1);
+  const Daten dort = DB.Lesen("select ID from Bienenvolk where Standort = ?", {orte->wert(0, 0)});
+  EXPECT_EQ(anzahl("Termine", QString("Termin = 'Gras mähen, Tränke füllen'")), dort->zeilen());
+}
+
+TEST_F(Kalender, GleicherTerminAmGleichenTagStehtBeiEinemVolkNurEinmal) {
+  standard();
+  EXPECT_EQ(DB.Lesen("select Datum, Termin, Volk_ID, count(*) as n from Termine group by Datum, "
+                     "Termin, Volk_ID having count(*) > 1")
+                ->zeilen(),
+            0);
+}
+
+// A booking settles what was due until its day.
+TEST_F(Kalender, EineGebuchteErnteHatDieErntetermineBisDahinErledigt) {
+  Betriebsgroesse groesse;
+  groesse.heute = QDate(2026, 8, 31);
+  anlegen(groesse);
+  const Daten offen = DB.Lesen(
+      "select Termine.ID from Termine where Termin = 'Honigernte' and Erledigt = 'N' and exists "
+      "(select * from Honigernte where Honigernte.Volk_ID = Termine.Volk_ID and Honigernte.Datum "
+      ">= Termine.Datum)");
+  EXPECT_EQ(offen->zeilen(), 0);
+  EXPECT_GT(anzahl("Termine", "Termin = 'Honigernte' and Erledigt = 'J'"), 20);
+}
+
+TEST_F(Kalender, ZumJahreswechselKommtKeineFrageMehr) {
+  standard();
+  EXPECT_EQ(TZ_Variablen::EinstellungenZahl[28], 2026);
+  EXPECT_EQ(TZ_Variablen::HeuteText, "15.06.2026");
+}
+
+// Whatever the day, the operation can be made: the first day of a year, the winter, a leap day.
+TEST_F(Kalender, JederTagDesJahresGeht) {
+  for (const QDate tag :
+       {QDate(2026, 1, 1), QDate(2026, 2, 3), QDate(2024, 2, 29), QDate(2026, 12, 31)}) {
+    Betriebsgroesse groesse = klein(5);
+    groesse.heute = tag;
+    anlegen(groesse);
+    EXPECT_EQ(anzahl("Bienenvolk"), 6) << tag.toString().toStdString();
+    EXPECT_GT(anzahl("Termine", "Erledigt = 'N'"), 0) << tag.toString().toStdString();
+  }
+}
+
+}  // namespace
