@@ -4,6 +4,7 @@
 #include "core/mainform/Feldfolge.h"
 #include "core/settings.h"
 #include "data/helpers.h"
+#include "platform/files/Textdatei.h"
 #include "platform/locale/Deutsch.h"
 
 using namespace TZ_Variablen;
@@ -66,6 +67,23 @@ void sortierspalteMitnehmen(const QStringList& vorher, const QStringList& nachhe
   if (!feld.isEmpty() && neu >= 0) EinstellungenZahl[25] = static_cast<qint16>(neu + 1);
 }
 
+// The three slot stores as they were, for the case that what is in them now can't be written.
+class Slotstand {
+ public:
+  void zuruecknehmen() const {
+    EinstellungenZahl = m_zahl;
+    EinstellungenWert = m_wert;
+    EinstellungenText = m_text;
+    ListeNeuLesen = m_listeNeuLesen;
+  }
+
+ private:
+  decltype(EinstellungenZahl) m_zahl = EinstellungenZahl;
+  decltype(EinstellungenWert) m_wert = EinstellungenWert;
+  decltype(EinstellungenText) m_text = EinstellungenText;
+  int m_listeNeuLesen = ListeNeuLesen;
+};
+
 }  // namespace
 
 Stand lesen(const Database& db) {
@@ -92,8 +110,9 @@ QString standardFrage() {
       "Sollen die aktuellen Werte wirklich mit den Standard-Werten überschrieben werden?");
 }
 
-void speichern(const Stand& stand, const Database& db) {
-  const QStringList vorher = Feldfolge::lesen(Feldfolge::Liste::Volk, db);
+namespace {
+
+void inDieSlots(const Stand& stand, const QStringList& vorher) {
   for (const Schalter& s : schalter())
     EinstellungenZahl[platz(s.slot)] = stand.kon.value(s.index) ? 1 : 0;
   for (const Eingabe& e : eingaben()) inSlot(e, stand.sevt.value(e.index));
@@ -112,7 +131,26 @@ void speichern(const Stand& stand, const Database& db) {
   EinstellungenText[17] = Feldfolge::anweisung(Feldfolge::Liste::Volk, stand.volkfelder);
   EinstellungenText[22] = Feldfolge::anweisung(Feldfolge::Liste::Stockkarte, stand.stockfelder);
   ListeNeuLesen = 1;
-  EinstellungenSchreiben();
+}
+
+}  // namespace
+
+void speichern(const Stand& stand, const Database& db) {
+  const QStringList vorher = Feldfolge::lesen(Feldfolge::Liste::Volk, db);
+  const Slotstand bisher;
+  inDieSlots(stand, vorher);
+  try {
+    EinstellungenSchreiben();
+  } catch (const Dateifehler& fehler) {
+    bisher.zuruecknehmen();
+    throw Dateifehler(fehler.text() + CRLF + CRLF + nichtGespeichertText());
+  }
+}
+
+QString nichtGespeichertText() {
+  return QStringLiteral(
+      "Die Einstellungen wurden nicht gespeichert, es gelten weiter die bisherigen. Ihre Eingaben "
+      "bleiben stehen: Beheben Sie die Ursache und drücken Sie noch einmal OK.");
 }
 
 QVariantList umgeordnet(const QVariantList& werte, const QStringList& vorher,

@@ -75,9 +75,11 @@ QString standardFrage();
 // Puts the settings into their slots, within their bounds, and writes the settings file. Tax rates
 // and combs per magazine are repaired as at the start. A second sort equal to the first is cleared,
 // an empty separator becomes " | ". The remembered sort of the list (EinstellungenZahl 25) follows
-// its field to the new place. ListeNeuLesen becomes 1. Throws Dateifehler; the slots hold the new
-// settings then.
+// its field to the new place. ListeNeuLesen becomes 1. Throws Dateifehler; slots and ListeNeuLesen
+// are then as they were before.
 void speichern(const Stand& stand, const Database& db);
+// What stands behind the reason when the file couldn't be written.
+QString nichtGespeichertText();
 
 // Values that belong to the columns of one order, such as widths, for another order of the same
 // fields; none when they don't belong to it.

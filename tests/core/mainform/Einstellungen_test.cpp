@@ -337,13 +337,42 @@ TEST_F(Einstellungsdaten, UnveraendertesSpeichernAendertKeineEinstellung) {
     EXPECT_EQ(EinstellungenText[i], i == 24 ? QString(56, u'1') : texte[i]) << i;
 }
 
-TEST_F(Einstellungsdaten, ScheiterndesSchreibenWirdGemeldet) {
-  QDir().mkpath(datei("Einstellungen.TV2"));  // a folder stands in the file's place
+TEST_F(Einstellungsdaten, ScheiterndesSchreibenWirdGemeldetUndDieBisherigenGelten) {
+  speichern(stand());
+  EinstellungenZahl[25] = 2;  // sorted by the second field
+  ListeNeuLesen = 0;
+  const auto zahl = EinstellungenZahl;
+  const auto wert = EinstellungenWert;
+  const auto text = EinstellungenText;
   Stand s = stand();
-  s.sevt[0] = "30";
-  EXPECT_THROW(speichern(s), Dateifehler);
+  s.kon[0] = !s.kon[0];
+  for (const auto& [index, inhalt] :
+       {std::pair(0, "30"), {2, "Kopf"}, {3, ";"}, {5, "7,5"}, {13, "Volkname"}})
+    s.sevt[index] = inhalt;
+  std::swap(s.volkfelder[0], s.volkfelder[1]);
+  std::swap(s.stockfelder[1], s.stockfelder[2]);
+  s.gezeigt[0] = !s.gezeigt[0];
+  QFile::remove(datei("Einstellungen.TV2"));
+  QDir().mkpath(datei("Einstellungen.TV2"));  // a folder stands in the file's place
+  try {
+    speichern(s);
+    FAIL();
+  } catch (const Dateifehler& fehler) {
+    EXPECT_TRUE(fehler.text().contains("Einstellungen.TV2"));
+    EXPECT_TRUE(fehler.text().endsWith(
+        "Die Einstellungen wurden nicht gespeichert, es gelten weiter die bisherigen. Ihre "
+        "Eingaben bleiben stehen: Beheben Sie die Ursache und drücken Sie noch einmal OK."));
+  }
+  EXPECT_EQ(EinstellungenZahl, zahl);
+  EXPECT_EQ(EinstellungenWert, wert);
+  EXPECT_EQ(EinstellungenText, text);
+  EXPECT_EQ(ListeNeuLesen, 0);
+  QDir().rmdir(datei("Einstellungen.TV2"));
+  speichern(s);
   EXPECT_EQ(EinstellungenZahl[50], 30);
+  EXPECT_EQ(EinstellungenZahl[25], 1);  // the field went to the first place once, not twice
   EXPECT_EQ(ListeNeuLesen, 1);
+  EXPECT_EQ(Textdatei::lesen(datei("Einstellungen.TV2"))[50], "30");
 }
 
 TEST_F(Einstellungsdaten, StandardSetztNurSeineWerte) {

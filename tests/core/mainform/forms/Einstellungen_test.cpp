@@ -13,6 +13,8 @@
 #include "core/mainform/Feldfolge.h"
 #include "core/mainform/Liste.h"
 #include "core/mainform/forms/TO_Einstellungen.h"
+#include "core/settings.h"
+#include "gemeinsam/AndererBenutzer.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/files/Textdatei.h"
 
@@ -425,10 +427,61 @@ TEST_F(Einstellungsform, ScheiterndesSchreibenLaesstDasFormularOffen) {
   QFile::remove(m_ordner.filePath("Einstellungen.TV2"));
   QDir().mkpath(m_ordner.filePath("Einstellungen.TV2"));
   tippe(0, "30");
-  boxen.hinweisMit("Einstellungen.TV2");
+  klicke(kon(0));
+  kind<QListWidget>("lifelder")->setCurrentRow(1);
+  klicke("aufwaerts_0");
+  const QString anweisung = EinstellungenText[17];
+  boxen.hinweisMit("Die Einstellungen wurden nicht gespeichert, es gelten weiter die bisherigen.");
   klicke("ok");
   EXPECT_TRUE(form->isVisible());
   EXPECT_EQ(feld(0)->inhalt(), "30");
+  EXPECT_FALSE(kon(0)->isChecked());
+  EXPECT_EQ(zeilen("lifelder").mid(0, 2), QStringList({"Volkname", "Volknr"}));
+  EXPECT_EQ(EinstellungenZahl[50], 14);
+  EXPECT_EQ(EinstellungenZahl[13], 1);
+  EXPECT_EQ(EinstellungenText[17], anweisung);
+  EXPECT_EQ(ListeNeuLesen, 0);
+}
+
+TEST_F(Einstellungsform, NachBehobenerUrsacheSpeichertOkDieStehengebliebenenEingaben) {
+  Fensterablage::setDatei(m_ordner.filePath("TOVA2.LAY"));
+  QVariantList breiten;
+  for (int i = 0; i < 50; ++i) breiten << 100 + i;
+  Fensterablage::schreiben("Spaltenbreiten/TOVA/datali/ColWidths", breiten);
+  oeffne();
+  QFile::remove(m_ordner.filePath("Einstellungen.TV2"));
+  QDir().mkpath(m_ordner.filePath("Einstellungen.TV2"));
+  tippe(0, "30");
+  kind<QListWidget>("lifelder")->setCurrentRow(1);
+  klicke("aufwaerts_0");
+  boxen.hinweisMit("Einstellungen.TV2");
+  klicke("ok");
+  EXPECT_EQ(Fensterablage::lesen("Spaltenbreiten/TOVA/datali/ColWidths").toList()[0].toInt(), 100);
+  QDir().rmdir(m_ordner.filePath("Einstellungen.TV2"));
+  klicke("ok");
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(EinstellungenZahl[50], 30);
+  EXPECT_EQ(gespeichert()[50], "30");
+  EXPECT_EQ(Fensterablage::lesen("Spaltenbreiten/TOVA/datali/ColWidths").toList()[0].toInt(), 101);
+}
+
+// Closing without a second try leaves the session as the file, and the list as it was.
+TEST_F(Einstellungsform, AbbrechenNachScheiterndemSchreibenLaesstAllesBeimAlten) {
+  oeffne();
+  EinstellungenSchreiben();
+  const QStringList vorher = gespeichert();
+  {
+    const AndererBenutzer ohneRechte;
+    if (ohneRechte.darfAlles()) GTEST_SKIP() << "kann die Rechte nicht abgeben";
+    tippe(0, "30");
+    boxen.hinweisMit("Einstellungen.TV2");
+    klicke("ok");
+  }
+  klicke("cmdabbrechen");
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(gespeichert(), vorher);
+  EXPECT_EQ(EinstellungenZahl[50], 14);
+  EXPECT_EQ(ListeNeuLesen, 0);
 }
 
 TEST_F(Einstellungsform, HilfeZeigtDasThemaDesFormulars) {
