@@ -4,6 +4,7 @@
 
 #include "core/globals.h"
 #include "data/helpers.h"
+#include "planning/Optionsfehler.h"
 #include "planning/Termine.h"
 #include "platform/database/Recordset.h"
 
@@ -138,11 +139,16 @@ void schreibeVolk(Database& db, Vorhaben& v, const Volkeingabe& eingabe) {
   v.volkGeschrieben = true;
 }
 
+// An option that can't be computed is left out, and named when all others are done.
 void berechneTermine(Database& db, qint64 volkId) {
+  Optionsfehler fehler;
   Recordset rs = db.OpenRecordset("select * from Arbeitsplanoptionen");
-  for (; !rs.AmEnde(); rs.MoveNext())
-    if (TextLesen(rs.Wert(QString("Volkabhängig"))) == QLatin1String("J"))
-      TermineBerechnen(db, rs.Wert("ID").toLongLong(), volkId);
+  for (; !rs.AmEnde(); rs.MoveNext()) {
+    if (TextLesen(rs.Wert(QString("Volkabhängig"))) != QLatin1String("J")) continue;
+    const qint64 option = rs.Wert("ID").toLongLong();
+    fehler.versuche(option, [&] { TermineBerechnen(db, option, volkId); });
+  }
+  fehler.wirf(QString("Das Volk ist gespeichert."));
 }
 
 void schreibe(Database& db, Vorhaben& v, const Volkeingabe& eingabe) {

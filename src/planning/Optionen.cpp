@@ -1,11 +1,13 @@
 #include "planning/Optionen.h"
 
 #include <QStringList>
+#include <algorithm>
 
 #include "core/globals.h"
 #include "data/helpers.h"
 #include "planning/Optionsfehler.h"
 #include "planning/Termine.h"
+#include "platform/database/Kollation.h"
 #include "platform/database/Recordset.h"
 
 using namespace TZ_Variablen;
@@ -73,7 +75,11 @@ QStringList erledigtArbeitsarten(Database& db) {
   const Daten arten = db.Lesen("select distinct Arbeitsart from Arbeiten order by Arbeitsart");
   for (int i = 0; i < arten->zeilen(); ++i) {
     const QString text = TextLesen(arten->wert(i, 0));
-    if (!text.isEmpty()) liste << text;
+    const auto gleich = [&](const QString& anderer) {
+      return Kollation::vergleiche(anderer, text) == 0;
+    };
+    // Different texts of the table may be one when they are read; the empty one is there already.
+    if (std::none_of(liste.cbegin(), liste.cend(), gleich)) liste << text;
   }
   return liste;
 }

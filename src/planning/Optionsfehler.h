@@ -14,8 +14,9 @@ class Optionsfehler {
   // Runs the work for one option; not at all for an option that has failed before. A failure that
   // isn't the option's own (full disk, lost transaction) goes on at once.
   void versuche(qint64 optionId, const std::function<void()>& arbeit);
-  // Throws what failed, all options in one text.
-  void wirf() const;
+  // Throws what failed, all options in one text, which ends with what the user should know of the
+  // rest of the action.
+  void wirf(const QString& nachsatz = {}) const;
 
  private:
   QSet<qint64> m_optionen;   // that failed

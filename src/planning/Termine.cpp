@@ -42,9 +42,26 @@ QDate tagDesJahres(const Option& option, const QString& tagMonat, const QString&
           .arg(option.arbeitsart, name, text));
 }
 
-// A row of the statement moves the threshold to its Datum.
-void anheben(Database& db, const QString& anweisung, const QVariantList& werte, QDate& schwelle) {
-  Recordset rs = db.OpenRecordset(anweisung, werte);
+// The bookings that settle an option. A table that isn't there, or has no such fields, is a fault
+// of the option, which the user knows by its name only.
+Recordset buchungen(Database& db, const Option& option, const QString& anweisung,
+                    const QVariantList& werte, const QString& erledigung) {
+  try {
+    return db.OpenRecordset(anweisung, werte);
+  } catch (const Datenbankfehler& fehler) {
+    if (fehler.art() != Datenbankfehler::Art::Anweisung || fehler.allesVerworfen()) throw;
+    throw Datenbankfehler(
+        fehler.art(),
+        QString("Die Termine der Arbeitsplan-Option '%1' können nicht berechnet werden, weil ihre "
+                "%2 nicht gelesen werden kann. Bitte löschen Sie diese Option in den "
+                "Arbeitsplanoptionen und legen Sie sie neu an.")
+            .arg(option.arbeitsart, erledigung),
+        fehler.anweisung());
+  }
+}
+
+// The newest of the bookings moves the threshold to its Datum.
+void anheben(const Recordset& rs, QDate& schwelle) {
   if (rs.RecordCount() == 0) return;
   const QDate datum = rs.Wert("Datum").toDate();
   if (datum > schwelle) schwelle = datum;
@@ -57,15 +74,18 @@ QDate berechneSchwelle(Database& db, const Option& option, qint64 volkId, QDate 
   const QDate heute = DatumLesen(TZ_Variablen::HeuteText);
   if (heute > schwelle) schwelle = heute;
   if (option.volkabhängig && !option.buchung.isEmpty())
-    anheben(db,
-            "select top 1 Datum from " + option.buchung +
-                " where Volk_ID = ? and Datum >= ? order by Datum DESC",
-            {volkId, schwelle}, schwelle);
+    anheben(buchungen(db, option,
+                      "select top 1 Datum from " + option.buchung +
+                          " where Volk_ID = ? and Datum >= ? order by Datum DESC",
+                      {volkId, schwelle}, QString("Buchung '%1'").arg(option.buchung)),
+            schwelle);
   if (option.volkabhängig && !option.arbeit.isEmpty())
-    anheben(db,
-            "select top 1 Datum from Arbeiten where Arbeitsart = ? and Volk_ID = ? and "
-            "Datum >= ? order by Datum DESC",
-            {option.arbeit, volkId, schwelle}, schwelle);
+    anheben(
+        buchungen(db, option,
+                  "select top 1 Datum from Arbeiten where Arbeitsart = ? and Volk_ID = ? and "
+                  "Datum >= ? order by Datum DESC",
+                  {option.arbeit, volkId, schwelle}, QString("Arbeitsart '%1'").arg(option.arbeit)),
+        schwelle);
   return schwelle;
 }
 

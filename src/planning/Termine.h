@@ -11,7 +11,8 @@
 // colonies) to Termine: the days of the option's series in the year of HeuteText, from today and
 // from the newest booking that settles the option on. What stands in Termine already is not looked
 // at; callers see to double rows. An option that isn't there gives nothing. A period text that is
-// no day of this year throws Datenbankfehler (Wertebereich); nothing is written then.
+// no day of this year throws Datenbankfehler (Wertebereich), a booking table that isn't one another
+// (Anweisung); both name the option, and nothing is written then.
 void TermineBerechnen(Database& db, qint64 optionId, qint64 volkId);
 
 // The days beginn, beginn + frist, ... up to ende (included) that are not earlier than schwelle. A

@@ -515,6 +515,46 @@ TEST_F(Bestandswechsel, GescheiterteTermineLassenDasVolkGespeichert) {
   EXPECT_EQ(TZ_Variablen::ListeNeuLesen, 1);
 }
 
+// The option that can't be computed stands in front of the others.
+TEST_F(Bestandswechsel, EineUngueltigeOptionNimmtEinemNeuenVolkDieAnderenTermineNicht) {
+  db().Execute("delete from Arbeitsplanoptionen");
+  option("Schalttag", "29.02", 0, "29.02");
+  option("Seltsam", "01.07", 0, "01.07", "J", "Gibtesnicht");
+  option("Kontrolle", "21.06", 9, "30.06");
+  option("Beuten bauen", "01.12", 0, "01.12", "N");
+  QString text;
+  try {
+    speichereNeu(eingabe("1"));
+  } catch (const Datenbankfehler& fehler) {
+    text = fehler.text();
+  }
+  EXPECT_TRUE(text.contains("'Schalttag'")) << text.toStdString();
+  EXPECT_TRUE(text.contains("'Seltsam'")) << text.toStdString();
+  EXPECT_TRUE(text.endsWith("Die Termine aller anderen Arbeitsplan-Optionen wurden eingetragen."
+                            "\r\n\r\nDas Volk ist gespeichert."))
+      << text.toStdString();
+  EXPECT_EQ(anzahl("Bienenvolk", "Volknr = '1'"), 1);
+  EXPECT_EQ(anzahl("Termine", "Termin = 'Kontrolle'"), 2);
+  EXPECT_EQ(anzahl("Termine"), 2);
+}
+
+TEST_F(Bestandswechsel, EineUngueltigeOptionNimmtEinemZurueckgekehrtenVolkDieAnderenTermineNicht) {
+  db().Execute("delete from Arbeitsplanoptionen");
+  option("Schalttag", "29.02", 0, "29.02");
+  option("Kontrolle", "21.06", 9, "30.06");
+  const qint64 id = neuesVolk("1", "");
+  EXPECT_THROW(aendere(id, [](Volkeingabe& e) { e.kon = true; }, {false}), Datenbankfehler);
+  EXPECT_EQ(boxen, QStringList({AlteBuchungen, TermineNeu}));
+  EXPECT_EQ(zahlDerTermine(id), 2);
+}
+
+TEST_F(Bestandswechsel, EineUngueltigeOptionOhneVolkStoertEinNeuesVolkNicht) {
+  db().Execute("delete from Arbeitsplanoptionen");
+  option("Schalttag", "29.02", 0, "29.02", "N");
+  option("Kontrolle", "21.06", 9, "30.06");
+  EXPECT_EQ(zahlDerTermine(speichereNeu(eingabe("1"))), 2);
+}
+
 TEST_F(Volk, LoeschenNimmtAlleBuchungenUndTermineDesEinenVolkes) {
   const qint64 id = neuesVolk("1");
   const qint64 anderes = neuesVolk("2");

@@ -124,6 +124,59 @@ TEST_F(Optionen, DieWahlDerArbeitsartKommtAusDenArbeiten) {
   EXPECT_EQ(erledigtArbeitsarten(db()), QStringList({"", "Absperren", "Schied"}));
 }
 
+TEST_F(Optionen, ArbeitsartenDieGelesenGleichSindStehenEinmalDa) {
+  for (const char* art : {" Schied", "Schied", "SCHIED", "Rund um's Volk", "Rund um`s Volk", "  "})
+    db().Execute("insert into Arbeiten(Arbeitsart, Volk_ID) values (?, 1)", {QString(art)});
+  const QStringList arten = erledigtArbeitsarten(db());
+  ASSERT_EQ(arten.size(), 3);
+  EXPECT_EQ(arten[0], "");
+  EXPECT_EQ(arten.count("Schied"), 1);
+  EXPECT_EQ(arten.count("Rund um`s Volk"), 1);
+}
+
+TEST_F(Optionen, EineNeueOptionMitLeererVolkabhaengigkeitGibtJedemVolkIhreTermine) {
+  const qint64 a = neuesVolk("1");
+  const qint64 b = neuesVolk("2");
+  db().Execute("insert into Honigernte(Datum, Volk_ID) values (?, ?)", {QDate(2006, 7, 10), a});
+  const qint64 id =
+      optionAnlegen(db(), eingabe("Kontrolle", "01.07", "15.07", "14", "", "Honigernte"));
+  EXPECT_EQ(wert(QString("select Volkabhängig from Arbeitsplanoptionen where ID = ?"), {id}), "");
+  // Not being "J", it heeds no booking.
+  EXPECT_EQ(termine(), QStringList({QString("%1 Kontrolle 01.07.2006").arg(a),
+                                    QString("%1 Kontrolle 15.07.2006").arg(a),
+                                    QString("%1 Kontrolle 01.07.2006").arg(b),
+                                    QString("%1 Kontrolle 15.07.2006").arg(b)}));
+}
+
+TEST_F(Optionen, UmbenennenUndLoeschenNehmenDenNamenWieErInDerTabelleSteht) {
+  const qint64 id = option("Rund um's Volk", "01.06", 14, "31.08");
+  termin("Rund um's Volk", QDate(2006, 7, 1));
+  termin("Rund um`s Volk", QDate(2006, 7, 2));
+  optionUmbenennen(db(), id, "Um's Volk", "Rund um's Volk");
+  EXPECT_EQ(termine(), QStringList({"1 Um`s Volk 01.07.2006", "1 Rund um`s Volk 02.07.2006"}));
+}
+
+TEST_F(Optionen, NeuSetzenRechnetDieOptionenInIhrerReihenfolge) {
+  const qint64 a = option("A", "01.07", 0, "01.07", "N");
+  const qint64 b = option("B", "01.07", 0, "01.07", "N");
+  alleTermineBerechnen(db(), {{b, "B", "N"}, {a, "A", "N"}});
+  EXPECT_EQ(termine(), QStringList({"0 B 01.07.2006", "0 A 01.07.2006"}));
+}
+
+TEST_F(Optionen, NeuSetzenNenntEineOptionMitUnbekannterBuchungUndSetztDieAnderen) {
+  neuesVolk("1");
+  option("Seltsam", "01.07", 0, "01.07", "J", "Gibtesnicht");
+  option("Kontrolle", "01.07", 0, "01.07");
+  QString text;
+  try {
+    alleTermineBerechnen(db(), alle());
+  } catch (const Datenbankfehler& fehler) {
+    text = fehler.text();
+  }
+  EXPECT_TRUE(text.contains("'Seltsam'")) << text.toStdString();
+  EXPECT_EQ(anzahl("Termine", "Termin = 'Kontrolle'"), 1);
+}
+
 TEST_F(Optionen, AnlegenSchreibtAlleSiebenFelder) {
   const qint64 id = optionAnlegen(
       db(), eingabe(" Honig's ", "01.06", "31.08", "14", "J", "Honigernte", "Schleudern"));
