@@ -209,11 +209,15 @@ TEST_P(Formvertrag, EingabetasteDruecktDenStandardknopfOderSchadetNicht) {
     if (qobject_cast<QAbstractButton*>(kind(halt))) continue;
     const QString vorher = Betrieb::abbild();
     int gedrueckt = 0;
-    if (QPushButton* knopf = standardknopf(form.get()))
+    const bool eingabe = qobject_cast<QLineEdit*>(kind(halt)) != nullptr;
+    QPushButton* knopf = eingabe && !fall().eingabeknopf.isEmpty()
+                             ? form->findChild<QPushButton*>(fall().eingabeknopf)
+                             : standardknopf(form.get());
+    if (knopf != nullptr)
       QObject::connect(knopf, &QPushButton::clicked, form.get(), [&] { ++gedrueckt; });
     kind(halt)->setFocus();
     QTest::keyClick(kind(halt), Qt::Key_Return);
-    if (qobject_cast<QLineEdit*>(kind(halt)) && !standard.isEmpty()) {
+    if (eingabe && !standard.isEmpty()) {
       EXPECT_EQ(gedrueckt, 1) << qPrintable(halt);
     }
     if (gedrueckt == 0) {

@@ -1,5 +1,6 @@
 #include "Formenliste.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QFile>
 #include <QTabWidget>
@@ -21,6 +22,8 @@
 #include "output/forms/TA_Textausgabe.h"
 #include "output/forms/TA_Zwischenliste.h"
 #include "planning/forms/TV_Arplanoptionen.h"
+#include "planning/forms/TV_Starttermine.h"
+#include "planning/forms/TV_Terminverwaltung.h"
 #include "platform/controls/Grid.h"
 #include "sites/forms/TV_Pflanzen_Standorte.h"
 
@@ -238,6 +241,80 @@ Formfall arbeitsplanoptionen() {
   return f;
 }
 
+// General appointments and some of colonies, due and to come, open and done.
+void termineEintragen() {
+  if (DB.Lesen("select ID from Termine where Termin = 'Imkerstammtisch'")->zeilen() > 0) return;
+  const auto eintragen = [](const char* tag, const QString& text, const char* erledigt,
+                            qint64 volkId) {
+    DB.Execute("insert into Termine(Datum, Termin, Erledigt, Volk_ID) values (?, ?, ?, ?)",
+               {QDate::fromString(tag, Qt::ISODate), text, QString(erledigt), volkId});
+  };
+  eintragen("2026-06-12", "Imkerstammtisch", "J", 0);
+  eintragen("2026-06-26", "Imkerstammtisch", "N", 0);
+  const Daten voelker = DB.Lesen("select ID from Bienenvolk order by ID");
+  for (int i = 0; i < voelker->zeilen(); ++i) {
+    eintragen("2026-06-10", "Honigraum aufsetzen", "N", voelker->ganzzahl(i, 0));
+    eintragen("2026-06-20", "Schwarmkontrolle", "N", voelker->ganzzahl(i, 0));
+  }
+}
+
+// In the view of the colonies' appointments, which has the most columns.
+Formfall terminverwaltung() {
+  Formfall f{"TV_Terminverwaltung", "TV_Terminverwaltung", "TV_Terminverwaltung", "neu_0", {}};
+  f.machen = [](Betrieb&) -> Form {
+    termineEintragen();
+    auto form = std::make_unique<TV_Terminverwaltung>();
+    form->laden();
+    form->findChild<QAbstractButton*>("opti_1")->click();
+    return form;
+  };
+  f.sichern = Sichern{"neu_0",
+                      {"opti_0", "opti_1", "sevt_3", "sevt_4", "sevt_5", "sevt_6", "sevt_7",
+                       "sevt_9", "sevt_10"},  // view and filters; the days follow the date
+                      {},
+                      f.machen,
+                      [](QWidget* form) {
+                        auto* grid = form->findChild<Grid*>("litermine");
+                        klickeZeile(grid, grid->findeZeile("Termin = 'Futter nachsehen'"));
+                      },
+                      [](QWidget* form, Meldungen::Probe& boxen) {
+                        tippe(form, "sevt_1", {});
+                        boxen.hinweisMit("...die Terminart angegeben werden muß.");
+                      }};
+  f.sichern->werte = {{"sevt_0", "18.06.2026"}, {"sevt_1", "Futter nachsehen"}, {"sevt_8", "2"}};
+  f.loeschen = Loeschen{"Termine",
+                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
+                        [](QWidget* form) {
+                          auto* grid = form->findChild<Grid*>("litermine");
+                          klickeZeile(grid, grid->findeZeile("Termin = 'Schwarmkontrolle'"));
+                          druecke(form, QString("löschen"));
+                        }};
+  return f;
+}
+
+// The check box is kept; what closes appointments asks for a row first.
+Formfall starttermine() {
+  Formfall f{"TV_Starttermine", "TV_Starttermine", "TV_Starttermine", QString("schließen"), {}};
+  f.machen = [](Betrieb&) -> Form {
+    termineEintragen();
+    auto form = std::make_unique<TV_Starttermine>();
+    form->laden();
+    return form;
+  };
+  f.sichern = Sichern{QString("schließen"),
+                      {"sevt_0", "sevt_1", "sevt_2", "sevt_3", "konterminreihe"},
+                      {},
+                      f.machen,
+                      {},
+                      [](QWidget*, Meldungen::Probe& boxen) {
+                        boxen.hinweis("Bitter markieren Sie zuerst die zu erledigenden Termine.");
+                      },
+                      {},
+                      "cmdok_1"};
+  f.eingabeknopf = "cmdok_0";
+  return f;
+}
+
 Formfall standorte() {
   Formfall f{"TV_Pflanzen_Standorte_Standorte", "TV_Pflanzen_Standorte", "TV_Pflanzen_Standorte",
              "neustandort_0", [](Betrieb&) { return standortform("0"); }};
@@ -325,9 +402,9 @@ const std::vector<Formfall>& formenliste() {
   static const std::vector<Formfall> liste = [] {
     std::vector<Formfall> alle{hauptformular(), ersteSchritte(), neuesVolk(), volkAendern()};
     for (int art = 0; art < 11; ++art) alle.push_back(eingabe(art));
-    alle.insert(alle.end(),
-                {hilfe(), dateiauswahl(), dateispeichern(), selektieren(), standorte(), pflanzen(),
-                 arbeitsplanoptionen(), einstellungen(), textausgabe(), zwischenliste()});
+    alle.insert(alle.end(), {hilfe(), dateiauswahl(), dateispeichern(), selektieren(), standorte(),
+                             pflanzen(), arbeitsplanoptionen(), terminverwaltung(), starttermine(),
+                             einstellungen(), textausgabe(), zwischenliste()});
     return alle;
   }();
   return liste;

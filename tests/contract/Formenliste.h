@@ -45,6 +45,8 @@ struct Formfall {
   // Mnemonics that the given captions have more than once: of the window, of its menus.
   QStringList doppelt = {};
   QStringList doppeltImMenue = {};
+  // What Enter presses in the first input of its kind, where that isn't the standardknopf.
+  QString eingabeknopf = {};
 };
 
 const std::vector<Formfall>& formenliste();
