@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+
+#include "data/forms/Verwaltungsblock.h"
+#include "stores/Handel.h"
+
+class QPushButton;
+
+// The three blocks of TV_EinVerkauf_Lager. After each reading the last row, the latest by date, is
+// current; the inputs keep what they hold. While a list is read no button of the form can be
+// pressed.
+
+class Handelsblock : public Verwaltungsblock {
+ public:
+  void listeLesen() override;
+
+ protected:
+  explicit Handelsblock(const Plan& plan) : Verwaltungsblock(plan) {}
+  QString meldung(const QStringList& gründe) const override;
+  void nachListe() override;
+};
+
+// Purchases or sales.
+class Geschaeftsblock : public Handelsblock {
+ public:
+  // lagerLesen: reads the list of the honey store anew.
+  Geschaeftsblock(Handel::Seite seite, std::function<void()> lagerLesen);
+
+ protected:
+  QStringList prüfe(const Verwaltung::Texte& texte, bool ändern) override;
+  qint64 schreiben(const Verwaltung::Texte& texte, std::optional<qint64> id,
+                   const QVariantHash& weitere) override;
+  void vorLöschen(qint64 id) override;
+  void nachLöschen() override { m_lagerLesen(); }
+
+ private:
+  Handel::Seite m_seite;
+  std::function<void()> m_lagerLesen;
+};
+
+// The honey store, with its stock beside the list.
+class Lagerblock : public Handelsblock {
+ public:
+  Lagerblock();
+
+  QList<QWidget*> tabfolge() const;
+  void bestandLeeren();
+
+ protected:
+  QStringList prüfe(const Verwaltung::Texte& texte, bool ändern) override;
+  QString vorSpeichern(const Verwaltung::Texte& texte, std::optional<qint64> id,
+                       QVariantHash& weitere) override;
+
+ private:
+  QWidget* bestandBauen();
+  void bestandZeigen();
+
+  Grid* ligroup = nullptr;
+  QPushButton* comalle = nullptr;
+};
