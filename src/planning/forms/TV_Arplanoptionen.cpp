@@ -30,13 +30,23 @@ void TV_Arplanoptionen::zeigen() {
 }
 
 void TV_Arplanoptionen::laden() {
-  m_db = Arbeitsbereich.OpenDatabase(DatenbankPfad);
   calender->setText(QString("Alle Termine für das aktuelle Jahr ") + HeuteText.mid(6, 4) +
                     QString(" löschen und wieder neu setzen"));
-  arbeitsartenFuellen();
-  leeren();
-  listeLaden();
+  m_db = Arbeitsbereich.OpenDatabase(DatenbankPfad);
+  try {
+    arbeitsartenFuellen();
+    leeren();
+    listeLaden();
+  } catch (...) {
+    trennen();
+    throw;
+  }
   sevt[0]->setFocus();
+}
+
+void TV_Arplanoptionen::trennen() {
+  liarplan->setDaten({});
+  m_db.Close();
 }
 
 void TV_Arplanoptionen::listeLaden() {
@@ -103,12 +113,17 @@ void TV_Arplanoptionen::neu(int index) {
                 "Feldes Arbeitsart geändert wird. Falls Sie ein anderes Datenfeld ändern möchten, "
                 "dann müssen Sie den Termin vorher löschen und wieder neu anlegen."),
         this);
-  {
+  const qint64 id = aktuelleId();
+  try {
     const Ereignis::Sanduhr sanduhr;
     if (index == 1)
-      optionUmbenennen(m_db, aktuelleId(), texte[0], m_alteArbeitsart);
+      optionUmbenennen(m_db, id, texte[0], m_alteArbeitsart);
     else
       optionAnlegen(m_db, texte);
+  } catch (...) {
+    neuLesen(id);
+    for (size_t i = 0; i < sevt.size(); ++i) sevt[i]->setInhalt(texte[i]);
+    throw;
   }
   nachSpeichern(TextLesen(texte[0]));
 }
@@ -123,6 +138,15 @@ void TV_Arplanoptionen::nachSpeichern(const QString& arbeitsart) {
   sevt[0]->setFocus();
 }
 
+// After a failure: the list shows what is in the database now, and the record of before.
+void TV_Arplanoptionen::neuLesen(qint64 id) {
+  leeren();
+  listeLaden();
+  const int zeile = id == 0 ? -1 : liarplan->findeZeile("ID = " + QString::number(id));
+  if (zeile >= 0) liarplan->setAktuelleZeile(zeile);
+  zeileZeigen(zeile);
+}
+
 void TV_Arplanoptionen::loeschen() {
   const int zeile = liarplan->aktuelleZeile();
   if (zeile < 0) {
@@ -131,14 +155,14 @@ void TV_Arplanoptionen::loeschen() {
     return;
   }
   if (!LoeschenBestaetigt()) return;
+  const qint64 id = aktuelleId();
   const QString arbeitsart = m_alteArbeitsart;  // the next row becomes current meanwhile
   try {
     optionLöschen(m_db, arbeitsart,
                   [&] { liarplan->loescheZeile(zeile, m_db, "Arbeitsplanoptionen"); });
   } catch (...) {
     // The row may have left the list although the option is still there.
-    leeren();
-    listeLaden();
+    neuLesen(id);
     throw;
   }
   if (liarplan->aktuelleZeile() < 0) leeren();
@@ -171,7 +195,6 @@ void TV_Arplanoptionen::alleBerechnen() {
 }
 
 void TV_Arplanoptionen::done(int ergebnis) {
-  liarplan->setDaten({});
-  m_db.Close();
+  trennen();
   Formular::done(ergebnis);
 }

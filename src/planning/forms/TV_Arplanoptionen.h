@@ -39,6 +39,8 @@ class TV_Arplanoptionen : public Formular {
   void reihenfolgeSetzen();
 
   void listeLaden();
+  void trennen();
+  void neuLesen(qint64 id);
   void arbeitsartenFuellen();
   void leeren();
   void zeileZeigen(int zeile);

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 
 #include "planning/forms/TV_Arplanoptionen.h"
 #include "platform/controls/Eingabefeld.h"
@@ -69,7 +70,10 @@ void TV_Arplanoptionen::aufbauen() {
   spalte->addWidget(fussBauen());
   verbinden();
   reihenfolgeSetzen();
-  resize(110 * fontMetrics().averageCharWidth(), 28 * fontMetrics().height());
+  // Room for all columns and the options of a year, and never more than the screen has.
+  const QSize frei = screen()->availableGeometry().size();
+  resize(QSize(150 * fontMetrics().averageCharWidth(), 38 * fontMetrics().height())
+             .boundedTo(frei * 9 / 10));
 }
 
 QWidget* TV_Arplanoptionen::feldgruppeBauen() {

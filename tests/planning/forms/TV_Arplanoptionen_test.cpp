@@ -1,104 +1,10 @@
-#include "planning/forms/TV_Arplanoptionen.h"
-
-#include <QAbstractButton>
-#include <QLabel>
-#include <QTest>
-#include <memory>
-
-#include "colonies/Testbetrieb.h"
-#include "planning/forms/Terminlauf.h"
-#include "platform/controls/Eingabefeld.h"
-#include "platform/controls/Grid.h"
-#include "platform/controls/Meldungen.h"
+#include "Arplanprobe.h"
 
 using namespace TZ_Variablen;
 
 namespace {
 
-const QString Loeschfrage =
-    "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
-const QString Neufrage =
-    "Durch diese Aktion werden alle Termine lt. Arbeitsplanoptionen aus dem aktuellen Jahr 2006 "
-    "gelöscht und neu berechnet. Es werden auch die erledigten Termine gelöscht. Berechnet werden "
-    "die Termine lediglich ab dem aktuellen Datum 20.06.2006.\n\nSoll die Aktion wirklich "
-    "ausgeführt werden?";
-const QString Aendernhinweis =
-    "Sie haben [Ändern] ausgewählt. Bitte beachten Sie, daß lediglich der Inhalt des Feldes "
-    "Arbeitsart geändert wird. Falls Sie ein anderes Datenfeld ändern möchten, dann müssen Sie den "
-    "Termin vorher löschen und wieder neu anlegen.";
-
-class Arplanoptionen : public Testbetrieb {
- protected:
-  void SetUp() override {
-    Testbetrieb::SetUp();
-    EinstellungenZahl[55] = 1;
-    db().Execute("delete from Arbeitsplanoptionen");
-  }
-  void TearDown() override {
-    EXPECT_EQ(boxen.fehler().toStdString(), "");
-    form.reset();
-    Testbetrieb::TearDown();
-  }
-
-  void oeffne() {
-    form = std::make_unique<TV_Arplanoptionen>();
-    form->laden();
-    form->show();
-    form->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-  }
-  template <typename T = QWidget>
-  T* kind(const QString& name) {
-    T* k = form->findChild<T*>(name);
-    if (k == nullptr) ADD_FAILURE() << "fehlt: " << name.toStdString();
-    return k;
-  }
-  Eingabefeld* feld(int i) { return kind<Eingabefeld>(QString("sevt_%1").arg(i)); }
-  QStringList inhalte() {
-    QStringList texte;
-    for (int i = 0; i < 7; ++i) texte << feld(i)->inhalt();
-    return texte;
-  }
-  void tippe(int i, const QString& text) {
-    Eingabefeld* f = feld(i);
-    f->setFocus();
-    if (f->art() == Eingabefeld::Art::Auswahl) {
-      f->setInhalt({});
-      if (!text.isEmpty()) QTest::keyClicks(f, text.left(1));
-      return;
-    }
-    f->selectAll();
-    QTest::keyClick(f, Qt::Key_Delete);
-    QTest::keyClicks(f, text);
-  }
-  void fuelle(const QString& name, const QString& start, const QString& ende, const QString& volk) {
-    tippe(0, name);
-    tippe(1, start);
-    tippe(2, ende);
-    tippe(4, volk);
-  }
-  void klicke(const QString& name) {
-    QTest::mouseClick(kind<QAbstractButton>(name), Qt::LeftButton);
-  }
-  Grid* liste() { return kind<Grid>("liarplan"); }
-  void klickeZeile(int zeile) {
-    Grid* grid = liste();
-    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
-                      grid->visualRect(grid->model()->index(zeile, 0)).center());
-  }
-  QStringList namen() {
-    QStringList texte;
-    for (int i = 0; i < liste()->zeilen(); ++i) texte << liste()->zelle(i, "Arbeitsart");
-    return texte;
-  }
-  static void termin(const QString& text, QDate datum, qint64 volk = 1) {
-    db().Execute("insert into Termine(Datum, Termin, Erledigt, Volk_ID) values (?, ?, 'N', ?)",
-                 {datum, text, volk});
-  }
-
-  Meldungen::Probe boxen;
-  std::unique_ptr<TV_Arplanoptionen> form;
-};
+class Arplanoptionen : public Arplanprobe {};
 
 }  // namespace
 
@@ -371,32 +277,14 @@ TEST_F(Arplanoptionen, NachDemSchliessenOeffnetSieSichMitFrischenDaten) {
   EXPECT_EQ(namen(), QStringList("Honig"));
 }
 
-TEST_F(Arplanoptionen, DerJahreslaufFragtUndMeldetUeberDemFenster) {
-  neuesVolk("1");
-  option("Honig", "01.07", 0, "01.07");
-  oeffne();
-  boxen.frageMit("Sie starten TOVA das erste mal im neuen Jahr", true)
-      .hinweis(
-          "Die volkabhängigen Termine wurden für das Jahr 2006 neu berechnet und im "
-          "Terminkalender eingetragen.");
-  volkTermineSetzen(form.get());
-  EXPECT_EQ(anzahl("Termine"), 1);
-  boxen.frageMit("Sie starten TOVA", true)
-      .frage(
-          "Es befinden sich im Jahr 2006 bereits volkabhängige Termine im Terminkalender. Die "
-          "Termine für ein komplettes Jahr können nur dann eingetragen werden, wenn noch keine "
-          "volkabhängigen Termine existieren. Sollen die existierenden Termine jetzt gelöscht "
-          "werden?",
-          false, Meldungen::Vorgabe::Nein)
-      .hinweisMit("Die Aktion wird nicht ausgeführt, weil...");
-  volkTermineSetzen(form.get());
-}
-
 // Leaves pictures for the eye where the environment names a folder.
 TEST_F(Arplanoptionen, PasstAuchMitGrosserSchriftAufDenSchirm) {
   const QFont vorher = QApplication::font();
   option("Honigernte", "01.06", 14, "31.08", "J", "Honigernte");
   option("Kerzenproduktion", "01.11", 0, "01.11", "N");
+  for (const Tabelle& t : schema())
+    if (t.name == "Arbeitsplanoptionen")
+      for (const QString& zeile : t.startwerte.mid(0, 8)) db().Execute(zeile);
   for (const int prozent : {100, 150}) {
     QFont schrift = vorher;
     schrift.setPointSizeF(vorher.pointSizeF() * prozent / 100);

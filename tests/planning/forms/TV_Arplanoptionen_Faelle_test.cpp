@@ -1,0 +1,361 @@
+// The rarer cases: which objection comes first, periods that can't be entered any more, the last
+// row, failures while loading and saving.
+#include "Arplanprobe.h"
+#include "platform/controls/Formular.h"
+#include "platform/database/Verbindung.h"
+
+using namespace TZ_Variablen;
+
+namespace {
+
+const QString BitteMarkieren = "Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!";
+const QString Verkehrt =
+    "Die Daten werden nicht gespeichert, weil...\n\n...der Startzeitraum nicht hinter dem "
+    "Endzeitraum liegen darf.\n";
+const QString OhneZeit =
+    "Die Daten werden nicht gespeichert, weil...\n\n...der Start- und Endzeitraum angegeben werden "
+    "muß.\n";
+
+class Arplanfaelle : public Arplanprobe {
+ protected:
+  // The cells of the option in the table.
+  static QString zeitraum(const QString& name) {
+    const Daten zeile = db().Lesen(
+        "select Startzeitraum, Endzeitraum from Arbeitsplanoptionen where Arbeitsart = ?", {name});
+    return zeile->zeilen() == 1 ? zeile->anzeige(0, 0) + " " + zeile->anzeige(0, 1)
+                                : QString("keine Zeile");
+  }
+  // Whether the form's handle is closed: what it would save can't reach the database.
+  void istGetrennt() {
+    feld(0)->setInhalt("Neu");
+    feld(1)->setInhalt("01.07");
+    feld(2)->setInhalt("15.07");
+    boxen.hinweisMit("Die Datenbank ist geschlossen.");
+    kind<QAbstractButton>("neu_0")->click();
+    EXPECT_EQ(boxen.fehler().toStdString(), "");
+  }
+  static Verbindung& verbindung() { return *Verbindung::zu(DatenbankPfad); }
+  static void fastVoll() {
+    const int seiten = verbindung().steuere("pragma page_count").toInt();
+    verbindung().steuere("pragma max_page_count = " + QByteArray::number(seiten + 1));
+  }
+  static void wiederPlatz() { verbindung().steuere("pragma max_page_count = 1000000"); }
+};
+
+}  // namespace
+
+// --- the order of the objections ---
+
+TEST_F(Arplanfaelle, AendernNenntErstDieGruendeDannDieFehlendeZeileDannDenVergebenenNamen) {
+  option("Honig", "01.06", 14, "31.08");
+  option("Wachs", "01.06", 14, "31.08");
+  oeffne();
+  tippe(0, "Wachs");  // no row, no period, a name that is taken
+  boxen.hinweis(OhneZeit);
+  klicke("neu_1");
+  EXPECT_EQ(boxen.fehler(), "");
+  tippe(1, "01.06");
+  tippe(2, "31.08");
+  boxen.hinweis(BitteMarkieren);
+  klicke("neu_1");
+  EXPECT_EQ(boxen.fehler(), "");
+  klickeZeile(0);
+  tippe(0, "Wachs");
+  tippe(1, "01.09");
+  boxen.hinweis(Verkehrt);
+  klicke("neu_1");
+  EXPECT_EQ(boxen.fehler(), "");
+  tippe(1, "01.06");
+  boxen.hinweis("Es existiert bereits ein Arbeitsplan mit dem Namen Wachs.");
+  klicke("neu_1");
+  EXPECT_EQ(boxen.fehler(), "");
+  EXPECT_EQ(namen(), QStringList({"Honig", "Wachs"}));
+}
+
+TEST_F(Arplanfaelle, NeuNenntDieGruendeVorDemVergebenenNamen) {
+  option("Honig", "01.06", 14, "31.08");
+  oeffne();
+  fuelle("Honig", "01.09", "31.08", "J");
+  boxen.hinweis(Verkehrt);
+  klicke("neu_0");
+  EXPECT_EQ(anzahl("Arbeitsplanoptionen"), 1);
+}
+
+// --- rows whose period can't be entered here ---
+
+TEST_F(Arplanfaelle, EineOptionUeberDenJahreswechselLaesstSichMitIhremZeitraumNichtUmbenennen) {
+  option("Winterkontrolle", "01.11", 14, "15.05");
+  termin("Winterkontrolle", QDate(2005, 12, 1));
+  oeffne();
+  klickeZeile(0);
+  tippe(0, "Winter");
+  boxen.hinweis(Verkehrt);
+  klicke("neu_1");
+  EXPECT_EQ(zeitraum("Winterkontrolle"), "01.11 15.05");
+  EXPECT_EQ(wert("select Termin from Termine"), "Winterkontrolle");
+  EXPECT_EQ(feld(0)->inhalt(), "Winter");
+}
+
+TEST_F(Arplanfaelle, EineOptionUeberDenJahreswechselBehaeltBeimUmbenennenIhrenZeitraum) {
+  option("Winterkontrolle", "01.11", 14, "15.05");
+  oeffne();
+  klickeZeile(0);
+  tippe(0, "Winter");
+  tippe(2, "31.12");  // only to pass the check: it isn't written
+  boxen.hinweis(Aendernhinweis);
+  klicke("neu_1");
+  EXPECT_EQ(zeitraum("Winter"), "01.11 15.05");
+  EXPECT_EQ(inhalte(), QStringList({"Winter", "01.11", "15.05", "14", "J", "", ""}));
+}
+
+TEST_F(Arplanfaelle, EineOptionMitSchalttagLaesstSichImGemeinjahrMitIhmNichtUmbenennen) {
+  option("Schalttag", "29.02", 0, "29.02");
+  oeffne();
+  klickeZeile(0);
+  tippe(0, "Schaltjahr");
+  boxen.hinweis(OhneZeit);
+  klicke("neu_1");
+  EXPECT_EQ(zeitraum("Schalttag"), "29.02 29.02");
+  tippe(1, "28.02");
+  tippe(2, "28.02");
+  boxen.hinweis(Aendernhinweis);
+  klicke("neu_1");
+  EXPECT_EQ(zeitraum("Schaltjahr"), "29.02 29.02");
+}
+
+TEST_F(Arplanfaelle, EineOptionMitSchalttagLaesstSichImSchaltjahrUmbenennen) {
+  HeuteText = "20.01.2008";
+  option("Schalttag", "29.02", 0, "29.02");
+  oeffne();
+  klickeZeile(0);
+  tippe(0, "Schaltjahr");
+  boxen.hinweis(Aendernhinweis);
+  klicke("neu_1");
+  EXPECT_EQ(zeitraum("Schaltjahr"), "29.02 29.02");
+}
+
+// --- adding ---
+
+TEST_F(Arplanfaelle, NeuMitLeererVolkabhaengigkeitGibtJedemVolkSeineTermine) {
+  neuesVolk("1");
+  neuesVolk("2");
+  oeffne();
+  fuelle("Kontrolle", "01.07", "15.07", "");
+  klicke("neu_0");
+  EXPECT_EQ(wert(QString("select Volkabhängig from Arbeitsplanoptionen")), "");
+  EXPECT_EQ(anzahl("Termine", "Volk_ID <> 0"), 2);
+}
+
+TEST_F(Arplanfaelle, NeuMitStartGleichEndeUndFristNullGibtEinenTermin) {
+  oeffne();
+  fuelle("Kontrolle", "15.09", "15.09", "N");
+  klicke("neu_0");
+  EXPECT_EQ(feld(3)->inhalt(), "0");
+  EXPECT_EQ(anzahl("Termine", "Datum = #09/15/2006# and Volk_ID = 0"), 1);
+}
+
+TEST_F(Arplanfaelle, DieFristGehtBisNeunundneunzig) {
+  oeffne();
+  tippe(3, "99");
+  EXPECT_EQ(feld(3)->inhalt(), "99");
+  tippe(3, "-1");
+  EXPECT_EQ(feld(3)->inhalt(), "1");
+}
+
+// --- deleting ---
+
+TEST_F(Arplanfaelle, LoeschenDerEinzigenZeileLeertDieFelderUndDieListe) {
+  db().Execute("insert into Arbeiten(Arbeitsart, Volk_ID) values ('Schied', 1)");
+  option("Honig", "01.06", 14, "31.08", "J", "Honigernte", "Schied");
+  oeffne();
+  klickeZeile(0);
+  boxen.frage(Loeschfrage, true);
+  klicke("löschen");
+  EXPECT_EQ(namen(), QStringList());
+  EXPECT_EQ(liste()->aktuelleZeile(), -1);
+  EXPECT_EQ(inhalte(), QStringList({"", "", "", "0", "", "", ""}));
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
+  klicke("löschen");
+}
+
+TEST_F(Arplanfaelle, LoeschenDerUnterstenZeileZeigtDieDarueberUndLoeschtDannNurDeren) {
+  option("Honig", "01.06", 14, "31.08");
+  option("Wachs", "01.07", 0, "01.07");
+  option("Zander", "01.07", 0, "01.07");
+  for (const char* name : {"Honig", "Wachs", "Zander"}) termin(name, QDate(2006, 7, 1));
+  oeffne();
+  klickeZeile(2);
+  boxen.frage(Loeschfrage, true);
+  klicke("löschen");
+  EXPECT_EQ(feld(0)->inhalt(), "Wachs");
+  boxen.frage(Loeschfrage, true);
+  klicke("löschen");
+  EXPECT_EQ(namen(), QStringList("Honig"));
+  EXPECT_EQ(anzahl("Termine"), 1);
+  EXPECT_EQ(wert("select Termin from Termine"), "Honig");
+}
+
+TEST_F(Arplanfaelle, OhneLoeschabfrageWirdSofortGeloescht) {
+  EinstellungenZahl[55] = 0;
+  option("Honig", "01.06", 14, "31.08");
+  termin("Honig", QDate(2006, 7, 1));
+  oeffne();
+  klickeZeile(0);
+  klicke("löschen");
+  EXPECT_EQ(anzahl("Arbeitsplanoptionen"), 0);
+  EXPECT_EQ(anzahl("Termine"), 0);
+}
+
+TEST_F(Arplanfaelle, EinNameMitHochkommaWirdMitSeinenTerminenGeloescht) {
+  option("Rund um's Volk", "01.06", 14, "31.08");
+  termin("Rund um's Volk", QDate(2006, 7, 1));
+  oeffne();
+  klickeZeile(0);
+  EXPECT_EQ(feld(0)->inhalt(), "Rund um`s Volk");
+  boxen.frage(Loeschfrage, true);
+  klicke("löschen");
+  EXPECT_EQ(anzahl("Termine"), 0);
+}
+
+// --- all anew ---
+
+TEST_F(Arplanfaelle, AlleNeuSetzenGehtDieListeSoDurchWieSieSteht) {
+  option("Honig", "01.07", 0, "01.07", "N");
+  option("Wachs", "01.07", 0, "01.07", "N");
+  oeffne();
+  liste()->sortiere(0, Qt::DescendingOrder);
+  boxen.frage(Neufrage, true).hinweis("Die Termine wurden gelöscht und neu gesetzt.");
+  klicke("calender");
+  EXPECT_EQ(wert("select Termin from Termine order by ID"), "Wachs");
+}
+
+TEST_F(Arplanfaelle, AlleNeuSetzenMitLeererListeSchreibtNichts) {
+  neuesVolk("1");
+  termin("Von Hand", QDate(2006, 7, 1));
+  oeffne();
+  boxen.frage(Neufrage, true).hinweis("Die Termine wurden gelöscht und neu gesetzt.");
+  klicke("calender");
+  EXPECT_EQ(anzahl("Termine"), 1);
+}
+
+TEST_F(Arplanfaelle, DerKnopfNenntDasJahrVonHeute) {
+  HeuteText = "02.01.2007";
+  oeffne();
+  EXPECT_EQ(kind<QAbstractButton>("calender")->text(),
+            "Alle Termine für das aktuelle Jahr 2007 löschen und wieder neu setzen");
+}
+
+// --- list and connection ---
+
+TEST_F(Arplanfaelle, DieSpaltenbreitenBleiben) {
+  Fensterablage::setDatei(AppPfad + "TOVA2.LAY");
+  option("Honig", "01.06", 14, "31.08");
+  oeffne();
+  liste()->setColumnWidth(0, 187);
+  klicke("cmdschließen");
+  form.reset();
+  EXPECT_EQ(Fensterablage::lesen("Spaltenbreiten/TOVA/tv_arplanoptionen_liarplan/ColWidths")
+                .toList()
+                .value(0)
+                .toInt(),
+            187);
+  oeffne();
+  EXPECT_EQ(liste()->columnWidth(0), 187);
+  Fensterablage::setDatei({});
+}
+
+TEST_F(Arplanfaelle, SchliessenTrenntDieDatenbank) {
+  oeffne();
+  klicke("cmdschließen");
+  istGetrennt();
+}
+
+TEST_F(Arplanfaelle, EscTrenntDieDatenbank) {
+  oeffne();
+  QTest::keyClick(feld(0), Qt::Key_Escape);
+  EXPECT_FALSE(form->isVisible());
+  istGetrennt();
+}
+
+TEST_F(Arplanfaelle, ScheitertDasLesenDerArbeitsartenBleibtDieDatenbankNichtOffen) {
+  db().Execute("drop table Arbeiten");
+  form = std::make_unique<TV_Arplanoptionen>();
+  EXPECT_THROW(form->laden(), Datenbankfehler);
+  istGetrennt();
+}
+
+TEST_F(Arplanfaelle, ScheitertDasLesenDerListeBleibtDieDatenbankNichtOffen) {
+  db().Execute("drop table Arbeitsplanoptionen");
+  form = std::make_unique<TV_Arplanoptionen>();
+  EXPECT_THROW(form->laden(), Datenbankfehler);
+  istGetrennt();
+}
+
+// --- saving that fails ---
+
+TEST_F(Arplanfaelle, NachGescheitertenTerminenStehtDieGespeicherteOptionInDerListe) {
+  option("Aaa", "01.06", 0, "01.06");
+  oeffne();
+  klickeZeile(0);
+  db().Execute("drop table Termine");
+  fuelle("Kontrolle", "01.07", "15.07", "N");
+  boxen.hinweisMit("Termine");
+  klicke("neu_0");
+  EXPECT_EQ(boxen.fehler(), "");
+  EXPECT_EQ(anzahl("Arbeitsplanoptionen"), 2);  // what was written before the failure stays
+  EXPECT_EQ(namen(), QStringList({"Aaa", "Kontrolle"}));
+  EXPECT_EQ(liste()->aktuelleZeile(), 0);
+  EXPECT_EQ(inhalte(), QStringList({"Kontrolle", "01.07", "15.07", "0", "N", "", ""}));
+}
+
+TEST_F(Arplanfaelle, NachGescheitertemUmbenennenBleibenZeileUndEingabe) {
+  option("Honig", "01.06", 14, "31.08");
+  option("Wachs", "01.06", 14, "31.08");
+  oeffne();
+  klickeZeile(1);
+  db().Execute("drop table Termine");
+  tippe(0, "Kerzen");
+  boxen.hinweis(Aendernhinweis).hinweisMit("Termine");
+  klicke("neu_1");
+  EXPECT_EQ(boxen.fehler(), "");
+  EXPECT_EQ(namen(), QStringList({"Honig", "Kerzen"}));  // the row was written before
+  EXPECT_EQ(liste()->aktuelleZeile(), 1);
+  EXPECT_EQ(feld(0)->inhalt(), "Kerzen");
+}
+
+TEST_F(Arplanfaelle, BeiVollemDatentraegerBleibtDieEingabeUndDasselbeNeuGelingtDanach) {
+  for (int i = 0; i < 200; ++i) neuesVolk(QString::number(i));
+  option("Aaa", "01.06", 0, "01.06");
+  oeffne();
+  klickeZeile(0);
+  fuelle("Kontrolle", "01.07", "31.12", "J");
+  tippe(3, "9");
+  fastVoll();
+  boxen.hinweisMit("Auf dem Datenträger ist kein Platz mehr");
+  klicke("neu_0");
+  EXPECT_EQ(boxen.fehler(), "");
+  EXPECT_EQ(namen(), QStringList("Aaa"));
+  EXPECT_EQ(liste()->aktuelleZeile(), 0);
+  EXPECT_EQ(inhalte(), QStringList({"Kontrolle", "01.07", "31.12", "9", "J", "", ""}));
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  wiederPlatz();
+  klicke("neu_0");
+  EXPECT_EQ(namen(), QStringList({"Aaa", "Kontrolle"}));
+  EXPECT_EQ(anzahl("Termine"), 200 * 21);  // 01.07. and each ninth day to 28.12.
+}
+
+TEST_F(Arplanfaelle, NachGescheitertemLoeschenZeigtDieListeWasNochDaIst) {
+  option("Honig", "01.06", 14, "31.08");
+  option("Wachs", "01.06", 14, "31.08");
+  oeffne();
+  klickeZeile(0);
+  db().Execute("drop table Termine");
+  boxen.frage(Loeschfrage, true).hinweisMit("Termine");
+  klicke("löschen");
+  EXPECT_EQ(boxen.fehler(), "");
+  // The row was deleted before the failure, and that stays: nothing is current.
+  EXPECT_EQ(namen(), QStringList("Wachs"));
+  EXPECT_EQ(anzahl("Arbeitsplanoptionen"), 1);
+  EXPECT_EQ(liste()->aktuelleZeile(), -1);
+  EXPECT_EQ(feld(0)->inhalt(), "");
+}
