@@ -48,7 +48,7 @@ const Felder& trachtfelder() {
       text("Pflanze", "Pflanze", 20)
           .liste("select distinct Pflanze from Pflanzen order by Pflanze"),
       ganzzahl("Entfernung_m", "Entfernung m", 9999),
-      ganzzahl("Proz_Anteil", "Anteil in %", 100),
+      ganzzahl("Proz_Anteil", "Anteil in %", 100).ohneNull(),
   };
   return felder;
 }
@@ -66,11 +66,12 @@ QStringList pflanzenGruende(const Texte& texte) {
   return gruende;
 }
 
-QStringList trachtGruende(const Texte& texte, double anteilSonst) {
-  const double anteil = ZahlLesen(texte["Proz_Anteil"]);
+// Read with their signs: a row from elsewhere may have numbers below 0.
+QStringList trachtGruende(const Texte& texte, qint64 anteilSonst) {
+  const qint64 anteil = GanzLesen(texte["Proz_Anteil"]);
   QStringList gruende;
   if (TextLesen(texte["Pflanze"]).isEmpty()) gruende << "...die Pflanze angegeben werden muß.";
-  if (ZahlLesen(texte["Entfernung_m"]) <= 0)
+  if (GanzLesen(texte["Entfernung_m"]) <= 0)
     gruende << "...die Entfernung muß größer als 0 Meter sein.";
   if (anteil <= 0) gruende << "...der prozentuale Anteil müß größer als 0 % sein.";
   if (anteilSonst + anteil > 100)
@@ -80,11 +81,11 @@ QStringList trachtGruende(const Texte& texte, double anteilSonst) {
 
 QVariantHash neuerPlatz() { return {{"PTop", 250}, {"PLeft", 250}}; }
 
-double anteilSumme(Database& datenbank, qint64 standortId) {
+qint64 anteilSumme(Database& datenbank, qint64 standortId) {
   const Daten summe = datenbank.Lesen(
       "select sum(Proz_Anteil) as xsumme from Standorte_Pflanzen where Standort_Kennung = ?",
       {standortId});
-  return summe->zeilen() == 0 ? 0 : summe->zahl(0, 0);
+  return summe->zeilen() == 0 ? 0 : summe->ganzzahl(0, 0);
 }
 
 namespace {

@@ -15,13 +15,13 @@ const Verwaltung::Felder& trachtfelder();    // of Standorte_Pflanzen
 // cent of the site's other plants.
 QStringList standortGruende(const Verwaltung::Texte& texte);
 QStringList pflanzenGruende(const Verwaltung::Texte& texte);
-QStringList trachtGruende(const Verwaltung::Texte& texte, double anteilSonst);
+QStringList trachtGruende(const Verwaltung::Texte& texte, qint64 anteilSonst);
 
 // Where the map shows a new site.
 QVariantHash neuerPlatz();
 
 // The sum of the shares at a site in per cent, 0 without plants.
-double anteilSumme(Database& datenbank, qint64 standortId);
+qint64 anteilSumme(Database& datenbank, qint64 standortId);
 
 // Works out Trachtzeit_von and Trachtzeit_bis of all sites: the earliest start and the latest end
 // of bloom of the plants there, as full dates; null for a site without a known plant.

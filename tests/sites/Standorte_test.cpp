@@ -81,6 +81,23 @@ TEST(Trachtfelder, BeschriftungenUndGrenzen) {
   EXPECT_EQ(felder[1].bis, 9999);
   EXPECT_EQ(felder[2].beschriftung, "Anteil in %");
   EXPECT_EQ(felder[2].bis, 100);
+  EXPECT_TRUE(felder[2].nullVerboten);
+  EXPECT_FALSE(felder[1].nullVerboten);
+}
+
+TEST(Picklisten, IhreAnweisungen) {
+  const auto anweisung = [](const Felder& felder, const char* name) {
+    return feld(felder, name).listenAnweisung.toStdString();
+  };
+  const Felder& orte = Standorte::standortfelder();
+  EXPECT_EQ(anweisung(orte, "Zusatzortshinweis"),
+            "select distinct Zusatzortshinweis from Standorte order by Zusatzortshinweis");
+  EXPECT_EQ(anweisung(orte, "Klima"), "select distinct Klima from Standorte order by Klima");
+  EXPECT_EQ(anweisung(orte, "Flugrichtung"),
+            "select distinct Flugrichtung from Standorte order by Flugrichtung");
+  EXPECT_EQ(anweisung(orte, "Standort"), "");
+  EXPECT_EQ(anweisung(Standorte::pflanzenfelder(), "Pflanze"),
+            "select distinct Pflanze from Pflanzen order by Pflanze");
 }
 
 TEST(Standortpruefung, NurDerNameIstPflicht) {
@@ -121,6 +138,44 @@ TEST(Trachtpruefung, SechzigUndVierzigGehenEinProzentMehrNicht) {
 TEST(Trachtpruefung, AusSechzigWirdNeunundfuenfzigAberNichtEinundsechzig) {
   EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "500", "61"), 40), QStringList(NichtUeber100));
   EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "500", "59"), 40), QStringList());
+}
+
+TEST(Trachtpruefung, GenauHundertProzentGehenEinProzentMehrNicht) {
+  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "1", "100"), 0), QStringList());
+  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "1", "1"), 99), QStringList());
+  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "1", "2"), 99), QStringList(NichtUeber100));
+  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "1", "100"), 1), QStringList(NichtUeber100));
+}
+
+TEST(Trachtpruefung, EntfernungUnterNullWirdAbgelehnt) {
+  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "-5", "10"), 0),
+            QStringList("...die Entfernung muß größer als 0 Meter sein."));
+}
+
+TEST(Trachtpruefung, AnteilUnterNullWirdAbgelehnt) {
+  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "5", "-10"), 0),
+            QStringList("...der prozentuale Anteil müß größer als 0 % sein."));
+}
+
+TEST(Trachtpruefung, LeereZahlenGeltenAlsNull) {
+  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "", ""), 0),
+            QStringList({"...die Entfernung muß größer als 0 Meter sein.",
+                         "...der prozentuale Anteil müß größer als 0 % sein."}));
+}
+
+TEST(Trachtpruefung, EineSummeUnterNullLaesstMehrZu) {
+  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "5", "100"), -10), QStringList());
+}
+
+TEST_F(Anteile, SummeMitLeerenUndNegativenAnteilen) {
+  const qint64 hof = standort("Hof");
+  tracht(hof, "Raps", 60);
+  tracht(hof, "Linde", -10);
+  const qint64 leer = tracht(hof, "Klee", 5);
+  db().Execute("update Standorte_Pflanzen set Proz_Anteil = ? where ID = ?", {QVariant(), leer});
+  EXPECT_EQ(Standorte::anteilSumme(db(), hof), 50);
+  db().Execute("update Standorte_Pflanzen set Proz_Anteil = ?", {QVariant()});
+  EXPECT_EQ(Standorte::anteilSumme(db(), hof), 0);
 }
 
 TEST_F(Anteile, SummeJeStandortOhnePflanzenNull) {
@@ -188,6 +243,64 @@ TEST_F(Trachtzeit, JederStandortBekommtSeineEigene) {
   EXPECT_EQ(von("Heide").toDate(), QDate(2003, 8, 1));
 }
 
+TEST_F(Trachtzeit, LeererBeginnStehtVornUndMachtDenBeginnLeer) {
+  const qint64 hof = standort("Hof");
+  pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
+  pflanze("Klee", QVariant(), QDate(2003, 7, 1));
+  tracht(hof, "Raps", 50);
+  tracht(hof, "Klee", 50);
+  Standorte::trachtzeitenErmitteln(db());
+  EXPECT_TRUE(von("Hof").isNull());
+  EXPECT_EQ(bis("Hof").toDate(), QDate(2003, 7, 1));
+}
+
+TEST_F(Trachtzeit, LeeresEndeStehtHintenUndZaehltNurAllein) {
+  const qint64 hof = standort("Hof");
+  const qint64 heide = standort("Heide");
+  pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
+  pflanze("Klee", QDate(2003, 6, 1), QVariant());
+  tracht(hof, "Raps", 50);
+  tracht(hof, "Klee", 50);
+  tracht(heide, "Klee", 50);
+  Standorte::trachtzeitenErmitteln(db());
+  EXPECT_EQ(von("Hof").toDate(), QDate(2003, 4, 20));
+  EXPECT_EQ(bis("Hof").toDate(), QDate(2003, 5, 20));
+  EXPECT_EQ(von("Heide").toDate(), QDate(2003, 6, 1));
+  EXPECT_TRUE(bis("Heide").isNull());
+}
+
+TEST_F(Trachtzeit, PflanzenNamenGeltenOhneGrossUndKlein) {
+  const qint64 hof = standort("Hof");
+  pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
+  tracht(hof, "RAPS", 50);
+  Standorte::trachtzeitenErmitteln(db());
+  EXPECT_EQ(von("Hof").toDate(), QDate(2003, 4, 20));
+}
+
+TEST_F(Trachtzeit, EinStandortOhneNamenWirdUebergangen) {
+  const qint64 hof = standort("Hof");
+  db().Execute("insert into Standorte(Klima, Trachtzeit_von) values (?, ?)",
+               {QString("rau"), QDate(2003, 1, 1)});
+  pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
+  tracht(hof, "Raps", 50);
+  Standorte::trachtzeitenErmitteln(db());
+  EXPECT_EQ(von("Hof").toDate(), QDate(2003, 4, 20));
+  EXPECT_EQ(wert("select Trachtzeit_von from Standorte where Klima = 'rau'").toDate(),
+            QDate(2003, 1, 1));
+}
+
+TEST_F(Trachtzeit, NachDemLoeschenDerPflanzeIstDieZeitLeer) {
+  const qint64 hof = standort("Hof");
+  pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
+  tracht(hof, "Raps", 50);
+  Standorte::trachtzeitenErmitteln(db());
+  ASSERT_FALSE(von("Hof").isNull());
+  db().Execute("delete from Pflanzen");
+  Standorte::trachtzeitenErmitteln(db());
+  EXPECT_TRUE(von("Hof").isNull());
+  EXPECT_TRUE(bis("Hof").isNull());
+}
+
 TEST_F(Jahreswechsel, AllePflanzenUmEinJahrVorUndZurueck) {
   pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
   pflanze("Efeu", QDate(2003, 12, 31), QDate(2004, 1, 1));
@@ -210,6 +323,53 @@ TEST_F(Jahreswechsel, BleibtZwischen1901Und2099) {
   Standorte::weidezeitenVerschieben(db(), -1);
   EXPECT_EQ(weide(QString("Früh")), QDate(1901, 1, 1));
   EXPECT_EQ(weide(QString("Früh"), "Weidezeit_bis"), QDate(1901, 1, 1));
+}
+
+TEST_F(Jahreswechsel, JahreAusserhalbVon1901Bis2099KommenAnDieGrenze) {
+  pflanze("Alt", QDate(1850, 3, 1), QDate(1899, 12, 31));
+  pflanze("Fern", QDate(2150, 3, 1), QDate(2101, 1, 1));
+  Standorte::weidezeitenVerschieben(db(), 1);
+  EXPECT_EQ(weide("Alt"), QDate(1901, 3, 1));
+  EXPECT_EQ(weide("Alt", "Weidezeit_bis"), QDate(1901, 12, 31));
+  EXPECT_EQ(weide("Fern"), QDate(2099, 3, 1));
+  db().Execute("delete from Pflanzen");
+  pflanze("Alt", QDate(1850, 3, 1), QDate(1901, 12, 31));
+  pflanze("Fern", QDate(2150, 3, 1), QDate(2100, 1, 1));
+  Standorte::weidezeitenVerschieben(db(), -1);
+  EXPECT_EQ(weide("Alt"), QDate(1901, 3, 1));
+  EXPECT_EQ(weide("Alt", "Weidezeit_bis"), QDate(1901, 12, 31));
+  EXPECT_EQ(weide("Fern"), QDate(2099, 3, 1));
+  EXPECT_EQ(weide("Fern", "Weidezeit_bis"), QDate(2099, 1, 1));
+}
+
+TEST_F(Jahreswechsel, OhnePflanzenGeschiehtNichts) {
+  Standorte::weidezeitenVerschieben(db(), 1);
+  EXPECT_EQ(anzahl("Pflanzen"), 0);
+}
+
+TEST_F(Jahreswechsel, NeunundzwanzigsterFebruarAlsBeginnWirdGesagtUndDasEndeBleibtAuch) {
+  pflanze("Krokus", QDate(2004, 3, 1), QDate(2004, 4, 1));
+  pflanze("Hasel", QDate(2004, 2, 29), QDate(2004, 3, 20));
+  pflanze("Raps", QDate(2004, 4, 20), QDate(2004, 5, 20));
+  for (const int jahre : {-1, 1}) try {
+      Standorte::weidezeitenVerschieben(db(), jahre);
+      FAIL() << "kein Fehler";
+    } catch (const Datenbankfehler& fehler) {
+      const QString text = QString::fromUtf8(fehler.what());
+      EXPECT_TRUE(text.contains(jahre < 0 ? "29.02.2003" : "29.02.2005")) << fehler.what();
+      EXPECT_TRUE(text.contains("Hasel")) << fehler.what();
+    }
+  // Back and forth again: the plant before came back, the others never moved.
+  EXPECT_EQ(weide("Krokus"), QDate(2004, 3, 1));
+  EXPECT_EQ(weide("Hasel"), QDate(2004, 2, 29));
+  EXPECT_EQ(weide("Hasel", "Weidezeit_bis"), QDate(2004, 3, 20));
+  EXPECT_EQ(weide("Raps"), QDate(2004, 4, 20));
+}
+
+TEST_F(Jahreswechsel, NeunundzwanzigsterFebruarJenseitsDerGrenzeSchlaegtAuchFehl) {
+  pflanze("Hasel", QDate(2104, 2, 29), QDate(2104, 3, 20));
+  EXPECT_THROW(Standorte::weidezeitenVerschieben(db(), -1), Datenbankfehler);
+  EXPECT_EQ(weide("Hasel"), QDate(2104, 2, 29));
 }
 
 TEST_F(Jahreswechsel, LeereWeidezeitBleibtLeer) {

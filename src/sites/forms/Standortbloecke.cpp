@@ -2,11 +2,9 @@
 
 #include <QBoxLayout>
 #include <QLabel>
-#include <algorithm>
 
 #include "data/helpers.h"
 #include "platform/controls/Grid.h"
-#include "platform/locale/Deutsch.h"
 #include "sites/Standorte.h"
 
 using Verwaltung::Texte;
@@ -118,23 +116,25 @@ void Trachtblock::setStandort(qint64 id) {
 }
 
 QStringList Trachtblock::prüfe(const Texte& texte, bool ändern) {
-  double sonst = ZahlLesen(bezproz->text());
-  const int zeile = liste()->aktuelleZeile();
-  if (ändern && zeile >= 0) sonst -= ZahlLesen(liste()->wert(zeile, "Proz_Anteil"));
+  qint64 sonst = GanzLesen(bezproz->text());
+  if (ändern) sonst -= liste()->wert(liste()->aktuelleZeile(), "Proz_Anteil").toLongLong();
   return Standorte::trachtGruende(texte, sonst);
 }
 
 QString Trachtblock::vorSpeichern(const Texte&, std::optional<qint64>, QVariantHash& weitere) {
+  if (m_standort == 0)
+    return "Die Pflanze kann nicht eingetragen werden, weil der gewählte Standort nicht im "
+           "Register \"Standorte\" steht. Bitte schließen Sie das Fenster und öffnen Sie es neu.";
   weitere["Standort_Kennung"] = m_standort;
   return {};
 }
 
 void Trachtblock::nachListe() {
-  bezproz->setText(Deutsch::schlicht(Standorte::anteilSumme(datenbank(), m_standort)));
+  bezproz->setText(QString::number(Standorte::anteilSumme(datenbank(), m_standort)));
 }
 
 void Trachtblock::nachLöschen() {
-  const int zeile = liste()->aktuelleZeile();
+  const auto id = aktuelleId();  // not the row: the user may have sorted the list
   listeLesen();
-  if (zeile >= 0) liste()->setAktuelleZeile(std::min(zeile, liste()->zeilen() - 1));
+  if (id) zeigeDatensatz(*id);
 }

@@ -29,7 +29,7 @@ class Trachtblock : public Verwaltungsblock {
  public:
   Trachtblock();
 
-  void setStandort(qint64 id);  // shows that site's plants
+  void setStandort(qint64 id);  // shows that site's plants; 0 for none, then nothing is saved
 
  protected:
   QVariantList listenwerte() const override { return {m_standort}; }

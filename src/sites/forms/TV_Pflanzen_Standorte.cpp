@@ -2,10 +2,12 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
+#include <map>
 
 #include "core/globals.h"
 #include "platform/controls/Ereignis.h"
@@ -23,6 +25,24 @@ QPushButton* knopf(const QString& text, const QString& name, const QString& hinw
   ergebnis->setObjectName(name);
   ergebnis->setToolTip(hinweis);
   return ergebnis;
+}
+
+// The IDs of the sites in the chooser, whose rows have none. Both lists come in the same order, so
+// the rows of one name belong together in theirs; 0 for a site that isn't listed.
+QList<qint64> ortsIds(const Datenblock& orte, const Grid& standorte) {
+  std::map<int, int> geordnet;  // as read, however the user has sorted them since
+  const auto ordnung = standorte.ordnung();
+  for (int i = 0; i < standorte.zeilen(); ++i) geordnet[ordnung[static_cast<size_t>(i)]] = i;
+  QHash<QString, QList<qint64>> jeName;
+  for (const auto& [gelesen, zeile] : geordnet)
+    jeName[standorte.wert(zeile, "Standort").toString()]
+        << standorte.wert(zeile, "ID").toLongLong();
+  QList<qint64> ids;
+  for (int i = 0; i < orte.zeilen(); ++i) {
+    auto& gleiche = jeName[orte.wert(i, 0).toString()];
+    ids << (gleiche.isEmpty() ? 0 : gleiche.takeFirst());
+  }
+  return ids;
 }
 
 }  // namespace
@@ -124,9 +144,9 @@ void TV_Pflanzen_Standorte::verbinden() {
 // ---- opening and closing ----
 
 void TV_Pflanzen_Standorte::zeigen() {
+  const auto ende = qScopeGuard([this] { entladen(); });
   laden();
   Formular::zeigen();
-  m_db.Close();
 }
 
 void TV_Pflanzen_Standorte::laden() {
@@ -137,6 +157,12 @@ void TV_Pflanzen_Standorte::laden() {
   m_tracht->laden(m_db);
   if (TZ_Variablen::FormModus == "2") m_reiter->setCurrentIndex(ReiterPflanzen);
   reiterGewechselt(m_reiter->currentIndex());
+}
+
+void TV_Pflanzen_Standorte::entladen() {
+  for (Verwaltungsblock* block : QList<Verwaltungsblock*>{m_standorte, m_pflanzen, m_tracht})
+    block->entladen();
+  m_db.Close();
 }
 
 // The window's own close box and Esc don't come this way and leave the forage periods.
@@ -170,36 +196,24 @@ void TV_Pflanzen_Standorte::pflanzenJeStandortOeffnen() {
     m_reiter->setCurrentIndex(ReiterStandorte);
     return;
   }
-  const QString ort =
-      m_standorte->liste()->zelle(m_standorte->liste()->aktuelleZeile(), "Standort");
+  const auto aktuell = m_standorte->aktuelleId();
   m_tracht->picklistenLesen();
   m_tracht->leeren();
   m_tracht->neuKnopf()->setDefault(true);
-  lijeort->setDaten(m_db.Lesen("select Standort from Standorte order by Standort"));
-  int zeile = 0;
-  for (int i = 0; i < lijeort->zeilen() && !ort.isEmpty(); ++i)
-    if (lijeort->zelle(i, "Standort") == ort) {
-      zeile = i;
-      break;
-    }
-  lijeort->setAktuelleZeile(zeile);
+  const Daten orte = m_db.Lesen("select Standort from Standorte order by Standort");
+  m_orte = ortsIds(*orte, *m_standorte->liste());
+  lijeort->setDaten(orte);
+  const qsizetype zeile = aktuell ? m_orte.indexOf(*aktuell) : 0;
+  lijeort->setAktuelleZeile(static_cast<int>(std::max<qsizetype>(zeile, 0)));
   if (!m_reiter->tabBar()->hasFocus()) lijeort->setFocus();
-}
-
-// Both lists come in the same order; only where the user has sorted one of them the name decides.
-int TV_Pflanzen_Standorte::zeileInStandorten(int ort) const {
-  const Grid* liste = m_standorte->liste();
-  const QString name = lijeort->zelle(ort, "Standort");
-  if (liste->zelle(ort, "Standort") == name) return ort;
-  for (int i = 0; i < liste->zeilen(); ++i)
-    if (liste->zelle(i, "Standort") == name) return i;
-  return -1;
 }
 
 void TV_Pflanzen_Standorte::pflanzenDesStandortsZeigen(int ort) {
   if (ort < 0) return;
-  m_standorte->liste()->setAktuelleZeile(zeileInStandorten(ort));
-  if (const auto id = m_standorte->aktuelleId()) m_tracht->setStandort(*id);
+  const qint64 id = m_orte.value(lijeort->ordnung()[static_cast<size_t>(ort)]);
+  Grid* standorte = m_standorte->liste();
+  standorte->setAktuelleZeile(standorte->findeZeile("ID = " + QString::number(id)));
+  m_tracht->setStandort(id);
 }
 
 // The inputs are a copy of the current row, so it is shown anew, also when a plant stopped the run.

@@ -34,9 +34,9 @@ class TV_Pflanzen_Standorte : public Formular {
   void reiterGewechselt(int reiter);
   void pflanzenJeStandortOeffnen();
   void pflanzenDesStandortsZeigen(int ort);
-  int zeileInStandorten(int ort) const;
   void jahreVerschieben(int jahre);
   void schliessen();
+  void entladen();
 
   Database m_db;
   QTabWidget* m_reiter = nullptr;
@@ -44,6 +44,7 @@ class TV_Pflanzen_Standorte : public Formular {
   Trachtblock* m_tracht = nullptr;
   Pflanzenblock* m_pflanzen = nullptr;
   Grid* lijeort = nullptr;
+  QList<qint64> m_orte;  // the sites' IDs, as lijeort was read
   QPushButton* aufwaerts[2] = {};
   QPushButton* comstandortlisten = nullptr;
   QPushButton* hilfe = nullptr;

@@ -589,6 +589,30 @@ TEST_P(OrteBild, PasstAufDenBildschirmUndJederKnopfIstLesbar) {
   }
 }
 
+// As a beginner finds it: one site, nothing else.
+TEST_P(OrteBild, LeerStehenDieVorgabenInDenEingaben) {
+  for (const char* tabelle : {"Standorte", "Pflanzen", "Standorte_Pflanzen"})
+    db().Execute(QString("delete from %1").arg(tabelle));
+  const QString ordner = qEnvironmentVariable("TOVA_BILDER");
+  oeffne();
+  const QStringList erste = {"sevtstandort_7", "sevtje_2", "sevt_3"};
+  const QStringList vorgaben = {"10", "", "5"};
+  for (int nummer = 0; nummer < 3; ++nummer) {
+    if (nummer == 1) {
+      standort("Hof");
+      oeffne();
+    }
+    zumReiter(nummer);
+    QTest::qWait(1);
+    EXPECT_TRUE(feld(erste[nummer])->isVisible());
+    EXPECT_EQ(inhalt(erste[nummer]), vorgaben[nummer].toStdString());
+    if (!ordner.isEmpty()) {
+      EXPECT_TRUE(form->grab().save(
+          QString("%1/orte_leer_%2_%3.png").arg(ordner).arg(GetParam()).arg(nummer)));
+    }
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Schriftgroessen, OrteBild, ::testing::Values(100, 150));
 
 }  // namespace
