@@ -108,7 +108,7 @@ QWidget* Verwaltungsblock::eingabenBauen() {
     const int zeile = feld.nurAnzeige ? hoehe + 1 + platz / 2 : platz % hoehe;
     const int spalte = 3 * (feld.nurAnzeige ? platz % 2 : platz / hoehe);
     raster->addWidget(Formular::beschriften(feld.beschriftung, eingabe), zeile, spalte);
-    const bool breit = feld.art == Art::Text && feld.maxLaenge > 20;
+    const bool breit = feld.art == Art::Text && feld.maxLaenge > 40;
     if (breit) raster->setColumnStretch(spalte + 1, Vorrang);
     raster->addWidget(eingabe, zeile, spalte + 1, breit ? Qt::Alignment() : Qt::AlignLeft);
   }
@@ -124,7 +124,12 @@ Eingabefeld* Verwaltungsblock::feldBauen(int nummer) {
   auto* eingabe = new Eingabefeld;
   eingabe->setObjectName(m_plan.eingabe + "_" + QString::number(nummer));
   eingabe->einrichten(beschreibung(m_plan.felder[nummer]));
-  eingabe->setReadOnly(m_plan.felder[nummer].nurAnzeige);
+  if (m_plan.felder[nummer].nurAnzeige) {
+    eingabe->setReadOnly(true);
+    QPalette farben = eingabe->palette();  // on the form's own ground: nothing to type here
+    farben.setBrush(QPalette::Base, farben.window());
+    eingabe->setPalette(farben);
+  }
   m_eingaben << eingabe;
   return eingabe;
 }

@@ -175,7 +175,10 @@ QWidget* Lagerblock::bestandBauen() {
   auto* rechts = new QWidget;
   QVBoxLayout* spalte = spalteIn(rechts);
   auto* kopf = new QHBoxLayout;
+  bestandsstand = new QLabel("(nicht aktuell)");
+  bestandsstand->setObjectName("bestandsstand");
   kopf->addWidget(ueberschrift("Bestand"));
+  kopf->addWidget(bestandsstand);
   kopf->addStretch(1);
   kopf->addWidget(comalle);
   spalte->addLayout(kopf);
@@ -187,11 +190,19 @@ QList<QWidget*> Lagerblock::tabfolge() const {
   return Verwaltungsblock::tabfolge() << comalle << ligroup;
 }
 
+void Lagerblock::listeLesen() {
+  Handelsblock::listeLesen();
+  bestandsstand->show();
+}
+
+void Lagerblock::nachLöschen() { bestandsstand->show(); }
+
 void Lagerblock::bestandLeeren() { ligroup->setDaten({}); }
 
 void Lagerblock::bestandZeigen() {
   const Ereignis::Sanduhr sanduhr;
   ligroup->setDaten(Handel::bestand(datenbank()));
+  bestandsstand->hide();
 }
 
 QStringList Lagerblock::prüfe(const Texte& texte, bool) { return Handel::lagergruende(texte); }

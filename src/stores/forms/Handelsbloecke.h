@@ -5,6 +5,7 @@
 #include "data/forms/Verwaltungsblock.h"
 #include "stores/Handel.h"
 
+class QLabel;
 class QPushButton;
 
 // The three blocks of TV_EinVerkauf_Lager. After each reading the last row, the latest by date, is
@@ -44,6 +45,7 @@ class Lagerblock : public Handelsblock {
  public:
   Lagerblock();
 
+  void listeLesen() override;
   QList<QWidget*> tabfolge() const;
   void bestandLeeren();
 
@@ -51,11 +53,13 @@ class Lagerblock : public Handelsblock {
   QStringList prüfe(const Verwaltung::Texte& texte, bool ändern) override;
   QString vorSpeichern(const Verwaltung::Texte& texte, std::optional<qint64> id,
                        QVariantHash& weitere) override;
+  void nachLöschen() override;
 
  private:
   QWidget* bestandBauen();
   void bestandZeigen();
 
   Grid* ligroup = nullptr;
+  QLabel* bestandsstand = nullptr;  // seen while the stock isn't that of the list
   QPushButton* comalle = nullptr;
 };

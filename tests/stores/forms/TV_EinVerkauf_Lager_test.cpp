@@ -532,6 +532,25 @@ TEST_F(LagerReiter, AktualisierenZeigtDenBestandJeProduktUndCharge) {
   EXPECT_EQ(li->zelle(1 - a1, "Summe"), "4");
 }
 
+TEST_F(LagerReiter, DerBestandSagtWennErNichtAktuellIst) {
+  lager("Raps", 10, 0, "A1");
+  oeffne(Lager);
+  auto* stand = kind<QLabel>("bestandsstand");
+  EXPECT_TRUE(stand->isVisible());
+  klicke("comalle");
+  EXPECT_FALSE(stand->isVisible());
+  waehle("lihonig", 0);
+  klicke("lschhonig");
+  EXPECT_TRUE(stand->isVisible());
+  EXPECT_EQ(liste("ligroup")->zeilen(), 1);  // only the button works it out anew
+  klicke("comalle");
+  zumReiter(Verkauf);
+  tippeVerkauf("Honig", "3");
+  klicke("neuverkauf_0");
+  zumReiter(Lager);
+  EXPECT_TRUE(stand->isVisible());
+}
+
 // ---- sums ----
 
 TEST_F(Handelssummen, OhneGeschaefteDreimalNull) {
