@@ -93,12 +93,16 @@ class Hilfedatei : public testing::Test {
 };
 
 TEST_F(Hilfedatei, HatAlleThemen) {
-  for (const char* thema :
-       {"Hilfe_Startmenue", "Hilfe_Wiemacheich", "Hilfe_Völker", "Hilfe_Eingabe",
-        "Hilfe_Auswertungen", "Hilfe_Verwaltung", "Hilfe_Optionen", "TA_TOVA", "TV_Neues_Volk",
-        "TV_Arplanoptionen", "TV_Terminverwaltung", "TV_Starttermine", "TV_Selektieren",
-        "TV_Pflanzen_Standorte", "TA_Textausgabe", "TE_Eingabe", "TH_Hilfe_Wieanfangen",
-        "TS_Dateiauswahl", "TS_Dateispeichern"}) {
+  for (const char* thema : {"Hilfe_Startmenue",    "Hilfe_Wiemacheich",
+                            "Hilfe_Völker",        "Hilfe_Eingabe",
+                            "Hilfe_Auswertungen",  "Hilfe_Verwaltung",
+                            "Hilfe_Optionen",      "TA_TOVA",
+                            "TV_Neues_Volk",       "TV_Arplanoptionen",
+                            "TV_Terminverwaltung", "TV_Starttermine",
+                            "TV_Selektieren",      "TV_Pflanzen_Standorte",
+                            "TV_EinVerkauf_Lager", "TA_Textausgabe",
+                            "TE_Eingabe",          "TH_Hilfe_Wieanfangen",
+                            "TS_Dateiauswahl",     "TS_Dateispeichern"}) {
     const auto zeilen = Hilfe::abschnitt(QString::fromUtf8(thema));
     ASSERT_TRUE(zeilen) << thema;
     EXPECT_TRUE(Hilfe::alsHtml(*zeilen).startsWith(QStringLiteral("<h2>"))) << thema;
