@@ -60,11 +60,19 @@ Verwaltungsblock::Plan trachtplan() {
   return plan;
 }
 
+// The list speaks as the inputs do and hides what only the program needs.
+void listeEinrichten(Grid& liste, const Verwaltung::Felder& felder, const QStringList& verborgen) {
+  for (const auto& feld : felder) liste.setUeberschrift(feld.feld, feld.beschriftung);
+  for (const QString& spalte : verborgen) liste.setSpalteVerborgen(spalte, true);
+}
+
 }  // namespace
 
 // ---- sites ----
 
-Standortblock::Standortblock() : Verwaltungsblock(standortplan()) {}
+Standortblock::Standortblock() : Verwaltungsblock(standortplan()) {
+  listeEinrichten(*liste(), felder(), {"PTop", "PLeft", "ID"});
+}
 
 QStringList Standortblock::prüfe(const Texte& texte, bool) {
   return Standorte::standortGruende(texte);
@@ -80,7 +88,9 @@ QString Standortblock::vorSpeichern(const Texte& texte, std::optional<qint64> id
 
 // ---- plants ----
 
-Pflanzenblock::Pflanzenblock() : Verwaltungsblock(pflanzenplan()) {}
+Pflanzenblock::Pflanzenblock() : Verwaltungsblock(pflanzenplan()) {
+  listeEinrichten(*liste(), felder(), {"ID"});
+}
 
 QStringList Pflanzenblock::prüfe(const Texte& texte, bool) {
   return Standorte::pflanzenGruende(texte);
@@ -95,6 +105,7 @@ QString Pflanzenblock::vorSpeichern(const Texte& texte, std::optional<qint64> id
 // ---- plants at a site ----
 
 Trachtblock::Trachtblock() : Verwaltungsblock(trachtplan()) {
+  listeEinrichten(*liste(), felder(), {"Standort_Kennung", "ID"});
   auto* titel = new QLabel("Pflanzen (Tracht) am ausgewählten Standort");
   QFont schrift = titel->font();
   schrift.setBold(true);

@@ -77,7 +77,7 @@ void TV_Pflanzen_Standorte::aufbauen() {
   spalte->addWidget(fussBauen());
   reihenfolgeSetzen();
   const QSize schirm = screen()->availableSize() - QSize(20, 60);
-  const QSize wunsch(125 * fontMetrics().averageCharWidth(), 38 * fontMetrics().height());
+  const QSize wunsch(145 * fontMetrics().averageCharWidth(), 38 * fontMetrics().height());
   resize(wunsch.expandedTo(minimumSizeHint()).boundedTo(schirm));
 }
 
@@ -94,7 +94,7 @@ QWidget* TV_Pflanzen_Standorte::reiterJeStandort() {
   lijeort->setObjectName("lijeort");
   lijeort->setAccessibleName("Standort wählen");
   lijeort->setSelectionMode(QAbstractItemView::SingleSelection);
-  lijeort->setMinimumWidth(18 * fontMetrics().averageCharWidth());
+  lijeort->setMinimumWidth(24 * fontMetrics().averageCharWidth());
   auto* teiler = new QSplitter;
   teiler->setObjectName("teiler");
   teiler->addWidget(lijeort);

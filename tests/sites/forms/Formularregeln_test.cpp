@@ -43,6 +43,36 @@ TEST_F(Formularregeln, BeschriftungenAllerEingabenInIhrerFolge) {
                                                  "Nektarstufe (0..10)", "Pollenstufe (0..10)"}));
 }
 
+TEST_F(Formularregeln, DieListenTragenDieWorteDerEingabenUndVerbergenDieKennungen) {
+  tracht(standort("Hof"), "Raps", 10);
+  pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
+  oeffne();
+  zumReiter(1);
+  const auto koepfe = [this](const QString& name) {
+    QStringList texte;
+    for (int i = 0; i < liste(name)->spalten(); ++i)
+      if (!liste(name)->isColumnHidden(i)) texte << liste(name)->ueberschrift(i);
+    return texte;
+  };
+  EXPECT_EQ(koepfe("listandorte"),
+            QStringList({"Standort", "Zusatz-Orthinweis", "Wintertauglich", "Klima",
+                         "Trachtzeit von", "Trachtzeit bis", "PKW anfahrbar", "Wasserentfernung m",
+                         "Flugrichtung", "Max. Anzahl Völker", "Standortprämie je Volk"}));
+  EXPECT_EQ(koepfe("lipflanzen"), beschriftungen("sevt"));
+  EXPECT_EQ(koepfe("lijepflanze"), beschriftungen("sevtje"));
+  EXPECT_EQ(koepfe("lijeort"), QStringList("Standort"));
+}
+
+TEST_F(Formularregeln, WasNurGezeigtWirdLiegtAufDemGrundDesFormulars) {
+  oeffne();
+  const auto grund = [this](const QString& name) {
+    return feld(name)->palette().color(QPalette::Base);
+  };
+  const QColor fenster = form->palette().color(QPalette::Window);
+  EXPECT_EQ(grund("sevtstandort_9"), fenster);
+  EXPECT_NE(grund("sevtstandort_0"), fenster);
+}
+
 TEST_F(Formularregeln, JederAndereModusAlsZweiBeginntMitDemErstenReiter) {
   standort("Hof");
   for (const char* modus : {"1", "", "22", "3"}) {
