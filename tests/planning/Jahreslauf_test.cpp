@@ -230,6 +230,15 @@ TEST_F(Jahreslauf, TermineAndererJahreUndOhneVolkFragenNichtNachDemLoeschen) {
   EXPECT_EQ(anzahl("Termine"), 4);
 }
 
+TEST_F(Jahreslauf, TermineMitLeererVolknummerGehoerenZuKeinemVolk) {
+  neuesVolk("1");
+  option("Einwinterung", "15.09", 0, "15.09");
+  db().Execute("insert into Termine(Datum, Termin, Erledigt) values (?, 'Ohne', 'N')",
+               {QDate(2006, 6, 1)});
+  laufe({true});
+  EXPECT_EQ(anzahl("Termine"), 2);
+}
+
 TEST_F(Jahreslauf, LoeschfrageKommtAuchOhneVolkUndJaLoescht) {
   option("Einwinterung", "15.09", 0, "15.09");
   termin(QDate(2006, 6, 1), 7);

@@ -1,6 +1,7 @@
 #include "planning/forms/TV_Arplanoptionen.h"
 
 #include <QPushButton>
+#include <algorithm>
 
 #include "core/globals.h"
 #include "data/forms/helpers_forms.h"
@@ -11,6 +12,7 @@
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
+#include "platform/database/Kollation.h"
 
 using namespace TZ_Variablen;
 
@@ -72,9 +74,13 @@ void TV_Arplanoptionen::zeileZeigen(int zeile) {
     sevt[i]->setInhalt(TextLesen(liarplan->wert(zeile, felder[i])));
   for (const auto& [i, feld] :
        {std::pair(size_t{5}, "Auto_erledigt_Buchung"), {size_t{6}, "Auto_erledigt_Arbeitsart"}}) {
-    // Only what the choice offers is shown.
+    // Only what the choice offers is shown, as the choice spells it.
     const QString text = TextLesen(liarplan->wert(zeile, feld));
-    sevt[i]->setInhalt(sevt[i]->beschreibung().auswahl.contains(text) ? text : QString());
+    const QStringList angebot = sevt[i]->beschreibung().auswahl;
+    const auto treffer = std::find_if(angebot.cbegin(), angebot.cend(), [&](const QString& a) {
+      return Kollation::vergleiche(a, text) == 0;
+    });
+    sevt[i]->setInhalt(treffer == angebot.cend() ? QString() : *treffer);
   }
   m_alteArbeitsart = liarplan->wert(zeile, "Arbeitsart").toString();
 }

@@ -25,6 +25,7 @@ Laufanzeige::Laufanzeige(QWidget* fenster)
     : m_fenster(std::make_unique<Fortschrittsfenster>(fenster)) {
   m_fenster->setObjectName("fortschritt");
   m_fenster->setWindowTitle("TOVA");
+  m_fenster->setMinimumWidth(55 * m_fenster->fontMetrics().averageCharWidth());
   m_fenster->setLabelText("Die Termine werden berechnet ...");
   m_fenster->setCancelButton(nullptr);
   m_fenster->setWindowModality(Qt::ApplicationModal);

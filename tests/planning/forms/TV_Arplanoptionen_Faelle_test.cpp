@@ -134,6 +134,25 @@ TEST_F(Arplanfaelle, EineOptionMitSchalttagLaesstSichImSchaltjahrUmbenennen) {
   EXPECT_EQ(zeitraum("Schaltjahr"), "29.02 29.02");
 }
 
+// --- what the choices show ---
+
+TEST_F(Arplanfaelle, EineArbeitsartInAndererSchreibungWirdWieImAngebotGezeigt) {
+  db().Execute("insert into Arbeiten(Arbeitsart, Volk_ID) values ('Schied', 1)");
+  option("Honig", "01.06", 14, "31.08", "J", "honigernte", "SCHIED");
+  oeffne();
+  klickeZeile(0);
+  EXPECT_EQ(inhalte(), QStringList({"Honig", "01.06", "31.08", "14", "J", "Honigernte", "Schied"}));
+}
+
+TEST_F(Arplanfaelle, DieAuswahlfelderNehmenKeinenFreienText) {
+  oeffne();
+  for (const int i : {4, 5, 6}) {
+    feld(i)->setFocus();
+    QTest::keyClicks(feld(i), "x");
+    EXPECT_EQ(feld(i)->inhalt(), "") << i;
+  }
+}
+
 // --- adding ---
 
 TEST_F(Arplanfaelle, NeuMitLeererVolkabhaengigkeitGibtJedemVolkSeineTermine) {
@@ -236,6 +255,16 @@ TEST_F(Arplanfaelle, AlleNeuSetzenMitLeererListeSchreibtNichts) {
   boxen.frage(Neufrage, true).hinweis("Die Termine wurden gelöscht und neu gesetzt.");
   klicke("calender");
   EXPECT_EQ(anzahl("Termine"), 1);
+}
+
+TEST_F(Arplanfaelle, AlleNeuSetzenOhneVolkImBestandLoeschtNur) {
+  neuesVolk("1", "");
+  option("Honig", "01.07", 0, "01.07");
+  termin("Honig", QDate(2005, 7, 1));
+  oeffne();
+  boxen.frage(Neufrage, true).hinweis("Die Termine wurden gelöscht und neu gesetzt.");
+  klicke("calender");
+  EXPECT_EQ(anzahl("Termine"), 0);
 }
 
 TEST_F(Arplanfaelle, DerKnopfNenntDasJahrVonHeute) {
