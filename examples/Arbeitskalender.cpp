@@ -45,7 +45,7 @@ const QStringList entfernt = {
 const Optionseingabe neue[] = {
     {"Frühjahrskontrolle", "10.03", "30.04", "21", "J", "", "Frühjahrskontrolle"},
     {"Honigraum aufsetzen", "10.04", "10.04", "0", "J", "", "Honigraum aufsetzen"},
-    {"Stockgewicht messen", "01.04", "30.09", "30", "J", "Gewichtsmessung", ""},
+    {"Stockwaage ablesen", "01.04", "30.09", "30", "N", "", ""},
     {"Drohnenbrutentnahme", "01.05", "30.06", "14", "J", "", "Drohnenbrutentnahme"},
     {"Varroakontrolle", "01.05", "30.09", "21", "J", "", ""},
     {"In die Linde wandern", "10.06", "15.06", "0", "J", "Wanderung", ""},

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Arbeitskalender.h"
+#include "Handelsbuch.h"
 #include "Trachtgebiet.h"
 #include "Zufall.h"
 #include "bookings/Buchung.h"
@@ -462,6 +463,7 @@ void betriebAnlegen(const QString& ordner, const Betriebsgroesse& groesse,
   ohne.bauen();
   erzeuger.nachziehen();
   kalender.bisHeute();
+  Handelsbuch(zufall, heute, erstesJahr, groesse.voelker).fuehren();
   ListeNeuLesen = 1;
   EinstellungenSchreiben();
 }
