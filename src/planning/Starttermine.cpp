@@ -64,7 +64,10 @@ class Mischung {
     return m_allgemein.rohtext(zeile - m_voelker.zeilen(), spalte);
   }
   bool vor(int a, int b) const {
-    for (const int spalte : {Datum, Termin, Volknr})
+    // Dates lie as "yyyy-mm-dd" and need no collation.
+    if (const int ergebnis = text(a, Datum).compare(text(b, Datum)); ergebnis != 0)
+      return ergebnis < 0;
+    for (const int spalte : {Termin, Volknr})
       if (const int ergebnis = vergleiche(text(a, spalte), text(b, spalte)); ergebnis != 0)
         return ergebnis < 0;
     return false;
