@@ -138,9 +138,10 @@ TEST_P(Formvertrag, JedeEingabeHatNamenUndBeschriftung) {
 
 TEST_P(Formvertrag, MnemonicsTreffenSichNicht) {
   oeffnen();
-  Formregeln::jedeSeite(form.get(), [&] {
-    EXPECT_EQ(text(Formregeln::mnemonics(form.get())), text(fall().doppelt));
-  });
+  QStringList doppelt;
+  Formregeln::jedeSeite(form.get(), [&] { doppelt << Formregeln::mnemonics(form.get()); });
+  doppelt.removeDuplicates();  // what stands outside of the pages
+  EXPECT_EQ(text(doppelt), text(fall().doppelt));
   EXPECT_EQ(text(Formregeln::doppeltImMenue(form.get())), text(fall().doppeltImMenue));
 }
 

@@ -26,6 +26,8 @@
 #include "planning/forms/TV_Terminverwaltung.h"
 #include "platform/controls/Grid.h"
 #include "sites/forms/TV_Pflanzen_Standorte.h"
+#include "stores/Handel.h"
+#include "stores/forms/TV_EinVerkauf_Lager.h"
 
 using namespace TZ_Variablen;
 
@@ -355,6 +357,70 @@ Formfall pflanzen() {
   return f;
 }
 
+void bucheHonig(Handel::Seite seite, const QString& produkt, const QString& menge) {
+  Verwaltung::Texte texte = Verwaltung::vorgaben(Handel::geschaeftsfelder(seite));
+  texte["Produkt"] = produkt;
+  texte["Menge"] = menge;
+  texte[Handel::partnerfeld(seite)] = QString("Bäckerei Grünäcker");
+  texte["Charge"] = "A1";
+  Handel::geschaeftSpeichern(DB, seite, texte, {});
+}
+
+// A purchase and a sale, so that no list is empty.
+Form handelsform(const QString& modus) {
+  if (DB.Lesen("select ID from Einkauf")->zeilen() == 0) {
+    bucheHonig(Handel::Seite::Einkauf, "Rapshonig", "40");
+    bucheHonig(Handel::Seite::Verkauf, "Waldhonig", "12,5");
+  }
+  FormModus = modus;
+  auto form = std::make_unique<TV_EinVerkauf_Lager>();
+  form->laden();
+  return form;
+}
+
+// One case for each tab; the inputs of the other two stay as they are.
+Formfall handel(int reiter) {
+  struct Tab {
+    QString name, tabelle, produkt;
+    int eingaben;
+  };
+  static const QList<Tab> tabs = {{"einkauf", "Einkauf", "Rapshonig", 8},
+                                  {"verkauf", "Verkauf", "Waldhonig", 8},
+                                  {"honig", "Honiglager", "Waldhonig", 7}};
+  const Tab& tab = tabs[reiter];
+  const QString liste = "li" + tab.name;
+  Formfall f{"TV_EinVerkauf_Lager_" + tab.tabelle, "TV_EinVerkauf_Lager", "TV_EinVerkauf_Lager",
+             "neu" + tab.name + "_0",
+             [reiter](Betrieb&) { return handelsform(QString::number(reiter)); }};
+  QStringList andere;
+  for (const Tab& anderer : tabs)
+    for (int i = 0; anderer.name != tab.name && i < anderer.eingaben; ++i)
+      andere << QString("sevt%1_%2").arg(anderer.name).arg(i);
+  const QString produkt = "sevt" + tab.name + "_1";
+  f.sichern = Sichern{"neu" + tab.name + "_0",
+                      andere,
+                      {},
+                      f.machen,
+                      [reiter, liste](QWidget* form) {
+                        zeileAufReiter(form, reiter, liste, "Produkt = 'Sommerhonig'");
+                      },
+                      [produkt](QWidget* form, Meldungen::Probe& boxen) {
+                        tippe(form, produkt, {});
+                        boxen.hinweisMit("...das Produkt angegeben werden muß.");
+                      }};
+  f.sichern->werte = {{produkt, "Sommerhonig"}};
+  f.loeschen = Loeschen{tab.tabelle,
+                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
+                        [reiter, liste, tab](QWidget* form) {
+                          zeileAufReiter(form, reiter, liste, "Produkt = '" + tab.produkt + "'");
+                          druecke(form, "lsch" + tab.name);
+                        }};
+  for (const Tab& jeder : tabs)  // the given captions; the second can't be chosen
+    f.doppelt << "Alt+L: QPushButton lsch" + jeder.name +
+                     " \"&Löschen\" und QPushButton comlisten \"&Listen\"";
+  return f;
+}
+
 Formfall einstellungen() {
   Formfall f{"TO_Einstellungen", "TO_Einstellungen", "TO_Einstellungen", "ok", {}};
   f.machen = [](Betrieb& betrieb) -> Form {
@@ -402,9 +468,10 @@ const std::vector<Formfall>& formenliste() {
   static const std::vector<Formfall> liste = [] {
     std::vector<Formfall> alle{hauptformular(), ersteSchritte(), neuesVolk(), volkAendern()};
     for (int art = 0; art < 11; ++art) alle.push_back(eingabe(art));
-    alle.insert(alle.end(), {hilfe(), dateiauswahl(), dateispeichern(), selektieren(), standorte(),
-                             pflanzen(), arbeitsplanoptionen(), terminverwaltung(), starttermine(),
-                             einstellungen(), textausgabe(), zwischenliste()});
+    alle.insert(alle.end(),
+                {hilfe(), dateiauswahl(), dateispeichern(), selektieren(), standorte(), pflanzen(),
+                 handel(0), handel(1), handel(2), arbeitsplanoptionen(), terminverwaltung(),
+                 starttermine(), einstellungen(), textausgabe(), zwischenliste()});
     return alle;
   }();
   return liste;
