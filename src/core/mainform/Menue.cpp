@@ -151,7 +151,7 @@ const QList<Taste>& tasten() {
       {"btn_e_arbeiten", "XE_arbeiten", "Arbeiten", "arbeiten", Zeile, false},
       {"btn_e_wanderung", "XE_wanderung", "Wandern", "wanderung", Zeile, false},
       {"btn_e_behandlung", "XE_behandlung", "Behandlung", "behandlung", Zeile, false},
-      {"btn_a_völker", "XW_Völker", "Völker", "liste", Liste, true},
+      {"btn_a_völker", "XW_Völker", "Völker", "liste", Liste, true, true},
       {"btn_a_buchungen", "XW_Völkerbuchungenstandard", "Buchungen", "buchungen", Liste, false},
       {"btn_a_arbeitspläne", "XW_Arbeitspläne", "Pläne", "arbeitsplan", Liste, false},
       {"btn_a_deckungsbeiträge", "XW_Deckungsbeiträge", "Beiträge", "beitraege", Liste, false},

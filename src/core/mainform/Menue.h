@@ -55,6 +55,7 @@ struct Taste {
   QString symbol;    // file name without extension
   Regel regel = Regel::Immer;
   bool neueGruppe = false;
+  bool umbruch = false;  // begins the second row where the bar stands in two
 };
 
 // An entry of the list's popup acts as a menu entry; a separator has no entry. Its index is its

@@ -123,7 +123,8 @@ class TA_TOVA : public QMainWindow, public Hauptliste {
   QString m_text;                 // of the panel, with its line ends
   Volkbild::Rahmen m_rahmen;      // of the magazines in the picture
 
-  QToolBar* mleiste = nullptr;
+  std::array<QToolBar*, 2> mleiste{};  // one bar to the user, in one row or in two
+  QAction* m_umbruchtrenner = nullptr;
   QMenu* popupliste = nullptr;
   QList<QMenu*> m_menues;
   QHash<QString, QAction*> m_aktionen;  // of the menu entries, by name

@@ -101,7 +101,7 @@ void TA_TOVA::zeileUebernehmen() {
 }
 
 void TA_TOVA::MenueSperren(bool frei) {
-  mleiste->setEnabled(frei);
+  for (QToolBar* leiste : mleiste) leiste->setEnabled(frei);
   for (QMenu* menue : std::as_const(m_menues)) menue->setEnabled(frei);
   for (QWidget* widget :
        std::initializer_list<QWidget*>{cmdok, abwaerts[0], abwaerts[1], comdrucken, datali})

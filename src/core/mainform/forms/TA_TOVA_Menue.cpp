@@ -35,36 +35,57 @@ void TA_TOVA::menuesBauen() {
 }
 
 void TA_TOVA::leisteBauen() {
-  mleiste = addToolBar(QStringLiteral("Werkzeugleiste"));
-  mleiste->setObjectName(QStringLiteral("mleiste"));
-  mleiste->setMovable(false);
-  mleiste->setContextMenuPolicy(Qt::PreventContextMenu);
+  for (QToolBar*& leiste : mleiste) {
+    leiste = addToolBar(QStringLiteral("Werkzeugleiste"));
+    leiste->setMovable(false);
+    leiste->setContextMenuPolicy(Qt::PreventContextMenu);
+  }
+  mleiste[0]->setObjectName(QStringLiteral("mleiste"));
+  mleiste[1]->setObjectName(QStringLiteral("mleiste_fortsetzung"));
   QFont klein = font();
   klein.setPointSizeF(klein.pointSizeF() * 0.85);
+  QToolBar* leiste = mleiste[0];
   for (const Menue::Taste& taste : Menue::tasten()) {
-    if (taste.neueGruppe) mleiste->addSeparator();
+    if (taste.umbruch) leiste = mleiste[1];
+    if (taste.neueGruppe) {
+      QAction* trenner = leiste->addSeparator();
+      if (taste.umbruch) m_umbruchtrenner = trenner;
+    }
     const QString hinweis = Menue::ohneMnemonik(Menue::eintrag(taste.eintrag).titel);
-    QAction* aktion = mleiste->addAction(symbol(taste.symbol), taste.kurztext);
+    QAction* aktion = leiste->addAction(symbol(taste.symbol), taste.kurztext);
     aktion->setObjectName(taste.name);
     aktion->setToolTip(hinweis);
     Ereignis::wenn(aktion, &QAction::triggered, this,
                    [this, name = taste.eintrag] { waehlen(name); });
     m_tasten << aktion;
-    QWidget* knopf = mleiste->widgetForAction(aktion);
+    QWidget* knopf = leiste->widgetForAction(aktion);
     knopf->setObjectName(taste.name);
     knopf->setAccessibleName(hinweis);
     knopf->setFont(klein);
   }
 }
 
-// Texts under the symbols when the window is wide enough for all of them, else larger symbols.
+// Words under the symbols where the window is wide enough for them, in one row or, as on most
+// screens, in two; else larger symbols alone.
 void TA_TOVA::leisteAnpassen() {
   const int hoehe = fontMetrics().height();
-  mleiste->setIconSize(QSize(hoehe, hoehe) * 1.5);
-  mleiste->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  if (mleiste->sizeHint().width() <= width()) return;
-  mleiste->setToolButtonStyle(Qt::ToolButtonIconOnly);
-  mleiste->setIconSize(QSize(hoehe, hoehe) * 1.75);
+  const auto kleiden = [&](Qt::ToolButtonStyle stil, double symbolgroesse) {
+    for (QToolBar* leiste : mleiste) {
+      leiste->setIconSize(QSize(hoehe, hoehe) * symbolgroesse);
+      leiste->setToolButtonStyle(stil);
+    }
+  };
+  const auto breite = [&](size_t reihe) { return mleiste[reihe]->sizeHint().width(); };
+  m_umbruchtrenner->setVisible(true);
+  kleiden(Qt::ToolButtonTextUnderIcon, 1.5);
+  if (std::max(breite(0), breite(1)) > width()) kleiden(Qt::ToolButtonIconOnly, 1.75);
+  const bool umbruch = breite(0) + breite(1) > width();
+  m_umbruchtrenner->setVisible(!umbruch);
+  if (umbruch == toolBarBreak(mleiste[1])) return;
+  if (umbruch)
+    insertToolBarBreak(mleiste[1]);
+  else
+    removeToolBarBreak(mleiste[1]);
 }
 
 void TA_TOVA::resizeEvent(QResizeEvent* event) {

@@ -305,8 +305,8 @@ TEST_F(Voelkerliste, MenueSperrenTrifftListeLeisteMenuesUndKnoepfe) {
   starten();
   for (const bool frei : {false, true}) {
     form->MenueSperren(frei);
-    for (const char* name :
-         {"cmdok", "abwaerts_0", "abwaerts_1", "comdrucken", "datali", "mleiste"})
+    for (const char* name : {"cmdok", "abwaerts_0", "abwaerts_1", "comdrucken", "datali",
+                             "btn_neuesvolk", "btn_o_einstellungen"})
       EXPECT_EQ(finde<QWidget>(name)->isEnabled(), frei) << name;
     for (const char* name :
          {"XV_Bienenvolk", "XE_Eingabe", "A_Auswertungen", "V_Verwaltung", "O_Optionen", "H_Hilfe"})

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QMenu>
+#include <QSet>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
@@ -382,10 +383,66 @@ TEST_F(Hauptmenue, AlleTastenDerLeisteSindBei1366PunktenZuSehen) {
     for (const auto& taste : Menue::tasten()) {
       auto* knopf = finde<QToolButton>(taste.name);
       EXPECT_TRUE(knopf->isVisible()) << qPrintable(taste.name) << " x " << faktor;
-      EXPECT_LE(knopf->geometry().right(), finde<QToolBar>("mleiste")->width());
+      EXPECT_LE(knopf->geometry().right(), knopf->parentWidget()->width());
     }
     schliessen();
     zuruecksetzen();
   }
   QApplication::setFont(vorher);
+}
+
+// The words under the symbols: in one row where there is room, in two on small screens. In a window
+// too narrow for that the symbols stand alone.
+TEST_F(Hauptmenue, TastenDerLeisteZeigenIhreWorte) {
+  voelker(1);
+  starten();
+  const auto reihen = [this] {
+    QSet<int> hoehen;
+    for (const auto& taste : Menue::tasten()) {
+      auto* knopf = finde<QToolButton>(taste.name);
+      EXPECT_TRUE(knopf->isVisible()) << qPrintable(taste.name);
+      hoehen << knopf->mapTo(form.get(), QPoint()).y();
+    }
+    return hoehen.size();
+  };
+  const auto mitWorten = [this] {
+    QSet<bool> worte;
+    for (const auto& taste : Menue::tasten()) {
+      auto* knopf = finde<QToolButton>(taste.name);
+      const bool ja = knopf->toolButtonStyle() == Qt::ToolButtonTextUnderIcon;
+      EXPECT_EQ(knopf->text(), taste.kurztext);
+      const int wortbreite = knopf->fontMetrics().horizontalAdvance(taste.kurztext);
+      EXPECT_TRUE(!ja || knopf->width() >= wortbreite) << qPrintable(taste.name);
+      worte << ja;
+    }
+    EXPECT_EQ(worte.size(), 1);
+    return worte.contains(true);
+  };
+  // From small to large and back, as someone draws the window.
+  for (const auto& [breite, worte, zeilen] : {std::tuple(800, false, 2),
+                                              {1024, true, 2},
+                                              {1280, true, 2},
+                                              {1366, true, 2},
+                                              {1920, true, 1},
+                                              {1280, true, 2},
+                                              {800, false, 2}}) {
+    form->resize(breite, 700);
+    for (int i = 0; i < 3; ++i) QApplication::processEvents();
+    ASSERT_EQ(form->width(), breite);
+    EXPECT_EQ(mitWorten(), worte) << breite;
+    EXPECT_EQ(reihen(), zeilen) << breite;
+  }
+}
+
+TEST_F(Hauptmenue, ZweiteReiheBeginntMitDenAuswertungenOhneTrennstrich) {
+  voelker(1);
+  starten();
+  form->resize(1024, 700);
+  for (int i = 0; i < 3; ++i) QApplication::processEvents();
+  const int oben = finde<QToolButton>("btn_neuesvolk")->mapTo(form.get(), QPoint()).y();
+  EXPECT_EQ(finde<QToolButton>("btn_e_behandlung")->mapTo(form.get(), QPoint()).y(), oben);
+  auto* erster = finde<QToolButton>("btn_a_völker");
+  EXPECT_GT(erster->mapTo(form.get(), QPoint()).y(), oben);
+  EXPECT_EQ(erster->mapTo(form.get(), QPoint()).x(),
+            finde<QToolButton>("btn_neuesvolk")->mapTo(form.get(), QPoint()).x());
 }
