@@ -94,6 +94,11 @@ QVBoxLayout* spalteIn(QWidget* seite) {
 
 // ---- all three ----
 
+// The list is headed as the inputs.
+Handelsblock::Handelsblock(const Plan& plan) : Verwaltungsblock(plan) {
+  for (const auto& feld : felder()) liste()->setUeberschrift(feld.feld, feld.beschriftung);
+}
+
 void Handelsblock::listeLesen() {
   const Knopfsperre sperre(window());
   Verwaltungsblock::listeLesen();
