@@ -3,6 +3,7 @@
 #include "Arplanprobe.h"
 #include "platform/controls/Formular.h"
 #include "platform/database/Verbindung.h"
+#include "platform/files/Ton.h"
 
 using namespace TZ_Variablen;
 
@@ -179,6 +180,23 @@ TEST_F(Arplanfaelle, DieFristGehtBisNeunundneunzig) {
   EXPECT_EQ(feld(3)->inhalt(), "99");
   tippe(3, "-1");
   EXPECT_EQ(feld(3)->inhalt(), "1");
+}
+
+TEST_F(Arplanfaelle, NachJedemSpeichernUndNurDannKommtDerTastenton) {
+  int toene = 0;
+  Ton::setSpieler([&](int, int) { ++toene; });
+  EinstellungenZahl[14] = 1;
+  oeffne();
+  boxen.hinweisMit("Die Daten werden nicht gespeichert");
+  klicke("neu_0");
+  EXPECT_EQ(toene, 0);
+  fuelle("Kontrolle", "15.09", "15.09", "N");
+  klicke("neu_0");
+  EXPECT_EQ(toene, 1);
+  boxen.hinweis(Aendernhinweis);
+  klicke("neu_1");
+  EXPECT_EQ(toene, 2);
+  Ton::setSpieler({});
 }
 
 // --- deleting ---
