@@ -123,8 +123,9 @@ QDate verschoben(QDate tag, int jahre, const QString& pflanze) {
     throw Datenbankfehler(Datenbankfehler::Art::Allgemein,
                           "Die Weidezeit der Pflanze \"" + pflanze +
                               "\" kann nicht verschoben werden, weil es den " + neu +
-                              " nicht gibt. Die Pflanzen davor sind bereits verschoben, diese und "
-                              "die folgenden noch nicht.");
+                              " nicht gibt. Die vor ihr eingetragenen Pflanzen sind bereits "
+                              "verschoben, sie selbst und die später eingetragenen noch nicht. In "
+                              "der Liste ist das am Jahr zu sehen.");
   return DatumLesen(neu);
 }
 

@@ -24,12 +24,13 @@ QVariantHash neuerPlatz();
 qint64 anteilSumme(Database& datenbank, qint64 standortId);
 
 // Works out Trachtzeit_von and Trachtzeit_bis of all sites: the earliest start and the latest end
-// of bloom of the plants there, as full dates; null for a site without a known plant.
+// of bloom of the plants there, as full dates; null for a site without a known plant. A site is
+// found by its name: of several with one name the first gets them.
 void trachtzeitenErmitteln(Database& datenbank);
 
 // Moves the bloom of all plants by so many years, within 1901 to 2099. A 29th of February that the
-// new year doesn't have ends it with a Datenbankfehler; the plants before stay moved, that plant
-// and those behind it stay as they are.
+// new year doesn't have ends it with a Datenbankfehler; the plants entered before it stay moved,
+// that plant and those entered later stay as they are.
 void weidezeitenVerschieben(Database& datenbank, int jahre);
 
 }  // namespace Standorte

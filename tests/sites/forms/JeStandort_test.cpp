@@ -1,0 +1,170 @@
+#include <QPushButton>
+
+#include "sites/forms/Orteprobe.h"
+
+// The tab of the plants at a site.
+
+namespace {
+
+const QString Weil = "Die Daten werden nicht gespeichert, weil...\r\n\r\n";
+const QString LoeschFrage =
+    "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
+
+class JeStandortReiter : public Orteprobe {
+ protected:
+  void SetUp() override {
+    Orteprobe::SetUp();
+    hof = standort("Hof");
+    heide = standort("Heide");
+    pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
+    pflanze("Linde", QDate(2003, 6, 10), QDate(2003, 7, 10));
+  }
+  // The tab, with the site chosen; "Heide" is row 0, "Hof" row 1.
+  void zumStandort(int zeile) {
+    zumReiter(1);
+    waehle("lijeort", zeile);
+  }
+  qint64 hof = 0;
+  qint64 heide = 0;
+};
+
+TEST_F(JeStandortReiter, ZeigtDiePflanzenDesGewaehltenStandorts) {
+  tracht(hof, "Raps", 60);
+  tracht(hof, "Linde", 25);
+  oeffne();
+  zumStandort(1);
+  EXPECT_EQ(liste("lijeort")->zelle(1, "Standort"), "Hof");
+  ASSERT_EQ(liste("lijepflanze")->zeilen(), 2);
+  EXPECT_EQ(liste("lijepflanze")->zelle(0, "Pflanze"), "Linde");
+  EXPECT_EQ(text("bezproz"), "85");
+  waehle("lijeort", 0);
+  EXPECT_EQ(liste("lijepflanze")->zeilen(), 0);
+  EXPECT_EQ(text("bezproz"), "0");
+  EXPECT_EQ(feld("sevtje_0")->liste(), QStringList({"Linde", "Raps"}));
+}
+
+TEST_F(JeStandortReiter, BeginntMitDemStandortDesErstenReitersUndNimmtIhnMit) {
+  oeffne();
+  waehle("listandorte", 1);
+  zumReiter(1);
+  EXPECT_EQ(liste("lijeort")->aktuelleZeile(), 1);
+  waehle("lijeort", 0);
+  EXPECT_EQ(liste("listandorte")->aktuelleZeile(), 0);
+  zumReiter(0);
+  EXPECT_EQ(inhalt("sevtstandort_0"), "Heide");
+}
+
+TEST_F(JeStandortReiter, AuchNachSortierenGehoertDieZeileZumGewaehltenStandort) {
+  tracht(heide, "Raps", 60);
+  oeffne();
+  liste("listandorte")->sortiere(0, Qt::DescendingOrder);
+  zumStandort(0);
+  EXPECT_EQ(liste("lijeort")->zelle(0, "Standort"), "Heide");
+  EXPECT_EQ(liste("lijepflanze")->zeilen(), 1);
+  tippeTracht("Linde", "300", "10");
+  klicke("neuje_0");
+  EXPECT_EQ(anzahl("Standorte_Pflanzen", QString("Standort_Kennung = %1").arg(heide)), 2);
+}
+
+TEST_F(JeStandortReiter, NeuSchreibtMitDerKennungDesStandorts) {
+  oeffne();
+  zumStandort(1);
+  tippeTracht("Raps", "500", "60");
+  klicke("neuje_0");
+  const Daten d = db().Lesen(
+      "select Pflanze, Entfernung_m, Proz_Anteil, Standort_Kennung "
+      "from Standorte_Pflanzen");
+  ASSERT_EQ(d->zeilen(), 1);
+  EXPECT_EQ(d->anzeige(0, 0), "Raps");
+  EXPECT_EQ(d->ganzzahl(0, 1), 500);
+  EXPECT_EQ(d->ganzzahl(0, 2), 60);
+  EXPECT_EQ(d->ganzzahl(0, 3), hof);
+  EXPECT_EQ(text("bezproz"), "60");
+}
+
+TEST_F(JeStandortReiter, SechzigUndVierzigGehenEinProzentMehrNicht) {
+  oeffne();
+  zumStandort(1);
+  tippeTracht("Raps", "500", "60");
+  klicke("neuje_0");
+  tippeTracht("Linde", "500", "40");
+  klicke("neuje_0");
+  EXPECT_EQ(text("bezproz"), "100");
+  tippeTracht("Klee", "500", "1");
+  boxen.hinweis(Weil +
+                "...der prozentuale Anteil bei den Pflanzen am Standort nicht über 100 sein darf.");
+  klicke("neuje_0");
+  EXPECT_EQ(anzahl("Standorte_Pflanzen"), 2);
+}
+
+TEST_F(JeStandortReiter, AusSechzigWirdNeunundfuenfzigAberNichtEinundsechzig) {
+  tracht(hof, "Linde", 40);
+  tracht(hof, "Raps", 60);
+  oeffne();
+  zumStandort(1);
+  waehle("lijepflanze", 1);
+  EXPECT_EQ(inhalt("sevtje_0"), "Raps");
+  EXPECT_EQ(inhalt("sevtje_1"), "100");
+  tippe("sevtje_2", "61");
+  boxen.hinweis(Weil +
+                "...der prozentuale Anteil bei den Pflanzen am Standort nicht über 100 sein darf.");
+  klicke("neuje_1");
+  EXPECT_EQ(wert("select Proz_Anteil from Standorte_Pflanzen where Pflanze = 'Raps'").toInt(), 60);
+  tippe("sevtje_2", "59");
+  klicke("neuje_1");
+  EXPECT_EQ(wert("select Proz_Anteil from Standorte_Pflanzen where Pflanze = 'Raps'").toInt(), 59);
+  EXPECT_EQ(text("bezproz"), "99");
+}
+
+TEST_F(JeStandortReiter, AlleGruendeInIhrerFolge) {
+  oeffne();
+  zumStandort(1);
+  boxen.hinweis(Weil +
+                "...die Pflanze angegeben werden muß.\r\n"
+                "...die Entfernung muß größer als 0 Meter sein.\r\n"
+                "...der prozentuale Anteil müß größer als 0 % sein.");
+  klicke("neuje_0");
+  tippeTracht("Raps", "500", "60");
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz (die Pflanze), den Sie ändern möchten!");
+  klicke("neuje_1");
+  EXPECT_EQ(anzahl("Standorte_Pflanzen"), 0);
+}
+
+TEST_F(JeStandortReiter, UnbekanntePflanzeWirdGespeichertUndAendertDieTrachtzeitNicht) {
+  oeffne();
+  zumStandort(1);
+  tippeTracht("Wunderkraut", "10", "5");
+  klicke("neuje_0");
+  EXPECT_EQ(anzahl("Standorte_Pflanzen", "Pflanze = 'Wunderkraut'"), 1);
+  klicke("beenden");
+  EXPECT_TRUE(von("Hof").isNull());
+  EXPECT_TRUE(bis("Hof").isNull());
+}
+
+TEST_F(JeStandortReiter, EinePflanzeDarfMehrmalsAnEinemStandortStehen) {
+  oeffne();
+  zumStandort(1);
+  tippeTracht("Raps", "500", "10");
+  klicke("neuje_0");
+  klicke("neuje_0");
+  EXPECT_EQ(anzahl("Standorte_Pflanzen", "Pflanze = 'Raps'"), 2);
+  EXPECT_EQ(text("bezproz"), "20");
+}
+
+TEST_F(JeStandortReiter, LoeschenZeigtDieSummeNeu) {
+  tracht(hof, "Linde", 40);
+  tracht(hof, "Raps", 60);
+  TZ_Variablen::EinstellungenZahl[55] = 1;
+  oeffne();
+  zumStandort(1);
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
+  klicke("lschje");
+  waehle("lijepflanze", 0);
+  boxen.frage(LoeschFrage, true);
+  klicke("lschje");
+  EXPECT_EQ(anzahl("Standorte_Pflanzen"), 1);
+  EXPECT_EQ(text("bezproz"), "60");
+  EXPECT_EQ(inhalt("sevtje_0"), "Raps");
+}
+
+}  // namespace
