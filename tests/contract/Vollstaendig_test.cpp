@@ -1,0 +1,59 @@
+#include <gtest/gtest.h>
+
+#include <QDirIterator>
+#include <QFileInfo>
+
+#include "Formenliste.h"
+
+// A form that is in the program is in the registry, so that every rule is asked of it.
+namespace {
+
+const QString quellen = QStringLiteral(TOVA_QUELLEN "/src");
+
+// The forms by their headers: forms/TV_Neues_Volk.h. Names of files are written without umlauts.
+QStringList koepfe() {
+  QStringList namen;
+  QDirIterator lauf(quellen, {QStringLiteral("T?_*.h")}, QDir::Files, QDirIterator::Subdirectories);
+  while (lauf.hasNext()) {
+    const QFileInfo datei(lauf.next());
+    if (datei.dir().dirName() == QLatin1String("forms")) namen << datei.completeBaseName();
+  }
+  namen.sort();
+  return namen;
+}
+
+QString dateiname(QString form) {
+  const std::pair<QChar, const char*> umlaute[] = {{u'ä', "ae"}, {u'ö', "oe"}, {u'ü', "ue"},
+                                                   {u'Ä', "Ae"}, {u'Ö', "Oe"}, {u'Ü', "Ue"},
+                                                   {u'ß', "ss"}};
+  for (const auto& [umlaut, ersatz] : umlaute) form.replace(umlaut, QLatin1String(ersatz));
+  return form;
+}
+
+QStringList verzeichnis() {
+  QStringList namen;
+  for (const Formfall& fall : formenliste()) namen << dateiname(fall.objekt);
+  return namen;
+}
+
+}  // namespace
+
+TEST(Formenliste, JedesFormularDesProgrammsStehtImVerzeichnis) {
+  const QStringList alle = koepfe();
+  ASSERT_GE(alle.size(), 15) << quellen.toStdString();
+  const QStringList bekannt = verzeichnis();
+  for (const QString& form : alle)
+    EXPECT_TRUE(bekannt.contains(form)) << form.toStdString() << " fehlt im Verzeichnis";
+}
+
+TEST(Formenliste, JederEintragHatSeinFormularImProgramm) {
+  const QStringList alle = koepfe();
+  for (const Formfall& fall : formenliste())
+    EXPECT_TRUE(alle.contains(dateiname(fall.objekt))) << fall.objekt.toStdString();
+}
+
+TEST(Formenliste, JederFallHatSeinenEigenenNamen) {
+  QStringList faelle;
+  for (const Formfall& fall : formenliste()) faelle << fall.fall;
+  EXPECT_EQ(faelle.removeDuplicates(), 0);
+}
