@@ -91,9 +91,9 @@ Menue verwaltung() {
            {"XV_Aktuelle_Termine", "&Aktuelle Termine", Ziel::AktuelleTermine, Regel::Immer, {}},
            spaeter("XV_wetterdaten", "&Wetterdaten"),
            spaeter("XV_Kunden", "&Kunden"),
-           spaeter("XV_einkauf", "&Einkäufe"),
-           spaeter("XV_verkauf", "&Verkäufe"),
-           spaeter("XV_honiglager", "&Honiglager"),
+           {"XV_einkauf", "&Einkäufe", Ziel::Handel, Regel::Immer, "0"},
+           {"XV_verkauf", "&Verkäufe", Ziel::Handel, Regel::Immer, "1"},
+           {"XV_honiglager", "&Honiglager", Ziel::Handel, Regel::Immer, "2"},
            spaeter("XV_Materiallager", "&Materiallager"),
            spaeter("xv_inventar", "&Inventar"),
            spaeter("xv_dibverschluss", "& D.I.B Gewährleistungsverschlüsse")}};

@@ -22,6 +22,7 @@ enum class Ziel {
   Termine,        // the calendar
   AktuelleTermine,
   Standorte,  // sites and plants
+  Handel,     // purchases, sales and the honey store
   Einstellungen,
   Internet,  // fetching the newest set-up
   Komprimieren,

@@ -11,6 +11,7 @@
 #include "planning/forms/TV_Terminverwaltung.h"
 #include "platform/controls/Ereignis.h"
 #include "sites/forms/TV_Pflanzen_Standorte.h"
+#include "stores/forms/TV_EinVerkauf_Lager.h"
 
 using namespace TZ_Variablen;
 
@@ -39,6 +40,15 @@ void Formen::standorte(const QString& formModus) {
     m_standorte = new TV_Pflanzen_Standorte(m_haupt);
   }
   m_standorte->zeigen();
+}
+
+void Formen::handel(const QString& formModus) {
+  FormModus = formModus;
+  if (!m_handel) {
+    const Ereignis::Sanduhr sanduhr;
+    m_handel = new TV_EinVerkauf_Lager(m_haupt);
+  }
+  m_handel->zeigen();
 }
 
 void Formen::einstellungen() {

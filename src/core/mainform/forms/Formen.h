@@ -8,6 +8,7 @@ class TE_Eingabe;
 class TH_Hilfe_Wieanfangen;
 class TO_Einstellungen;
 class TV_Arplanoptionen;
+class TV_EinVerkauf_Lager;
 class TV_Neues_Volk;
 class TV_Pflanzen_Standorte;
 class TV_Starttermine;
@@ -22,6 +23,7 @@ class Formen {
   void volk(const QString& volkModus);
   void eingabe(int buchungsArt);
   void standorte(const QString& formModus);
+  void handel(const QString& formModus);
   void einstellungen();
   void arbeitsplanoptionen();
   void termine();
@@ -35,6 +37,7 @@ class Formen {
   QPointer<TV_Neues_Volk> m_volk;
   QPointer<TE_Eingabe> m_eingabe;
   QPointer<TV_Pflanzen_Standorte> m_standorte;
+  QPointer<TV_EinVerkauf_Lager> m_handel;
   QPointer<TO_Einstellungen> m_einstellungen;
   QPointer<TV_Arplanoptionen> m_arbeitsplanoptionen;
   QPointer<TV_Terminverwaltung> m_termine;

@@ -179,6 +179,9 @@ void TA_TOVA::ausfuehren(const Menue::Eintrag& eintrag) {
     case Menue::Ziel::Standorte:
       m_formen.standorte(eintrag.wert);
       break;
+    case Menue::Ziel::Handel:
+      m_formen.handel(eintrag.wert);
+      break;
     case Menue::Ziel::Arbeitsplanoptionen:
       m_formen.arbeitsplanoptionen();
       break;

@@ -61,6 +61,9 @@ TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
                                "XV_Arbeitsplanoptionen",
                                "XV_Termine",
                                "XV_Aktuelle_Termine",
+                               "XV_einkauf",
+                               "XV_verkauf",
+                               "XV_honiglager",
                                "O_Einstellungen",
                                "O_Datenbankkomprimieren",
                                "O_volkabhängigeterminesetzen",
@@ -75,7 +78,7 @@ TEST_F(Hauptmenue, WasNochKeineFormHatBleibtAuchMitVoelkernGesperrt) {
             QStringList({"btn_neuesvolk", "btn_volkändern", "btn_e_stockkarte", "btn_e_honigernte",
                          "btn_e_wachsernte", "btn_e_arbeiten", "btn_e_wanderung",
                          "btn_e_behandlung", "btn_v_standorte", "btn_v_Arbeitsplanoptionen",
-                         "btn_v_termine", "btn_o_einstellungen"}));
+                         "btn_v_termine", "btn_v_honiglager", "btn_o_einstellungen"}));
 }
 
 TEST_F(Hauptmenue, OhneZeileSindVolkUndBuchungenGesperrt) {
@@ -197,6 +200,23 @@ TEST_F(Hauptmenue, StandorteUndPflanzenOeffnenDieselbeFormAufIhremReiter) {
     int gesehen = -1;
     Formbesuch besuch("TV_Pflanzen_Standorte", [&](QWidget* orte) {
       gesehen = orte->findChild<QTabWidget*>("reiter")->currentIndex();
+    });
+    aktion(eintrag)->trigger();
+    EXPECT_TRUE(besuch.war()) << eintrag;
+    EXPECT_EQ(gesehen, reiter) << eintrag;
+  }
+}
+
+TEST_F(Hauptmenue, EinkaufVerkaufUndHoniglagerOeffnenDieselbeFormAufIhremReiter) {
+  voelker(1);
+  starten();
+  for (const auto& [eintrag, reiter] : {std::pair("XV_einkauf", 0),
+                                        {"XV_verkauf", 1},
+                                        {"XV_honiglager", 2},
+                                        {"btn_v_honiglager", 2}}) {
+    int gesehen = -1;
+    Formbesuch besuch("TV_EinVerkauf_Lager", [&](QWidget* handel) {
+      gesehen = handel->findChild<QTabWidget*>("reiter")->currentIndex();
     });
     aktion(eintrag)->trigger();
     EXPECT_TRUE(besuch.war()) << eintrag;
