@@ -8,8 +8,11 @@
 
 namespace {
 
-// Sums of clean decimals carry noise behind the fifteenth digit; nobody wants to read it.
-double lesbar(double wert) { return QString::number(wert, 'g', 15).toDouble(); }
+// Sums of clean decimals carry noise behind the fifteenth digit of their largest part; nobody wants
+// to read it. Amounts of money need the digits, other numbers have nine at most.
+double lesbar(double wert, bool geld) {
+  return QString::number(wert, 'g', geld ? 15 : 12).toDouble();
+}
 
 // The shortest form, but with the two decimals that a price is written with.
 QString geldbetrag(double wert) {
@@ -100,7 +103,7 @@ QString Datenblock::anzeige(int zeile, int spalteNummer) const {
     case Art::Ganz:
       return geld ? geldbetrag(static_cast<double>(z.ganz)) : QString::number(z.ganz);
     case Art::Gleitkomma:
-      return geld ? geldbetrag(lesbar(z.gleit)) : Deutsch::schlicht(lesbar(z.gleit));
+      return geld ? geldbetrag(lesbar(z.gleit, geld)) : Deutsch::schlicht(lesbar(z.gleit, geld));
     case Art::Text:
       break;
   }

@@ -87,6 +87,17 @@ TEST(Datenblock, AuchEinGeldbetragZeigtKeinRauschen) {
   EXPECT_EQ(d->anzeige(4, 0), s("1,2345"));
 }
 
+// 223.7 - 223 is 0.69999999999998863: the noise stands where the larger numbers end.
+TEST(Datenblock, WasVonEinerSummeUebrigBleibtZeigtKeinRauschen) {
+  Datenblock::Bauer bauer({{s("Summe"), Feldtyp::Ausdruck, 0}});
+  for (const double wert : {223.7 - 223, 223 - 223.7, 1234567.25, 3.33}) bauer.gleitkomma(wert);
+  const Daten d = bauer.fertig();
+  EXPECT_EQ(d->anzeige(0, 0), s("0,7"));
+  EXPECT_EQ(d->anzeige(1, 0), s("-0,7"));
+  EXPECT_EQ(d->anzeige(2, 0), s("1234567,25"));
+  EXPECT_EQ(d->anzeige(3, 0), s("3,33"));
+}
+
 TEST(Datenblock, SpaltenFindetManOhneRuecksichtAufGrossschreibung) {
   const Daten d = beispiel();
   EXPECT_EQ(d->spaltenNummer(u"menge_KG"), 2);
