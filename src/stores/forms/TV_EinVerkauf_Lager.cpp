@@ -59,7 +59,7 @@ void TV_EinVerkauf_Lager::aufbauen() {
   spalte->addWidget(fussBauen());
   reihenfolgeSetzen();
   const QSize schirm = screen()->availableSize() - QSize(20, 60);
-  const QSize wunsch(125 * fontMetrics().averageCharWidth(), 38 * fontMetrics().height());
+  const QSize wunsch(180 * fontMetrics().averageCharWidth(), 38 * fontMetrics().height());
   resize(wunsch.expandedTo(minimumSizeHint()).boundedTo(schirm));
 }
 
