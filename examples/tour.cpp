@@ -7,10 +7,12 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <cstdio>
 
 #include "Begleiter.h"
 #include "Betrieb.h"
+#include "Bienenjahr.h"
 #include "core/globals.h"
 #include "core/mainform/forms/TA_TOVA.h"
 #include "output/forms/TA_Zwischenliste.h"
@@ -230,10 +232,22 @@ bool imDrittenJahr(const QString& bilder) {
   hauptformularZeigen(tag);
   eingabenZeigen(tag);
   selektierenUndMarkieren(tag);
+  planungZeigen(tag);
+  standorteZeigen(tag);
+  handelZeigen(tag);
   einstellungenZeigen(tag);
   listeWeitergeben(tag);
   hilfeLesen(tag);
   return besuchen(ordner.path(), tag);
+}
+
+// The offscreen screen is small and square; the tour wants the one that most people have.
+void bildschirmEinrichten(QTemporaryFile& datei) {
+  if (qgetenv("QT_QPA_PLATFORM") != "offscreen" || !datei.open()) return;
+  datei.write(R"({"screens":[{"name":"tour","x":0,"y":0,"width":1366,"height":768,"logicalDpi":96,)"
+              R"("logicalBaseDpi":96,"dpr":1}]})");
+  datei.close();
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + datei.fileName().toLocal8Bit());
 }
 
 }  // namespace
@@ -243,6 +257,8 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: tour FOLDER_FOR_PICTURES\n");
     return 2;
   }
+  QTemporaryFile bildschirm;
+  bildschirmEinrichten(bildschirm);
   QApplication app(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   gestalten(app);
