@@ -12,19 +12,15 @@
 
 #include "bookings/forms/Slotfelder.h"
 #include "bookings/forms/TE_Eingabe.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Grid.h"
+
+using Bauteile::knopf;
 
 namespace {
 
 QString name(const char* stamm, int index) { return QString(stamm) + "_" + QString::number(index); }
-
-QPushButton* knopf(const QString& objekt, const QString& text, const QString& hinweis = {}) {
-  auto* ergebnis = new QPushButton(text);
-  ergebnis->setObjectName(objekt);
-  ergebnis->setToolTip(hinweis);
-  return ergebnis;
-}
 
 QRadioButton* wahl(QButtonGroup* gruppe, const char* stamm, int index, const QString& text) {
   auto* ergebnis = new QRadioButton(text);
@@ -89,8 +85,8 @@ QWidget* TE_Eingabe::baueVoelker() {
   m_volkli->setLayoutSchluessel("TE_Eingabe/volkli");
   m_volkli->setMinimumWidth(18 * fontMetrics().averageCharWidth());
 
-  m_nextvolk[0] = knopf("nextvolk1_0", "&Voriges", "Vorheriges Volk");
-  m_nextvolk[1] = knopf("nextvolk1_1", "Nä&chstes", "Nächstes Volk");
+  m_nextvolk[0] = knopf("&Voriges", "nextvolk1_0", "Vorheriges Volk");
+  m_nextvolk[1] = knopf("Nä&chstes", "nextvolk1_1", "Nächstes Volk");
 
   auto* wechsel = new QHBoxLayout;
   wechsel->addWidget(m_nextvolk[0]);
@@ -139,15 +135,15 @@ QWidget* TE_Eingabe::baueArten() {
 }
 
 QLayout* TE_Eingabe::baueKnoepfe() {
-  m_neu[0] = knopf("neu_0", "&Neu", "Als neue Buchung eintragen (Eingabetaste)");
-  m_neu[1] = knopf("neu_1", "&Ändern", "Die in der Liste gewählte Buchung ändern");
-  m_loeschen = knopf("löschen", "&Löschen", "Die in der Liste gewählte Buchung löschen");
+  m_neu[0] = knopf("&Neu", "neu_0", "Als neue Buchung eintragen (Eingabetaste)");
+  m_neu[1] = knopf("&Ändern", "neu_1", "Die in der Liste gewählte Buchung ändern");
+  m_loeschen = knopf("&Löschen", "löschen", "Die in der Liste gewählte Buchung löschen");
   m_standard[0] =
-      knopf("standard_0", "Standard sichern", "Die Eingaben als Maske dieser Eingabeart aufheben");
+      knopf("Standard sichern", "standard_0", "Die Eingaben als Maske dieser Eingabeart aufheben");
   m_standard[1] =
-      knopf("standard_1", "Standard einlesen", "Die aufgehobene Maske dieser Eingabeart holen");
-  m_comhilfe = knopf("comhilfe", "&Hilfe");
-  m_cmdschliessen = knopf("cmdschließen", "&Schließen");
+      knopf("Standard einlesen", "standard_1", "Die aufgehobene Maske dieser Eingabeart holen");
+  m_comhilfe = knopf("&Hilfe", "comhilfe");
+  m_cmdschliessen = knopf("&Schließen", "cmdschließen");
   m_neu[0]->setDefault(true);
   auto* zeile = new QHBoxLayout;
   for (QPushButton* k : {m_neu[0], m_neu[1], m_loeschen}) {

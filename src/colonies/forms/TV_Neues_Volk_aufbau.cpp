@@ -11,8 +11,11 @@
 #include <QTabWidget>
 
 #include "colonies/forms/TV_Neues_Volk.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
+
+using Bauteile::knopf;
 
 namespace {
 
@@ -51,12 +54,6 @@ void breiteSetzen(Eingabefeld* feld, const Volkfeld& f) {
 
 QString feldname(const Volkfeld& f) {
   return (f.array == Volkarray::sevt ? "sevt_" : "sevtx_") + QString::number(f.index);
-}
-
-QPushButton* knopf(const QString& text, const QString& name) {
-  auto* k = new QPushButton(text);
-  k->setObjectName(name);
-  return k;
 }
 
 }  // namespace

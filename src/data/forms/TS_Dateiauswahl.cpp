@@ -1,6 +1,5 @@
 #include "data/forms/TS_Dateiauswahl.h"
 
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QLabel>
 #include <QListWidget>
@@ -8,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "core/globals.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/files/Dateimuster.h"
 
 TS_Dateiauswahl::TS_Dateiauswahl(const QString& muster, QWidget* oeffner)
@@ -28,17 +28,7 @@ TS_Dateiauswahl::TS_Dateiauswahl(const QString& muster, QWidget* oeffner)
   seite->addWidget(kopf);
   seite->addWidget(m_datei1);
 
-  auto* knoepfe = new QDialogButtonBox(this);
-  m_ok = knoepfe->addButton(QStringLiteral("&OK"), QDialogButtonBox::AcceptRole);
-  m_ok->setObjectName(QStringLiteral("ok"));
-  m_ok->setDefault(true);
-  auto* schliessen = knoepfe->addButton(QStringLiteral("&Schließen"), QDialogButtonBox::RejectRole);
-  schliessen->setObjectName(QStringLiteral("schliessen"));
-  schliessen->setAutoDefault(false);
-  seite->addWidget(knoepfe);
-
-  connect(knoepfe, &QDialogButtonBox::accepted, this, [this] { accept(); });
-  connect(knoepfe, &QDialogButtonBox::rejected, this, [this] { reject(); });
+  m_ok = Bauteile::okUndSchliessen(this, seite);
   connect(m_datei1, &QListWidget::itemDoubleClicked, this, [this] { accept(); });
   connect(m_datei1, &QListWidget::currentRowChanged, this, [this] { knopfStellen(); });
   m_datei1->setCurrentRow(0);

@@ -1,11 +1,10 @@
 #include "data/forms/TS_Dateispeichern.h"
 
-#include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "core/globals.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 
 TS_Dateispeichern::TS_Dateispeichern(QWidget* oeffner, const QString& vorschlag)
@@ -27,17 +26,7 @@ TS_Dateispeichern::TS_Dateispeichern(QWidget* oeffner, const QString& vorschlag)
   seite->addWidget(hinweis);
   seite->addStretch();
 
-  auto* knoepfe = new QDialogButtonBox(this);
-  auto* ok = knoepfe->addButton(QStringLiteral("&OK"), QDialogButtonBox::AcceptRole);
-  ok->setObjectName(QStringLiteral("ok"));
-  ok->setDefault(true);
-  auto* schliessen = knoepfe->addButton(QStringLiteral("&Schließen"), QDialogButtonBox::RejectRole);
-  schliessen->setObjectName(QStringLiteral("schliessen"));
-  schliessen->setAutoDefault(false);
-  seite->addWidget(knoepfe);
-
-  connect(knoepfe, &QDialogButtonBox::accepted, this, [this] { accept(); });
-  connect(knoepfe, &QDialogButtonBox::rejected, this, [this] { reject(); });
+  Bauteile::okUndSchliessen(this, seite);
   connect(m_t, &QLineEdit::textEdited, this, [this](const QString& text) { nachTippen(text); });
   m_t->setFocus();
 }

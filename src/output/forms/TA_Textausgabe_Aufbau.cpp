@@ -12,23 +12,11 @@
 #include <QRegularExpressionValidator>
 
 #include "output/forms/TA_Textausgabe.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Ereignis.h"
 
-namespace {
-
-template <typename Widget>
-Widget* benannt(Widget* widget, const QString& name) {
-  widget->setObjectName(name);
-  return widget;
-}
-
-QPushButton* knopf(const QString& text, const QString& name) {
-  auto* k = benannt(new QPushButton(text), name);
-  k->setAutoDefault(false);
-  return k;
-}
-
-}  // namespace
+using Bauteile::benannt;
+using Bauteile::knopfOhneEnter;
 
 void TA_Textausgabe::aufbauen() {
   t = benannt(new QPlainTextEdit, QStringLiteral("t"));
@@ -59,10 +47,10 @@ QWidget* TA_Textausgabe::schriftBauen() {
     größe->addItem(QString::number(g));
   kon[0] = benannt(new QCheckBox(QStringLiteral("Fett")), QStringLiteral("kon_0"));
   kon[1] = benannt(new QCheckBox(QStringLiteral("Kursiv")), QStringLiteral("kon_1"));
-  plus5[0] = knopf(QStringLiteral("Schriftgröße +5"), QStringLiteral("plus5_0"));
-  plus1[0] = knopf(QStringLiteral("Schriftgröße +1"), QStringLiteral("plus1_0"));
-  plus1[1] = knopf(QStringLiteral("Schriftgröße -1"), QStringLiteral("plus1_1"));
-  plus5[1] = knopf(QStringLiteral("Schriftgröße -5"), QStringLiteral("plus5_1"));
+  plus5[0] = knopfOhneEnter(QStringLiteral("Schriftgröße +5"), QStringLiteral("plus5_0"));
+  plus1[0] = knopfOhneEnter(QStringLiteral("Schriftgröße +1"), QStringLiteral("plus1_0"));
+  plus1[1] = knopfOhneEnter(QStringLiteral("Schriftgröße -1"), QStringLiteral("plus1_1"));
+  plus5[1] = knopfOhneEnter(QStringLiteral("Schriftgröße -5"), QStringLiteral("plus5_1"));
 
   auto* oben = new QHBoxLayout;
   oben->addWidget(beschriften(QStringLiteral("Schrift&art:"), kom));
@@ -108,15 +96,15 @@ QWidget* TA_Textausgabe::seiteBauen() {
 }
 
 QHBoxLayout* TA_Textausgabe::knoepfeBauen() {
-  drucken = knopf(QStringLiteral("&Text drucken"), QStringLiteral("drucken"));
+  drucken = knopfOhneEnter(QStringLiteral("&Text drucken"), QStringLiteral("drucken"));
   drucken->setToolTip(QStringLiteral("Druckt, was im Textfeld steht"));
   drucken->setDefault(true);
-  dateidrucken = knopf(QStringLiteral("&Datei drucken"), QStringLiteral("dateidrucken"));
+  dateidrucken = knopfOhneEnter(QStringLiteral("&Datei drucken"), QStringLiteral("dateidrucken"));
   dateidrucken->setToolTip(
       QStringLiteral("Druckt die ganze Datei, auch was nicht mehr in das "
                      "Textfeld gepasst hat"));
-  hilfe = knopf(QStringLiteral("&Hilfe"), QStringLiteral("hilfe"));
-  abbv = knopf(QStringLiteral("&Schließen"), QStringLiteral("abbv"));
+  hilfe = knopfOhneEnter(QStringLiteral("&Hilfe"), QStringLiteral("hilfe"));
+  abbv = knopfOhneEnter(QStringLiteral("&Schließen"), QStringLiteral("abbv"));
   auto* leiste = new QHBoxLayout;
   leiste->addWidget(drucken);
   leiste->addWidget(dateidrucken);

@@ -18,6 +18,7 @@
 #include "output/Uebergabe.h"
 #include "output/Webbericht.h"
 #include "output/forms/TA_Textausgabe.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
@@ -25,18 +26,13 @@
 
 using namespace TZ_Variablen;
 
+using Bauteile::knopfOhneEnter;
+
 namespace {
 
 constexpr int KleinsteBreite = 27;     // pixels
 constexpr qint64 LangeListe = 200000;  // cells; shorter lists are written in a moment
 constexpr int ZwischenbildMs = 60;
-
-QPushButton* knopf(const QString& text, const QString& name) {
-  auto* k = new QPushButton(text);
-  k->setObjectName(name);
-  k->setAutoDefault(false);
-  return k;
-}
 
 }  // namespace
 
@@ -77,16 +73,16 @@ void TA_Zwischenliste::aufbauen() {
 }
 
 QWidget* TA_Zwischenliste::knopfleiste() {
-  comtext = knopf("&Text-Auswertung", "comtext");
+  comtext = knopfOhneEnter("&Text-Auswertung", "comtext");
   comtext->setToolTip("Die Liste als Text anzeigen und drucken");
-  comexcel = knopf("&Excel-Auswertung", "comexcel");
+  comexcel = knopfOhneEnter("&Excel-Auswertung", "comexcel");
   comexcel->setToolTip("Die Liste als Tabelle in der Tabellenkalkulation öffnen");
-  roexplorer[0] = knopf("Stan&dard-Explorer", "roexplorer_0");
+  roexplorer[0] = knopfOhneEnter("Stan&dard-Explorer", "roexplorer_0");
   roexplorer[0]->setToolTip("Die Liste als Internetseite im Browser öffnen");
-  roexplorer[1] = knopf("&Internet-Explorer", "roexplorer_1");
+  roexplorer[1] = knopfOhneEnter("&Internet-Explorer", "roexplorer_1");
   roexplorer[1]->setToolTip("Die Liste als Internetseite im Browser öffnen");
-  hilfe = knopf("&Hilfe", "hilfe");
-  cmdschließen = knopf("&Schließen", "cmdschließen");
+  hilfe = knopfOhneEnter("&Hilfe", "hilfe");
+  cmdschließen = knopfOhneEnter("&Schließen", "cmdschließen");
 
   auto* leiste = new QWidget;
   auto* raster = new QGridLayout(leiste);

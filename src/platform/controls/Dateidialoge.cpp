@@ -1,6 +1,5 @@
 #include "platform/controls/Dateidialoge.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -8,6 +7,7 @@
 #include <deque>
 #include <optional>
 
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Meldungen.h"
 
 struct Dateidialoge::Probe::Innen {
@@ -18,6 +18,8 @@ struct Dateidialoge::Probe::Innen {
   std::deque<Antwort> antworten;
   QStringList fehler;
 };
+
+using Bauteile::fensterDarunter;
 
 namespace {
 
@@ -54,10 +56,6 @@ QString gefragt(QFileDialog& dialog, const QString& titel) {
   if (probe != nullptr) return geprobt(titel);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return dialog.selectedFiles().first();
-}
-
-QWidget* fensterDarunter(QWidget* ueber) {
-  return ueber != nullptr ? ueber->window() : QApplication::activeWindow();
 }
 
 }  // namespace

@@ -10,6 +10,8 @@
 #include <deque>
 #include <optional>
 
+#include "platform/controls/Bauteile.h"
+
 struct Meldungen::Probe::Innen {
   struct Erwartung {
     bool frage = false;
@@ -21,6 +23,8 @@ struct Meldungen::Probe::Innen {
   std::deque<Erwartung> erwartet;
   QStringList fehler;
 };
+
+using Bauteile::fensterDarunter;
 
 namespace {
 
@@ -85,10 +89,6 @@ void vorbereiten(QMessageBox& box, const QString& name) {
   box.setWindowTitle(QStringLiteral("TOVA 2.0"));
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-}
-
-QWidget* fensterDarunter(QWidget* ueber) {
-  return ueber != nullptr ? ueber->window() : QApplication::activeWindow();
 }
 
 // Compares a box with the queue; gives the answer of a Frage.

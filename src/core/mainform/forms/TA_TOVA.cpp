@@ -17,18 +17,15 @@
 #include "core/mainform/Start.h"
 #include "core/mainform/forms/Bildfeld.h"
 #include "core/mainform/forms/Symbol.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 
 using namespace TZ_Variablen;
 
-namespace {
+using Bauteile::benannt;
 
-template <typename Widget>
-Widget* benannt(Widget* widget, const QString& name) {
-  widget->setObjectName(name);
-  return widget;
-}
+namespace {
 
 QToolButton* symbolknopf(const QString& name, const QString& symbolName, const QString& hinweis,
                          QWidget* eltern) {

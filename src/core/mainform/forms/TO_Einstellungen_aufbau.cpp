@@ -17,8 +17,11 @@
 
 #include "core/mainform/forms/Symbol.h"
 #include "core/mainform/forms/TO_Einstellungen.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
+
+using Bauteile::benannt;
 
 namespace {
 
@@ -124,12 +127,6 @@ Eingabefeld::Beschreibung beschreibung(const Einstellungen::Eingabe& e) {
       break;
   }
   return b;
-}
-
-template <typename Widget>
-Widget* benannt(Widget* widget, const QString& name) {
-  widget->setObjectName(name);
-  return widget;
 }
 
 }  // namespace
