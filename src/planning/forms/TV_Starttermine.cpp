@@ -77,7 +77,7 @@ void TV_Starttermine::aufbauen() {
   seite->addLayout(gruppen);
   seite->addWidget(kon);
   seite->addWidget(fussBauen());
-  resize(sizeHint().expandedTo(QSize(760, 560)));
+  resize(sizeHint().expandedTo(QSize(900, 620)));
 }
 
 // Both groups below close to this day.
@@ -85,6 +85,9 @@ QWidget* TV_Starttermine::tagBauen() {
   sevt[Erledigungstag] = feld(Erledigungstag, Eingabefeld::Art::Datum);
   konterminreihe = new QCheckBox("Terminreihe bei regelmäßigen Terminen neu anpassen?");
   konterminreihe->setObjectName("konterminreihe");
+  konterminreihe->setToolTip(
+      "Die offenen Termine derselben Arbeit bei diesem Volk werden gelöscht und ab dem\n"
+      "Erledigungsdatum im Abstand der Arbeitsplanoption neu eingetragen");
   auto* leiste = new QWidget;
   auto* zeile = new QHBoxLayout(leiste);
   zeile->setContentsMargins(0, 0, 0, 0);
@@ -100,6 +103,11 @@ QWidget* TV_Starttermine::einzelnBauen() {
   cmdok[0] = knopf("Aktuellen Termin erledigen zum obigen Datum", "cmdok_0");
   cmdok[1] = knopf("Markierte Termine erledigen", "cmdok_1");
   cmdok[2] = knopf("Alle Termine bis heute erledigen", "cmdok_2");
+  cmdok[0]->setToolTip("Ein Doppelklick in der Liste erledigt am geplanten Tag");
+  cmdok[1]->setToolTip(
+      "Alle farbigen Zeilen der Liste, jede an ihrem geplanten Tag.\n"
+      "Mehrere markieren: Strg-Taste halten und die Zeilen anklicken");
+  cmdok[2]->setToolTip("Jeder Termin behält seinen geplanten Tag");
   auto* rahmen = new QGroupBox("Termine erledigen");
   auto* zeilen = new QVBoxLayout(rahmen);
   for (size_t i = 0; i < 3; ++i) zeilen->addWidget(cmdok[i]);
@@ -114,7 +122,8 @@ QWidget* TV_Starttermine::standortBauen() {
   cmdok[3] = knopf("zum obigen Datum erledigen", "cmdok_3");
   cmdok[3]->setToolTip("Zum Erledigungsdatum erledigen");
 
-  auto* rahmen = new QGroupBox("Termine an einem Standort erledigen");
+  // Else "obig" would be taken for the date right above the button.
+  auto* rahmen = new QGroupBox("An einem Standort zum Erledigungsdatum erledigen");
   auto* zeilen = new QFormLayout(rahmen);
   zeilen->addRow(beschriften("Die Termine", sevt[Art]), sevt[Art]);
   zeilen->addRow(beschriften("am Standort", sevt[Ort]), sevt[Ort]);

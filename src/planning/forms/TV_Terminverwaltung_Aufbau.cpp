@@ -40,7 +40,7 @@ void TV_Terminverwaltung::aufbauen() {
   seite->addWidget(litermine, 1);
   seite->addWidget(terminBauen());
   seite->addWidget(fussBauen());
-  resize(sizeHint().expandedTo(QSize(820, 600)));
+  resize(sizeHint().expandedTo(QSize(900, 640)));
 }
 
 void TV_Terminverwaltung::setzen(QGridLayout* gitter, int zeile, int spalte, size_t index,
@@ -98,6 +98,10 @@ QWidget* TV_Terminverwaltung::knoepfeBauen() {
   neu[1] = knopf("&Ändern", "neu_1");
   löschen = knopf("&Löschen", QString("löschen"));
   lschalleerledigte = knopf("Alle als erledigt markierte Termine löschen", "lschalleerledigte");
+  neu[0]->setToolTip("Die Eingaben als neuen Termin eintragen");
+  neu[1]->setToolTip("Den in der Liste gewählten Termin ändern");
+  löschen->setToolTip("Den in der Liste gewählten Termin löschen");
+  lschalleerledigte->setToolTip("In allen Jahren und beiden Ansichten");
   auto* leiste = new QWidget;
   auto* zeile = new QHBoxLayout(leiste);
   zeile->setContentsMargins(0, 0, 0, 0);

@@ -64,6 +64,26 @@ class Terminformprobe : public Terminbestand {
     klickeZeile(zeile);
     QTest::mouseDClick(li()->viewport(), Qt::LeftButton, {}, mitte(zeile));
   }
+  // A season's appointments: twelve colonies at three sites, long names among them.
+  void saison() {
+    const QStringList orte = {"Hausgarten", "Lindenallee am Schloßpark hinter der Mühle", "Heide"};
+    const QStringList arten = {"Schwarmkontrolle", "Honigraum aufsetzen",
+                               "Behandlung mit Ameisensäure"};
+    for (int i = 0; i < 12; ++i) {
+      const qint64 volk = neuesVolk(QString::number(i + 1), "X", orte[i % 3]);
+      db().Execute("update Bienenvolk set Volkname = ? where ID = ?",
+                   {QString(i % 2 == 0 ? "Anna von der Au" : "Berta"), volk});
+      for (int k = 0; k < 3; ++k) termin(tag(6, 8 + 4 * k + i % 2), arten[k], volk);
+    }
+    termin(tag(6, 16), "Imkerstammtisch");
+    termin(tag(6, 17), "Honigprämierung anmelden", 0, "J");
+  }
+  // Keeps the window as a picture where TOVA_BILDER names a folder.
+  static void bild(QWidget* fenster, const QString& name) {
+    const QString ordner = qEnvironmentVariable("TOVA_BILDER");
+    if (ordner.isEmpty()) return;
+    EXPECT_TRUE(fenster->grab().save(ordner + "/" + name + ".png"));
+  }
   // The column's texts from top to bottom.
   std::string spalte(const QString& name) {
     QStringList texte;
