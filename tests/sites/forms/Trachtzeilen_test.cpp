@@ -265,6 +265,21 @@ TEST_F(Trachtzeilen, DerZweiteGleichenNamensIstAuchImAuswahlfeldDerZweite) {
   EXPECT_EQ(text("bezproz"), "20");
 }
 
+TEST_F(Trachtzeilen, GleicheNamenBleibenInIhrerFolgeAuchWennDieStandorteSortiertSind) {
+  const qint64 zweiter = standort("Hof");
+  for (const auto& [id, klima] : {std::pair{hof, "rau"}, std::pair{zweiter, "mild"}})
+    db().Execute("update Standorte set Klima = ? where ID = ?", {klima, id});
+  tracht(hof, "Raps", 10);
+  tracht(zweiter, "Linde", 20);
+  oeffne();
+  Grid* orte = liste("listandorte");
+  orte->sortiere(orte->spaltenNummer("Klima"), Qt::AscendingOrder);
+  zumStandort(1);
+  EXPECT_EQ(text("bezproz"), "10");
+  waehle("lijeort", 2);
+  EXPECT_EQ(text("bezproz"), "20");
+}
+
 TEST_F(Trachtzeilen, AuchDieSortierteAuswahlMeintDenGewaehltenStandort) {
   tracht(hof, "Raps", 10);
   oeffne();
