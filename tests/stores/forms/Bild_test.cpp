@@ -1,0 +1,91 @@
+#include "stores/forms/Handelsprobe.h"
+
+namespace {
+
+// With TOVA_BILDER set to a folder the tabs are saved there as pictures.
+class HandelBild : public Handelsprobe, public ::testing::WithParamInterface<int> {
+ protected:
+  void SetUp() override {
+    m_schrift = QApplication::font();
+    QFont gross = m_schrift;
+    gross.setPointSizeF(10.0 * GetParam() / 100);
+    QApplication::setFont(gross);
+    Handelsprobe::SetUp();
+    fuelle();
+  }
+  void TearDown() override {
+    Handelsprobe::TearDown();
+    QApplication::setFont(m_schrift);
+  }
+  static void buche(Seite seite, const QStringList& werte) {
+    Verwaltung::Texte texte;
+    const Verwaltung::Felder felder = Handel::geschaeftsfelder(seite);
+    for (int i = 0; i < felder.size(); ++i) texte[felder[i].feld] = werte[i];
+    Handel::geschaeftSpeichern(db(), seite, texte, {});
+  }
+  static void fuelle() {
+    const QList<QStringList> einkaeufe = {
+        {"12.03.2006", "Honiggläser mit Decke", "500 g, Twist-off", "Glasgroßhandel Übersee GmbH",
+         "1200", "St", "684", ""},
+        {"02.04.2006", "Zucker", "Raffinade", "Landhandel Schmidt", "250", "kg", "212,5", ""},
+        {"20.05.2006", "Rapshonig", "I", "Müller-Lüdenscheidt, Jürgen", "40", "kg", "180", "R06"}};
+    const QList<QStringList> verkaeufe = {
+        {"01.06.2006", "Waldhonig", "I", "Bäckerei Grünäcker", "12,5", "kg", "118,75", "A1"},
+        {"05.06.2006", "Kerzen", "gezogen", "Weihnachtsmarkt", "30", "St", "90", ""},
+        {"10.06.2006", "Frühtrachthonig", "cremig gerührt", "Müller-Lüdenscheidt, Jürgen", "24",
+         "kg", "216", "F06/1"}};
+    for (QStringList werte : einkaeufe) {
+      werte[1] = werte[1].left(20);
+      buche(Seite::Einkauf, werte);
+    }
+    for (const QStringList& werte : verkaeufe) buche(Seite::Verkauf, werte);
+    lager("Frühtrachthonig", 180.5, 0, "F06/1");
+    lager("Waldhonig", 65, 0, "A1");
+    lager("Waldhonig", 12, 0, QString(""));
+  }
+  void bild(const QString& name) {
+    const QString ordner = qEnvironmentVariable("TOVA_BILDER");
+    if (ordner.isEmpty()) return;
+    QTest::qWait(1);
+    EXPECT_TRUE(
+        form->grab().save(QString("%1/handel_%2_%3.png").arg(ordner).arg(GetParam()).arg(name)));
+  }
+  QFont m_schrift;
+};
+
+TEST_P(HandelBild, PasstAufDenBildschirmUndJederKnopfIstLesbar) {
+  oeffne(Einkauf);
+  EXPECT_LE(form->minimumSizeHint().width(), 1366);
+  EXPECT_LE(form->minimumSizeHint().height(), 700);  // less the window's title and the task bar
+  const QStringList listen = {"lieinkauf", "liverkauf", "lihonig"};
+  for (const QSize groesse : {QSize(1024, 700), QSize(1400, 900)}) {
+    form->resize(groesse);
+    for (int nummer = 0; nummer < 3; ++nummer) {
+      zumReiter(nummer);
+      waehle(listen[nummer], 0);
+      if (nummer == Lager) klicke("comalle");
+      QTest::qWait(1);
+      for (auto* knopf : form->findChildren<QPushButton*>()) {
+        if (!knopf->isVisible()) continue;
+        EXPECT_GE(knopf->width(), knopf->minimumSizeHint().width()) << qPrintable(knopf->text());
+        EXPECT_GE(knopf->height(), knopf->minimumSizeHint().height()) << qPrintable(knopf->text());
+      }
+      bild(QString("%1_%2").arg(groesse.width()).arg(nummer));
+    }
+  }
+}
+
+TEST_P(HandelBild, LeerIstAllesZuSehen) {
+  for (const char* tabelle : {"Einkauf", "Verkauf", "Honiglager", "Kunden"})
+    db().Execute(QString("delete from %1").arg(tabelle));
+  for (int nummer = 0; nummer < 3; ++nummer) {
+    oeffne(nummer);
+    form->resize(1024, 700);
+    EXPECT_EQ(liste(QStringList({"lieinkauf", "liverkauf", "lihonig"})[nummer])->spalten(), 9);
+    bild(QString("leer_%1").arg(nummer));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Schriftgroessen, HandelBild, ::testing::Values(100, 150));
+
+}  // namespace

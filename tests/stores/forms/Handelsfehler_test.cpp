@@ -1,0 +1,62 @@
+#include "platform/database/Verbindung.h"
+#include "stores/forms/Handelsprobe.h"
+
+// What the user finds after a save or a deletion that failed.
+namespace {
+
+class Handelsfehler : public Handelsprobe {};
+
+TEST_F(Handelsfehler, VolleFestplatteWirdGesagtUndDieEingabenBleiben) {
+  Verbindung* verbindung = Verbindung::zu(TZ_Variablen::DatenbankPfad);
+  verbindung->steuere("pragma max_page_count = " + verbindung->steuere("pragma page_count"));
+  int gespeichert = 0;
+  try {
+    for (; gespeichert < 500; ++gespeichert)
+      verkaufe("Honig", "3", QString("Kunde mit langem Namen %1").arg(1000 + gespeichert));
+    FAIL() << "the disk was never full";
+  } catch (const Datenbankfehler&) {
+  }
+  oeffne(Verkauf);
+  tippeVerkauf("Honig", "3", "Kunde mit langem Namen 9999");
+  boxen.hinweisMit("nichts");  // of this action is saved
+  klicke("neuverkauf_0");
+  EXPECT_EQ(inhalte("verkauf"), "20.06.2006|Honig||Kunde mit langem Namen 9999|3||0|");
+  EXPECT_EQ(liste("liverkauf")->zeilen(), gespeichert);
+  verbindung->steuere("pragma max_page_count = 1000000");
+  for (const char* tabelle : {"Verkauf", "Kunden", "Honiglager"})
+    EXPECT_EQ(anzahl(tabelle), gespeichert) << tabelle;
+  klicke("neuverkauf_0");  // with room again the same entries go in
+  for (const char* tabelle : {"Verkauf", "Kunden", "Honiglager"})
+    EXPECT_EQ(anzahl(tabelle), gespeichert + 1) << tabelle;
+}
+
+TEST_F(Handelsfehler, WasHalbGeschriebenIstStehtInDerListe) {
+  oeffne(Verkauf);
+  tippeVerkauf("Honig", "3", "Meier");
+  Verbindung::zu(TZ_Variablen::DatenbankPfad)
+      ->steuere(
+          "create trigger kaputt before insert on Honiglager begin select raise(fail, 'x'); end");
+  boxen.hinweisMit("");
+  klicke("neuverkauf_0");
+  EXPECT_EQ(inhalte("verkauf"), "20.06.2006|Honig||Meier|3||0|");
+  EXPECT_EQ(liste("liverkauf")->zeilen(), 1);
+  EXPECT_EQ(anzahl("Verkauf"), 1);
+  EXPECT_EQ(anzahl("Honiglager"), 0);
+}
+
+TEST_F(Handelsfehler, GescheitertesLoeschenLaesstGeschaeftUndBewegung) {
+  verkaufe("Honig", "3");
+  oeffne(Verkauf);
+  waehle("liverkauf", 0);
+  Verbindung::zu(TZ_Variablen::DatenbankPfad)
+      ->steuere(
+          "create trigger kaputt before delete on Verkauf begin select raise(rollback, 'x'); end");
+  boxen.hinweisMit("");
+  klicke("lschverkauf");
+  EXPECT_EQ(anzahl("Verkauf"), 1);
+  EXPECT_EQ(anzahl("Honiglager"), 1);
+  EXPECT_EQ(liste("liverkauf")->zeilen(), 1);
+  EXPECT_EQ(inhalt("sevtverkauf_1"), "Honig");
+}
+
+}  // namespace
