@@ -84,7 +84,7 @@ Texte vorgaben(const Felder& felder) {
 QString feldtext(const Feld& feld, const QVariant& wert) {
   if (wert.isNull()) return {};
   if (feld.art != Art::Dezimal) return TextLesen(wert);
-  const QString genau = Deutsch::schlicht(wert.toDouble());
+  QString genau = Deutsch::schlicht(wert.toDouble());
   if (feld.ohneFuellnullen) return genau;
   const QString gerundet = Deutsch::zahl(wert.toDouble(), feld.nachkommastellen);
   return ZahlLesenDoppelt(gerundet) == ZahlLesenDoppelt(genau) ? gerundet : genau;
