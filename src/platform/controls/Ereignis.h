@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <functional>
+#include <type_traits>
 #include <utility>
 
 class QWidget;
@@ -14,18 +15,22 @@ namespace Ereignis {
 // Runs the action; tells a failure over the given window. True when it came to its end.
 bool ausfuehren(QWidget* fenster, const std::function<void()>& aktion);
 
+// Calls a handler with the signal's values, or without them when it takes none.
+template <typename Handler, typename... Werte>
+void rufe(const Handler& handler, Werte&&... werte) {
+  if constexpr (std::is_invocable_v<const Handler&, Werte...>)
+    handler(std::forward<Werte>(werte)...);
+  else
+    handler();
+}
+
 // connect() with the guard around the handler: wenn(knopf, &QPushButton::clicked, this,
 // [this]{...}).
 template <typename Sender, typename Signal, typename Handler>
 QMetaObject::Connection wenn(const Sender* sender, Signal signal, QWidget* fenster,
                              Handler handler) {
   return QObject::connect(sender, signal, fenster, [fenster, handler](auto&&... werte) -> void {
-    ausfuehren(fenster, [&] {
-      if constexpr (std::is_invocable_v<Handler, decltype(werte)...>)
-        handler(std::forward<decltype(werte)>(werte)...);
-      else
-        handler();
-    });
+    ausfuehren(fenster, [&] { rufe(handler, std::forward<decltype(werte)>(werte)...); });
   });
 }
 
