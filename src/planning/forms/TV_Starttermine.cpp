@@ -216,6 +216,15 @@ void TV_Starttermine::listeLesen() {
   if (zeile >= 0) litermine->setAktuelleZeile(std::min(zeile, litermine->zeilen() - 1));
 }
 
+// The list shows what is written, also when the action has failed half way.
+void TV_Starttermine::schreiben(const std::function<void()>& aktion) {
+  Ereignis::ausfuehren(this, [&] {
+    const Ereignis::Sanduhr sanduhr;
+    aktion();
+  });
+  listeLesen();
+}
+
 // A click prepares the closing of the same kind at the site.
 void TV_Starttermine::zeileZeigen(int zeile) {
   if (zeile < 0) return;
@@ -233,9 +242,10 @@ void TV_Starttermine::erledigen(int zeile) {
     Meldungen::Hinweis("Bitte markieren Sie zuerst den zu erledigenden Termin.", this);
     return;
   }
-  Starttermine::aktuellenErledigen(m_db, litermine->wert(zeile, "ID").toLongLong(),
-                                   litermine->wert(zeile, "Termin").toString(), erledigung());
-  listeLesen();
+  schreiben([&] {
+    Starttermine::aktuellenErledigen(m_db, litermine->wert(zeile, "ID").toLongLong(),
+                                     litermine->wert(zeile, "Termin").toString(), erledigung());
+  });
 }
 
 void TV_Starttermine::markierteErledigen() {
@@ -249,16 +259,12 @@ void TV_Starttermine::markierteErledigen() {
     return;
   std::vector<qint64> ids;
   for (const int zeile : markiert) ids.push_back(litermine->wert(zeile, "ID").toLongLong());
-  const Ereignis::Sanduhr sanduhr;
-  Starttermine::markierteErledigen(m_db, ids);
-  listeLesen();
+  schreiben([&] { Starttermine::markierteErledigen(m_db, ids); });
 }
 
 void TV_Starttermine::bisHeuteErledigen() {
   if (!Meldungen::Frage(Starttermine::bisHeuteFrage(), Meldungen::Vorgabe::Ja, this)) return;
-  const Ereignis::Sanduhr sanduhr;
-  Starttermine::bisHeuteErledigen(m_db);
-  listeLesen();
+  schreiben([&] { Starttermine::bisHeuteErledigen(m_db); });
 }
 
 void TV_Starttermine::amStandortErledigen() {
@@ -272,10 +278,10 @@ void TV_Starttermine::amStandortErledigen() {
   if (anzahl == 0 ||
       !Meldungen::Frage(Starttermine::standortFrage(anzahl), Meldungen::Vorgabe::Ja, this))
     return;
-  const Ereignis::Sanduhr sanduhr;
-  Starttermine::amStandortErledigen(m_db, auftrag, litermine->daten(), litermine->ordnung(),
-                                    erledigung());
-  listeLesen();
+  schreiben([&] {
+    Starttermine::amStandortErledigen(m_db, auftrag, litermine->daten(), litermine->ordnung(),
+                                      erledigung());
+  });
 }
 
 void TV_Starttermine::gruppiertListen() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "planning/Starttermine.h"
 #include "platform/controls/Formular.h"
@@ -35,6 +36,7 @@ class TV_Starttermine : public Formular {
   void verbinden();
 
   void listeLesen();  // the row that was current stays it
+  void schreiben(const std::function<void()>& aktion);
   void zeileZeigen(int zeile);
   void erledigen(int zeile);
   void markierteErledigen();

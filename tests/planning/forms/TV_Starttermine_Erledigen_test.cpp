@@ -293,4 +293,31 @@ TEST_F(TVStarttermine, StandortZaehltAlleUndErledigtDieDerListe) {
             "20.06. Schau N 0; 05.07. Durchsicht N " + std::to_string(volk1));
 }
 
+// The option can't be read: the series' open appointments are gone by then.
+TEST_F(TVStarttermine, FehlschlagAufHalbemWegZeigtWasGeschriebenIst) {
+  fuenf();
+  oeffne();
+  klicke("konterminreihe");
+  klickeZeile(0);
+  db().Execute("drop table Arbeitsplanoptionen");
+  boxen.hinweisMit("Arbeitsplanoptionen");
+  klicke("cmdok_0");
+  EXPECT_EQ(spalte("Datum"), "16.06.2006 20.06.2006");
+  EXPECT_EQ(li()->aktuelleZeile(), 0);
+  EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(TVStarttermine, FehlschlagErledigtNichtsUndLaesstDieEingaben) {
+  fuenf();
+  oeffne();
+  klickeZeile(0);
+  tippe(0, "19.06.2006");
+  scheitern("update");
+  boxen.hinweisMit("kein Platz");
+  klicke("cmdok_0");
+  EXPECT_EQ(anzahl("Termine", "Erledigt = 'J'"), 0);
+  EXPECT_EQ(li()->zeilen(), 4);
+  EXPECT_EQ(inhalt(0), "19.06.2006");
+}
+
 }  // namespace

@@ -368,6 +368,29 @@ TEST_F(TVTerminverwaltung, AlleErledigtenLoeschenFragt) {
   EXPECT_EQ(spalte("Termin"), "Schau");
 }
 
+TEST_F(TVTerminverwaltung, FehlschlagBeimSpeichernLaesstDieEingabenStehen) {
+  oeffne();
+  tippe(0, "24.06.2006");
+  tippe(1, "Markt");
+  scheitern("insert");
+  boxen.hinweisMit("kein Platz");
+  neu();
+  EXPECT_EQ(anzahl("Termine"), 4);
+  EXPECT_EQ(inhalt(0), "24.06.2006");
+  EXPECT_EQ(inhalt(1), "Markt");
+  EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(TVTerminverwaltung, FehlschlagBeimLoeschenLaesstDieZeileStehen) {
+  oeffne();
+  klickeZeile(1);
+  scheitern("delete");
+  boxen.hinweisMit("kein Platz");
+  klicke(QString("löschen"));
+  EXPECT_EQ(spalte("Termin"), "Schau Steuer");
+  EXPECT_EQ(li()->aktuelleZeile(), 1);
+}
+
 TEST_F(TVTerminverwaltung, BildBeiHundertUndHundertfuenfzigProzent) {
   saison();
   const QFont vorher = QApplication::font();

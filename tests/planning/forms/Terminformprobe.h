@@ -11,6 +11,7 @@
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
+#include "platform/database/Verbindung.h"
 
 // A form of the calendar, driven by key and mouse. Boxes that no test expected fail.
 template <typename T>
@@ -77,6 +78,12 @@ class Terminformprobe : public Terminbestand {
     }
     termin(tag(6, 16), "Imkerstammtisch");
     termin(tag(6, 17), "Honigprämierung anmelden", 0, "J");
+  }
+  // From now on this kind of write on the appointments fails with "kein Platz".
+  static void scheitern(const QByteArray& art) {
+    Verbindung::zu(TZ_Variablen::DatenbankPfad)
+        ->steuere("create trigger voll before " + art +
+                  " on Termine begin select raise(abort, 'kein Platz'); end");
   }
   // Keeps the window as a picture where TOVA_BILDER names a folder.
   static void bild(QWidget* fenster, const QString& name) {
