@@ -35,6 +35,7 @@ struct Vorhaben {
   // How far the writes came, for the notes that follow them.
   bool buchungenGelöscht = false;
   bool volkGeschrieben = false;
+  QString optionsfehler;
 
   bool zurückgekehrt() const { return imBestand && !neu && warLeer; }
 };
@@ -139,8 +140,9 @@ void schreibeVolk(Database& db, Vorhaben& v, const Volkeingabe& eingabe) {
   v.volkGeschrieben = true;
 }
 
-// An option that can't be computed is left out, and named when all others are done.
-void berechneTermine(Database& db, qint64 volkId) {
+// An option that can't be computed is left out. Gives the text that names it; empty when all went
+// well.
+QString berechneTermine(Database& db, qint64 volkId) {
   Optionsfehler fehler;
   Recordset rs = db.OpenRecordset("select * from Arbeitsplanoptionen");
   for (; !rs.AmEnde(); rs.MoveNext()) {
@@ -148,7 +150,7 @@ void berechneTermine(Database& db, qint64 volkId) {
     const qint64 option = rs.Wert("ID").toLongLong();
     fehler.versuche(option, [&] { TermineBerechnen(db, option, volkId); });
   }
-  fehler.wirf(QString("Das Volk ist gespeichert."));
+  return fehler.text(QString("Das Volk ist gespeichert."));
 }
 
 void schreibe(Database& db, Vorhaben& v, const Volkeingabe& eingabe) {
@@ -159,7 +161,7 @@ void schreibe(Database& db, Vorhaben& v, const Volkeingabe& eingabe) {
     VolkLoeschen(db, v.id);
     v.buchungenGelöscht = true;
   }
-  if (v.imBestand && (v.neu || v.warLeer)) berechneTermine(db, v.id);
+  if (v.imBestand && (v.neu || v.warLeer)) v.optionsfehler = berechneTermine(db, v.id);
 }
 
 void zeigeHinweise(const Vorhaben& v, const Volkfragen& fragen) {
@@ -171,6 +173,7 @@ void zeigeHinweise(const Vorhaben& v, const Volkfragen& fragen) {
     fragen.hinweis(
         "Das Volk war vorher nicht im Bestand und wurde neu als 'Aktuell im Bestand' markiert. "
         "Deshalb werden die Termine für dieses Volk neu berechnet.");
+  if (!v.optionsfehler.isEmpty()) fragen.hinweis(v.optionsfehler);
 }
 
 bool nummerVergeben(Database& db, qint64 id, const QString& nummer) {

@@ -18,8 +18,8 @@ QString volkPruefen(Database& db, qint64 id, const Volkeingabe& eingabe);
 // bookings, and sets ListeNeuLesen. id 0 adds a colony, any other changes that one; geladen is what
 // the inputs held when it was loaded. Returns the colony's ID. All questions come before the first
 // write, so that no transaction waits for the user; all writes are one Sammelschreiben. A work plan
-// option that can't be computed is left out; when all else is written, a Datenbankfehler names it.
-// Throws Datenbankfehler.
+// option that can't be computed is left out; when all is written, the last note names it. Throws
+// Datenbankfehler.
 qint64 volkSpeichern(Database& db, qint64 id, const Volkeingabe& eingabe,
                      const Volkeingabe& geladen, const Volkfragen& fragen);
 

@@ -29,12 +29,16 @@ void Optionsfehler::versuche(qint64 optionId, const std::function<void()>& arbei
   }
 }
 
-void Optionsfehler::wirf(const QString& nachsatz) const {
-  if (m_texte.isEmpty()) return;
+QString Optionsfehler::text(const QString& nachsatz) const {
+  if (m_texte.isEmpty()) return {};
   const QString ende = TZ_Variablen::CRLF + TZ_Variablen::CRLF;
   QString text = m_texte.join(ende);
   if (!(m_gelungene - m_optionen).isEmpty())
     text += ende + QString("Die Termine aller anderen Arbeitsplan-Optionen wurden eingetragen.");
   if (!nachsatz.isEmpty()) text += ende + nachsatz;
-  throw Datenbankfehler(m_art, text, m_anweisung);
+  return text;
+}
+
+void Optionsfehler::wirf() const {
+  if (!m_texte.isEmpty()) throw Datenbankfehler(m_art, text(), m_anweisung);
 }

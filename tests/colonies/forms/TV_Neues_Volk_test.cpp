@@ -350,13 +350,41 @@ TEST_F(TVNeuesVolk, GescheitertesSpeichernLaesstDieEingabenStehen) {
   EXPECT_EQ(inhalt("sevt_1"), "Maja");
 }
 
-TEST_F(TVNeuesVolk, UngueltigeArbeitsplanoptionWirdGenannt) {
+TEST_F(TVNeuesVolk, NachDerMeldungEinerUngueltigenOptionSchliesstOkDasGespeicherteVolk) {
   option("Schalttag", "29.02", 0, "29.02");
+  option("Kontrolle", "01.07", 0, "01.07");
   neu();
   boxen.hinweisMit("'Schalttag'");
   klicke("ok");
-  EXPECT_TRUE(offen());
+  EXPECT_FALSE(offen());
+  EXPECT_EQ(TZ_Variablen::ListeNeuLesen, 1);
   EXPECT_EQ(volknummern(), "1");
+  EXPECT_EQ(anzahl("Termine"), 1);
+}
+
+TEST_F(TVNeuesVolk, NachDerMeldungEinerUngueltigenOptionKommtDasNaechsteNeueVolk) {
+  option("Schalttag", "29.02", 0, "29.02");
+  neu();
+  for (int i = 0; i < 2; ++i) {
+    boxen.hinweisMit("'Schalttag'");
+    klicke(QString("oknächster_0"));
+  }
+  EXPECT_TRUE(offen());
+  EXPECT_EQ(inhalt("sevt_0"), "3");
+  EXPECT_EQ(volknummern(), "1 2");
+}
+
+TEST_F(TVNeuesVolk, EineUngueltigeOptionHaeltEinZurueckgekehrtesVolkNichtAuf) {
+  neuesVolk("1", "");
+  option("Schalttag", "29.02", 0, "29.02");
+  aendern();
+  klicke("kon");
+  boxen.frageMit("Das Volk wurde neu in den Bestand aufgenommen.", false)
+      .hinweisMit("Das Volk war vorher nicht im Bestand")
+      .hinweisMit("'Schalttag'");
+  klicke("ok");
+  EXPECT_FALSE(offen());
+  EXPECT_EQ(wert("select Akt_im_Bestand from Bienenvolk").toString(), "X");
 }
 
 TEST_F(TVNeuesVolk, SchlechtesDatumWirdOhneMeldungLeer) {
