@@ -53,7 +53,7 @@ void TV_Arplanoptionen::trennen() {
 
 void TV_Arplanoptionen::listeLaden() {
   liarplan->setDaten(m_db.Lesen(optionenAnweisung()));
-  m_alteArbeitsart.clear();
+  AlteArbeitsart.clear();
 }
 
 void TV_Arplanoptionen::arbeitsartenFuellen() {
@@ -82,7 +82,7 @@ void TV_Arplanoptionen::zeileZeigen(int zeile) {
     });
     sevt[i]->setInhalt(treffer == angebot.cend() ? QString() : *treffer);
   }
-  m_alteArbeitsart = liarplan->wert(zeile, "Arbeitsart").toString();
+  AlteArbeitsart = liarplan->wert(zeile, "Arbeitsart").toString();
 }
 
 // Enter and the mnemonics leave the focus in a date: it is completed as on leaving it.
@@ -123,7 +123,7 @@ void TV_Arplanoptionen::neu(int index) {
   try {
     const Ereignis::Sanduhr sanduhr;
     if (index == 1)
-      optionUmbenennen(m_db, id, texte[0], m_alteArbeitsart);
+      optionUmbenennen(m_db, id, texte[0], AlteArbeitsart);
     else
       optionAnlegen(m_db, texte);
   } catch (...) {
@@ -162,7 +162,7 @@ void TV_Arplanoptionen::loeschen() {
   }
   if (!LoeschenBestaetigt()) return;
   const qint64 id = aktuelleId();
-  const QString arbeitsart = m_alteArbeitsart;  // the next row becomes current meanwhile
+  const QString arbeitsart = AlteArbeitsart;  // the next row becomes current meanwhile
   try {
     optionLöschen(m_db, arbeitsart,
                   [&] { liarplan->loescheZeile(zeile, m_db, "Arbeitsplanoptionen"); });

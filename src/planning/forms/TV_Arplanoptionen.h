@@ -54,7 +54,7 @@ class TV_Arplanoptionen : public Formular {
   void alleBerechnen();
 
   Database m_db;
-  QString m_alteArbeitsart;  // of the row shown last
+  QString AlteArbeitsart;  // of the row shown last
   std::function<void()> m_terminverwaltung;
   Grid* liarplan = nullptr;
   std::array<Eingabefeld*, 7> sevt{};
