@@ -175,7 +175,7 @@ QList<QStringList> seiten(const QStringList& zeilen, Druckweg weg, int rand, int
 }
 
 QString druckaufSchreiben(const QString& text) {
-  const QString pfad = QDir::current().filePath(QStringLiteral("DRUCKAUF.TXT"));
+  QString pfad = QDir::current().filePath(QStringLiteral("DRUCKAUF.TXT"));
   Textdatei::schreibenGanz(pfad, text);
   return pfad;
 }

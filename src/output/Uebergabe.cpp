@@ -130,7 +130,7 @@ QStringList texte(std::string_view zeile, int anzahl) {
 
 class Zeilenleser {
  public:
-  Zeilenleser(const QString& pfad, std::vector<Spalte> spalten)
+  Zeilenleser(const QString& pfad, const std::vector<Spalte>& spalten)
       : m_pfad(pfad), m_anzahl(spalten.size()), m_bauer(spalten) {
     for (const Spalte& s : spalten) m_zahlenspalte.push_back(istZahl(s.typ));
   }

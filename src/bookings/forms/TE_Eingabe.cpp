@@ -239,6 +239,7 @@ void TE_Eingabe::zeileZeigen(int zeile) {
   if (zeile < 0 || zeile >= m_li->zeilen()) return;
   const Fuellen fuellen(m_fuellt);
   std::vector<Spalte> spalten;
+  spalten.reserve(static_cast<size_t>(m_daten->spalten()));
   for (int i = 0; i < m_daten->spalten(); ++i) spalten.push_back(m_daten->spalte(i));
   Datenblock::Bauer bauer(spalten);
   for (const Spalte& spalte : spalten) bauer.wert(m_li->wert(zeile, spalte.name));

@@ -38,7 +38,7 @@ class Einraeumer {
 };
 
 QString wabenImMagazin(const Bild& bild, int magazin) {
-  const auto von = bild.waben.begin() + magazin * MagazinPlaetze;
+  const auto von = bild.waben.begin() + static_cast<ptrdiff_t>(magazin) * MagazinPlaetze;
   QStringList teile;
   for (const Wabe& wabe : waben()) {
     const auto n = std::count(von, von + MagazinPlaetze, std::optional(wabe.art));

@@ -50,7 +50,7 @@ class Legende : public QLabel {
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
     const int hoehe = fontMetrics().height() * 9 / 10;
-    const QRectF feld(0, (height() - hoehe) / 2, hoehe * 3 / 5, hoehe);
+    const QRect feld(0, (height() - hoehe) / 2, hoehe * 3 / 5, hoehe);
     Stockzeichner::zeichneWabe(maler, feld, m_art);
     maler.setPen(palette().color(QPalette::WindowText));
     maler.drawText(rect().adjusted(einzug(), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, text());

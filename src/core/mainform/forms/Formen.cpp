@@ -15,74 +15,51 @@
 
 using namespace TZ_Variablen;
 
+namespace {
+
+// The one instance of a form, made on first use.
+template <typename Form>
+Form& geholt(QPointer<Form>& form, QWidget* haupt) {
+  if (!form) {
+    const Ereignis::Sanduhr sanduhr;
+    form = new Form(haupt);
+  }
+  return *form;
+}
+
+}  // namespace
+
 void Formen::volk(const QString& volkModus) {
   VolkModus = volkModus;
-  if (!m_volk) {
-    const Ereignis::Sanduhr sanduhr;
-    m_volk = new TV_Neues_Volk(m_haupt);
-  }
-  m_volk->zeigen();
+  geholt(m_volk, m_haupt).zeigen();
 }
 
 void Formen::eingabe(int buchungsArt) {
   BuchungsArt = buchungsArt;
-  if (!m_eingabe) {
-    const Ereignis::Sanduhr sanduhr;
-    m_eingabe = new TE_Eingabe(m_haupt);
-  }
-  m_eingabe->zeigen();
+  geholt(m_eingabe, m_haupt).zeigen();
 }
 
 void Formen::standorte(const QString& formModus) {
   FormModus = formModus;
-  if (!m_standorte) {
-    const Ereignis::Sanduhr sanduhr;
-    m_standorte = new TV_Pflanzen_Standorte(m_haupt);
-  }
-  m_standorte->zeigen();
+  geholt(m_standorte, m_haupt).zeigen();
 }
 
 void Formen::handel(const QString& formModus) {
   FormModus = formModus;
-  if (!m_handel) {
-    const Ereignis::Sanduhr sanduhr;
-    m_handel = new TV_EinVerkauf_Lager(m_haupt);
-  }
-  m_handel->zeigen();
+  geholt(m_handel, m_haupt).zeigen();
 }
 
-void Formen::einstellungen() {
-  if (!m_einstellungen) {
-    const Ereignis::Sanduhr sanduhr;
-    m_einstellungen = new TO_Einstellungen(m_haupt);
-  }
-  m_einstellungen->zeigen();
-}
+void Formen::einstellungen() { geholt(m_einstellungen, m_haupt).zeigen(); }
 
 void Formen::arbeitsplanoptionen() {
-  if (!m_arbeitsplanoptionen) {
-    const Ereignis::Sanduhr sanduhr;
-    m_arbeitsplanoptionen = new TV_Arplanoptionen(m_haupt);
-    m_arbeitsplanoptionen->setTerminverwaltung([this] { termine(); });
-  }
-  m_arbeitsplanoptionen->zeigen();
+  TV_Arplanoptionen& form = geholt(m_arbeitsplanoptionen, m_haupt);
+  form.setTerminverwaltung([this] { termine(); });
+  form.zeigen();
 }
 
-void Formen::termine() {
-  if (!m_termine) {
-    const Ereignis::Sanduhr sanduhr;
-    m_termine = new TV_Terminverwaltung(m_haupt);
-  }
-  m_termine->zeigen();
-}
+void Formen::termine() { geholt(m_termine, m_haupt).zeigen(); }
 
-void Formen::aktuelleTermine() {
-  if (!m_aktuelleTermine) {
-    const Ereignis::Sanduhr sanduhr;
-    m_aktuelleTermine = new TV_Starttermine(m_haupt);
-  }
-  m_aktuelleTermine->zeigen();
-}
+void Formen::aktuelleTermine() { geholt(m_aktuelleTermine, m_haupt).zeigen(); }
 
 void Formen::wieAnfangen() {
   if (!m_wieAnfangen)
