@@ -135,6 +135,14 @@ Daten gruppiert(Database& db) {
       {grenze()});
 }
 
+QStringList arbeitsarten(Database& db) {
+  const Daten zeilen = db.Lesen("select Arbeitsart from Arbeitsplanoptionen order by Arbeitsart");
+  QStringList arten;
+  for (int i = 0; i < zeilen->zeilen(); ++i)
+    if (const QString art = zeilen->anzeige(i, 0); !art.trimmed().isEmpty()) arten << art;
+  return arten;
+}
+
 void TerminErledigen(Database& db, qint64 id, const QString& kennzeichen, const QString& termin,
                      const Erledigung& erledigung) {
   const QDate tag = DatumLesen(erledigung.datum);

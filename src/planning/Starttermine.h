@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 #include "platform/database/Datenbank.h"
@@ -21,6 +22,9 @@ Daten liste(Database& db);
 // The open appointments of the colonies up to the horizon, one row for each site, day and kind:
 // Standort, Datum, Termin, Anz_Völker.
 Daten gruppiert(Database& db);
+
+// The kinds to choose from: the work plan's, without empty ones.
+QStringList arbeitsarten(Database& db);
 
 // How an appointment is closed.
 struct Erledigung {

@@ -105,6 +105,13 @@ TEST_F(StarttermineTest, AktuellerMitDatumWirdAnDiesemTagErledigt) {
   EXPECT_EQ(termine(), "18.06. A J 7");
 }
 
+TEST_F(StarttermineTest, ArbeitsartenStehenInDerOrdnungOhneLeere) {
+  option("Zeidlerkontrolle", "01.06", 14, "31.08");
+  option("", "01.06", 14, "31.08");
+  option("Ährenlese", "01.06", 14, "31.08");
+  EXPECT_EQ(arbeitsarten(db()), QStringList({QString("Ährenlese"), "Zeidlerkontrolle"}));
+}
+
 TEST_F(StarttermineTest, MarkierteBehaltenIhrenTag) {
   const qint64 a = termin(tag(6, 15), "A", 7);
   const qint64 b = termin(tag(6, 16), "B");

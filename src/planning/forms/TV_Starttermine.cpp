@@ -2,13 +2,11 @@
 
 #include <QCheckBox>
 #include <QEvent>
-#include <QFormLayout>
-#include <QGroupBox>
-#include <QLabel>
 #include <QPushButton>
 
 #include "core/globals.h"
 #include "output/forms/TA_Zwischenliste.h"
+#include "planning/Terminverwaltung.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
@@ -18,33 +16,6 @@ using TZ_Variablen::EinstellungenZahl;
 using TZ_Variablen::HeuteText;
 
 namespace {
-
-enum Slot : size_t { Erledigungstag, Art, Ort, Bis };
-
-QPushButton* knopf(const QString& text, const QString& name) {
-  auto* k = new QPushButton(text);
-  k->setObjectName(name);
-  k->setAutoDefault(false);
-  return k;
-}
-
-Eingabefeld* feld(size_t index, Eingabefeld::Art art, int maxLaenge = 0) {
-  auto* f = new Eingabefeld;
-  f->setObjectName("sevt_" + QString::number(index));
-  Eingabefeld::Beschreibung beschreibung;
-  beschreibung.art = art;
-  beschreibung.maxLaenge = maxLaenge;
-  f->einrichten(beschreibung);
-  return f;
-}
-
-QStringList texte(Database& db, const QString& anweisung) {
-  const Daten zeilen = db.Lesen(anweisung);
-  QStringList liste;
-  for (int i = 0; i < zeilen->zeilen(); ++i)
-    if (const QString text = zeilen->anzeige(i, 0); !text.isEmpty()) liste << text;
-  return liste;
-}
 
 void nichtsZuListen(QWidget* fenster) {
   Meldungen::Hinweis("Keine zu listenden Daten gefunden", fenster);
@@ -56,99 +27,6 @@ TV_Starttermine::TV_Starttermine(QWidget* oeffner)
     : Formular("TV_Starttermine", Starttermine::titel(), oeffner) {
   aufbauen();
   verbinden();
-}
-
-void TV_Starttermine::aufbauen() {
-  litermine = new Grid;
-  litermine->setObjectName("litermine");
-  litermine->setAccessibleName("Offene Termine");
-  litermine->setLayoutSchluessel("tv_starttermine_litermine");
-  litermine->setSpalteVerborgen("ID", true);
-  litermine->setMinimumHeight(litermine->fontMetrics().height() * 9);
-  kon = new QCheckBox("Terminliste bei jedem Programmstart öffnen (falls offene Termine anstehen)");
-  kon->setObjectName("kon");
-
-  auto* seite = new QVBoxLayout(this);
-  seite->addWidget(litermine, 1);
-  seite->addWidget(tagBauen());
-  auto* gruppen = new QHBoxLayout;
-  gruppen->addWidget(einzelnBauen(), 1);
-  gruppen->addWidget(standortBauen(), 1);
-  seite->addLayout(gruppen);
-  seite->addWidget(kon);
-  seite->addWidget(fussBauen());
-  resize(sizeHint().expandedTo(QSize(900, 620)));
-}
-
-// Both groups below close to this day.
-QWidget* TV_Starttermine::tagBauen() {
-  sevt[Erledigungstag] = feld(Erledigungstag, Eingabefeld::Art::Datum);
-  konterminreihe = new QCheckBox("Terminreihe bei regelmäßigen Terminen neu anpassen?");
-  konterminreihe->setObjectName("konterminreihe");
-  konterminreihe->setToolTip(
-      "Die offenen Termine derselben Arbeit bei diesem Volk werden gelöscht und ab dem\n"
-      "Erledigungsdatum im Abstand der Arbeitsplanoption neu eingetragen");
-  auto* leiste = new QWidget;
-  auto* zeile = new QHBoxLayout(leiste);
-  zeile->setContentsMargins(0, 0, 0, 0);
-  zeile->addWidget(beschriften("Erledigungsdatum", sevt[Erledigungstag]));
-  zeile->addWidget(sevt[Erledigungstag]);
-  zeile->addSpacing(fontMetrics().height());
-  zeile->addWidget(konterminreihe);
-  zeile->addStretch(1);
-  return leiste;
-}
-
-QWidget* TV_Starttermine::einzelnBauen() {
-  cmdok[0] = knopf("Aktuellen Termin erledigen zum obigen Datum", "cmdok_0");
-  cmdok[1] = knopf("Markierte Termine erledigen", "cmdok_1");
-  cmdok[2] = knopf("Alle Termine bis heute erledigen", "cmdok_2");
-  cmdok[0]->setToolTip("Ein Doppelklick in der Liste erledigt am geplanten Tag");
-  cmdok[1]->setToolTip(
-      "Alle farbigen Zeilen der Liste, jede an ihrem geplanten Tag.\n"
-      "Mehrere markieren: Strg-Taste halten und die Zeilen anklicken");
-  cmdok[2]->setToolTip("Jeder Termin behält seinen geplanten Tag");
-  auto* rahmen = new QGroupBox("Termine erledigen");
-  auto* zeilen = new QVBoxLayout(rahmen);
-  for (size_t i = 0; i < 3; ++i) zeilen->addWidget(cmdok[i]);
-  zeilen->addStretch(1);
-  return rahmen;
-}
-
-QWidget* TV_Starttermine::standortBauen() {
-  sevt[Art] = feld(Art, Eingabefeld::Art::Text, 30);
-  sevt[Ort] = feld(Ort, Eingabefeld::Art::Text, 100);
-  sevt[Bis] = feld(Bis, Eingabefeld::Art::Datum);
-  cmdok[3] = knopf("zum obigen Datum erledigen", "cmdok_3");
-  cmdok[3]->setToolTip("Zum Erledigungsdatum erledigen");
-
-  // Else "obig" would be taken for the date right above the button.
-  auto* rahmen = new QGroupBox("An einem Standort zum Erledigungsdatum erledigen");
-  auto* zeilen = new QFormLayout(rahmen);
-  zeilen->addRow(beschriften("Die Termine", sevt[Art]), sevt[Art]);
-  zeilen->addRow(beschriften("am Standort", sevt[Ort]), sevt[Ort]);
-  zeilen->addRow(beschriften("bis einschl.", sevt[Bis]), sevt[Bis]);
-  zeilen->addRow(cmdok[3]);
-  return rahmen;
-}
-
-QWidget* TV_Starttermine::fussBauen() {
-  ok = knopf("&Liste", "ok");
-  ok->setToolTip("Die Termine listen");
-  okgruppiert = knopf("Liste &gruppiert", "okgruppiert");
-  okgruppiert->setToolTip("Je Standort, Tag und Termin die Zahl der Völker listen");
-  hilfe = knopf("&Hilfe", "hilfe");
-  schließen = knopf("&Schließen", QString("schließen"));
-  schließen->setDefault(true);
-  auto* leiste = new QWidget;
-  auto* zeile = new QHBoxLayout(leiste);
-  zeile->setContentsMargins(0, 0, 0, 0);
-  zeile->addWidget(ok);
-  zeile->addWidget(okgruppiert);
-  zeile->addStretch(1);
-  zeile->addWidget(hilfe);
-  zeile->addWidget(schließen);
-  return leiste;
 }
 
 void TV_Starttermine::verbinden() {
@@ -198,9 +76,8 @@ void TV_Starttermine::laden() {
   konterminreihe->setChecked(false);
   for (const size_t i : {Erledigungstag, Bis}) sevt[i]->setInhalt(HeuteText);
   for (const size_t i : {Art, Ort}) sevt[i]->clear();
-  sevt[Art]->setListe(
-      texte(m_db, "select Arbeitsart from Arbeitsplanoptionen order by Arbeitsart"));
-  sevt[Ort]->setListe(texte(m_db, "select distinct Standort from Bienenvolk order by Standort"));
+  sevt[Art]->setListe(Starttermine::arbeitsarten(m_db));
+  sevt[Ort]->setListe(Terminverwaltung::standorte(m_db));
   litermine->setDaten(Starttermine::liste(m_db));
   litermine->setFocus();
 }

@@ -28,6 +28,8 @@ class TV_Starttermine : public Formular {
   bool eventFilter(QObject* objekt, QEvent* event) override;
 
  private:
+  enum Slot : size_t { Erledigungstag, Art, Ort, Bis };
+
   void aufbauen();
   QWidget* tagBauen();
   QWidget* einzelnBauen();
@@ -47,7 +49,7 @@ class TV_Starttermine : public Formular {
 
   Database m_db;
   Grid* litermine = nullptr;
-  std::array<Eingabefeld*, 4> sevt{};  // closing day, kind, site, end of the closing by site
+  std::array<Eingabefeld*, 4> sevt{};  // by Slot; Art, Ort and Bis are of the closing by site
   std::array<QPushButton*, 4> cmdok{};
   QCheckBox* konterminreihe = nullptr;
   QCheckBox* kon = nullptr;
