@@ -60,7 +60,7 @@ struct Lauf {
 Lauf vorbereiten(Database& db, const Terminfragen& fragen) {
   Lauf lauf;
   lauf.zeitraum = {DatumLesen("01.01." + jahr()), DatumLesen("31.12." + jahr())};
-  lauf.völker = db.Lesen("select ID from Bienenvolk where Akt_im_Bestand = 'X'");
+  lauf.völker = völkerImBestand(db);
   lauf.optionen = db.Lesen(QString("select ID from Arbeitsplanoptionen where Volkabhängig = 'J'"));
   const Daten termine = db.Lesen(
       "select ID from Termine where Volk_ID <> 0 and Datum >= ? and Datum <= ?", lauf.zeitraum);

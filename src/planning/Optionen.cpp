@@ -16,23 +16,16 @@ namespace {
 
 enum Slot { Arbeitsart, Start, Ende, Frist, Volkabhaengig, Buchung, Erledigtart };
 
-// A day without its year, in this year.
-QDate tag(const QString& text) { return DatumLesen(text + HeuteText.mid(5, 5)); }
-
 // "mmdd", so that days compare as texts.
 QString tagschlüssel(const QString& text) {
-  const QDate datum = tag(text);
+  const QDate datum = tagDesJahres(text);
   return datum.isValid() ? datum.toString("MMdd") : text.mid(3, 2) + text.left(2);
 }
 
 // As the appointments are computed from it: "dd.mm".
 QString tagMonat(const QString& text) {
-  const QDate datum = tag(TextLesen(text));
+  const QDate datum = tagDesJahres(TextLesen(text));
   return datum.isValid() ? datum.toString("dd.MM") : TextLesen(text);
-}
-
-Daten völkerImBestand(Database& db) {
-  return db.Lesen("select ID from Bienenvolk where Akt_im_Bestand = 'X'");
 }
 
 void termineBerechnen(Database& db, qint64 id, const QString& volkabhängig) {
@@ -90,7 +83,7 @@ QString optionPruefen(const Optionseingabe& eingabe) {
   QString gründe;
   if (TextLesen(eingabe[Arbeitsart]).isEmpty())
     gründe += QString("...die Arbeitsart angegeben werden muß.") + CRLF;
-  if (!tag(start).isValid() || !tag(ende).isValid())
+  if (!tagDesJahres(start).isValid() || !tagDesJahres(ende).isValid())
     gründe += QString("...der Start- und Endzeitraum angegeben werden muß.") + CRLF;
   if (tagschlüssel(start) > tagschlüssel(ende))
     gründe += QString("...der Startzeitraum nicht hinter dem Endzeitraum liegen darf.") + CRLF;

@@ -30,16 +30,17 @@ Option lies(const Recordset& rs) {
   return o;
 }
 
-QDate tagDesJahres(const Option& option, const QString& tagMonat, const QString& name) {
-  const QString text = tagMonat + TZ_Variablen::HeuteText.mid(5, 5);
-  const QDate tag = DatumLesen(text);
+QString mitJahr(const QString& tagMonat) { return tagMonat + TZ_Variablen::HeuteText.mid(5, 5); }
+
+QDate verlangeTag(const Option& option, const QString& tagMonat, const QString& name) {
+  const QDate tag = tagDesJahres(tagMonat);
   if (tag.isValid()) return tag;
   throw Datenbankfehler(
       Datenbankfehler::Art::Wertebereich,
       QString("Die Termine der Arbeitsplan-Option '%1' können nicht berechnet werden, weil der "
               "%2 '%3' kein gültiges Datum ist. Bitte löschen Sie diese Option in den "
               "Arbeitsplanoptionen und legen Sie sie mit einem gültigen Zeitraum neu an.")
-          .arg(option.arbeitsart, name, text));
+          .arg(option.arbeitsart, name, mitJahr(tagMonat)));
 }
 
 // The bookings that settle an option. A table that isn't there, or has no such fields, is a fault
@@ -103,6 +104,12 @@ void eintragen(Database& db, const QList<QDate>& tage, const QVariant& text, qin
 
 }  // namespace
 
+QDate tagDesJahres(const QString& tagMonat) { return DatumLesen(mitJahr(tagMonat)); }
+
+Daten völkerImBestand(Database& db) {
+  return db.Lesen("select ID from Bienenvolk where Akt_im_Bestand = 'X'");
+}
+
 QList<QDate> terminreihe(QDate beginn, QDate ende, qint64 frist, QDate schwelle) {
   QList<QDate> tage;
   for (QDate lauf = beginn; lauf <= ende;) {
@@ -118,8 +125,8 @@ void TermineBerechnen(Database& db, qint64 optionId, qint64 volkId) {
   const Option option = lies(rs);
   rs.Close();
 
-  const QDate beginn = tagDesJahres(option, option.start, "Beginn");
-  const QDate ende = tagDesJahres(option, option.ende, "Endtermin");
+  const QDate beginn = verlangeTag(option, option.start, "Beginn");
+  const QDate ende = verlangeTag(option, option.ende, "Endtermin");
   const QDate schwelle = berechneSchwelle(db, option, volkId, beginn);
   const QList<QDate> tage = terminreihe(beginn, ende, option.frist, schwelle);
   if (tage.isEmpty()) return;

@@ -15,6 +15,12 @@
 // (Anweisung); both name the option, and nothing is written then.
 void TermineBerechnen(Database& db, qint64 optionId, qint64 volkId);
 
+// A period text "dd.mm" as a day of the year of HeuteText; invalid when that year has no such day.
+QDate tagDesJahres(const QString& tagMonat);
+
+// The ID of each colony that is in stock.
+Daten völkerImBestand(Database& db);
+
 // The days beginn, beginn + frist, ... up to ende (included) that are not earlier than schwelle. A
 // frist of 0 gives the one day beginn.
 QList<QDate> terminreihe(QDate beginn, QDate ende, qint64 frist, QDate schwelle);
