@@ -153,16 +153,20 @@ void Arbeitskalender::einzelneErledigen() {
 }
 
 void Arbeitskalender::ausstehendesEintragen() {
+  const bool saison = m_heute.month() >= 4 && m_heute.month() <= 8;
   eintragen(m_heute.addDays(-2), "Honigetiketten drucken");
   eintragen(m_heute, "Regenrinne richten");
   eintragen(m_heute.addDays(4), "Steuerberater anrufen");
-  eintragen(m_heute.addDays(11), "Schulklasse zu Besuch");
+  eintragen(m_heute.addDays(11), saison ? "Schulklasse zu Besuch" : "Vortrag Volkshochschule");
   const Daten voelker =
       DB.Lesen("select top 3 Volknr from Bienenvolk where Akt_im_Bestand = 'X' order by ID");
-  const QStringList arbeiten = {"Drohnenwabe umhängen", "Ableger bilden", "Beute tauschen"};
+  const QStringList arbeiten =
+      saison ? QStringList{"Drohnenwabe umhängen", "Ableger bilden", "Beute tauschen"}
+             : QStringList{"Futter wiegen", "Gemüll untersuchen", "Deckel abdichten"};
   for (int i = 0; i < voelker->zeilen(); ++i)
     eintragen(m_heute.addDays(3 * i - 1), arbeiten[i], voelker->anzeige(i, 0));
-  amStandEintragen(m_heute.addDays(6), "Gras mähen, Tränke füllen");
+  amStandEintragen(m_heute.addDays(6),
+                   saison ? "Gras mähen, Tränke füllen" : "Fluglöcher freiräumen");
 }
 
 // By site an appointment comes to gone colonies too, so it is entered where all are still there.

@@ -160,6 +160,20 @@ TEST_F(Kalender, ZumJahreswechselKommtKeineFrageMehr) {
   EXPECT_EQ(TZ_Variablen::HeuteText, "15.06.2026");
 }
 
+TEST_F(Kalender, ImWinterStehtKeineSommerarbeitAn) {
+  Betriebsgroesse groesse = klein(4);
+  groesse.heute = QDate(2026, 1, 20);
+  anlegen(groesse);
+  EXPECT_EQ(anzahl("Termine",
+                   "Erledigt = 'N' and Datum <= #02/03/2026# and Termin = 'Ableger "
+                   "bilden'"),
+            0);
+  EXPECT_EQ(anzahl("Termine",
+                   "Erledigt = 'N' and Datum <= #02/03/2026# and Termin = 'Gemüll "
+                   "untersuchen'"),
+            1);
+}
+
 // Whatever the day, the operation can be made: the first day of a year, the winter, a leap day.
 TEST_F(Kalender, JederTagDesJahresGeht) {
   for (const QDate tag :
