@@ -84,6 +84,22 @@ TEST_F(Verwaltungsfelder, EineGanzzahlBehaeltIhrVorzeichen) {
   EXPECT_EQ(feldwert(felder[1], "").toLongLong(), 0);
 }
 
+TEST_F(Verwaltungsfelder, KnappZeigtNurDieStellenDieDieZahlHat) {
+  const Feld menge = dezimal("Menge", "Menge", 8, 3).knapp();
+  EXPECT_EQ(feldtext(menge, 5.0), "5");
+  EXPECT_EQ(feldtext(menge, 12.5), "12,5");
+  EXPECT_EQ(feldtext(menge, 0.1234), "0,1234");
+}
+
+TEST_F(Verwaltungsfelder, EinAngebotIstDiePicklisteInSeinerFolge) {
+  const Feld einheit = text("Einheit", "Einheit", 2).angebot({"kg", "g"});
+  EXPECT_TRUE(einheit.hatPickliste());
+  EXPECT_EQ(pickliste(db(), einheit), QStringList({"kg", "g"}));
+  EXPECT_EQ(einheit.art, Art::Text);
+  EXPECT_FALSE(text("Einheit", "Einheit", 2).hatPickliste());
+  EXPECT_FALSE(auswahl("Lieferant", "Lieferant", {"J", "N"}).hatPickliste());
+}
+
 TEST(OhneNull, VerbietetNurDieNull) {
   const Feld anteil = ganzzahl("Proz_Anteil", "Anteil in %", 100).ohneNull();
   EXPECT_TRUE(anteil.nullVerboten);

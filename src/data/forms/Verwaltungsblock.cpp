@@ -208,7 +208,6 @@ void Verwaltungsblock::zeigeZeile(int zeile) {
     const Feld& feld = m_plan.felder[i];
     m_eingaben[i]->setInhalt(feldtext(feld, m_liste->wert(zeile, feld.feld)));
   }
-  gezeigt();
 }
 
 void Verwaltungsblock::leeren() {

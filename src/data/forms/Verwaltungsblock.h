@@ -1,21 +1,21 @@
 #pragma once
 
-#include <QHash>
 #include <QWidget>
-#include <functional>
 
 #include "data/Verwaltungsfelder.h"
 
 class Eingabefeld;
 class Grid;
 class QBoxLayout;
-class QLabel;
 class QPushButton;
 
 // The shared part of all management forms: a list and, in inputs, a working copy of its current
 // row. "Neu" adds what the inputs show as a new row, "Ändern" writes it over the current one,
-// "Löschen" deletes that. A form holds one or several blocks; what is peculiar to one is
-// overridden.
+// "Löschen" deletes that. A form holds one or several blocks.
+//
+// A new block is a class on this one: it hands its Plan to the constructor and overrides the steps
+// that are peculiar to it (the protected functions), in most cases prüfe and vorSpeichern alone.
+// sites/forms/Standortbloecke is the example.
 class Verwaltungsblock : public QWidget {
  public:
   struct Plan {
@@ -34,14 +34,15 @@ class Verwaltungsblock : public QWidget {
 
   explicit Verwaltungsblock(const Plan& plan, QWidget* eltern = nullptr);
 
-  // Pick lists, the empty form and the list, without a current row. All three reading functions
-  // throw Datenbankfehler.
+  // Pick lists, the empty form and the list, without a current row. This, listeLesen and
+  // picklistenLesen throw Datenbankfehler.
   void laden(const Database& datenbank);
-  // The handle and the empty form alone, for a form with an order of its own.
+  // The handle and the empty form alone, for a form that reads its blocks in an order of its own.
   void oeffnen(const Database& datenbank);
   // Lets go of the database: the form was closed. What is shown stays until it is loaded again.
   void entladen() { m_datenbank.Close(); }
-  virtual void listeLesen();  // the rows anew, none current; the inputs stay
+  // The rows anew, none current; the inputs stay. An override calls this one.
+  virtual void listeLesen();
   void picklistenLesen();
 
   Grid* liste() const { return m_liste; }
@@ -62,24 +63,33 @@ class Verwaltungsblock : public QWidget {
  protected:
   Database& datenbank() { return m_datenbank; }
   const Verwaltung::Felder& felder() const { return m_plan.felder; }
-  virtual QVariantList listenwerte() const { return {}; }  // values of the list's statement
-  // The reasons for not saving, which one box tells.
+
+  // ---- what a block may override ----
+
+  // The list: the values of its statement, and what follows when it was read.
+  virtual QVariantList listenwerte() const { return {}; }
+  virtual void nachListe() {}
+
+  // "Neu" and "Ändern" ask in this order. The first two can stop it with a box; after the last the
+  // pick lists and the list are read and the saved row is shown.
+  // 1. The reasons for not saving, and the text of the one box that tells them.
   virtual QStringList prüfe(const Verwaltung::Texte& texte, bool ändern);
-  virtual QString meldung(const QStringList& gründe) const;  // the text of that box
-  // The text of a box that stops the saving, or an empty one. Fields without an input go into
-  // weitere. Without an ID a new row is being saved.
+  virtual QString meldung(const QStringList& gründe) const;
+  // 2. An objection (an empty text is none), once it is known that "Ändern" has a row. Fields
+  //    without an input go into weitere. Without an ID a new row is being saved.
   virtual QString vorSpeichern(const Verwaltung::Texte& texte, std::optional<qint64> id,
                                QVariantHash& weitere);
-  // Writes the row, and gives its ID. What belongs to the row and has to be in one commit with it
-  // goes here and into vorLöschen.
+  // 3. Writes the row and gives its ID. A row that takes others along writes them here, all in a
+  //    Sammelschreiben of its own.
   virtual qint64 schreiben(const Verwaltung::Texte& texte, std::optional<qint64> id,
                            const QVariantHash& weitere);
-  virtual void nachSpeichern(qint64 id, bool neu);  // before the list is read anew
-  virtual void nachListe() {}                       // the list was read
-  virtual void vorLöschen(qint64) {}  // the user has agreed; in one commit with the row
+  // 4. What follows from the saved row, in a commit of its own.
+  virtual void nachSpeichern(qint64 id, bool neu);
+
+  // "Löschen", after the user has agreed: what goes with the row, in one commit with it and before
+  // it; and what is to be shown when the row is gone from the list.
+  virtual void vorLöschen(qint64) {}
   virtual void nachLöschen() {}
-  // The current row was shown in the inputs.
-  virtual void gezeigt() {}
 
  private:
   void aufbauen();

@@ -20,6 +20,7 @@ class Probeblock : public Verwaltungsblock {
   QStringList ablauf;
   QStringList gründe;
   QString einwand;
+  bool löschenScheitert = false;
 
  protected:
   QStringList prüfe(const Texte&, bool ändern) override {
@@ -32,8 +33,19 @@ class Probeblock : public Verwaltungsblock {
     weitere["Web"] = QString("ohne Eingabe");
     return einwand;
   }
+  qint64 schreiben(const Texte& texte, std::optional<qint64> id,
+                   const QVariantHash& weitere) override {
+    ablauf << "schreibe";
+    return Verwaltungsblock::schreiben(texte, id, weitere);
+  }
   void nachSpeichern(qint64, bool neu) override { ablauf << (neu ? "nach neu" : "nach alt"); }
   void nachListe() override { ablauf << "liste"; }
+  void vorLöschen(qint64 id) override {
+    ablauf << "loesche " + QString::number(id);
+    datenbank().Execute("update Kunden set Firma = ?", {QString("vor dem Löschen")});
+    if (löschenScheitert)
+      throw Datenbankfehler(Datenbankfehler::Art::Allgemein, "Das Löschen scheitert.");
+  }
   void nachLöschen() override { ablauf << "geloescht"; }
 
  private:
@@ -105,7 +117,8 @@ TEST_F(Verwaltungsblocktest, NeuFragtSchreibtLiestUndFindetDieZeile) {
   tippe("Kundenname", "Caesar");
   tippe("Ort", "Ulm");
   klicke("neu_0");
-  EXPECT_EQ(block->ablauf, QStringList({"pruefe neu", "vor Caesar neu", "nach neu", "liste"}));
+  EXPECT_EQ(block->ablauf,
+            QStringList({"pruefe neu", "vor Caesar neu", "schreibe", "nach neu", "liste"}));
   EXPECT_EQ(anzahl("Kunden"), 3);
   EXPECT_EQ(wert("select Web from Kunden where Kundenname = 'Caesar'").toString(), "ohne Eingabe");
   EXPECT_EQ(block->liste()->aktuelleZeile(), 2);
@@ -118,7 +131,8 @@ TEST_F(Verwaltungsblocktest, AendernSchreibtUeberDieAktuelleZeile) {
   EXPECT_EQ(block->texte()["Kundenname"], "Berta");
   tippe("Kundenname", "Aaron");
   klicke("neu_1");
-  EXPECT_EQ(block->ablauf, QStringList({"pruefe aendern", "vor Aaron alt", "nach alt", "liste"}));
+  EXPECT_EQ(block->ablauf,
+            QStringList({"pruefe aendern", "vor Aaron alt", "schreibe", "nach alt", "liste"}));
   EXPECT_EQ(anzahl("Kunden"), 2);
   EXPECT_EQ(anzahl("Kunden", "Kundenname = 'Berta'"), 0);
   EXPECT_EQ(block->liste()->aktuelleZeile(), 0);  // sorted to the top and found again
@@ -169,11 +183,55 @@ TEST_F(Verwaltungsblocktest, LoeschenFragtUndZeigtDieNaechsteZeile) {
   klicke(QString("löschen"));
   EXPECT_EQ(anzahl("Kunden"), 2);
   EXPECT_EQ(block->ablauf, QStringList());
+  const qint64 adam = *block->aktuelleId();
   boxen.frageMit("unwiederbringlich gelöscht werden?", true);
   klicke(QString("löschen"));
   EXPECT_EQ(anzahl("Kunden", "Kundenname = 'Adam'"), 0);
   EXPECT_EQ(block->texte()["Kundenname"], "Berta");
-  EXPECT_EQ(block->ablauf, QStringList("geloescht"));
+  EXPECT_EQ(block->ablauf, QStringList({"loesche " + QString::number(adam), "geloescht"}));
+}
+
+TEST_F(Verwaltungsblocktest, ScheitertWasMitgeloeschtWirdBleibtDieZeileStehenUndGewaehlt) {
+  waehle(0);
+  const auto adam = block->aktuelleId();
+  ASSERT_TRUE(adam.has_value());
+  block->löschenScheitert = true;
+  boxen.hinweisMit("Das Löschen scheitert.");
+  klicke(QString("löschen"));
+  EXPECT_EQ(anzahl("Kunden"), 2);
+  EXPECT_EQ(anzahl("Kunden", QString("Firma = 'vor dem Löschen'")), 2);  // what was done stays
+  EXPECT_EQ(block->liste()->zeilen(), 2);
+  EXPECT_EQ(block->aktuelleId(), adam);
+  EXPECT_EQ(block->texte()["Kundenname"], "Adam");
+  EXPECT_EQ(block->ablauf, QStringList("loesche " + QString::number(*adam)));
+}
+
+TEST_F(Verwaltungsblocktest, OeffnenAlleinLiestNochNichts) {
+  Probeblock neu;
+  neu.oeffnen(db());
+  EXPECT_EQ(neu.texte()["Lieferant"], "N");
+  EXPECT_EQ(neu.liste()->zeilen(), 0);
+  EXPECT_EQ(neu.eingabe("Ort")->liste(), QStringList());
+  EXPECT_EQ(neu.ablauf, QStringList());
+  neu.listeLesen();
+  EXPECT_EQ(neu.liste()->zeilen(), 2);
+  EXPECT_EQ(neu.ablauf, QStringList("liste"));
+}
+
+TEST_F(Verwaltungsblocktest, EinUnbekannterDatensatzAendertDieAnzeigeNicht) {
+  waehle(1);
+  const auto berta = block->aktuelleId();
+  ASSERT_TRUE(berta.has_value());
+  block->zeigeDatensatz(*berta + 1000);
+  EXPECT_EQ(block->aktuelleId(), berta);
+  EXPECT_EQ(block->texte()["Kundenname"], "Berta");
+}
+
+TEST_F(Verwaltungsblocktest, DieTastenfolgeGehtVonDenEingabenUeberDieKnoepfeZurListe) {
+  QStringList namen;
+  for (const QWidget* w : block->tabfolge()) namen << w->objectName();
+  EXPECT_EQ(namen, QStringList({"sevt_0", "sevt_1", "sevt_2", "sevt_3", "neu_0", "neu_1",
+                                QString("löschen"), "li"}));
 }
 
 }  // namespace
