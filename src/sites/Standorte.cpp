@@ -45,8 +45,7 @@ const Felder& pflanzenfelder() {
 
 const Felder& trachtfelder() {
   static const Felder felder = {
-      text("Pflanze", "Pflanze", 20)
-          .liste("select distinct Pflanze from Pflanzen order by Pflanze"),
+      pflanzenfelder().first(),  // the plant by name, from the same pick list
       ganzzahl("Entfernung_m", "Entfernung m", 9999),
       ganzzahl("Proz_Anteil", "Anteil in %", 100).ohneNull(),
   };

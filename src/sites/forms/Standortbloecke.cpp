@@ -106,7 +106,7 @@ QString Pflanzenblock::vorSpeichern(const Texte& texte, std::optional<qint64> id
 
 Trachtblock::Trachtblock() : Verwaltungsblock(trachtplan()) {
   listeEinrichten(*liste(), felder(), {"Standort_Kennung", "ID"});
-  auto* titel = new QLabel("Pflanzen (Tracht) am ausgewählten Standort");
+  auto* titel = new QLabel(liste()->accessibleName());
   QFont schrift = titel->font();
   schrift.setBold(true);
   titel->setFont(schrift);

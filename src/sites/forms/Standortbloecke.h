@@ -2,6 +2,8 @@
 
 #include "data/forms/Verwaltungsblock.h"
 
+class QLabel;
+
 // The three blocks of TV_Pflanzen_Standorte.
 
 class Standortblock : public Verwaltungsblock {

@@ -4,7 +4,6 @@
 #include "platform/database/Datenbank.h"
 
 class Grid;
-class QLabel;
 class QPushButton;
 class QTabWidget;
 class Standortblock;
