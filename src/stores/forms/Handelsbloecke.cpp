@@ -94,11 +94,6 @@ QVBoxLayout* spalteIn(QWidget* seite) {
 
 // ---- all three ----
 
-// The list is headed as the inputs.
-Handelsblock::Handelsblock(const Plan& plan) : Verwaltungsblock(plan) {
-  for (const auto& feld : felder()) liste()->setUeberschrift(feld.feld, feld.beschriftung);
-}
-
 void Handelsblock::listeLesen() {
   const Knopfsperre sperre(window());
   Verwaltungsblock::listeLesen();
@@ -146,6 +141,9 @@ void Geschaeftsblock::vorLöschen(qint64 id) {
 // ---- honey store ----
 
 Lagerblock::Lagerblock() : Handelsblock(lagerplan()) {
+  for (const auto& feld : felder())
+    if (feld.art == Verwaltung::Art::Dezimal)  // headed as the inputs: they say that it's kilograms
+      liste()->setUeberschrift(feld.feld, feld.beschriftung);
   auto* links = new QWidget;
   auto* teiler = new QSplitter;
   teiler->setObjectName("lagerteiler");

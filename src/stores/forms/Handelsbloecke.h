@@ -17,7 +17,7 @@ class Handelsblock : public Verwaltungsblock {
   void listeLesen() override;
 
  protected:
-  explicit Handelsblock(const Plan& plan);
+  explicit Handelsblock(const Plan& plan) : Verwaltungsblock(plan) {}
   QString meldung(const QStringList& gründe) const override;
   void nachListe() override;
 };

@@ -18,7 +18,7 @@ TEST_F(Handelsfehler, VolleFestplatteWirdGesagtUndDieEingabenBleiben) {
   }
   oeffne(Verkauf);
   tippeVerkauf("Honig", "3", "Kunde mit langem Namen 9999");
-  boxen.hinweisMit("nichts");  // of this action is saved
+  boxen.hinweisMit("Von diesem Vorgang wurde nichts gespeichert.");
   klicke("neuverkauf_0");
   EXPECT_EQ(inhalte("verkauf"), "20.06.2006|Honig||Kunde mit langem Namen 9999|3||0|");
   EXPECT_EQ(liste("liverkauf")->zeilen(), gespeichert);

@@ -67,7 +67,7 @@ TEST_F(TVEinVerkaufLager, DieListenZeigenAlleSpaltenUndMerkenIhreBreiten) {
                                                "Einheit", "Einnahmen", "Charge", "ID"}));
   EXPECT_EQ(spalten("lihonig"), QStringList({"Datum", "Produkt", "Zugang", "Abgang", "Charge",
                                              "Abfülldatum", "Bemerkung", "EVK_ID", "ID"}));
-  EXPECT_EQ(liste("lihonig")->ueberschrift(2), "Eingang (kg)");  // headed as the inputs
+  EXPECT_EQ(liste("lihonig")->ueberschrift(2), "Eingang (kg)");  // as the inputs
   EXPECT_EQ(liste("lihonig")->ueberschrift(7), "EVK_ID");
   const QString ablage = m_ordner.path() + "/TOVA2.LAY";
   Fensterablage::setDatei(ablage);
