@@ -317,6 +317,15 @@ Formfall starttermine() {
   return f;
 }
 
+// Refused as long as the one input is empty. Only that: a walk over the tabs chooses a site and
+// begins its plants anew, so what is typed on these tabs isn't there any more after it.
+Sichern abgelehntOhne(const QString& knopf, const QString& pflichtfeld, const QString& grund) {
+  return {knopf, {}, {}, {}, {}, [pflichtfeld, grund](QWidget* form, Meldungen::Probe& boxen) {
+            tippe(form, pflichtfeld, {});
+            boxen.hinweisMit(grund);
+          }};
+}
+
 Formfall standorte() {
   Formfall f{"TV_Pflanzen_Standorte_Standorte", "TV_Pflanzen_Standorte", "TV_Pflanzen_Standorte",
              "neustandort_0", [](Betrieb&) { return standortform("0"); }};
@@ -326,6 +335,30 @@ Formfall standorte() {
                           zeileAufReiter(form, 0, "listandorte", "Standort = 'Hausgarten'");
                           druecke(form, "lschstandort");
                         }};
+  f.sichern =
+      abgelehntOhne("neustandort_0", "sevtstandort_0", "...der Standort angegeben werden muß.");
+  f.doppelt = alleSDesFusses();
+  return f;
+}
+
+Formfall pflanzenJeStandort() {
+  Formfall f{"TV_Pflanzen_Standorte_JeStandort",
+             "TV_Pflanzen_Standorte",
+             "TV_Pflanzen_Standorte",
+             "neuje_0",
+             {}};
+  f.machen = [](Betrieb&) {
+    Form form = standortform("0");
+    form->findChild<QTabWidget*>("reiter")->setCurrentIndex(1);
+    return form;
+  };
+  f.loeschen = Loeschen{"Standorte_Pflanzen",
+                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
+                        [](QWidget* form) {
+                          zeileAufReiter(form, 1, "lijepflanze", "Pflanze = 'Krokus'");
+                          druecke(form, "lschje");
+                        }};
+  f.sichern = abgelehntOhne("neuje_0", "sevtje_0", "...die Pflanze angegeben werden muß.");
   f.doppelt = alleSDesFusses();
   return f;
 }
@@ -468,10 +501,10 @@ const std::vector<Formfall>& formenliste() {
   static const std::vector<Formfall> liste = [] {
     std::vector<Formfall> alle{hauptformular(), ersteSchritte(), neuesVolk(), volkAendern()};
     for (int art = 0; art < 11; ++art) alle.push_back(eingabe(art));
-    alle.insert(alle.end(),
-                {hilfe(), dateiauswahl(), dateispeichern(), selektieren(), standorte(), pflanzen(),
-                 handel(0), handel(1), handel(2), arbeitsplanoptionen(), terminverwaltung(),
-                 starttermine(), einstellungen(), textausgabe(), zwischenliste()});
+    alle.insert(alle.end(), {hilfe(), dateiauswahl(), dateispeichern(), selektieren(), standorte(),
+                             pflanzenJeStandort(), pflanzen(), handel(0), handel(1), handel(2),
+                             arbeitsplanoptionen(), terminverwaltung(), starttermine(),
+                             einstellungen(), textausgabe(), zwischenliste()});
     return alle;
   }();
   return liste;
