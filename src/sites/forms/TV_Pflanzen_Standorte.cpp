@@ -198,7 +198,6 @@ void TV_Pflanzen_Standorte::pflanzenJeStandortOeffnen() {
   }
   const auto aktuell = m_standorte->aktuelleId();
   m_tracht->picklistenLesen();
-  m_tracht->leeren();
   m_tracht->neuKnopf()->setDefault(true);
   const Daten orte = m_db.Lesen("select Standort from Standorte order by Standort");
   m_orte = ortsIds(*orte, *m_standorte->liste());

@@ -66,6 +66,17 @@ TEST_F(JeStandortReiter, AuchNachSortierenGehoertDieZeileZumGewaehltenStandort) 
   EXPECT_EQ(anzahl("Standorte_Pflanzen", QString("Standort_Kennung = %1").arg(heide)), 2);
 }
 
+TEST_F(JeStandortReiter, WerEinePflanzeNachschlaegtBehaeltWasErGetipptHat) {
+  oeffne();
+  zumStandort(1);
+  tippeTracht("Raps", "500", "60");
+  zumReiter(2);
+  zumReiter(1);
+  EXPECT_EQ(inhalt("sevtje_0"), "Raps");
+  EXPECT_EQ(inhalt("sevtje_1"), "500");
+  EXPECT_EQ(inhalt("sevtje_2"), "60");
+}
+
 TEST_F(JeStandortReiter, NeuSchreibtMitDerKennungDesStandorts) {
   oeffne();
   zumStandort(1);
