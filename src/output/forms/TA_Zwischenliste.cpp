@@ -245,6 +245,7 @@ Ausgabeliste ausGrid(const Grid& grid) {
   }
   if (!gemacht) return Ausgabeliste(daten, ueberschriften, grid.ordnung());
   std::vector<Spalte> spalten;
+  spalten.reserve(static_cast<size_t>(grid.spalten()));
   for (int i = 0; i < grid.spalten(); ++i)
     spalten.push_back(grid.hatAnzeige(i) ? Spalte{daten->spalte(i).name, Feldtyp::Memo, 0}
                                          : daten->spalte(i));

@@ -106,7 +106,7 @@ bool Leser::istName() const {
 
 QString Leser::nimmName() {
   if (!istName()) unlesbar();
-  const QString name = marke().text;
+  QString name = marke().text;
   weiter();
   return name;
 }

@@ -164,12 +164,10 @@ QVariant datum(const Spalte& spalte, const QVariant& wert) {
 
 QVariant text(const Spalte& spalte, const QVariant& wert) {
   QString inhalt;
-  if (istText(wert)) {
+  if (istText(wert) || istGanz(wert)) {
     inhalt = wert.toString();
   } else if (istDatum(wert)) {
     inhalt = Deutsch::datumText(wert.toDate());
-  } else if (istGanz(wert)) {
-    inhalt = wert.toString();
   } else if (istGleitkomma(wert)) {
     inhalt = Deutsch::schlicht(alsZahl(spalte, wert));
   } else {

@@ -78,6 +78,7 @@ Daten Kreuztabelle::baue(const Datenblock& zeilen, int gruppen) {
   }
 
   std::vector<Spalte> spalten;
+  spalten.reserve(static_cast<size_t>(gruppen) + drehwerte.size());
   for (int s = 0; s < gruppen; ++s) spalten.push_back(zeilen.spalte(s));
   int nummer = 0;
   for (auto& [wert, spalte] : drehwerte) {

@@ -136,6 +136,7 @@ bool Recordset::Daten_::trifftZu(const Suchbedingung& suche, int nummer) const {
   }
   if (geaendert.isEmpty() || !geaendert.contains(nummer)) return suche.trifftZu(*block, nummer);
   std::vector<QVariant> zeile;
+  zeile.reserve(static_cast<size_t>(block->spalten()));
   for (int s = 0; s < block->spalten(); ++s) zeile.push_back(gespeichert(nummer, s));
   return suche.trifftZu(zeile);
 }

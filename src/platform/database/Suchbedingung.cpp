@@ -16,7 +16,7 @@ class Leser {
     if (istZeichen(u'[')) {
       const qsizetype ende = m_text.indexOf(QLatin1Char(']'), m_stelle);
       if (ende < 0) unlesbar();
-      const QString name = m_text.mid(m_stelle, ende - m_stelle);
+      QString name = m_text.mid(m_stelle, ende - m_stelle);
       m_stelle = ende + 1;
       return name;
     }

@@ -84,7 +84,7 @@ const std::vector<Spalte>& Verbindung::felder(const QString& tabelle) {
     static const std::vector<Spalte> keine;
     return keine;
   }
-  return *m_felder.insert(schluessel, std::move(liste));
+  return *m_felder.insert(schluessel, liste);
 }
 
 bool Verbindung::beginntIndex(const QString& tabelle, const QString& feld) {
