@@ -35,6 +35,14 @@ void fuellen(Recordset& termine, const Eingabe& eingabe, qint64 volkId) {
   termine["Volk_ID"] = volkId;
 }
 
+// What of an entry for a site was written before the failure.
+QString teilText(const QString& standort, int eingetragen, int anzahl) {
+  return QString(
+             "Bei %1 von %2 Völkern am Standort '%3' ist der Termin schon eingetragen, bei den "
+             "anderen nicht.")
+      .arg(QString::number(eingetragen), QString::number(anzahl), standort);
+}
+
 }  // namespace
 
 void vorgaben(Filter& filter) {
@@ -124,17 +132,26 @@ qint64 speichern(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 id)
 
 qint64 amStandortEintragen(Database& db, const Eingabe& eingabe) {
   qint64 letzte = 0;
-  db.Sammelschreiben([&] {
-    Recordset termine = db.OpenRecordset("select top 1 * from Termine");
-    const Daten voelker =
-        db.Lesen("select ID from Bienenvolk where Standort = ?", {eingabe.standort});
-    for (int i = 0; i < voelker->zeilen(); ++i) {
-      termine.AddNew();
-      fuellen(termine, eingabe, voelker->ganzzahl(i, 0));
-      termine.Update();
-      letzte = db.LetzteID();
-    }
-  });
+  int eingetragen = 0;
+  int anzahl = 0;
+  try {
+    db.Sammelschreiben([&] {
+      Recordset termine = db.OpenRecordset("select top 1 * from Termine");
+      const Daten voelker =
+          db.Lesen("select ID from Bienenvolk where Standort = ?", {eingabe.standort});
+      for (anzahl = voelker->zeilen(); eingetragen < anzahl; ++eingetragen) {
+        termine.AddNew();
+        fuellen(termine, eingabe, voelker->ganzzahl(eingetragen, 0));
+        termine.Update();
+        letzte = db.LetzteID();
+      }
+    });
+  } catch (const Datenbankfehler& fehler) {
+    if (eingetragen == 0 || fehler.allesVerworfen()) throw;
+    throw Datenbankfehler(
+        fehler.art(), fehler.text() + CRLF + CRLF + teilText(eingabe.standort, eingetragen, anzahl),
+        fehler.anweisung());
+  }
   return letzte;
 }
 

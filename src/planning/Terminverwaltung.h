@@ -54,7 +54,7 @@ bool existiert(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 ausse
 // Writes one row, a new one for id 0, and gives its ID.
 qint64 speichern(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 id = 0);
 // One new row for each colony of the site, gone colonies too, as one commit. Gives the last ID, 0
-// when no colony stands there.
+// when no colony stands there. A failure half way says how many have got theirs.
 qint64 amStandortEintragen(Database& db, const Eingabe& eingabe);
 
 // Deletes what is done, of all years and of both views.

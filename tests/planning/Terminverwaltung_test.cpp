@@ -1,6 +1,7 @@
 #include "planning/Terminverwaltung.h"
 
 #include "planning/Terminbestand.h"
+#include "platform/database/Verbindung.h"
 
 namespace {
 
@@ -250,6 +251,26 @@ TEST_F(TerminverwaltungTest, ZuLangerTextAmStandortIstEinFehlerUndSchreibtNichts
   e.standort = "Heide";
   EXPECT_THROW(amStandortEintragen(db(), e), Datenbankfehler);
   EXPECT_EQ(anzahl("Termine"), 0);
+}
+
+TEST_F(TerminverwaltungTest, FehlschlagAmStandortSagtBeiWievielenVoelkernErEingetragenIst) {
+  for (const char* nummer : {"1", "2", "3"}) neuesVolk(nummer, "X", "Heide");
+  Verbindung::zu(TZ_Variablen::DatenbankPfad)
+      ->steuere(
+          "create trigger voll before insert on Termine when (select count(*) from Termine) = 2 "
+          "begin select raise(abort, 'kein Platz'); end");
+  Eingabe e = eingabe();
+  e.standort = "Heide";
+  try {
+    amStandortEintragen(db(), e);
+    ADD_FAILURE() << "no failure";
+  } catch (const Datenbankfehler& fehler) {
+    EXPECT_TRUE(fehler.text().contains("kein Platz"));
+    EXPECT_TRUE(
+        fehler.text().endsWith("\r\n\r\nBei 2 von 3 Völkern am Standort 'Heide' ist der Termin "
+                               "schon eingetragen, bei den anderen nicht."));
+  }
+  EXPECT_EQ(anzahl("Termine"), 2);
 }
 
 TEST_F(TerminverwaltungTest, StandortTraegtDasKennzeichenUndDenTextWieBeimEinzelnenEin) {

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 
 #include "core/globals.h"
 #include "data/forms/helpers_forms.h"
@@ -29,6 +30,11 @@ Eingabefeld::Beschreibung beschreibung(Eingabefeld::Art art, int maxLaenge = 0,
   return b;
 }
 
+// The focus comes back from a pick list or from another window: the field was not left.
+bool nurUnterbrochen(Qt::FocusReason grund) {
+  return grund == Qt::PopupFocusReason || grund == Qt::ActiveWindowFocusReason;
+}
+
 // A choice gets other texts to choose from and keeps what it shows.
 void auswahlSetzen(Eingabefeld* feld, const QStringList& texte) {
   const QString vorher = feld->inhalt();
@@ -47,7 +53,7 @@ TV_Terminverwaltung::TV_Terminverwaltung(QWidget* oeffner)
 // Keeps the filter's text for the comparison on leaving.
 bool TV_Terminverwaltung::eventFilter(QObject* objekt, QEvent* event) {
   if (event->type() == QEvent::FocusIn &&
-      static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
+      !nurUnterbrochen(static_cast<const QFocusEvent&>(*event).reason()))
     for (size_t i = NurVolk; i <= Bis; ++i)
       if (objekt == sevt[i]) m_vorher[i] = sevt[i]->inhalt();
   return Formular::eventFilter(objekt, event);
@@ -208,12 +214,24 @@ void TV_Terminverwaltung::speichern(bool neuerTermin) {
                                     Meldungen::Vorgabe::Ja, this))
     return;
   const qint64 neueId = standort && neuerTermin
-                            ? Terminverwaltung::amStandortEintragen(m_db, daten)
+                            ? amStandortEintragen(daten)
                             : Terminverwaltung::speichern(m_db, daten, pruefung.volkId, alt);
   listeLesen();
   aktuellSetzen(neueId);
   Tastenton();
   eingabenSetzen();
+}
+
+// What a failure half way has left written stands in the list: pressing the button again would
+// enter it twice. The inputs stay.
+qint64 TV_Terminverwaltung::amStandortEintragen(const Terminverwaltung::Eingabe& daten) {
+  try {
+    return Terminverwaltung::amStandortEintragen(m_db, daten);
+  } catch (...) {
+    const int zeile = litermine->aktuelleZeile();
+    listeNeuLesen(zeile < 0 ? 0 : id(zeile), true);
+    throw;
+  }
 }
 
 void TV_Terminverwaltung::loeschen() {
@@ -243,11 +261,15 @@ void TV_Terminverwaltung::aktuelleTermine() {
   const qint64 vorher = zeile < 0 ? 0 : id(zeile);
   const bool getippt = zeile >= 0 && eingabe() != zeileneingabe(zeile);
   TV_Starttermine(this).zeigen();
+  listeNeuLesen(vorher, getippt);
+}
+
+// The list anew; the row of this ID, 0 for none, becomes current again.
+void TV_Terminverwaltung::listeNeuLesen(qint64 id, bool eingabenBehalten) {
   listeLesen();
-  if (vorher == 0) return;
-  m_eingabenBehalten = getippt;
-  aktuellSetzen(vorher);
-  m_eingabenBehalten = false;
+  if (id == 0) return;
+  const QScopedValueRollback behalten(m_eingabenBehalten, eingabenBehalten);
+  aktuellSetzen(id);
 }
 
 void TV_Terminverwaltung::done(int ergebnis) {

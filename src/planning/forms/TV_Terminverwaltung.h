@@ -57,10 +57,12 @@ class TV_Terminverwaltung : public Formular {
   void eingabenSetzen();  // after a write
   void filterPruefen(size_t index);
   void listeLesen();
+  void listeNeuLesen(qint64 id, bool eingabenBehalten);
   void zeileZeigen(int zeile);
   void tageGeaendert();
   void datumGeaendert();
   void speichern(bool neuerTermin);
+  qint64 amStandortEintragen(const Terminverwaltung::Eingabe& daten);
   void loeschen();
   void erledigteLoeschen();
   void aktuelleTermine();

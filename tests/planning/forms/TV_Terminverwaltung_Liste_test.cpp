@@ -33,6 +33,19 @@ TEST_F(TVTerminverwaltung, GeaenderterFilterWirktBeimVerlassen) {
   EXPECT_EQ(spalte("Termin"), "Schau Steuer Fest");
 }
 
+// As when the user looks something up in another program while he types.
+TEST_F(TVTerminverwaltung, FilterWirktAuchNachEinemBlickInEinAnderesFenster) {
+  oeffne();
+  tippe(4, "Steuer");
+  QFocusEvent hinaus(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+  QApplication::sendEvent(feld(4), &hinaus);
+  QFocusEvent herein(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+  QApplication::sendEvent(feld(4), &herein);
+  EXPECT_EQ(spalte("Termin"), "Schau Steuer");
+  feld(0)->setFocus();
+  EXPECT_EQ(spalte("Termin"), "Steuer");
+}
+
 TEST_F(TVTerminverwaltung, UnveraenderterFilterLiestNichtNeu) {
   oeffne();
   klickeZeile(1);

@@ -381,6 +381,29 @@ TEST_F(TVTerminverwaltung, FehlschlagBeimSpeichernLaesstDieEingabenStehen) {
   EXPECT_TRUE(form->isVisible());
 }
 
+// Two colonies stand there; the second one's row can't be written.
+TEST_F(TVTerminverwaltung, FehlschlagAmStandortZeigtWasEingetragenIstUndLaesstDieEingaben) {
+  oeffne();
+  volkansicht();
+  klickeZeile(0);
+  tippe(0, "22.06.2006");
+  tippe(1, "Zarge");
+  feld(10)->setFocus();
+  QTest::keyClicks(feld(10), "H");
+  scheitern("insert", "(select count(*) from Termine) = 5");
+  boxen.frageMit("Soll der Termin wirklich bei allen Völkern am Standort 'Heide'", true)
+      .hinweisMit(
+          "Bei 1 von 2 Völkern am Standort 'Heide' ist der Termin schon eingetragen, bei den "
+          "anderen nicht.");
+  neu();
+  EXPECT_EQ(termine("Termin = 'Zarge'"), "22.06. Zarge N " + std::to_string(volk));
+  EXPECT_EQ(spalte("Termin"), "Zarge Durchsicht");
+  EXPECT_EQ(li()->aktuelleZeile(), 1);
+  EXPECT_EQ(inhalt(0), "22.06.2006");
+  EXPECT_EQ(inhalt(1), "Zarge");
+  EXPECT_EQ(inhalt(10), "Heide");
+}
+
 TEST_F(TVTerminverwaltung, FehlschlagBeimLoeschenLaesstDieZeileStehen) {
   oeffne();
   klickeZeile(1);

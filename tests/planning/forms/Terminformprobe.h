@@ -79,11 +79,12 @@ class Terminformprobe : public Terminbestand {
     termin(tag(6, 16), "Imkerstammtisch");
     termin(tag(6, 17), "Honigprämierung anmelden", 0, "J");
   }
-  // From now on this kind of write on the appointments fails with "kein Platz".
-  static void scheitern(const QByteArray& art) {
+  // From now on this kind of write on the appointments fails with "kein Platz", where the
+  // condition holds.
+  static void scheitern(const QByteArray& art, const QByteArray& wenn = "1") {
     Verbindung::zu(TZ_Variablen::DatenbankPfad)
-        ->steuere("create trigger voll before " + art +
-                  " on Termine begin select raise(abort, 'kein Platz'); end");
+        ->steuere("create trigger voll before " + art + " on Termine when " + wenn +
+                  " begin select raise(abort, 'kein Platz'); end");
   }
   // Keeps the window as a picture where TOVA_BILDER names a folder.
   static void bild(QWidget* fenster, const QString& name) {
