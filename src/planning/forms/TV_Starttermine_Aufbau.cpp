@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 
 #include "planning/forms/TV_Starttermine.h"
 #include "platform/controls/Eingabefeld.h"
@@ -50,7 +51,7 @@ void TV_Starttermine::aufbauen() {
   seite->addLayout(gruppen);
   seite->addWidget(kon);
   seite->addWidget(fussBauen());
-  resize(sizeHint().expandedTo(QSize(900, 620)));
+  resize(sizeHint().expandedTo(QSize(std::max(900, fontMetrics().height() * 60), 620)));
 }
 
 // Both groups below close to this day.

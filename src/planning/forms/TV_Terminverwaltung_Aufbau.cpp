@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "planning/forms/TV_Terminverwaltung.h"
 #include "platform/controls/Eingabefeld.h"
@@ -40,7 +41,7 @@ void TV_Terminverwaltung::aufbauen() {
   seite->addWidget(litermine, 1);
   seite->addWidget(terminBauen());
   seite->addWidget(fussBauen());
-  resize(sizeHint().expandedTo(QSize(900, 640)));
+  resize(sizeHint().expandedTo(QSize(std::max(900, fontMetrics().height() * 60), 640)));
 }
 
 void TV_Terminverwaltung::setzen(QGridLayout* gitter, int zeile, int spalte, size_t index,

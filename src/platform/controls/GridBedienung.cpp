@@ -17,7 +17,7 @@ namespace {
 
 constexpr qint64 SuchpauseMs = 1000;  // after a longer one a letter begins a new search
 constexpr int GemesseneZeilen = 100;
-constexpr int GroessteBreite = 280;
+constexpr int GroessteBreite = 20;  // heights of a line, so that it grows with the font
 constexpr int Rand = 18;
 
 }  // namespace
@@ -188,20 +188,21 @@ void Grid::breitenLaden() {
 void Grid::breitenAnpassen() {
   const QFontMetrics mass(font());
   const int breitestes = mass.horizontalAdvance(u'W');
+  const int grenze = mass.height() * GroessteBreite;
   const int zeilen = std::min(this->zeilen(), GemesseneZeilen);
   m_breiten.clear();
   for (int spalte = 0; spalte < spalten(); ++spalte) {
     // With room for the sort arrow, whether it stands there now or not.
     int breite = horizontalHeader()->sectionSizeHint(spalte) - Rand;
     qsizetype laengster = 0;
-    for (int zeile = 0; zeile < zeilen && breite < GroessteBreite; ++zeile) {
+    for (int zeile = 0; zeile < zeilen && breite < grenze; ++zeile) {
       const QString text = m_modell->text(zeile, spalte);
       // Can't be the widest; measuring is dear.
       if (text.size() * 4 < laengster * 3 || text.size() * breitestes <= breite) continue;
       laengster = std::max(laengster, text.size());
       breite = std::max(breite, mass.horizontalAdvance(text));
     }
-    m_breiten += std::clamp(breite + Rand, KleinsteBreite, GroessteBreite);
+    m_breiten += std::clamp(breite + Rand, KleinsteBreite, grenze);
   }
   verborgeneAnwenden();
 }

@@ -482,6 +482,26 @@ TEST_F(GridTest, BreitenHaltenOhneSchluesselBeiNeuemLesen) {
   EXPECT_EQ(grid->columnWidth(1), 177);
 }
 
+// As much of a long text shows in a larger font, and a text without end leaves room for others.
+TEST_F(GridTest, GroessteBreiteWaechstMitDerSchrift) {
+  const auto langer = [](const QString& text) {
+    return block({{QStringLiteral("Ort"), Feldtyp::Text, 100}}, {{text}});
+  };
+  const QString ort = QStringLiteral("Lindenallee am Schloßpark, hinten");
+  QFont schrift = grid->font();
+  for (const double faktor : {1.0, 1.5, 2.0}) {
+    QFont gross = schrift;
+    gross.setPointSizeF(schrift.pointSizeF() * faktor);
+    Grid gitter;
+    gitter.setFont(gross);
+    gitter.setDaten(langer(ort));
+    EXPECT_GT(gitter.columnWidth(0), gitter.fontMetrics().horizontalAdvance(ort)) << faktor;
+    gitter.setDaten(langer(QString(100, u'W')));
+    EXPECT_LT(gitter.columnWidth(0), gitter.fontMetrics().horizontalAdvance(QString(40, u'W')))
+        << faktor;
+  }
+}
+
 TEST_F(GridTest, StrgCKopiertDieMarkiertenZeilen) {
   grid->setSpalteVerborgen(QStringLiteral("ID"), true);
   klicke(0);
