@@ -1,8 +1,11 @@
-// Back after three years: 50,000 appointments are due. Opening their list, and closing a thousand
-// of them.
+// Back after three years: 50,000 appointments are due. Opening their list, closing a thousand of
+// them, and closing all of one kind at one site with their series.
+
+#include <numeric>
 
 #include "Messwerk.h"
 #include "core/globals.h"
+#include "data/helpers.h"
 #include "planning/Starttermine.h"
 #include "planning/forms/TV_Starttermine.h"
 #include "platform/controls/Grid.h"
@@ -14,6 +17,7 @@ namespace {
 constexpr int faellige = 50000;
 constexpr int markierte = 1000;
 constexpr int arten = 30;
+constexpr int serienfrist = 7;
 
 int voelker(const benchmark::State& zustand) { return static_cast<int>(zustand.range(0)); }
 
@@ -116,6 +120,111 @@ void Erledigen_blank(benchmark::State& zustand) {
   betriebVerwerfen();
 }
 
+// All at one site and of one kind, whose series goes on every week to the end of the year.
+void einStandort(int anzahl) {
+  betriebVerwerfen();
+  vorbereiten(anzahl);
+  DB.Execute("update Bienenvolk set Standort = 'Hof'");
+  DB.Execute("update Termine set Termin = 'Durchsicht'");
+  DB.Execute("delete from Arbeitsplanoptionen");
+  DB.Execute(
+      "insert into Arbeitsplanoptionen(Arbeitsart, Wiederholungsfrist_Tage, Endzeitraum) values "
+      "('Durchsicht', ?, '31.12')",
+      {serienfrist});
+}
+
+void zaehlen(benchmark::State& zustand) {
+  const Daten daten =
+      DB.Lesen("select Erledigt, count(*) as n from Termine group by Erledigt order by Erledigt");
+  for (int i = 0; i < daten->zeilen(); ++i)
+    zustand.counters[daten->anzeige(i, 0) == "J" ? "erledigt" : "offen"] =
+        static_cast<double>(daten->ganzzahl(i, 1));
+}
+
+void standortSchliessen(benchmark::State& zustand, bool reiheAnpassen) {
+  for (auto _ : zustand) {
+    zustand.PauseTiming();
+    einStandort(voelker(zustand));
+    const Daten daten = Starttermine::liste(DB);
+    std::vector<int> ordnung(static_cast<size_t>(daten->zeilen()));
+    std::iota(ordnung.begin(), ordnung.end(), 0);
+    zustand.ResumeTiming();
+    Starttermine::amStandortErledigen(DB, {"Durchsicht", "Hof", HeuteText}, daten, ordnung,
+                                      {HeuteText, reiheAnpassen});
+  }
+  zaehlen(zustand);
+  betriebVerwerfen();
+}
+
+void Standort_programm(benchmark::State& zustand) { standortSchliessen(zustand, false); }
+void Standortreihe_programm(benchmark::State& zustand) { standortSchliessen(zustand, true); }
+
+QByteArray iso(QDate tag) { return tag.toString(Qt::ISODate).toLatin1(); }
+
+void Standort_blank(benchmark::State& zustand) {
+  for (auto _ : zustand) {
+    zustand.PauseTiming();
+    einStandort(voelker(zustand));
+    const Daten daten = Starttermine::liste(DB);
+    Blank blank(DatenbankPfad);
+    Blank::Anweisung zeile(blank.db(),
+                           "update Termine set Erledigt = 'J', Datum = ?1 where ID = ?2");
+    const QByteArray heute = iso(DatumLesen(HeuteText));
+    zustand.ResumeTiming();
+    blank.fuehreAus("begin immediate");
+    for (int i = 0; i < daten->zeilen(); ++i) {
+      if (daten->anzeige(i, 4).isEmpty()) continue;
+      zeile.binde(1, heute.constData());
+      zeile.binde(2, daten->ganzzahl(i, 5));
+      zeile.fuehreAus();
+    }
+    blank.fuehreAus("commit");
+  }
+  zaehlen(zustand);
+  betriebVerwerfen();
+}
+
+// One row of each colony is closed; the others go and the series comes anew.
+void Standortreihe_blank(benchmark::State& zustand) {
+  for (auto _ : zustand) {
+    zustand.PauseTiming();
+    einStandort(voelker(zustand));
+    const Daten erste = DB.Lesen(
+        "select Volk_ID, min(ID) as Erste from Termine where Volk_ID <> 0 group by Volk_ID");
+    Blank blank(DatenbankPfad);
+    Blank::Anweisung zeile(blank.db(),
+                           "update Termine set Erledigt = 'J', Datum = ?1 where ID = ?2");
+    Blank::Anweisung weg(
+        blank.db(),
+        "delete from Termine where Erledigt = 'N' and Volk_ID = ?1 and Termin = 'Durchsicht'");
+    Blank::Anweisung neu(blank.db(),
+                         "insert into Termine(Datum, Termin, Erledigt, Volk_ID) values (?1, "
+                         "'Durchsicht', 'N', ?2)");
+    const QDate heute = DatumLesen(HeuteText);
+    std::vector<QByteArray> tage;
+    for (QDate tag = heute.addDays(serienfrist); tag.year() == heute.year();
+         tag = tag.addDays(serienfrist))
+      tage.push_back(iso(tag));
+    zustand.ResumeTiming();
+    blank.fuehreAus("begin immediate");
+    for (int i = 0; i < erste->zeilen(); ++i) {
+      zeile.binde(1, iso(heute).constData());
+      zeile.binde(2, erste->ganzzahl(i, 1));
+      zeile.fuehreAus();
+      weg.binde(1, erste->ganzzahl(i, 0));
+      weg.fuehreAus();
+      for (const QByteArray& tag : tage) {
+        neu.binde(1, tag.constData());
+        neu.binde(2, erste->ganzzahl(i, 0));
+        neu.fuehreAus();
+      }
+    }
+    blank.fuehreAus("commit");
+  }
+  zaehlen(zustand);
+  betriebVerwerfen();
+}
+
 void groesse(benchmark::internal::Benchmark* messung) {
   messung->Arg(1000)->Unit(benchmark::kMillisecond)->UseRealTime();
 }
@@ -124,5 +233,9 @@ BENCHMARK(Terminliste_programm)->Name("Termine50000Form/programm")->Apply(groess
 BENCHMARK(Terminliste_blank)->Name("Termine50000Form/blank")->Apply(groesse);
 BENCHMARK(Erledigen_programm)->Name("Termine1000Erledigen/programm")->Apply(groesse);
 BENCHMARK(Erledigen_blank)->Name("Termine1000Erledigen/blank")->Apply(groesse);
+BENCHMARK(Standort_programm)->Name("Termine50000Standort/programm")->Apply(groesse);
+BENCHMARK(Standort_blank)->Name("Termine50000Standort/blank")->Apply(groesse);
+BENCHMARK(Standortreihe_programm)->Name("Termine50000Standortreihe/programm")->Apply(groesse);
+BENCHMARK(Standortreihe_blank)->Name("Termine50000Standortreihe/blank")->Apply(groesse);
 
 }  // namespace
