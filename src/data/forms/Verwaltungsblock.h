@@ -51,11 +51,10 @@ class Verwaltungsblock : public QWidget {
   std::optional<qint64> aktuelleId() const;  // nothing without a current row
   // Makes the row of this ID current and shows it in the inputs; without one nothing changes.
   void zeigeDatensatz(qint64 id);
-  void leeren();  // the inputs as in the empty form
   void fokusAufErstesFeld();
   QPushButton* neuKnopf() const { return m_neu[0]; }
-  // The controls in the order of the keyboard.
-  QList<QWidget*> tabfolge() const;
+  // The controls in the order of the keyboard. A block with controls of its own adds them.
+  virtual QList<QWidget*> tabfolge() const;
   // Room for controls of the form: behind the buttons, and above the list.
   QBoxLayout* knopfzeile() const { return m_knopfzeile; }
   QBoxLayout* listenkopf() const { return m_listenkopf; }
@@ -96,6 +95,7 @@ class Verwaltungsblock : public QWidget {
   QWidget* eingabenBauen();
   Eingabefeld* feldBauen(int nummer);
   void verbinden();
+  void leeren();  // the inputs as in the empty form
   void zeigeZeile(int zeile);
   void speichern(bool ändern);
   void löschen();

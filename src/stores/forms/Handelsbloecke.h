@@ -46,7 +46,7 @@ class Lagerblock : public Handelsblock {
   Lagerblock();
 
   void listeLesen() override;
-  QList<QWidget*> tabfolge() const;
+  QList<QWidget*> tabfolge() const override;
   void bestandLeeren();
 
  protected:

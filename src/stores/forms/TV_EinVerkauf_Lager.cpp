@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
@@ -103,12 +104,9 @@ void TV_EinVerkauf_Lager::verbinden() {
 // ---- opening and closing ----
 
 void TV_EinVerkauf_Lager::zeigen() {
+  const auto ende = qScopeGuard([this] { entladen(); });
   laden();
   Formular::zeigen();
-  for (Verwaltungsblock* block :
-       std::initializer_list<Verwaltungsblock*>{m_einkauf, m_verkauf, m_lager})
-    block->entladen();
-  m_db.Close();
 }
 
 void TV_EinVerkauf_Lager::laden() {
@@ -124,6 +122,12 @@ void TV_EinVerkauf_Lager::laden() {
   const bool gibtEs = reiter >= 0 && reiter < m_reiter->count();
   m_reiter->setCurrentIndex(gibtEs ? static_cast<int>(reiter) : ReiterEinkauf);
   reiterGewechselt(m_reiter->currentIndex());
+}
+
+void TV_EinVerkauf_Lager::entladen() {
+  for (Verwaltungsblock* block : QList<Verwaltungsblock*>{m_einkauf, m_verkauf, m_lager})
+    block->entladen();
+  m_db.Close();
 }
 
 void TV_EinVerkauf_Lager::reiterGewechselt(int reiter) {

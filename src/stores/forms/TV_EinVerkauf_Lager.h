@@ -16,6 +16,8 @@ class TV_EinVerkauf_Lager : public Formular {
  public:
   explicit TV_EinVerkauf_Lager(QWidget* oeffner = nullptr);
 
+  // Loads, shows the form modally and returns when it was closed. Throws Datenbankfehler when it
+  // can't be loaded; it isn't shown then.
   void zeigen();
   // Loading alone: lists, pick lists, sums and the tab.
   void laden();
@@ -28,6 +30,7 @@ class TV_EinVerkauf_Lager : public Formular {
 
   void reiterGewechselt(int reiter);
   void summenZeigen();
+  void entladen();
 
   Database m_db;
   QTabWidget* m_reiter = nullptr;

@@ -59,4 +59,22 @@ TEST_F(Handelsfehler, GescheitertesLoeschenLaesstGeschaeftUndBewegung) {
   EXPECT_EQ(inhalt("sevtverkauf_1"), "Honig");
 }
 
+TEST_F(Handelsfehler, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieDatenbankNicht) {
+  db().Execute("drop table Kunden");
+  TZ_Variablen::FormModus = "1";
+  form = std::make_unique<TV_EinVerkauf_Lager>();
+  EXPECT_THROW(form->zeigen(), Datenbankfehler);
+  EXPECT_FALSE(offen());
+  for (const char* tab : {"einkauf", "verkauf", "honig"}) {
+    feld(QString("sevt%1_1").arg(tab))->setInhalt("Zucker");
+    feld(QString("sevt%1_%2").arg(tab).arg(QString(tab) == "honig" ? 2 : 4))->setInhalt("1");
+    boxen.hinweisMit("Die Datenbank ist geschlossen.");
+    kind<QPushButton>(QString("neu%1_0").arg(tab))->click();
+  }
+  boxen.hinweisMit("Die Datenbank ist geschlossen.");
+  kind<QPushButton>("rosumme")->click();
+  for (const char* tabelle : {"Einkauf", "Verkauf", "Honiglager"})
+    EXPECT_EQ(anzahl(tabelle), 0) << tabelle;
+}
+
 }  // namespace
