@@ -1,6 +1,5 @@
 #include "planning/forms/TV_Terminverwaltung.h"
 
-#include <QEvent>
 #include <QKeyEvent>
 #include <QRadioButton>
 #include <QScopedValueRollback>
@@ -30,11 +29,6 @@ Eingabefeld::Beschreibung beschreibung(Eingabefeld::Art art, int maxLaenge = 0,
   return b;
 }
 
-// The focus comes back from a pick list or from another window: the field was not left.
-bool nurUnterbrochen(Qt::FocusReason grund) {
-  return grund == Qt::PopupFocusReason || grund == Qt::ActiveWindowFocusReason;
-}
-
 // A choice gets other texts to choose from and keeps what it shows.
 void auswahlSetzen(Eingabefeld* feld, const QStringList& texte) {
   const QString vorher = feld->inhalt();
@@ -48,15 +42,6 @@ TV_Terminverwaltung::TV_Terminverwaltung(QWidget* oeffner)
     : Formular("TV_Terminverwaltung", "Terminverwaltung", oeffner) {
   aufbauen();
   verbinden();
-}
-
-// Keeps the filter's text for the comparison on leaving.
-bool TV_Terminverwaltung::eventFilter(QObject* objekt, QEvent* event) {
-  if (event->type() == QEvent::FocusIn &&
-      !nurUnterbrochen(static_cast<const QFocusEvent&>(*event).reason()))
-    for (size_t i = NurVolk; i <= Bis; ++i)
-      if (objekt == sevt[i]) m_vorher[i] = sevt[i]->inhalt();
-  return Formular::eventFilter(objekt, event);
 }
 
 // Enter in a filter goes on to the next one, so that the list is read; it books nothing.
@@ -124,9 +109,7 @@ void TV_Terminverwaltung::eingabenSetzen() {
 }
 
 void TV_Terminverwaltung::filterPruefen(size_t index) {
-  if (sevt[index]->inhalt() == m_vorher[index]) return;
-  m_vorher[index] = sevt[index]->inhalt();
-  listeLesen();
+  if (sevt[index]->inhalt() != m_gelesen[index]) listeLesen();
 }
 
 // A sort that the user has chosen stays, where the view has that column.
@@ -145,6 +128,7 @@ void TV_Terminverwaltung::listeLesen() {
   const QString spalte = litermine->spaltenName(litermine->sortierSpalte());
   const Qt::SortOrder richtung = litermine->sortierRichtung();
   litermine->setDaten(Terminverwaltung::liste(m_db, filter));
+  for (size_t i = NurVolk; i <= Bis; ++i) m_gelesen[i] = sevt[i]->inhalt();
   if (!spalte.isEmpty()) litermine->sortiere(litermine->spaltenNummer(spalte), richtung);
 }
 

@@ -25,7 +25,6 @@ class TV_Terminverwaltung : public Formular {
 
  protected:
   void done(int ergebnis) override;
-  bool eventFilter(QObject* objekt, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -74,9 +73,9 @@ class TV_Terminverwaltung : public Formular {
   Database m_db;
   std::array<QRadioButton*, 2> opti{};
   std::array<Eingabefeld*, 11> sevt{};
-  std::array<QString, 11> m_vorher;  // a filter's text when the focus came
-  bool m_abgleich = false;           // date and days are being brought into line
-  bool m_eingabenBehalten = false;   // a row becomes current without being shown
+  std::array<QString, 11> m_gelesen;  // the filters that the list shows
+  bool m_abgleich = false;            // date and days are being brought into line
+  bool m_eingabenBehalten = false;    // a row becomes current without being shown
   Grid* litermine = nullptr;
   std::array<QPushButton*, 2> neu{};
   QPushButton* löschen = nullptr;

@@ -149,8 +149,6 @@ void TV_Terminverwaltung::verbinden() {
 void TV_Terminverwaltung::filterVerbinden() {
   for (QRadioButton* o : opti)
     Ereignis::wenn(o, &QRadioButton::clicked, this, [this] { listeLesen(); });
-  for (size_t i = NurVolk; i <= Bis; ++i) {
-    sevt[i]->installEventFilter(this);
+  for (size_t i = NurVolk; i <= Bis; ++i)
     Ereignis::wenn(sevt[i], &Eingabefeld::verlassen, this, [this, i] { filterPruefen(i); });
-  }
 }

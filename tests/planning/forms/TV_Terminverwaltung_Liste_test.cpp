@@ -46,6 +46,18 @@ TEST_F(TVTerminverwaltung, FilterWirktAuchNachEinemBlickInEinAnderesFenster) {
   EXPECT_EQ(spalte("Termin"), "Steuer");
 }
 
+// Saving by its key reads the list with the filter that is just being typed.
+TEST_F(TVTerminverwaltung, NachDemSpeichernAusEinemFilterBleibtDieNeueZeileAktuell) {
+  oeffne();
+  tippe(1, "Markt");
+  tippe(4, "Markt");
+  QTest::keyClick(feld(4), Qt::Key_N, Qt::AltModifier);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return spalte("Termin") == "Markt"; }));
+  ASSERT_EQ(li()->aktuelleZeile(), 0);
+  feld(0)->setFocus();
+  EXPECT_EQ(li()->aktuelleZeile(), 0);
+}
+
 TEST_F(TVTerminverwaltung, UnveraenderterFilterLiestNichtNeu) {
   oeffne();
   klickeZeile(1);
