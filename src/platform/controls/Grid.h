@@ -95,6 +95,7 @@ class Grid : public QTableView {
   void breitenLaden();
   void breitenSichern();
   void breitenAnpassen();
+  int zellenrand(int spalte) const;
   void breiteGeaendert(int spalte, int breite);
   void zeilenhoeheAnpassen();
   void verborgeneAnwenden();

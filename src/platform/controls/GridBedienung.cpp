@@ -12,13 +12,14 @@
 #include "platform/controls/Formular.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/GridModell.h"
+#include "platform/controls/TovaStil.h"
 
 namespace {
 
 constexpr qint64 SuchpauseMs = 1000;  // after a longer one a letter begins a new search
 constexpr int GemesseneZeilen = 100;
 constexpr int GroessteBreite = 20;  // heights of a line, so that it grows with the font
-constexpr int Rand = 18;
+constexpr int Luft = 6;
 
 }  // namespace
 
@@ -124,7 +125,8 @@ bool Grid::viewportEvent(QEvent* event) {
     const QModelIndex i = indexAt(hilfe->pos());
     const QString text = i.isValid() ? m_modell->text(i.row(), i.column()) : QString();
     const bool abgeschnitten =
-        i.isValid() && fontMetrics().horizontalAdvance(text) + 8 > columnWidth(i.column());
+        i.isValid() &&
+        fontMetrics().horizontalAdvance(text) + zellenrand(i.column()) > columnWidth(i.column());
     if (abgeschnitten)
       QToolTip::showText(hilfe->globalPos(), text, viewport(), visualRect(i));
     else
@@ -184,6 +186,12 @@ void Grid::breitenLaden() {
   verborgeneAnwenden();
 }
 
+// What a cell's text leaves free, both sides together.
+int Grid::zellenrand(int spalte) const {
+  const int rand = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+  return rand + (m_modell->rechtsbuendig(spalte) ? TovaStil::zahlenrand(fontMetrics()) : 0);
+}
+
 // As wide as the heading and the longest of the first texts, within a limit.
 void Grid::breitenAnpassen() {
   const QFontMetrics mass(font());
@@ -193,7 +201,8 @@ void Grid::breitenAnpassen() {
   m_breiten.clear();
   for (int spalte = 0; spalte < spalten(); ++spalte) {
     // With room for the sort arrow, whether it stands there now or not.
-    int breite = horizontalHeader()->sectionSizeHint(spalte) - Rand;
+    const int rand = zellenrand(spalte) + Luft;
+    int breite = horizontalHeader()->sectionSizeHint(spalte) - rand;
     qsizetype laengster = 0;
     for (int zeile = 0; zeile < zeilen && breite < grenze; ++zeile) {
       const QString text = m_modell->text(zeile, spalte);
@@ -202,7 +211,7 @@ void Grid::breitenAnpassen() {
       laengster = std::max(laengster, text.size());
       breite = std::max(breite, mass.horizontalAdvance(text));
     }
-    m_breiten += std::clamp(breite + Rand, KleinsteBreite, grenze);
+    m_breiten += std::clamp(breite + rand, KleinsteBreite, grenze);
   }
   verborgeneAnwenden();
 }

@@ -43,6 +43,18 @@ Schluessel schluessel(const Datenblock& block, int zeile, int spalte) {
   return s;
 }
 
+bool sindZahlen(const Datenblock& block, int spalte) {
+  const Feldtyp typ = block.spalte(spalte).typ;
+  if (typ != Feldtyp::Ausdruck) return istZahl(typ);
+  bool eine = false;
+  for (int zeile = 0; zeile < block.zeilen(); ++zeile) {
+    if (block.istNull(zeile, spalte)) continue;
+    if (block.istText(zeile, spalte)) return false;
+    eine = true;
+  }
+  return eine;
+}
+
 QString einzeilig(QString text) {
   for (QChar& c : text)
     if (c == u'\n' || c == u'\r' || c == u'\t') c = u' ';
@@ -57,6 +69,8 @@ void GridModell::setDaten(Daten daten) {
   m_ordnung.resize(m_daten ? static_cast<size_t>(m_daten->zeilen()) : 0);
   std::iota(m_ordnung.begin(), m_ordnung.end(), 0);
   anzeigenZuordnen();
+  m_rechts.clear();
+  for (int i = 0; i < spalten(); ++i) m_rechts.push_back(sindZahlen(*m_daten, i));
   endResetModel();
 }
 
@@ -159,21 +173,16 @@ int GridModell::columnCount(const QModelIndex& eltern) const {
   return eltern.isValid() ? 0 : spalten();
 }
 
-bool GridModell::rechtsbuendig(int zeile, int spalte) const {
-  const Feldtyp typ = m_daten->spalte(spalte).typ;
-  if (typ != Feldtyp::Ausdruck) return istZahl(typ);
-  const int block = blockzeile(zeile);
-  return !m_daten->istNull(block, spalte) && !m_daten->istText(block, spalte);
-}
-
 QVariant GridModell::data(const QModelIndex& index, int rolle) const {
   if (!index.isValid() || index.row() >= zeilen() || index.column() >= spalten()) return {};
   if (rolle == Qt::DisplayRole) return einzeilig(text(index.row(), index.column()));
-  if (rolle == Qt::TextAlignmentRole)
-    return static_cast<int>(
-        (rechtsbuendig(index.row(), index.column()) ? Qt::AlignRight : Qt::AlignLeft) |
-        Qt::AlignVCenter);
+  if (rolle == Qt::TextAlignmentRole) return ausrichtung(index.column());
   return {};
+}
+
+int GridModell::ausrichtung(int spalte) const {
+  return static_cast<int>((rechtsbuendig(spalte) ? Qt::AlignRight : Qt::AlignLeft) |
+                          Qt::AlignVCenter);
 }
 
 QVariant GridModell::headerData(int nummer, Qt::Orientation richtung, int rolle) const {
@@ -184,8 +193,6 @@ QVariant GridModell::headerData(int nummer, Qt::Orientation richtung, int rolle)
   }
   if (nummer < 0 || nummer >= spalten()) return {};
   if (rolle == Qt::DisplayRole) return ueberschrift(nummer);
-  if (rolle == Qt::TextAlignmentRole)
-    return static_cast<int>(
-        (istZahl(m_daten->spalte(nummer).typ) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  if (rolle == Qt::TextAlignmentRole) return ausrichtung(nummer);
   return {};
 }

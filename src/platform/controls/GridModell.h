@@ -33,6 +33,9 @@ class GridModell : public QAbstractTableModel {
   QString text(int zeile, int spalte) const;
   QVariant wert(int zeile, int spalte) const;
   QString ueberschrift(int spalte) const;
+  // Numbers stand on the right, heading and cells alike: a column of a number's type, or an
+  // expression whose values are numbers and nothing else.
+  bool rechtsbuendig(int spalte) const { return m_rechts[static_cast<size_t>(spalte)]; }
 
   // Column -1: as the rows came. Nulls and empty texts first; equal rows keep their order.
   void sortiere(int spalte, Qt::SortOrder richtung);
@@ -46,7 +49,7 @@ class GridModell : public QAbstractTableModel {
   QVariant headerData(int nummer, Qt::Orientation richtung, int rolle) const override;
 
  private:
-  bool rechtsbuendig(int zeile, int spalte) const;
+  int ausrichtung(int spalte) const;
   void anzeigenZuordnen();
   std::vector<int> sortierteOrdnung(int spalte, Qt::SortOrder richtung) const;
 
@@ -55,5 +58,6 @@ class GridModell : public QAbstractTableModel {
   QHash<QString, Anzeige> m_anzeigen;        // by column name in lower case
   QHash<QString, QString> m_ueberschriften;  // likewise
   std::vector<const Anzeige*> m_spaltenanzeige;
+  std::vector<bool> m_rechts;  // by column
   std::function<QString(int)> m_ersteSpalte;
 };

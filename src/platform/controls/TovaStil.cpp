@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTableView>
 
 #include "platform/controls/Gestaltung.h"
 
@@ -51,6 +52,15 @@ void linieImDunkeln(QStyle::PrimitiveElement element, const QStyleOption* option
   }
 }
 
+// Whether a cell or a heading of a table stands on the right, as numbers do.
+bool stehtRechts(const QStyleOption* option, const QWidget* fenster) {
+  if (const auto* kopf = qstyleoption_cast<const QStyleOptionHeader*>(option))
+    return kopf->orientation == Qt::Horizontal && kopf->textAlignment & Qt::AlignRight;
+  const auto* zelle = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+  return zelle != nullptr && zelle->displayAlignment & Qt::AlignRight &&
+         qobject_cast<const QTableView*>(fenster) != nullptr;
+}
+
 // A disc with "i" or "?".
 QIcon meldungssymbol(const QString& zeichen) {
   const QPalette farben = QApplication::palette();
@@ -91,6 +101,40 @@ void TovaStil::drawPrimitive(PrimitiveElement element, const QStyleOption* optio
   const bool eingabe = element == PE_PanelLineEdit && hatRahmen(option);
   if ((eingabe || element == PE_PanelButtonCommand) && option->state & State_HasFocus)
     rahmen(option->rect, akzent, 2, maler);
+}
+
+int TovaStil::zahlenrand(const QFontMetrics& schrift) { return schrift.horizontalAdvance(u'0'); }
+
+void TovaStil::drawControl(ControlElement element, const QStyleOption* option, QPainter* maler,
+                           const QWidget* fenster) const {
+  if (element != CE_HeaderLabel || !stehtRechts(option, fenster)) {
+    QProxyStyle::drawControl(element, option, maler, fenster);
+    return;
+  }
+  const auto enger = [&](auto kopf) {
+    kopf.rect.adjust(0, 0, -zahlenrand(kopf.fontMetrics), 0);
+    QProxyStyle::drawControl(element, &kopf, maler, fenster);
+  };
+  // The option in its newer form or, as the style itself passes it on, in its first.
+  if (const auto* neuer = qstyleoption_cast<const QStyleOptionHeaderV2*>(option))
+    enger(*neuer);
+  else
+    enger(*qstyleoption_cast<const QStyleOptionHeader*>(option));
+}
+
+QRect TovaStil::subElementRect(SubElement element, const QStyleOption* option,
+                               const QWidget* fenster) const {
+  const QRect flaeche = QProxyStyle::subElementRect(element, option, fenster);
+  if (element != SE_ItemViewItemText || !stehtRechts(option, fenster)) return flaeche;
+  return flaeche.adjusted(0, 0, -zahlenrand(option->fontMetrics), 0);
+}
+
+QSize TovaStil::sizeFromContents(ContentsType inhalt, const QStyleOption* option,
+                                 const QSize& groesse, const QWidget* fenster) const {
+  const QSize ganz = QProxyStyle::sizeFromContents(inhalt, option, groesse, fenster);
+  if ((inhalt != CT_HeaderSection && inhalt != CT_ItemViewItem) || !stehtRechts(option, fenster))
+    return ganz;
+  return ganz + QSize(zahlenrand(option->fontMetrics), 0);
 }
 
 int TovaStil::pixelMetric(PixelMetric mass, const QStyleOption* option,

@@ -3,13 +3,23 @@
 #include <QProxyStyle>
 
 // Fusion with a frame two pixels wide around what has the keyboard, lines that can be seen on a
-// dark ground, a little air in lists and calm pictures in the message boxes.
+// dark ground, a little air in lists and calm pictures in the message boxes. In a table numbers
+// keep clear of the text in the next column.
 class TovaStil : public QProxyStyle {
  public:
   TovaStil();
 
+  // The room on the right of a table's numbers and their heading, besides the usual one.
+  static int zahlenrand(const QFontMetrics& schrift);
+
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* maler,
                      const QWidget* fenster) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* maler,
+                   const QWidget* fenster) const override;
+  QRect subElementRect(SubElement element, const QStyleOption* option,
+                       const QWidget* fenster) const override;
+  QSize sizeFromContents(ContentsType inhalt, const QStyleOption* option, const QSize& groesse,
+                         const QWidget* fenster) const override;
   int pixelMetric(PixelMetric mass, const QStyleOption* option,
                   const QWidget* fenster) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* fenster,
