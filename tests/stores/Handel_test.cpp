@@ -44,6 +44,14 @@ TEST_F(Geschaeft, EineMillionKommtGanzAn) {
   EXPECT_EQ(wert("select Abgang from Honiglager").toDouble(), 1e6);
 }
 
+// An eighth lies between neighbours of single precision there: 1234567.875 reads as 1234567.9.
+TEST_F(Geschaeft, GeldKommtInEinfacherGenauigkeitAn) {
+  Texte texte = geschaeft(Seite::Verkauf, "Wachs", "1");
+  texte["Einnahmen"] = "1234567,89";
+  Handel::geschaeftSpeichern(db(), Seite::Verkauf, texte, {});
+  EXPECT_EQ(wert("select Einnahmen from Verkauf").toDouble(), 1234567.9);
+}
+
 TEST_F(Geschaeft, ApostropheWerdenGravis) {
   verkaufe("Honig 'D'", "1", "O'Neill", "A'1");
   EXPECT_EQ(zeilen("select Produkt, Abnehmer, Charge from Verkauf"),

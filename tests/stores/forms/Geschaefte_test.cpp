@@ -82,6 +82,14 @@ TEST_F(EinkaufReiter, AendernOhneZeileSagtWasFehlt) {
   EXPECT_EQ(inhalte("einkauf"), "20.06.2006|Gläser||Meier|1||0|");
 }
 
+TEST_F(EinkaufReiter, DieGruendeKommenVorDerFrageNachDerZeile) {
+  oeffne(Einkauf);
+  tippe("sevteinkauf_4", "1");
+  boxen.hinweis(Weil + "...das Produkt angegeben werden muß.\r\n");
+  klicke("neueinkauf_1");
+  EXPECT_EQ(anzahl("Einkauf"), 0);
+}
+
 TEST_F(EinkaufReiter, HonigGehtInsLagerUndStehtDortSofort) {
   oeffne(Einkauf);
   tippeEinkauf("Honig", "40");

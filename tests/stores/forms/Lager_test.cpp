@@ -126,6 +126,21 @@ TEST_F(LagerReiter, AktualisierenZeigtDenBestandJeProduktUndCharge) {
   EXPECT_EQ(li->zelle(1 - a1, "Summe"), "4");
 }
 
+TEST_F(LagerReiter, BeimRechnenDesBestandsStehtDieSanduhr) {
+  lager("Raps", 10, 0, "A1");
+  oeffne(Lager);
+  int gelesen = 0;
+  QObject::connect(liste("ligroup")->model(), &QAbstractItemModel::modelReset, form.get(), [&] {
+    ++gelesen;
+    const QCursor* zeiger = QApplication::overrideCursor();
+    ASSERT_NE(zeiger, nullptr);
+    EXPECT_EQ(zeiger->shape(), Qt::WaitCursor);
+  });
+  klicke("comalle");
+  EXPECT_EQ(gelesen, 1);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(LagerReiter, DerBestandSagtWennErNichtAktuellIst) {
   lager("Raps", 10, 0, "A1");
   oeffne(Lager);

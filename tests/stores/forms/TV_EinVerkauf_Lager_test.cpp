@@ -81,6 +81,25 @@ TEST_F(TVEinVerkaufLager, DieListenZeigenAlleSpaltenUndMerkenIhreBreiten) {
   Fensterablage::setDatei({});
 }
 
+TEST_F(TVEinVerkaufLager, GelesenWerdenLagerEinkaufVerkaufDannDiePicklistenDannDieSummen) {
+  kaufe("Honig", "1");
+  verkaufe("Honig", "1");
+  TZ_Variablen::FormModus = "0";
+  form = std::make_unique<TV_EinVerkauf_Lager>();
+  QStringList gelesen;
+  for (const char* name : {"lieinkauf", "liverkauf", "lihonig"})
+    QObject::connect(liste(name)->model(), &QAbstractItemModel::modelReset, form.get(), [&, name] {
+      gelesen << name;
+      for (const char* produkt : {"sevteinkauf_1", "sevtverkauf_1", "sevthonig_1"})
+        EXPECT_EQ(feld(produkt)->liste(), QStringList()) << name;
+      EXPECT_EQ(summen(), "");
+    });
+  form->laden();
+  EXPECT_EQ(gelesen, QStringList({"lihonig", "lieinkauf", "liverkauf"}));
+  for (const char* produkt : {"sevteinkauf_1", "sevtverkauf_1", "sevthonig_1"})
+    EXPECT_EQ(feld(produkt)->liste(), QStringList("Honig")) << produkt;
+}
+
 TEST_F(TVEinVerkaufLager, BeimOeffnenVorgabenUndDieLetzteZeileAktuell) {
   verkaufe("Honig", "2");
   db().Execute("update Verkauf set Datum = ?", {QDate(2006, 8, 1)});
