@@ -1,6 +1,7 @@
 #include "planning/forms/TV_Terminverwaltung.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QRadioButton>
 #include <QScopedValueRollback>
 
@@ -128,6 +129,7 @@ void TV_Terminverwaltung::listeLesen() {
   const QString spalte = litermine->spaltenName(litermine->sortierSpalte());
   const Qt::SortOrder richtung = litermine->sortierRichtung();
   litermine->setDaten(Terminverwaltung::liste(m_db, filter));
+  m_ausgeblendet->clear();
   for (size_t i = NurVolk; i <= Bis; ++i) m_gelesen[i] = sevt[i]->inhalt();
   if (!spalte.isEmpty()) litermine->sortiere(litermine->spaltenNummer(spalte), richtung);
 }
@@ -200,10 +202,19 @@ void TV_Terminverwaltung::speichern(bool neuerTermin) {
   const qint64 neueId = standort && neuerTermin
                             ? amStandortEintragen(daten)
                             : Terminverwaltung::speichern(m_db, daten, pruefung.volkId, alt);
-  listeLesen();
-  aktuellSetzen(neueId);
+  if (neuerTermin && neueId != 0) opti[standort || pruefung.volkId != 0 ? 1 : 0]->setChecked(true);
+  gespeichertesZeigen(neueId);
   Tastenton();
   eingabenSetzen();
+}
+
+// Where the view or a filter hides it the form says so, else it would be entered again. An ID of 0
+// is nothing saved.
+void TV_Terminverwaltung::gespeichertesZeigen(qint64 id) {
+  listeLesen();
+  aktuellSetzen(id);
+  if (id != 0 && litermine->aktuelleZeile() < 0)
+    m_ausgeblendet->setText("Gespeichert. Die Einschränkung oben blendet den Termin aus.");
 }
 
 // What a failure half way has left written stands in the list: pressing the button again would

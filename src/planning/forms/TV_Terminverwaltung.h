@@ -8,6 +8,7 @@
 class Eingabefeld;
 class Grid;
 class QGridLayout;
+class QLabel;
 class QPushButton;
 class QRadioButton;
 
@@ -61,6 +62,7 @@ class TV_Terminverwaltung : public Formular {
   void tageGeaendert();
   void datumGeaendert();
   void speichern(bool neuerTermin);
+  void gespeichertesZeigen(qint64 id);
   qint64 amStandortEintragen(const Terminverwaltung::Eingabe& daten);
   void loeschen();
   void erledigteLoeschen();
@@ -77,6 +79,7 @@ class TV_Terminverwaltung : public Formular {
   bool m_abgleich = false;            // date and days are being brought into line
   bool m_eingabenBehalten = false;    // a row becomes current without being shown
   Grid* litermine = nullptr;
+  QLabel* m_ausgeblendet = nullptr;  // says so when a filter hides what was saved
   std::array<QPushButton*, 2> neu{};
   QPushButton* löschen = nullptr;
   QPushButton* lschalleerledigte = nullptr;

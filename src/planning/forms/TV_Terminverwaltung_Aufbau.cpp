@@ -119,7 +119,10 @@ QWidget* TV_Terminverwaltung::fussBauen() {
   auto* leiste = new QWidget;
   auto* zeile = new QHBoxLayout(leiste);
   zeile->setContentsMargins(0, 0, 0, 0);
+  m_ausgeblendet = new QLabel;
+  m_ausgeblendet->setObjectName("ausgeblendet");
   zeile->addWidget(ok);
+  zeile->addWidget(m_ausgeblendet);
   zeile->addStretch(1);
   zeile->addWidget(hilfe);
   zeile->addWidget(schließen);
