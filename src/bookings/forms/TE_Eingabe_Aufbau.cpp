@@ -6,7 +6,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -65,9 +64,7 @@ TE_Eingabe::TE_Eingabe(QWidget* oeffner)
   tabFolgeSetzen();
   verbinden();
   // Room for long names and a dozen bookings, where the screen has it.
-  const QSize schirm = screen()->availableSize() - QSize(20, 60);
-  const QSize wunsch(140 * fontMetrics().averageCharWidth(), 44 * fontMetrics().height());
-  resize(wunsch.boundedTo(schirm));
+  Bauteile::fenstergroesse(this, 140, 44);
 }
 
 QWidget* TE_Eingabe::baueVoelker() {
@@ -197,5 +194,5 @@ void TE_Eingabe::tabFolgeSetzen() {
   for (QAbstractButton* k : m_anzeige->buttons()) folge.append(k);
   folge << m_li << m_kom << m_volkli << m_nextvolk[0] << m_nextvolk[1];
   for (QAbstractButton* k : m_opti->buttons()) folge.append(k);
-  for (qsizetype i = 1; i < folge.size(); ++i) setTabOrder(folge[i - 1], folge[i]);
+  Bauteile::tabfolge(folge);
 }

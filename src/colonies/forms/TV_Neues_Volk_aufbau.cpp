@@ -152,5 +152,5 @@ void TV_Neues_Volk::reihenfolgeSetzen() {
   }
   folge << ok << oknächster[0] << oknächster[1] << standard << comhilfe << cmdabbrechen
         << reiter->tabBar();
-  for (qsizetype i = 1; i < folge.size(); ++i) setTabOrder(folge.at(i - 1), folge.at(i));
+  Bauteile::tabfolge(folge);
 }

@@ -10,6 +10,7 @@
 #include "core/globals.h"
 #include "core/main_list.h"
 #include "data/helpers.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Meldungen.h"
@@ -138,7 +139,7 @@ void TV_Selektieren::reihenfolgeSetzen() {
   QList<QWidget*> folge = {kon[0], kon[1], entselekt[0], entselekt[1], entselekt[7]};
   for (const size_t i : {2, 3, 4, 5, 6}) folge << entselekt[i] << sevt[i - 2];
   folge << entselekt[8] << sevt[Bezug] << sevt[Zahl] << comhilfe << schliessen;
-  for (qsizetype i = 1; i < folge.size(); ++i) setTabOrder(folge.at(i - 1), folge.at(i));
+  Bauteile::tabfolge(folge);
 }
 
 // Enter in an input does what the button beside it does.

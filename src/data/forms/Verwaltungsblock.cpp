@@ -9,6 +9,7 @@
 
 #include "data/forms/helpers_forms.h"
 #include "data/helpers.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Formular.h"
@@ -16,6 +17,7 @@
 #include "platform/controls/Meldungen.h"
 
 using namespace Verwaltung;
+using Bauteile::knopf;
 
 namespace {
 
@@ -46,13 +48,6 @@ Eingabefeld::Beschreibung beschreibung(const Feld& feld) {
       break;
   }
   return b;
-}
-
-QPushButton* knopf(const QString& text, const QString& name, const QString& hinweis) {
-  auto* ergebnis = new QPushButton(text);
-  ergebnis->setObjectName(name);
-  ergebnis->setToolTip(hinweis);
-  return ergebnis;
 }
 
 }  // namespace

@@ -61,12 +61,8 @@ void TA_Zwischenliste::aufbauen() {
   seite->addWidget(gridli, 1);
   seite->addWidget(meter);
   seite->addWidget(knopfleiste());
-  QWidget* vorher = gridli;
-  for (QWidget* w : std::initializer_list<QWidget*>{kon, comtext, comexcel, roexplorer[0],
-                                                    roexplorer[1], hilfe, cmdschließen}) {
-    setTabOrder(vorher, w);
-    vorher = w;
-  }
+  Bauteile::tabfolge(
+      {gridli, kon, comtext, comexcel, roexplorer[0], roexplorer[1], hilfe, cmdschließen});
   // Wide lists want room: most of the screen, and never more than it has.
   const QSize frei = screen()->availableGeometry().size();
   resize(QSize(1000, 640).boundedTo(frei * 9 / 10));

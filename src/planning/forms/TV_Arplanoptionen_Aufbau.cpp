@@ -8,9 +8,12 @@
 #include <QScreen>
 
 #include "planning/forms/TV_Arplanoptionen.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
+
+using Bauteile::knopf;
 
 namespace {
 
@@ -33,12 +36,6 @@ const std::array<Feld, 7>& felder() {
        {"Autom. Erled. Buchung", {Art::Auswahl, 15, 0, {}, {}, {}, erledigtBuchungen()}, 1, 1},
        {"Autom. Erled. Arbeitsart", {Art::Auswahl, 30, 0, {}, {}, {}, {}}, 2, 1}}};
   return liste;
-}
-
-QPushButton* knopf(const QString& text, const QString& name) {
-  auto* k = new QPushButton(text);
-  k->setObjectName(name);
-  return k;
 }
 
 // A row of buttons without a margin of its own.
@@ -145,5 +142,5 @@ void TV_Arplanoptionen::reihenfolgeSetzen() {
   for (Eingabefeld* feld : sevt) folge << feld;
   folge << m_neu[0] << m_neu[1] << m_loeschen << calender << terminverwaltung << hilfe
         << m_schliessen;
-  for (qsizetype i = 1; i < folge.size(); ++i) setTabOrder(folge.at(i - 1), folge.at(i));
+  Bauteile::tabfolge(folge);
 }

@@ -8,17 +8,13 @@
 #include <algorithm>
 
 #include "planning/forms/TV_Starttermine.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Grid.h"
 
-namespace {
+using Bauteile::knopfOhneEnter;
 
-QPushButton* knopf(const QString& text, const QString& name) {
-  auto* k = new QPushButton(text);
-  k->setObjectName(name);
-  k->setAutoDefault(false);
-  return k;
-}
+namespace {
 
 Eingabefeld* feld(size_t index, Eingabefeld::Art art, int maxLaenge = 0) {
   auto* f = new Eingabefeld;
@@ -74,9 +70,9 @@ QWidget* TV_Starttermine::tagBauen() {
 }
 
 QWidget* TV_Starttermine::einzelnBauen() {
-  cmdok[0] = knopf("Aktuellen Termin erledigen zum obigen Datum", "cmdok_0");
-  cmdok[1] = knopf("Markierte Termine erledigen", "cmdok_1");
-  cmdok[2] = knopf("Alle Termine bis heute erledigen", "cmdok_2");
+  cmdok[0] = knopfOhneEnter("Aktuellen Termin erledigen zum obigen Datum", "cmdok_0");
+  cmdok[1] = knopfOhneEnter("Markierte Termine erledigen", "cmdok_1");
+  cmdok[2] = knopfOhneEnter("Alle Termine bis heute erledigen", "cmdok_2");
   cmdok[0]->setToolTip("Ein Doppelklick in der Liste erledigt am geplanten Tag");
   cmdok[1]->setToolTip(
       "Alle farbigen Zeilen der Liste, jede an ihrem geplanten Tag.\n"
@@ -93,7 +89,7 @@ QWidget* TV_Starttermine::standortBauen() {
   sevt[Art] = feld(Art, Eingabefeld::Art::Text, 30);
   sevt[Ort] = feld(Ort, Eingabefeld::Art::Text, 100);
   sevt[Bis] = feld(Bis, Eingabefeld::Art::Datum);
-  cmdok[3] = knopf("zum obigen Datum erledigen", "cmdok_3");
+  cmdok[3] = knopfOhneEnter("zum obigen Datum erledigen", "cmdok_3");
   cmdok[3]->setToolTip("Zum Erledigungsdatum erledigen");
 
   // Else "obig" would be taken for the date right above the button.
@@ -107,12 +103,12 @@ QWidget* TV_Starttermine::standortBauen() {
 }
 
 QWidget* TV_Starttermine::fussBauen() {
-  ok = knopf("&Liste", "ok");
+  ok = knopfOhneEnter("&Liste", "ok");
   ok->setToolTip("Die Termine listen");
-  okgruppiert = knopf("Liste &gruppiert", "okgruppiert");
+  okgruppiert = knopfOhneEnter("Liste &gruppiert", "okgruppiert");
   okgruppiert->setToolTip("Je Standort, Tag und Termin die Zahl der Völker listen");
-  hilfe = knopf("&Hilfe", "hilfe");
-  schließen = knopf("&Schließen", QString("schließen"));
+  hilfe = knopfOhneEnter("&Hilfe", "hilfe");
+  schließen = knopfOhneEnter("&Schließen", QString("schließen"));
   schließen->setDefault(true);
   auto* leiste = new QWidget;
   auto* zeile = new QHBoxLayout(leiste);

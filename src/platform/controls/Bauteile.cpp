@@ -4,7 +4,9 @@
 #include <QBoxLayout>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 
 namespace Bauteile {
 
@@ -32,6 +34,33 @@ QPushButton* okUndSchliessen(QDialog* dialog, QBoxLayout* seite) {
   QObject::connect(knoepfe, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
   QObject::connect(knoepfe, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
   return ok;
+}
+
+QLabel* ueberschrift(const QString& text) {
+  auto* label = new QLabel(text);
+  QFont schrift = label->font();
+  schrift.setBold(true);
+  label->setFont(schrift);
+  return label;
+}
+
+QWidget* reiterseite(QWidget* inhalt) {
+  auto* seite = new QWidget;
+  auto* spalte = new QVBoxLayout(seite);
+  spalte->addWidget(inhalt);
+  return seite;
+}
+
+void tabfolge(const QList<QWidget*>& folge) {
+  for (qsizetype i = 1; i < folge.size(); ++i) QWidget::setTabOrder(folge[i - 1], folge[i]);
+}
+
+void fenstergroesse(QWidget* fenster, int zeichen, int zeilen) {
+  const QFontMetrics schrift = fenster->fontMetrics();
+  const QSize wunsch(zeichen * schrift.averageCharWidth(), zeilen * schrift.height());
+  const QSize rahmenUndLeiste(20, 60);  // around the window and at the edge of the screen
+  fenster->resize(wunsch.expandedTo(fenster->minimumSizeHint())
+                      .boundedTo(fenster->screen()->availableSize() - rahmenUndLeiste));
 }
 
 QWidget* fensterDarunter(QWidget* ueber) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 class QDialog;
 class QBoxLayout;
+class QLabel;
 class QPushButton;
 class QWidget;
 
@@ -25,6 +27,17 @@ QPushButton* knopfOhneEnter(const QString& text, const QString& name);
 // The row ok (default) and schliessen of a small question at the end of its layout; they accept and
 // reject the dialog. Returns ok.
 QPushButton* okUndSchliessen(QDialog* dialog, QBoxLayout* seite);
+
+// A heading above a list, in bold.
+QLabel* ueberschrift(const QString& text);
+// A page of a tab widget: the content with the margin that a page has.
+QWidget* reiterseite(QWidget* inhalt);
+
+// The Tab key goes from one to the next. All must stand in the window.
+void tabfolge(const QList<QWidget*>& folge);
+// The window's first size: so many average characters wide and so many lines high, no less than its
+// content needs and no more than the screen has.
+void fenstergroesse(QWidget* fenster, int zeichen, int zeilen);
 
 // The window over which a box or a dialog appears: that of the given control, else the active one.
 QWidget* fensterDarunter(QWidget* ueber);

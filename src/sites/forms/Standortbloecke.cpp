@@ -4,6 +4,7 @@
 #include <QLabel>
 
 #include "data/helpers.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Grid.h"
 #include "sites/Standorte.h"
 
@@ -106,15 +107,11 @@ QString Pflanzenblock::vorSpeichern(const Texte& texte, std::optional<qint64> id
 
 Trachtblock::Trachtblock() : Verwaltungsblock(trachtplan()) {
   listeEinrichten(*liste(), felder(), {"Standort_Kennung", "ID"});
-  auto* titel = new QLabel(liste()->accessibleName());
-  QFont schrift = titel->font();
-  schrift.setBold(true);
-  titel->setFont(schrift);
   bezproz = new QLabel("0");
   bezproz->setObjectName("bezproz");
   bezproz->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   bezproz->setMinimumWidth(fontMetrics().horizontalAdvance("00000"));
-  listenkopf()->addWidget(titel);
+  listenkopf()->addWidget(Bauteile::ueberschrift(liste()->accessibleName()));
   listenkopf()->addSpacing(2 * fontMetrics().averageCharWidth());
   listenkopf()->addStretch(1);
   listenkopf()->addWidget(new QLabel("Pflanzen am Standort in %: "));

@@ -3,29 +3,25 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QScreen>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
 #include <map>
 
 #include "core/globals.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
 #include "sites/Standorte.h"
 #include "sites/forms/Standortbloecke.h"
 
+using Bauteile::knopf;
+using Bauteile::reiterseite;
+
 namespace {
 
 enum Reiter { ReiterStandorte, ReiterJeStandort, ReiterPflanzen };
-
-QPushButton* knopf(const QString& text, const QString& name, const QString& hinweis = {}) {
-  auto* ergebnis = new QPushButton(text);
-  ergebnis->setObjectName(name);
-  ergebnis->setToolTip(hinweis);
-  return ergebnis;
-}
 
 // The IDs of the sites in the chooser, whose rows have none. Both lists come in the same order, so
 // the rows of one name belong together in theirs; 0 for a site that isn't listed.
@@ -68,24 +64,15 @@ void TV_Pflanzen_Standorte::aufbauen() {
   m_reiter = new QTabWidget;
   m_reiter->setObjectName("reiter");
   m_reiter->setAccessibleName("Standorte und Pflanzen");
-  m_reiter->addTab(reiterBauen(m_standorte), "Standorte");
+  m_reiter->addTab(reiterseite(m_standorte), "Standorte");
   m_reiter->addTab(reiterJeStandort(), "Pflanzen je Standort");
-  m_reiter->addTab(reiterBauen(m_pflanzen), "Pflanzen");
+  m_reiter->addTab(reiterseite(m_pflanzen), "Pflanzen");
 
   auto* spalte = new QVBoxLayout(this);
   spalte->addWidget(m_reiter, 1);
   spalte->addWidget(fussBauen());
   reihenfolgeSetzen();
-  const QSize schirm = screen()->availableSize() - QSize(20, 60);
-  const QSize wunsch(145 * fontMetrics().averageCharWidth(), 38 * fontMetrics().height());
-  resize(wunsch.expandedTo(minimumSizeHint()).boundedTo(schirm));
-}
-
-QWidget* TV_Pflanzen_Standorte::reiterBauen(QWidget* block) {
-  auto* seite = new QWidget;
-  auto* spalte = new QVBoxLayout(seite);
-  spalte->addWidget(block);
-  return seite;
+  Bauteile::fenstergroesse(this, 145, 38);
 }
 
 // Left the site chooser, right what grows there.
@@ -104,7 +91,7 @@ QWidget* TV_Pflanzen_Standorte::reiterJeStandort() {
   teiler->setSizes({300, 600});
   teiler->setChildrenCollapsible(false);
   teiler->setHandleWidth(2 * fontMetrics().averageCharWidth());
-  return reiterBauen(teiler);
+  return reiterseite(teiler);
 }
 
 QWidget* TV_Pflanzen_Standorte::fussBauen() {
@@ -126,7 +113,7 @@ void TV_Pflanzen_Standorte::reihenfolgeSetzen() {
   QList<QWidget*> folge{m_reiter->tabBar()};
   folge << m_standorte->tabfolge() << lijeort << m_tracht->tabfolge() << m_pflanzen->tabfolge()
         << comstandortlisten << hilfe << beenden;
-  for (qsizetype i = 1; i < folge.size(); ++i) setTabOrder(folge[i - 1], folge[i]);
+  Bauteile::tabfolge(folge);
 }
 
 void TV_Pflanzen_Standorte::verbinden() {

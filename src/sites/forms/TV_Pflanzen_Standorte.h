@@ -24,7 +24,6 @@ class TV_Pflanzen_Standorte : public Formular {
 
  private:
   void aufbauen();
-  QWidget* reiterBauen(QWidget* block);
   QWidget* reiterJeStandort();
   QWidget* fussBauen();
   void verbinden();

@@ -9,9 +9,12 @@
 
 #include "core/globals.h"
 #include "data/helpers.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 
+using Bauteile::knopfOhneEnter;
+using Bauteile::ueberschrift;
 using Handel::Seite;
 using Verwaltung::Texte;
 
@@ -76,14 +79,6 @@ class Knopfsperre {
   QList<QPushButton*> m_gesperrt;
 };
 
-QLabel* ueberschrift(const QString& text) {
-  auto* label = new QLabel(text);
-  QFont schrift = label->font();
-  schrift.setBold(true);
-  label->setFont(schrift);
-  return label;
-}
-
 QVBoxLayout* spalteIn(QWidget* seite) {
   auto* spalte = new QVBoxLayout(seite);
   spalte->setContentsMargins(0, 0, 0, 0);
@@ -121,14 +116,18 @@ QStringList Geschaeftsblock::prüfe(const Texte& texte, bool) {
 // would book it twice.
 qint64 Geschaeftsblock::schreiben(const Texte& texte, std::optional<qint64> id,
                                   const QVariantHash&) {
+  const bool honig = Handel::istHonig(texte["Produkt"]);
   qint64 gespeichert = 0;
   try {
     gespeichert = Handel::geschaeftSpeichern(datenbank(), m_seite, texte, id);
   } catch (const Datenbankfehler& fehler) {
-    if (!fehler.allesVerworfen()) listeLesen();
+    if (!fehler.allesVerworfen()) {
+      listeLesen();
+      if (honig) m_lagerLesen();
+    }
     throw;
   }
-  if (Handel::istHonig(texte["Produkt"])) m_lagerLesen();
+  if (honig) m_lagerLesen();
   return gespeichert;
 }
 
@@ -170,10 +169,8 @@ QWidget* Lagerblock::bestandBauen() {
   ligroup->setAccessibleName("Bestand je Produkt und Charge");
   ligroup->setLayoutSchluessel("tv_einverkauf_lager_ligroup");
   ligroup->setSelectionMode(QAbstractItemView::SingleSelection);
-  comalle = new QPushButton("Aktualisieren");
-  comalle->setObjectName("comalle");
+  comalle = knopfOhneEnter("Aktualisieren", "comalle");
   comalle->setToolTip("Den Bestand je Produkt und Charge neu ausrechnen");
-  comalle->setAutoDefault(false);
   Ereignis::wenn(comalle, &QPushButton::clicked, this, [this] { bestandZeigen(); });
   auto* rechts = new QWidget;
   QVBoxLayout* spalte = spalteIn(rechts);

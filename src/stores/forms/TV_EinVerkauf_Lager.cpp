@@ -4,33 +4,22 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 
 #include "core/globals.h"
 #include "data/helpers.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 #include "stores/forms/Handelsbloecke.h"
 
+using Bauteile::knopf;
+using Bauteile::reiterseite;
+
 namespace {
 
 enum Reiter { ReiterEinkauf, ReiterVerkauf, ReiterLager };
-
-QPushButton* knopf(const QString& text, const QString& name, const QString& hinweis = {}) {
-  auto* ergebnis = new QPushButton(text);
-  ergebnis->setObjectName(name);
-  ergebnis->setToolTip(hinweis);
-  return ergebnis;
-}
-
-QWidget* seite(QWidget* block) {
-  auto* ergebnis = new QWidget;
-  auto* spalte = new QVBoxLayout(ergebnis);
-  spalte->addWidget(block);
-  return ergebnis;
-}
 
 }  // namespace
 
@@ -51,17 +40,15 @@ void TV_EinVerkauf_Lager::aufbauen() {
   m_reiter = new QTabWidget;
   m_reiter->setObjectName("reiter");
   m_reiter->setAccessibleName("Einkäufe, Verkäufe und Honiglager");
-  m_reiter->addTab(seite(m_einkauf), "Einkäufe");
-  m_reiter->addTab(seite(m_verkauf), "Verkäufe");
-  m_reiter->addTab(seite(m_lager), "Honiglager");
+  m_reiter->addTab(reiterseite(m_einkauf), "Einkäufe");
+  m_reiter->addTab(reiterseite(m_verkauf), "Verkäufe");
+  m_reiter->addTab(reiterseite(m_lager), "Honiglager");
 
   auto* spalte = new QVBoxLayout(this);
   spalte->addWidget(m_reiter, 1);
   spalte->addWidget(fussBauen());
   reihenfolgeSetzen();
-  const QSize schirm = screen()->availableSize() - QSize(20, 60);
-  const QSize wunsch(180 * fontMetrics().averageCharWidth(), 38 * fontMetrics().height());
-  resize(wunsch.expandedTo(minimumSizeHint()).boundedTo(schirm));
+  Bauteile::fenstergroesse(this, 180, 38);
 }
 
 QWidget* TV_EinVerkauf_Lager::fussBauen() {
@@ -90,7 +77,7 @@ void TV_EinVerkauf_Lager::reihenfolgeSetzen() {
   QList<QWidget*> folge{m_reiter->tabBar()};
   folge << m_einkauf->tabfolge() << m_verkauf->tabfolge() << m_lager->tabfolge() << comlisten
         << rosumme << hilfe << beenden;
-  for (qsizetype i = 1; i < folge.size(); ++i) setTabOrder(folge[i - 1], folge[i]);
+  Bauteile::tabfolge(folge);
 }
 
 void TV_EinVerkauf_Lager::verbinden() {

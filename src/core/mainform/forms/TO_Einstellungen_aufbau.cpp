@@ -332,5 +332,5 @@ void TO_Einstellungen::reihenfolgeSetzen() {
   folge << litext1 << litext2 << alle << keine;
   for (const Feldliste& f : m_feldlisten) folge << f.liste << f.knopf[0] << f.knopf[1];
   folge << ok << standard << comhilfe << cmdabbrechen << reiter->tabBar();
-  for (qsizetype i = 1; i < folge.size(); ++i) setTabOrder(folge.at(i - 1), folge.at(i));
+  Bauteile::tabfolge(folge);
 }
