@@ -44,6 +44,22 @@ TEST_F(Handelsfehler, WasHalbGeschriebenIstStehtInDerListe) {
   EXPECT_EQ(anzahl("Honiglager"), 0);
 }
 
+TEST_F(Handelsfehler, GingNurDieAlteBewegungWegStehtSieNichtMehrImLager) {
+  verkaufe("Honig", "3");
+  oeffne(Verkauf);
+  waehle("liverkauf", 0);
+  tippe("sevtverkauf_4", "4");
+  Verbindung::zu(TZ_Variablen::DatenbankPfad)
+      ->steuere(
+          "create trigger kaputt before insert on Honiglager begin select raise(fail, 'x'); end");
+  boxen.hinweisMit("");
+  klicke("neuverkauf_1");
+  EXPECT_EQ(zeilen("select Menge from Verkauf"), QStringList("4"));
+  EXPECT_EQ(liste("liverkauf")->zelle(0, "Menge"), "4");
+  EXPECT_EQ(anzahl("Honiglager"), 0);
+  EXPECT_EQ(liste("lihonig")->zeilen(), 0);
+}
+
 TEST_F(Handelsfehler, GescheitertesLoeschenLaesstGeschaeftUndBewegung) {
   verkaufe("Honig", "3");
   oeffne(Verkauf);
