@@ -20,6 +20,21 @@ class Terminbestand : public Testbetrieb {
     return db().LetzteID();
   }
 
+  // A season's appointments: twelve colonies at three sites, long names among them.
+  static void saison() {
+    const QStringList orte = {"Hausgarten", "Lindenallee am Schloßpark hinter der Mühle", "Heide"};
+    const QStringList arten = {"Schwarmkontrolle", "Honigraum aufsetzen",
+                               "Behandlung mit Ameisensäure"};
+    for (int i = 0; i < 12; ++i) {
+      const qint64 volk = neuesVolk(QString::number(i + 1), "X", orte[i % 3]);
+      db().Execute("update Bienenvolk set Volkname = ? where ID = ?",
+                   {QString(i % 2 == 0 ? "Anna von der Au" : "Berta"), volk});
+      for (int k = 0; k < 3; ++k) termin(tag(6, 8 + 4 * k + i % 2), arten[k], volk);
+    }
+    termin(tag(6, 16), "Imkerstammtisch");
+    termin(tag(6, 17), "Honigprämierung anmelden", 0, "J");
+  }
+
   // The appointments as "dd.mm. text flag colony; ...", by ID.
   static std::string termine(const QString& bedingung = {}) {
     const Daten daten =

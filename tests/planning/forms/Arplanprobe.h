@@ -1,15 +1,10 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QLabel>
-#include <QTest>
-#include <memory>
 
 #include "colonies/Testbetrieb.h"
+#include "gemeinsam/Formularprobe.h"
 #include "planning/forms/TV_Arplanoptionen.h"
-#include "platform/controls/Eingabefeld.h"
-#include "platform/controls/Grid.h"
-#include "platform/controls/Meldungen.h"
 
 inline const QString Loeschfrage =
     "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
@@ -23,51 +18,26 @@ inline const QString Aendernhinweis =
     "Arbeitsart geändert wird. Falls Sie ein anderes Datenfeld ändern möchten, dann müssen Sie den "
     "Termin vorher löschen und wieder neu anlegen.";
 
-// The form of the work plan options on the 20th of June 2006, driven by key and mouse. Boxes that
-// no test expected fail.
-class Arplanprobe : public Testbetrieb {
+// The form of the work plan options on the 20th of June 2006.
+class Arplanprobe : public Formularprobe<TV_Arplanoptionen, Testbetrieb> {
  protected:
   void SetUp() override {
-    Testbetrieb::SetUp();
+    Formularprobe::SetUp();
     TZ_Variablen::EinstellungenZahl[55] = 1;
     db().Execute("delete from Arbeitsplanoptionen");
   }
-  void TearDown() override {
-    EXPECT_EQ(boxen.fehler().toStdString(), "");
-    form.reset();
-    Testbetrieb::TearDown();
-  }
 
-  void oeffne() {
-    form = std::make_unique<TV_Arplanoptionen>();
-    form->laden();
-    form->show();
-    form->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-  }
-  template <typename T = QWidget>
-  T* kind(const QString& name) {
-    T* k = form->findChild<T*>(name);
-    if (k == nullptr) ADD_FAILURE() << "fehlt: " << name.toStdString();
-    return k;
-  }
-  Eingabefeld* feld(int i) { return kind<Eingabefeld>(QString("sevt_%1").arg(i)); }
   QStringList inhalte() {
     QStringList texte;
     for (int i = 0; i < 7; ++i) texte << feld(i)->inhalt();
     return texte;
   }
+  // A choice takes the first letter.
   void tippe(int i, const QString& text) {
-    Eingabefeld* f = feld(i);
-    f->setFocus();
-    if (f->art() == Eingabefeld::Art::Auswahl) {
-      f->setInhalt({});
-      if (!text.isEmpty()) QTest::keyClicks(f, text.left(1));
-      return;
-    }
-    f->selectAll();
-    QTest::keyClick(f, Qt::Key_Delete);
-    QTest::keyClicks(f, text);
+    if (feld(i)->art() != Eingabefeld::Art::Auswahl) return Formularprobe::tippe(i, text);
+    feld(i)->setFocus();
+    feld(i)->setInhalt({});
+    QTest::keyClicks(feld(i), text.left(1));
   }
   void fuelle(const QString& name, const QString& start, const QString& ende, const QString& volk) {
     tippe(0, name);
@@ -75,15 +45,8 @@ class Arplanprobe : public Testbetrieb {
     tippe(2, ende);
     tippe(4, volk);
   }
-  void klicke(const QString& name) {
-    QTest::mouseClick(kind<QAbstractButton>(name), Qt::LeftButton);
-  }
   Grid* liste() { return kind<Grid>("liarplan"); }
-  void klickeZeile(int zeile) {
-    Grid* grid = liste();
-    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
-                      grid->visualRect(grid->model()->index(zeile, 0)).center());
-  }
+  void klickeZeile(int zeile) { waehle("liarplan", zeile); }
   QStringList namen() {
     QStringList texte;
     for (int i = 0; i < liste()->zeilen(); ++i) texte << liste()->zelle(i, "Arbeitsart");
@@ -93,7 +56,4 @@ class Arplanprobe : public Testbetrieb {
     db().Execute("insert into Termine(Datum, Termin, Erledigt, Volk_ID) values (?, ?, 'N', ?)",
                  {datum, text, volk});
   }
-
-  Meldungen::Probe boxen;
-  std::unique_ptr<TV_Arplanoptionen> form;
 };

@@ -95,7 +95,7 @@ TEST_F(TVStarttermine, ZeileBleibtAktuellNachDemErledigenDerMarkierten) {
   fuenf();
   oeffne();
   klickeZeile(0);
-  QTest::mouseClick(li()->viewport(), Qt::LeftButton, Qt::ControlModifier, mitte(2));
+  QTest::mouseClick(li()->viewport(), Qt::LeftButton, Qt::ControlModifier, mitte(li(), 2));
   ASSERT_EQ(li()->aktuelleZeile(), 2);
   boxen.frage("Sollen die 2 Termine wirklich als erledigt markiert werden?", true);
   klicke("cmdok_1");

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QTest>
+#include <memory>
+
+#include "data/helpers.h"
+#include "platform/controls/Eingabefeld.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/Meldungen.h"
+
+// A form in a program folder of its own (Basis), driven by key and mouse on its named controls.
+// Boxes that no test expected fail.
+template <typename Form, typename Basis>
+class Formularprobe : public Basis {
+ protected:
+  void SetUp() override {
+    Basis::SetUp();
+    Eingabefeld::setDatumErgaenzer([](const QString& text) { return DatumErgaenzen(text); });
+  }
+  void TearDown() override {
+    EXPECT_EQ(boxen.fehler().toStdString(), "");
+    form.reset();
+    Basis::TearDown();
+  }
+
+  void oeffne() {
+    form = std::make_unique<Form>();
+    form->laden();
+    form->show();
+    form->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  }
+  bool offen() const { return form->isVisible(); }
+
+  template <typename T = QWidget>
+  T* kind(const QString& name) {
+    T* k = form->template findChild<T*>(name);
+    EXPECT_NE(k, nullptr) << name.toStdString();
+    return k;
+  }
+  Eingabefeld* feld(const QString& name) { return kind<Eingabefeld>(name); }
+  Eingabefeld* feld(int index) { return feld(QString("sevt_%1").arg(index)); }
+  std::string inhalt(const QString& name) { return feld(name)->inhalt().toStdString(); }
+  std::string inhalt(int index) { return feld(index)->inhalt().toStdString(); }
+  Grid* liste(const QString& name) { return kind<Grid>(name); }
+
+  // Types over what stands in the input.
+  static void tippe(Eingabefeld* eingabe, const QString& text) {
+    eingabe->setFocus();
+    eingabe->selectAll();
+    if (eingabe->art() != Eingabefeld::Art::Auswahl) QTest::keyClick(eingabe, Qt::Key_Delete);
+    for (const QChar zeichen : text)  // keyClicks knows no umlauts
+      QTest::sendKeyEvent(QTest::Click, eingabe, static_cast<Qt::Key>(zeichen.toUpper().unicode()),
+                          QString(zeichen), Qt::NoModifier);
+  }
+  void tippe(const QString& name, const QString& text) { tippe(feld(name), text); }
+  void tippe(int index, const QString& text) { tippe(feld(index), text); }
+
+  // At its left end, where a check box has its mark.
+  void klicke(const QString& name) {
+    auto* knopf = kind<QAbstractButton>(name);
+    QTest::mouseClick(knopf, Qt::LeftButton, {}, QPoint(8, knopf->height() / 2));
+  }
+  static QPoint mitte(Grid* grid, int zeile) {
+    const QModelIndex index = grid->model()->index(zeile, 0);
+    grid->scrollTo(index);
+    return grid->visualRect(index).center();
+  }
+  void waehle(const QString& grid, int zeile) {
+    QTest::mouseClick(liste(grid)->viewport(), Qt::LeftButton, {}, mitte(liste(grid), zeile));
+  }
+
+  Meldungen::Probe boxen;
+  std::unique_ptr<Form> form;
+};
