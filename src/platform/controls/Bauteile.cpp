@@ -64,7 +64,8 @@ void fenstergroesse(QWidget* fenster, int zeichen, int zeilen) {
 }
 
 QWidget* fensterDarunter(QWidget* ueber) {
-  return ueber != nullptr ? ueber->window() : QApplication::activeWindow();
+  QWidget* fenster = ueber != nullptr ? ueber->window() : QApplication::activeWindow();
+  return fenster != nullptr && fenster->isVisible() ? fenster : nullptr;
 }
 
 }  // namespace Bauteile

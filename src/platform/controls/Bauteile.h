@@ -40,6 +40,7 @@ void tabfolge(const QList<QWidget*>& folge);
 void fenstergroesse(QWidget* fenster, int zeichen, int zeilen);
 
 // The window over which a box or a dialog appears: that of the given control, else the active one.
+// Null, which is the middle of the screen, while that window isn't shown yet.
 QWidget* fensterDarunter(QWidget* ueber);
 
 }  // namespace Bauteile
