@@ -105,8 +105,22 @@ void Handelsblock::nachListe() {
 
 // ---- purchases and sales ----
 
-Geschaeftsblock::Geschaeftsblock(Seite seite, std::function<void()> lagerLesen)
-    : Handelsblock(geschaeftsplan(seite)), m_seite(seite), m_lagerLesen(std::move(lagerLesen)) {}
+Geschaeftsblock::Geschaeftsblock(Seite seite, std::function<void()> lagerLesen,
+                                 std::function<void()> geaendert)
+    : Handelsblock(geschaeftsplan(seite)),
+      m_seite(seite),
+      m_lagerLesen(std::move(lagerLesen)),
+      m_geaendert(std::move(geaendert)) {}
+
+void Geschaeftsblock::listeLesen() {
+  Handelsblock::listeLesen();
+  m_geaendert();
+}
+
+void Geschaeftsblock::nachLöschen() {
+  m_lagerLesen();
+  m_geaendert();
+}
 
 QStringList Geschaeftsblock::prüfe(const Texte& texte, bool) {
   return Handel::geschaeftsgruende(texte);
@@ -190,9 +204,23 @@ QList<QWidget*> Lagerblock::tabfolge() const {
   return Verwaltungsblock::tabfolge() << comalle << ligroup;
 }
 
+// A deal makes another row current. Inputs that only show the former one go along: "Ändern" would
+// write them over a row that they don't belong to. What was typed stays.
 void Lagerblock::listeLesen() {
+  const bool mitgehen = zeigtAktuelleZeile();
   Handelsblock::listeLesen();
+  if (const auto id = aktuelleId(); id && mitgehen) zeigeDatensatz(*id);
   bestandsstand->show();
+}
+
+bool Lagerblock::zeigtAktuelleZeile() const {
+  const int zeile = liste()->aktuelleZeile();
+  if (zeile < 0) return false;
+  const Texte gezeigt = texte();
+  for (const Verwaltung::Feld& feld : felder())
+    if (gezeigt[feld.feld] != Verwaltung::feldtext(feld, liste()->wert(zeile, feld.feld)))
+      return false;
+  return true;
 }
 
 void Lagerblock::nachLöschen() { bestandsstand->show(); }

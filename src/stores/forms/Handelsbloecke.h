@@ -9,8 +9,8 @@ class QLabel;
 class QPushButton;
 
 // The three blocks of TV_EinVerkauf_Lager. After each reading the last row, the latest by date, is
-// current; the inputs keep what they hold. While a list is read no button of the form can be
-// pressed.
+// current; the inputs keep what they hold, but the honey store's show the new current row when they
+// showed the former one. While a list is read no button of the form can be pressed.
 
 class Handelsblock : public Verwaltungsblock {
  public:
@@ -25,19 +25,24 @@ class Handelsblock : public Verwaltungsblock {
 // Purchases or sales.
 class Geschaeftsblock : public Handelsblock {
  public:
-  // lagerLesen: reads the list of the honey store anew.
-  Geschaeftsblock(Handel::Seite seite, std::function<void()> lagerLesen);
+  // lagerLesen: reads the list of the honey store anew. geaendert: the deals are no longer those of
+  // before, nor are their sums.
+  Geschaeftsblock(Handel::Seite seite, std::function<void()> lagerLesen,
+                  std::function<void()> geaendert);
+
+  void listeLesen() override;
 
  protected:
   QStringList prüfe(const Verwaltung::Texte& texte, bool ändern) override;
   qint64 schreiben(const Verwaltung::Texte& texte, std::optional<qint64> id,
                    const QVariantHash& weitere) override;
   void vorLöschen(qint64 id) override;
-  void nachLöschen() override { m_lagerLesen(); }
+  void nachLöschen() override;
 
  private:
   Handel::Seite m_seite;
   std::function<void()> m_lagerLesen;
+  std::function<void()> m_geaendert;
 };
 
 // The honey store, with its stock beside the list.
@@ -56,6 +61,7 @@ class Lagerblock : public Handelsblock {
   void nachLöschen() override;
 
  private:
+  bool zeigtAktuelleZeile() const;
   QWidget* bestandBauen();
   void bestandZeigen();
 

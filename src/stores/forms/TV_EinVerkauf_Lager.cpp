@@ -33,8 +33,9 @@ TV_EinVerkauf_Lager::TV_EinVerkauf_Lager(QWidget* oeffner)
 
 void TV_EinVerkauf_Lager::aufbauen() {
   const auto lagerLesen = [this] { m_lager->listeLesen(); };
-  m_einkauf = new Geschaeftsblock(Handel::Seite::Einkauf, lagerLesen);
-  m_verkauf = new Geschaeftsblock(Handel::Seite::Verkauf, lagerLesen);
+  const auto geaendert = [this] { m_summenstand->show(); };
+  m_einkauf = new Geschaeftsblock(Handel::Seite::Einkauf, lagerLesen, geaendert);
+  m_verkauf = new Geschaeftsblock(Handel::Seite::Verkauf, lagerLesen, geaendert);
   m_lager = new Lagerblock;
 
   m_reiter = new QTabWidget;
@@ -58,6 +59,8 @@ QWidget* TV_EinVerkauf_Lager::fussBauen() {
   bezsumme = new QLabel;
   bezsumme->setObjectName("bezsumme");
   bezsumme->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  m_summenstand = new QLabel("(nicht aktuell)");
+  m_summenstand->setObjectName("summenstand");
   hilfe = knopf("&Hilfe", "hilfe");
   beenden = knopf("&Schließen", "beenden");
   auto* fuss = new QWidget;
@@ -67,6 +70,7 @@ QWidget* TV_EinVerkauf_Lager::fussBauen() {
   zeile->addWidget(rosumme);
   zeile->addSpacing(fontMetrics().averageCharWidth());
   zeile->addWidget(bezsumme);
+  zeile->addWidget(m_summenstand);
   zeile->addStretch(1);
   zeile->addWidget(hilfe);
   zeile->addWidget(beenden);
@@ -125,4 +129,7 @@ void TV_EinVerkauf_Lager::reiterGewechselt(int reiter) {
   if (!m_reiter->tabBar()->hasFocus()) block->fokusAufErstesFeld();
 }
 
-void TV_EinVerkauf_Lager::summenZeigen() { bezsumme->setText(Handel::summenzeile(m_db)); }
+void TV_EinVerkauf_Lager::summenZeigen() {
+  bezsumme->setText(Handel::summenzeile(m_db));
+  m_summenstand->hide();
+}

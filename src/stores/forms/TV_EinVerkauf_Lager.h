@@ -40,6 +40,7 @@ class TV_EinVerkauf_Lager : public Formular {
   QPushButton* comlisten = nullptr;
   QPushButton* rosumme = nullptr;
   QLabel* bezsumme = nullptr;
+  QLabel* m_summenstand = nullptr;  // seen while the sums aren't those of the lists
   QPushButton* hilfe = nullptr;
   QPushButton* beenden = nullptr;
 };

@@ -100,12 +100,35 @@ TEST_F(LagerReiter, NachDemVerkaufIstDieLetzteZeileAktuellUndWirdGeaendert) {
   klicke("neuverkauf_0");
   zumReiter(Lager);
   EXPECT_EQ(liste("lihonig")->aktuelleZeile(), 1);
-  EXPECT_EQ(inhalt("sevthonig_1"), "Raps");  // the inputs stay
+  EXPECT_EQ(inhalte("honig"), "20.06.2006|Honig|0|3|||");  // "Ändern" writes over what is shown
   waehle("lihonig", 0);
   tippe("sevthonig_2", "6");
   klicke("neuhonig_1");
   EXPECT_EQ(zeilen("select Produkt, Zugang, Abgang from Honiglager order by ID"),
             QStringList({"Raps|6|0", "Honig|0|3"}));
+}
+
+TEST_F(LagerReiter, GetipptesBleibtNachEinemVerkaufStehen) {
+  lager("Raps", 5, 0, "C1");
+  oeffne(Lager);
+  waehle("lihonig", 0);
+  tippe("sevthonig_4", "halb getippt");
+  zumReiter(Verkauf);
+  tippeVerkauf("Honig", "3");
+  klicke("neuverkauf_0");
+  EXPECT_EQ(inhalte("honig"), "01.05.2006|Raps|5|0|halb getippt|C1|");
+}
+
+TEST_F(LagerReiter, NachDemLoeschenEinesVerkaufsZeigenDieEingabenDieAktuelleZeile) {
+  lager("Raps", 5, 0, "C1");
+  verkaufe("Honig", "3");
+  oeffne(Lager);
+  waehle("lihonig", 1);
+  zumReiter(Verkauf);
+  waehle("liverkauf", 0);
+  klicke("lschverkauf");
+  EXPECT_EQ(liste("lihonig")->aktuelleZeile(), 0);
+  EXPECT_EQ(inhalte("honig"), "01.05.2006|Raps|5|0||C1|");
 }
 
 TEST_F(LagerReiter, AktualisierenZeigtDenBestandJeProduktUndCharge) {
