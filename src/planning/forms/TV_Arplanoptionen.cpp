@@ -142,6 +142,7 @@ void TV_Arplanoptionen::nachSpeichern(const QString& arbeitsart) {
   if (zeile >= 0) liarplan->setAktuelleZeile(zeile);
   zeileZeigen(zeile);
   sevt[0]->setFocus();
+  sevt[0]->selectAll();  // the next name is typed over it
 }
 
 // After a failure: the list shows what is in the database now, and the record of before.

@@ -18,23 +18,36 @@ using Bauteile::knopf;
 namespace {
 
 struct Feld {
+  const char* spalte;  // of the list, headed as the input
   const char* beschriftung;
   Eingabefeld::Beschreibung beschreibung;
   int zeile;  // in the frame
-  int spalte;
+  int seite;  // left 0, right 1
 };
 
 using Art = Eingabefeld::Art;
 
 const std::array<Feld, 7>& felder() {
   static const std::array<Feld, 7> liste = {
-      {{"Arbeitsart", {Art::Text, 30, 0, {}, {}, {}, {}}, 0, 0},
-       {"Startzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 1, 0},
-       {"Endzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 2, 0},
-       {"Wiederholungsfrist (Tage)", {Art::Ganzzahl, 2, 0, 99, "0", {}, {}}, 3, 0},
-       {"Volkabhängig (J/N)", {Art::Auswahl, 1, 0, {}, {}, {}, {"J", "N"}}, 0, 1},
-       {"Autom. Erled. Buchung", {Art::Auswahl, 15, 0, {}, {}, {}, erledigtBuchungen()}, 1, 1},
-       {"Autom. Erled. Arbeitsart", {Art::Auswahl, 30, 0, {}, {}, {}, {}}, 2, 1}}};
+      {{"Arbeitsart", "Arbeitsart", {Art::Text, 30, 0, {}, {}, {}, {}}, 0, 0},
+       {"Startzeitraum", "Startzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 1, 0},
+       {"Endzeitraum", "Endzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 2, 0},
+       {"Wiederholungsfrist_Tage",
+        "Wiederholungsfrist (Tage)",
+        {Art::Ganzzahl, 2, 0, 99, "0", {}, {}},
+        3,
+        0},
+       {"Volkabhängig", "Volkabhängig (J/N)", {Art::Auswahl, 1, 0, {}, {}, {}, {"J", "N"}}, 0, 1},
+       {"Auto_erledigt_Buchung",
+        "Autom. Erled. Buchung",
+        {Art::Auswahl, 15, 0, {}, {}, {}, erledigtBuchungen()},
+        1,
+        1},
+       {"Auto_erledigt_Arbeitsart",
+        "Autom. Erled. Arbeitsart",
+        {Art::Auswahl, 30, 0, {}, {}, {}, {}},
+        2,
+        1}}};
   return liste;
 }
 
@@ -57,6 +70,8 @@ void TV_Arplanoptionen::aufbauen() {
   liarplan->setAccessibleName("Arbeitsplan-Optionen");
   liarplan->setSelectionMode(QAbstractItemView::SingleSelection);
   liarplan->setLayoutSchluessel("TOVA/tv_arplanoptionen_liarplan/ColWidths");
+  for (const Feld& f : felder())
+    liarplan->setUeberschrift(QString::fromUtf8(f.spalte), QString::fromUtf8(f.beschriftung));
   liarplan->setMinimumHeight(6 * fontMetrics().height() + 40);
 
   auto* spalte = new QVBoxLayout(this);
@@ -83,8 +98,8 @@ QWidget* TV_Arplanoptionen::feldgruppeBauen() {
     eingabe->einrichten(f.beschreibung);
     sevt[i] = eingabe;
     gitter->addWidget(beschriften(QString::fromUtf8(f.beschriftung), eingabe), f.zeile,
-                      3 * f.spalte);
-    gitter->addWidget(eingabe, f.zeile, 3 * f.spalte + 1);
+                      3 * f.seite);
+    gitter->addWidget(eingabe, f.zeile, 3 * f.seite + 1);
   }
   gitter->setColumnMinimumWidth(2, fontMetrics().averageCharWidth() * 2);
   gitter->setColumnStretch(1, 1);

@@ -1,0 +1,30 @@
+#include <gtest/gtest.h>
+
+#include "planning/forms/Arplanprobe.h"
+
+namespace {
+
+class ArplanBedienung : public Arplanprobe {};
+
+TEST_F(ArplanBedienung, DieListeIstUeberschriebenWieDieEingaben) {
+  oeffne();
+  QStringList koepfe;
+  for (int i = 0; i < liste()->spalten(); ++i)
+    koepfe << liste()->model()->headerData(i, Qt::Horizontal).toString();
+  EXPECT_EQ(koepfe.join("|").toStdString(),
+            "Arbeitsart|Startzeitraum (TT.MM)|Endzeitraum (TT.MM)|Wiederholungsfrist (Tage)|"
+            "Volkabhängig (J/N)|Autom. Erled. Buchung|Autom. Erled. Arbeitsart|ID");
+}
+
+// Several options one after the other, without clearing the input in between.
+TEST_F(ArplanBedienung, NachDemSpeichernUeberschreibtDerNaechsteNameDenAlten) {
+  oeffne();
+  fuelle("Drohnen schneiden", "01.07", "31.07", "N");
+  klicke("neu_0");
+  QTest::keyClicks(feld(0), "Schwarmkontrolle");
+  EXPECT_EQ(inhalt(0), "Schwarmkontrolle");
+  klicke("neu_0");
+  EXPECT_EQ(namen(), QStringList({"Drohnen schneiden", "Schwarmkontrolle"}));
+}
+
+}  // namespace
