@@ -17,8 +17,8 @@
 namespace {
 
 constexpr qint64 SuchpauseMs = 1000;  // after a longer one a letter begins a new search
-constexpr int GemesseneZeilen = 100;
-constexpr int GroessteBreite = 20;  // heights of a line, so that it grows with the font
+constexpr int GemesseneZeilen = 100;  // of the first, and as many of the others
+constexpr int GroessteBreite = 20;    // heights of a line, so that it grows with the font
 constexpr int Luft = 6;
 
 }  // namespace
@@ -192,19 +192,22 @@ int Grid::zellenrand(int spalte) const {
   return rand + (m_modell->rechtsbuendig(spalte) ? TovaStil::zahlenrand(fontMetrics()) : 0);
 }
 
-// As wide as the heading and the longest of the first texts, within a limit.
+// As wide as the heading and the longest of the measured texts, within a limit. The measured ones
+// are the first and some of the others, evenly apart: a sorted list begins with equal texts.
 void Grid::breitenAnpassen() {
   const QFontMetrics mass(font());
   const int breitestes = mass.horizontalAdvance(u'W');
   const int grenze = mass.height() * GroessteBreite;
-  const int zeilen = std::min(this->zeilen(), GemesseneZeilen);
+  const int zeilen = this->zeilen();
+  const int schritt = std::max(1, (zeilen - GemesseneZeilen) / GemesseneZeilen);
   m_breiten.clear();
   for (int spalte = 0; spalte < spalten(); ++spalte) {
     // With room for the sort arrow, whether it stands there now or not.
     const int rand = zellenrand(spalte) + Luft;
     int breite = horizontalHeader()->sectionSizeHint(spalte) - rand;
     qsizetype laengster = 0;
-    for (int zeile = 0; zeile < zeilen && breite < grenze; ++zeile) {
+    for (int zeile = 0; zeile < zeilen && breite < grenze;
+         zeile += zeile < GemesseneZeilen ? 1 : schritt) {
       const QString text = m_modell->text(zeile, spalte);
       // Can't be the widest; measuring is dear.
       if (text.size() * 4 < laengster * 3 || text.size() * breitestes <= breite) continue;
