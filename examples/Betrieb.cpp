@@ -403,12 +403,13 @@ class OhneIndexe {
   bool m_ja;
 };
 
-// Does the work for each colony, a hundred to a commit.
+constexpr int Stapel = 100;  // colonies to a commit
+
+// Does the work for each colony.
 void stapelweise(int voelker, const std::function<void(int)>& arbeit,
                  const std::function<void(int)>& fortschritt = {}) {
-  constexpr int stapel = 100;
-  for (int erstes = 1; erstes <= voelker; erstes += stapel) {
-    const int letztes = std::min(erstes + stapel - 1, voelker);
+  for (int erstes = 1; erstes <= voelker; erstes += Stapel) {
+    const int letztes = std::min(erstes + Stapel - 1, voelker);
     DB.Sammelschreiben([&] {
       for (int nummer = erstes; nummer <= letztes; ++nummer) arbeit(nummer);
     });
@@ -425,22 +426,8 @@ void voelkerAnlegen(Erzeuger& erzeuger, int voelker, int erstesJahr) {
   HeuteText = heute;
 }
 
-}  // namespace
-
-void betriebAnlegen(const QString& ordner, const Betriebsgroesse& groesse,
+void betriebFuellen(const Betriebsgroesse& groesse, QDate heute,
                     const std::function<void(int)>& fortschritt) {
-  const QDate heute = groesse.heute.isValid() ? groesse.heute : QDate::currentDate();
-  zuruecksetzen();
-  AppPfad = QDir(ordner).absolutePath() + "/";
-  DatenbankPfad = AppPfad + "TOVA2.MDB";
-  HeuteText = Deutsch::datumText(heute);
-  EinstellungenStandard(heute);
-  WabenJeMagazinPruefen();
-  MehrwertsteuerPruefen();
-  EinstellungenZahl[68] = 1;  // harvests go into the honey store
-  EinstellungenWert = {7.5F, 9.0F, 0.02F, 0.1F, 18.0F, 2.0F};
-  DatenbankAnlegen();
-
   Zufall zufall(groesse.saat);
   const int erstesJahr = heute.year() - groesse.jahre + 1;
   Arbeitskalender kalender(zufall, heute, std::max(erstesJahr, heute.year() - terminjahre + 1));
@@ -464,6 +451,30 @@ void betriebAnlegen(const QString& ordner, const Betriebsgroesse& groesse,
   erzeuger.nachziehen();
   kalender.bisHeute();
   Handelsbuch(zufall, heute, erstesJahr, groesse.voelker).fuehren();
+}
+
+}  // namespace
+
+void betriebAnlegen(const QString& ordner, const Betriebsgroesse& groesse,
+                    const std::function<void(int)>& fortschritt) {
+  const QDate heute = groesse.heute.isValid() ? groesse.heute : QDate::currentDate();
+  zuruecksetzen();
+  AppPfad = QDir(ordner).absolutePath() + "/";
+  DatenbankPfad = AppPfad + "TOVA2.MDB";
+  HeuteText = Deutsch::datumText(heute);
+  EinstellungenStandard(heute);
+  WabenJeMagazinPruefen();
+  MehrwertsteuerPruefen();
+  EinstellungenZahl[68] = 1;  // harvests go into the honey store
+  EinstellungenWert = {7.5F, 9.0F, 0.02F, 0.1F, 18.0F, 2.0F};
+  DatenbankAnlegen();
+
+  // What fits into one batch is one commit: making it doesn't wait for the disk time and again.
+  const auto fuellen = [&] { betriebFuellen(groesse, heute, fortschritt); };
+  if (groesse.voelker <= Stapel)
+    DB.Sammelschreiben(fuellen);
+  else
+    fuellen();
   ListeNeuLesen = 1;
   EinstellungenSchreiben();
 }

@@ -8,13 +8,15 @@
 
 #include "Betrieb.h"
 #include "core/globals.h"
+#include "core/settings.h"
 #include "data/schema.h"
+#include "platform/locale/Deutsch.h"
 
 using TZ_Variablen::DB;
 
 const QDate Heute(2026, 6, 15);
 
-// Makes sample operations, each in a folder of its own, and counts in them.
+// Makes sample operations and counts in them.
 class Betriebsfall : public ::testing::Test {
  protected:
   static void TearDownTestSuite() { schliessen(); }
@@ -42,12 +44,22 @@ class Betriebsfall : public ::testing::Test {
     ASSERT_TRUE(m_ordner->isValid());
     betriebAnlegen(m_ordner->path(), groesse);
   }
-  // The operation of the tour; made once for tests that follow one another and only read.
+  // The operation of the tour, for tests that only read. It is made once for all of them and opened
+  // again when another one was open in between.
   void standard() {
     if (standardOffen) return;
-    Betriebsgroesse groesse;
-    groesse.heute = Heute;
-    anlegen(groesse);
+    static QTemporaryDir ordner;
+    static bool angelegt = false;
+    ASSERT_TRUE(ordner.isValid());
+    schliessen();
+    if (angelegt) {
+      oeffnen(ordner.path());
+    } else {
+      Betriebsgroesse groesse;
+      groesse.heute = Heute;
+      betriebAnlegen(ordner.path(), groesse);
+    }
+    angelegt = true;
     standardOffen = true;
   }
 
@@ -70,6 +82,16 @@ class Betriebsfall : public ::testing::Test {
     return summe;
   }
 
-  static inline std::unique_ptr<QTemporaryDir> m_ordner;
+  std::unique_ptr<QTemporaryDir> m_ordner;
+
+ private:
+  static void oeffnen(const QString& ordner) {
+    TZ_Variablen::AppPfad = ordner + "/";
+    TZ_Variablen::DatenbankPfad = TZ_Variablen::AppPfad + "TOVA2.MDB";
+    TZ_Variablen::HeuteText = Deutsch::datumText(Heute);
+    EinstellungenLesen();
+    DB = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
+  }
+
   static inline bool standardOffen = false;
 };
