@@ -61,6 +61,13 @@ bool stehtRechts(const QStyleOption* option, const QWidget* fenster) {
          qobject_cast<const QTableView*>(fenster) != nullptr;
 }
 
+// A menu entry that begins with "& " is measured without the sign and cut with it.
+bool mnemonikVorBlank(QStyle::ContentsType inhalt, const QStyleOption* option) {
+  const auto* eintrag = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  return inhalt == QStyle::CT_MenuItem && eintrag != nullptr &&
+         eintrag->text.contains(QLatin1String("& "));
+}
+
 // A disc with "i" or "?".
 QIcon meldungssymbol(const QString& zeichen) {
   const QPalette farben = QApplication::palette();
@@ -132,6 +139,8 @@ QRect TovaStil::subElementRect(SubElement element, const QStyleOption* option,
 QSize TovaStil::sizeFromContents(ContentsType inhalt, const QStyleOption* option,
                                  const QSize& groesse, const QWidget* fenster) const {
   const QSize ganz = QProxyStyle::sizeFromContents(inhalt, option, groesse, fenster);
+  if (mnemonikVorBlank(inhalt, option))
+    return ganz + QSize(option->fontMetrics.horizontalAdvance(u'&'), 0);
   if ((inhalt != CT_HeaderSection && inhalt != CT_ItemViewItem) || !stehtRechts(option, fenster))
     return ganz;
   return ganz + QSize(zahlenrand(option->fontMetrics), 0);
