@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
-#include <cstdio>
 #include <numeric>
 
 #include "Messwerk.h"

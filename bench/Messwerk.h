@@ -4,7 +4,6 @@
 #include <sqlite3.h>
 
 #include <QString>
-#include <QStringList>
 #include <memory>
 #include <stdexcept>
 #include <string>

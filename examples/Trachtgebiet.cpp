@@ -1,6 +1,5 @@
 #include "Trachtgebiet.h"
 
-#include <cmath>
 
 #include "core/globals.h"
 #include "platform/locale/Deutsch.h"

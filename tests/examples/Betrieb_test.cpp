@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QMap>
 
 #include "Betriebsfall.h"
 

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QMap>
 #include <QTemporaryDir>
 #include <memory>
 

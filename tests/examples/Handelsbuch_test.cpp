@@ -1,3 +1,5 @@
+#include <QMap>
+
 #include "Betriebsfall.h"
 
 namespace {

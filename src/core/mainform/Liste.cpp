@@ -1,7 +1,6 @@
 #include "core/mainform/Liste.h"
 
 #include "core/globals.h"
-#include "data/helpers.h"
 
 using namespace TZ_Variablen;
 

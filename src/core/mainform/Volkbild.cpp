@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "data/helpers.h"
-#include "platform/locale/Deutsch.h"
 
 namespace Volkbild {
 

@@ -8,7 +8,6 @@
 #include <QVBoxLayout>
 
 #include "data/forms/helpers_forms.h"
-#include "data/helpers.h"
 #include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"

@@ -8,7 +8,6 @@
 #include <QSplitter>
 
 #include "core/globals.h"
-#include "data/helpers.h"
 #include "platform/controls/Bauteile.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"

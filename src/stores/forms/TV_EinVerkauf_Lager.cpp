@@ -11,7 +11,6 @@
 #include "data/helpers.h"
 #include "platform/controls/Bauteile.h"
 #include "platform/controls/Ereignis.h"
-#include "platform/controls/Grid.h"
 #include "stores/forms/Handelsbloecke.h"
 
 using Bauteile::knopf;

@@ -5,7 +5,6 @@
 #include <QRadioButton>
 
 #include "Eingabeprobe.h"
-#include "platform/controls/Gestaltung.h"
 
 namespace {
 

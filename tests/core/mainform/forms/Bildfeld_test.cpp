@@ -5,7 +5,6 @@
 
 #include "Hauptumfeld.h"
 #include "core/mainform/forms/Stockzeichner.h"
-#include "platform/controls/Gestaltung.h"
 
 using namespace TZ_Variablen;
 
