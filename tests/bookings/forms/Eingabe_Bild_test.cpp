@@ -5,6 +5,7 @@
 #include <QRadioButton>
 
 #include "Eingabeprobe.h"
+#include "gemeinsam/Bildschirm.h"
 
 namespace {
 
@@ -14,29 +15,17 @@ class EingabeBild : public Eingabeprobe, public testing::WithParamInterface<int>
  protected:
   void SetUp() override {
     Eingabeprobe::SetUp();
-    m_schrift = QApplication::font();
-    QFont gross = m_schrift;
-    gross.setPointSizeF(m_schrift.pointSizeF() * GetParam() / 100);
-    QApplication::setFont(gross);
     fuelle();
   }
-  void TearDown() override {
-    Eingabeprobe::TearDown();
-    QApplication::setFont(m_schrift);
-  }
-
   void fuelle();
   void schreibeDaten();
   // Texts and buttons have at least the room that they need.
   void pruefeNichtsAbgeschnitten(const QString& fall);
   void bild(const QString& name) {
-    const QString ordner = qEnvironmentVariable("TOVA_BILDER");
-    if (ordner.isEmpty()) return;
-    const QString datei = ordner + "/eingabe_" + name + "_" + QString::number(GetParam()) + ".png";
-    EXPECT_TRUE(form->grab().save(datei));
+    bildAblegen(*form, QString("eingabe_%1_%2").arg(name).arg(GetParam()));
   }
 
-  QFont m_schrift;
+  const Schriftgroesse m_schrift{GetParam()};
 };
 
 void EingabeBild::fuelle() {

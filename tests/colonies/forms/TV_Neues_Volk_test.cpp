@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "colonies/forms/Formtest.h"
+#include "gemeinsam/Bildschirm.h"
 #include "platform/files/Textdatei.h"
 
 namespace {
@@ -434,15 +435,9 @@ TEST_F(TVNeuesVolk, KeineTastenkuerzelDoppelt) {
 
 TEST_F(TVNeuesVolk, PasstAufEinenKleinenBildschirm) {
   neuesVolk("1");
-  const QFont vorher = QApplication::font();
-  QFont gross = vorher;
-  gross.setPointSizeF(vorher.pointSizeF() * 1.5);
-  QApplication::setFont(gross);
+  const Schriftgroesse schrift(150);
   aendern();
-  const QSize klein = form->minimumSizeHint();
-  QApplication::setFont(vorher);
-  EXPECT_LE(klein.width(), 1366);
-  EXPECT_LE(klein.height(), 720);
+  passtAufKleinenSchirm(*form);
 }
 
 TEST_F(TVNeuesVolk, ZeigenIstModalBisGeschlossenWird) {

@@ -4,8 +4,10 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <optional>
 
 #include "colonies/forms/Selektionsprobe.h"
+#include "gemeinsam/Bildschirm.h"
 #include "platform/controls/Gestaltung.h"
 
 namespace {
@@ -221,18 +223,15 @@ class SelektierenBild : public TVSelektieren, public ::testing::WithParamInterfa
  protected:
   void SetUp() override {
     TVSelektieren::SetUp();
-    if (!ordner.isEmpty()) {
+    if (qEnvironmentVariableIsSet("TOVA_BILDER")) {
       static const bool gestaltet = (gestalten(*qApp), true);
       EXPECT_TRUE(gestaltet);
     }
-    schrift = QApplication::font();
-    QFont gross = schrift;
-    gross.setPointSizeF(schrift.pointSizeF() * GetParam() / 100);
-    QApplication::setFont(gross);
+    m_schrift.emplace(GetParam());
   }
   void TearDown() override {
     TVSelektieren::TearDown();
-    QApplication::setFont(schrift);
+    m_schrift.reset();
   }
   // Those of the form, not the ones within its inputs.
   QList<QAbstractButton*> knoepfe() const {
@@ -242,8 +241,8 @@ class SelektierenBild : public TVSelektieren, public ::testing::WithParamInterfa
     return alle;
   }
 
-  const QString ordner = qEnvironmentVariable("TOVA_BILDER");
-  QFont schrift;
+ private:
+  std::optional<Schriftgroesse> m_schrift;
 };
 
 TEST_P(SelektierenBild, NichtsIstAbgeschnittenUndEsPasstAufEinenKleinenSchirm) {
@@ -266,16 +265,12 @@ TEST_P(SelektierenBild, NichtsIstAbgeschnittenUndEsPasstAufEinenKleinenSchirm) {
   EXPECT_GE(anzahl->height(), anzahl->sizeHint().height());
   for (int i = 0; i < 7; ++i) EXPECT_GE(feld(i)->height(), feld(i)->sizeHint().height()) << i;
   EXPECT_GE(feld(5)->width(), feld(5)->fontMetrics().horizontalAdvance("Winterfestigkeit") + 30);
-  if (!ordner.isEmpty()) {
-    EXPECT_TRUE(form->grab().save(ordner + QString("/sel_%1.png").arg(GetParam())));
-  }
+  bildAblegen(*form, QString("sel_%1").arg(GetParam()));
   form->resize(form->minimumSizeHint());
   QTest::qWait(1);
   for (auto* knopf : knoepfe())
     EXPECT_GE(knopf->width(), knopf->minimumSizeHint().width()) << qPrintable(knopf->text());
-  if (!ordner.isEmpty()) {
-    EXPECT_TRUE(form->grab().save(ordner + QString("/sel_%1_klein.png").arg(GetParam())));
-  }
+  bildAblegen(*form, QString("sel_%1_klein").arg(GetParam()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Schriftgroessen, SelektierenBild, ::testing::Values(100, 150));

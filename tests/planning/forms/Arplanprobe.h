@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "colonies/Testbetrieb.h"
+#include "gemeinsam/Bildschirm.h"
 #include "gemeinsam/Formularprobe.h"
 #include "planning/forms/TV_Arplanoptionen.h"
 

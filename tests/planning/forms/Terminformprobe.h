@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "gemeinsam/Bildschirm.h"
 #include "gemeinsam/Formularprobe.h"
 #include "planning/Terminbestand.h"
 #include "platform/database/Verbindung.h"
@@ -23,12 +24,6 @@ class Terminformprobe : public Formularprobe<T, Terminbestand> {
     Verbindung::zu(TZ_Variablen::DatenbankPfad)
         ->steuere("create trigger voll before " + art + " on Termine when " + wenn +
                   " begin select raise(abort, 'kein Platz'); end");
-  }
-  // Keeps the window as a picture where TOVA_BILDER names a folder.
-  static void bild(QWidget* fenster, const QString& name) {
-    const QString ordner = qEnvironmentVariable("TOVA_BILDER");
-    if (ordner.isEmpty()) return;
-    EXPECT_TRUE(fenster->grab().save(ordner + "/" + name + ".png"));
   }
   // The column's texts from top to bottom.
   std::string spalte(const QString& name) {

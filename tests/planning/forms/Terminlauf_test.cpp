@@ -51,14 +51,10 @@ TEST_F(Terminlauf, EinKurzerLaufZeigtKeinFenster) {
   EXPECT_FALSE(fortschritt()->isVisible());
 }
 
-// Leaves pictures for the eye where the environment names a folder.
 TEST_F(Terminlauf, EinLangerLaufZeigtWieWeitErIstUndLaesstSichNichtSchliessen) {
-  const QFont vorher = QApplication::font();
   oeffne();
   for (const int prozent : {100, 150}) {
-    QFont schrift = vorher;
-    schrift.setPointSizeF(vorher.pointSizeF() * prozent / 100);
-    QApplication::setFont(schrift);
+    const Schriftgroesse schrift(prozent);
     Laufanzeige anzeige(form.get());
     QTest::qWait(800);
     anzeige.zeige(30, 120);
@@ -71,10 +67,8 @@ TEST_F(Terminlauf, EinLangerLaufZeigtWieWeitErIstUndLaesstSichNichtSchliessen) {
     fenster->close();
     EXPECT_TRUE(fenster->isVisible());
     EXPECT_FALSE(fenster->wasCanceled());
-    if (const QString ordner = qEnvironmentVariable("TOVA_BILDER"); !ordner.isEmpty())
-      fenster->grab().save(QString("%1/plan_fortschritt_%2.png").arg(ordner).arg(prozent));
+    bildAblegen(*fenster, QString("plan_fortschritt_%1").arg(prozent));
   }
-  QApplication::setFont(vorher);
   EXPECT_EQ(fortschritt(), nullptr);
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }

@@ -15,6 +15,7 @@
 #include "core/mainform/forms/TO_Einstellungen.h"
 #include "core/settings.h"
 #include "gemeinsam/AndererBenutzer.h"
+#include "gemeinsam/Bildschirm.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/files/Textdatei.h"
 
@@ -509,13 +510,9 @@ TEST_F(Einstellungsform, TabulatorFuehrtInDerFolgeDerGruppen) {
 
 // Room for everything on a small screen, with large type too.
 TEST_F(Einstellungsform, PasstMitGrosserSchriftAufDenKleinenSchirm) {
-  const QFont vorher = QApplication::font();
-  QFont gross = vorher;
-  gross.setPointSizeF(vorher.pointSizeF() * 1.5);
-  QApplication::setFont(gross);
+  const Schriftgroesse schrift(150);
   oeffne();
-  EXPECT_LE(form->minimumSizeHint().width(), 1366);
-  EXPECT_LE(form->minimumSizeHint().height(), 720);
+  passtAufKleinenSchirm(*form);
   EXPECT_LE(form->sizeHint().width(), 1366);
   form->resize(form->sizeHint().boundedTo(QSize(1366, 720)));
   auto* reiter = kind<QTabWidget>("reiter");
@@ -527,8 +524,6 @@ TEST_F(Einstellungsform, PasstMitGrosserSchriftAufDenKleinenSchirm) {
     for (const QCheckBox* knopf : reiter->widget(i)->findChildren<QCheckBox*>())
       EXPECT_GE(knopf->width(), knopf->sizeHint().width()) << knopf->text().toStdString();
   }
-  form.reset();
-  QApplication::setFont(vorher);
 }
 
 // From the main form and back to it.

@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "Hauptumfeld.h"
+#include "gemeinsam/Bildschirm.h"
 
 using namespace TZ_Variablen;
 
@@ -371,13 +372,9 @@ TEST_F(Hauptmenue, ErsteSchritteHabenDreiKnoepfeUndDerDritteOeffnetDasNeueVolk) 
 
 TEST_F(Hauptmenue, ErsteSchrittePassenAuchMitGrosserSchriftAufDenSchirm) {
   voelker(1);
-  const QFont vorher = QApplication::font();
-  QFont gross = vorher;
-  gross.setPointSizeF(vorher.pointSizeF() * 1.5);
-  QApplication::setFont(gross);
+  const Schriftgroesse schrift(150);
   starten();
-  EXPECT_LE(form->minimumSizeHint().width(), 1366);
-  EXPECT_LE(form->minimumSizeHint().height(), 700);
+  passtAufKleinenSchirm(*form);
   Formbesuch besuch("TH_Hilfe_Wieanfangen", [](QWidget* hilfe) {
     EXPECT_LE(hilfe->width(), 1366);
     EXPECT_LE(hilfe->height(), 720);
@@ -385,30 +382,25 @@ TEST_F(Hauptmenue, ErsteSchrittePassenAuchMitGrosserSchriftAufDenSchirm) {
   });
   aktion("hilfewieanfangen")->trigger();
   EXPECT_TRUE(besuch.war());
-  QApplication::setFont(vorher);
 }
 
 // The small screen of a notebook, also with larger letters.
 TEST_F(Hauptmenue, AlleTastenDerLeisteSindBei1366PunktenZuSehen) {
   voelker(1);
-  const QFont vorher = QApplication::font();
-  for (const double faktor : {1.0, 1.5}) {
-    QFont schrift = vorher;
-    schrift.setPointSizeF(vorher.pointSizeF() * faktor);
-    QApplication::setFont(schrift);
+  for (const int prozent : {100, 150}) {
+    const Schriftgroesse schrift(prozent);
     starten();
     form->resize(1366, 700);
     QApplication::processEvents();
     ASSERT_EQ(form->width(), 1366);
     for (const auto& taste : Menue::tasten()) {
       auto* knopf = finde<QToolButton>(taste.name);
-      EXPECT_TRUE(knopf->isVisible()) << qPrintable(taste.name) << " x " << faktor;
+      EXPECT_TRUE(knopf->isVisible()) << qPrintable(taste.name) << " bei Prozent " << prozent;
       EXPECT_LE(knopf->geometry().right(), knopf->parentWidget()->width());
     }
     schliessen();
     zuruecksetzen();
   }
-  QApplication::setFont(vorher);
 }
 
 // The words under the symbols: in one row where there is room, in two on small screens. In a window
