@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
+#include <QTabWidget>
 
 namespace {
 
@@ -44,6 +45,18 @@ void inSichtbaren(QWidget* fenster) {
   const int x = std::max(frei.left(), std::min(fenster->x(), frei.right() + 1 - ganz.width()));
   const int y = std::max(frei.top(), std::min(fenster->y(), frei.bottom() + 1 - ganz.height()));
   fenster->move(x, y);
+}
+
+// From a button beside the pages too, where a tab widget takes the keys only on its pages.
+bool reiterWechseln(const QWidget* fenster, const QKeyEvent* event) {
+  const bool vor = event->key() == Qt::Key_Tab;
+  auto* reiter = fenster->findChild<QTabWidget*>();
+  if ((!vor && event->key() != Qt::Key_Backtab) || !(event->modifiers() & Qt::ControlModifier) ||
+      reiter == nullptr)
+    return false;
+  const int zahl = reiter->count();
+  reiter->setCurrentIndex((reiter->currentIndex() + (vor ? 1 : zahl - 1)) % zahl);
+  return true;
 }
 
 QString ablageSchluessel(const QWidget* fenster) {
@@ -108,6 +121,7 @@ void Formular::keyPressEvent(QKeyEvent* event) {
     event->accept();
     return;
   }
+  if (reiterWechseln(this, event)) return event->accept();
   QDialog::keyPressEvent(event);
 }
 

@@ -7,7 +7,7 @@ class QLabel;
 class QGridLayout;
 
 // What all forms share: the given name as objectName, geometry remembered per form, Esc closes, F1
-// opens the help topic of the form's name, modal above its opener.
+// opens the help topic of the form's name, Ctrl+Tab turns the pages, modal above its opener.
 class Formular : public QDialog {
  public:
   // name: the form's name, also the key of its geometry and its help topic.
