@@ -18,7 +18,7 @@ using Bauteile::knopf;
 namespace {
 
 struct Feld {
-  const char* spalte;  // of the list, headed as the input
+  const char* spalte;  // of the list, headed as the input where its name is none to read
   const char* beschriftung;
   Eingabefeld::Beschreibung beschreibung;
   int zeile;  // in the frame
@@ -71,7 +71,8 @@ void TV_Arplanoptionen::aufbauen() {
   liarplan->setSelectionMode(QAbstractItemView::SingleSelection);
   liarplan->setLayoutSchluessel("TOVA/tv_arplanoptionen_liarplan/ColWidths");
   for (const Feld& f : felder())
-    liarplan->setUeberschrift(QString::fromUtf8(f.spalte), QString::fromUtf8(f.beschriftung));
+    if (const QString name = QString::fromUtf8(f.spalte); name.contains(u'_'))
+      liarplan->setUeberschrift(name, QString::fromUtf8(f.beschriftung));
   liarplan->setMinimumHeight(6 * fontMetrics().height() + 40);
 
   auto* spalte = new QVBoxLayout(this);

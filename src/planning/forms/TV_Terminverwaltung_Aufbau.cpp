@@ -86,7 +86,7 @@ QWidget* TV_Terminverwaltung::terminBauen() {
   gitter->setColumnStretch(1, 2);
   gitter->setColumnStretch(3, 3);
   QWidget* vorher = nullptr;
-  for (const size_t i : {Datum, InTagen, Termin, Erledigt, Volk, Standort}) {
+  for (const size_t i : {Datum, InTagen, Erledigt, Termin, Volk, Standort}) {
     if (vorher != nullptr) setTabOrder(vorher, sevt[i]);
     vorher = sevt[i];
   }

@@ -6,14 +6,14 @@ namespace {
 
 class ArplanBedienung : public Arplanprobe {};
 
-TEST_F(ArplanBedienung, DieListeIstUeberschriebenWieDieEingaben) {
+TEST_F(ArplanBedienung, DieListeIstLesbarUeberschrieben) {
   oeffne();
   QStringList koepfe;
   for (int i = 0; i < liste()->spalten(); ++i)
     koepfe << liste()->model()->headerData(i, Qt::Horizontal).toString();
   EXPECT_EQ(koepfe.join("|").toStdString(),
-            "Arbeitsart|Startzeitraum (TT.MM)|Endzeitraum (TT.MM)|Wiederholungsfrist (Tage)|"
-            "Volkabhängig (J/N)|Autom. Erled. Buchung|Autom. Erled. Arbeitsart|ID");
+            "Arbeitsart|Startzeitraum|Endzeitraum|Wiederholungsfrist (Tage)|"
+            "Volkabhängig|Autom. Erled. Buchung|Autom. Erled. Arbeitsart|ID");
 }
 
 // Several options one after the other, without clearing the input in between.

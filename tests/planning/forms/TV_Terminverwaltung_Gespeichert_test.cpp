@@ -92,6 +92,16 @@ TEST_F(TVTerminverwaltungGespeichert, WoNichtsEingetragenWurdeWirdAuchNichtsGesa
   EXPECT_EQ(ausgeblendet(), "");
 }
 
+// Down the left column, then down the right one, as they are read.
+TEST_F(TVTerminverwaltungGespeichert, DieTabulatortasteGehtSpalteFuerSpalte) {
+  oeffne();
+  feld(0)->setFocus();
+  for (const int naechstes : {9, 2, 1, 8, 10}) {
+    QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(feld(naechstes)->hasFocus()) << naechstes;
+  }
+}
+
 TEST_F(TVTerminverwaltungGespeichert, EinAbgelehnterLaesstDieAnsichtStehen) {
   oeffne();
   tippe(1, "");
