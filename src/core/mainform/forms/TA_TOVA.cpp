@@ -1,5 +1,6 @@
 #include "core/mainform/forms/TA_TOVA.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QFontDatabase>
@@ -53,7 +54,8 @@ QFont festeSchrift(const QFont& vorlage) {
 TA_TOVA::TA_TOVA() {
   setObjectName(QStringLiteral("TA_TOVA"));
   setWindowTitle(Start::fenstertitel());
-  setWindowIcon(symbol(QStringLiteral("tova")));
+  // Of all windows: the boxes at the start stand alone.
+  QApplication::setWindowIcon(symbol(QStringLiteral("tova")));
   menuesBauen();
   leisteBauen();
   inhaltBauen();

@@ -25,6 +25,13 @@ TEST_F(Hauptstart, ErsterStartLegtDatenbankUndEinstellungenAnUndZeigtDieErstenSc
   EXPECT_EQ(ProgrammGestartet, 1);
 }
 
+TEST_F(Hauptstart, AuchEinFensterOhneHauptformularTraegtDasProgrammsymbol) {
+  ASSERT_TRUE(laden());
+  const QWidget allein;
+  ASSERT_FALSE(allein.windowIcon().isNull());
+  EXPECT_EQ(allein.windowIcon().cacheKey(), form->windowIcon().cacheKey());
+}
+
 TEST_F(Hauptstart, MitVoelkernKommenDieErstenSchritteNicht) {
   voelker(2);
   Formbesuch hilfe("TH_Hilfe_Wieanfangen");
