@@ -20,11 +20,19 @@ function(tova_room name folder)
 endfunction()
 
 # tova_test(FOLDER LIBRARIES...): one GoogleTest program per folder of tests/, offscreen and in a
-# folder of its own, so that what is written into the current folder stays out of the sources.
+# folder of its own, so that what is written into the current folder stays out of the sources. Its
+# main is one of tests/gemeinsam, or a main.cpp of the folder where another is needed.
 function(tova_test folder)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp)
   if(NOT sources)
     return()
+  endif()
+  if(NOT EXISTS ${CMAKE_SOURCE_DIR}/tests/${folder}/main.cpp)
+    if(folder MATCHES "(forms|controls)$")
+      list(APPEND sources ${CMAKE_SOURCE_DIR}/tests/gemeinsam/main_forms.cpp)
+    else()
+      list(APPEND sources ${CMAKE_SOURCE_DIR}/tests/gemeinsam/main_kern.cpp)
+    endif()
   endif()
   string(REPLACE "/" "_" name "test_${folder}")
   add_executable(${name} ${sources})

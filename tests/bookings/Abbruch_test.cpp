@@ -9,6 +9,7 @@
 #include "bookings/Buchung.h"
 #include "core/globals.h"
 #include "data/schema.h"
+#include "gemeinsam/Nebenprogramm.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Verbindung.h"
 
@@ -62,20 +63,16 @@ void laufBuchen() {
   BuchungslaufSpeichern(DB, buchung, ids, kontext);
 }
 
-}  // namespace
-
 // The same program again, as the one that is killed: books until it is.
-int abbruchHelfer(const QString& ordner) {
-  oeffnen(ordner);
+const Nebenprogramm abbruch("--buchen", [](const QStringList& argumente) -> int {
+  oeffnen(argumente.value(0));
   DB = Arbeitsbereich.OpenDatabase(DatenbankPfad);
   QFile aus;
   if (!aus.open(stdout, QIODevice::WriteOnly)) return 1;
   aus.write("los\n");
   aus.flush();
   for (;;) laufBuchen();
-}
-
-namespace {
+});
 
 class Abbruch : public ::testing::TestWithParam<int> {
  protected:
@@ -90,7 +87,7 @@ class Abbruch : public ::testing::TestWithParam<int> {
 
 TEST_P(Abbruch, DanachIstDieDatenbankHeilUndJederLaufGanzDaOderGarNicht) {
   QProcess programm;
-  programm.start(QCoreApplication::applicationFilePath(), {"--abbruch-helfer", m_ordner.path()});
+  programm.start(QCoreApplication::applicationFilePath(), {"--buchen", m_ordner.path()});
   ASSERT_TRUE(programm.waitForStarted());
   ASSERT_TRUE(programm.waitForReadyRead(20000));
   programm.waitForFinished(GetParam());  // never ends by itself

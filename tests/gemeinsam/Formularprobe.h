@@ -11,6 +11,11 @@
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
 
+// What forms say and ask alike.
+inline const QString Weil = "Die Daten werden nicht gespeichert, weil...\r\n\r\n";
+inline const QString Loeschfrage =
+    "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
+
 // A form in a program folder of its own (Basis), driven by key and mouse on its named controls.
 // Boxes that no test expected fail.
 template <typename Form, typename Basis>

@@ -7,6 +7,7 @@
 
 #include "colonies/Testbetrieb.h"
 #include "core/settings.h"
+#include "gemeinsam/Nebenprogramm.h"
 #include "planning/Jahreslauf.h"
 #include "planning/Optionen.h"
 #include "platform/database/Dateigrenze.h"
@@ -39,12 +40,11 @@ Terminfragen immerJa(std::function<void(qint64)> schritt = {},
 
 void toeten() { std::raise(SIGKILL); }
 
-}  // namespace
-
 // The same program again, as the one that is killed: at a colony of the run, when the message
 // comes, or behind it.
-int abbruchHelfer(const QString& ordner, const QString& stelle) {
-  AppPfad = ordner + "/";
+const Nebenprogramm abbruch("--jahreslauf", [](const QStringList& argumente) {
+  const QString stelle = argumente.value(1);
+  AppPfad = argumente.value(0) + "/";
   DatenbankPfad = AppPfad + "TOVA2.MDB";
   HeuteText = "20.06.2006";
   EinstellungenLesen();
@@ -59,9 +59,7 @@ int abbruchHelfer(const QString& ordner, const QString& stelle) {
                             }));
   if (stelle == "Ende") toeten();
   return 1;
-}
-
-namespace {
+});
 
 class Jahresabbruch : public Testbetrieb {
  protected:
@@ -181,7 +179,7 @@ class Jahresmord : public Jahresabbruch, public testing::WithParamInterface<cons
     trennen();
     QProcess programm;
     programm.start(QCoreApplication::applicationFilePath(),
-                   {"--abbruch-helfer", m_ordner.path(), stelle});
+                   {"--jahreslauf", m_ordner.path(), stelle});
     ASSERT_TRUE(programm.waitForFinished(60000));
     ASSERT_EQ(programm.exitStatus(), QProcess::CrashExit);
   }

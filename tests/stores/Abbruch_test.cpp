@@ -8,6 +8,7 @@
 
 #include "core/globals.h"
 #include "data/schema.h"
+#include "gemeinsam/Nebenprogramm.h"
 #include "platform/database/Verbindung.h"
 #include "stores/Handel.h"
 
@@ -39,11 +40,9 @@ void verkaufen(const QString& menge) {
 
 int anzahl(const QString& tabelle) { return DB.Lesen("select ID from " + tabelle)->zeilen(); }
 
-}  // namespace
-
 // The same program again, as the one that is killed.
-int abbruchHelfer(const QString& ordner) {
-  pfadeSetzen(ordner);
+const Nebenprogramm abbruch("--verkaufen", [](const QStringList& argumente) {
+  pfadeSetzen(argumente.value(0));
   DB = Arbeitsbereich.OpenDatabase(DatenbankPfad);
   QFile aus;
   if (!aus.open(stdout, QIODevice::WriteOnly)) return 1;
@@ -51,9 +50,7 @@ int abbruchHelfer(const QString& ordner) {
   aus.flush();
   verkaufen("12,5");
   return 0;
-}
-
-namespace {
+});
 
 class Abbruch : public ::testing::Test {
  protected:
@@ -73,7 +70,7 @@ class Abbruch : public ::testing::Test {
   void toeteBeimSpeichern() {
     schliessen();
     QProcess programm;
-    programm.start(QCoreApplication::applicationFilePath(), {"--abbruch-helfer", m_ordner.path()});
+    programm.start(QCoreApplication::applicationFilePath(), {"--verkaufen", m_ordner.path()});
     ASSERT_TRUE(programm.waitForStarted());
     ASSERT_TRUE(programm.waitForReadyRead(20000));
     // The engine's journal beside the file tells that the deal is being written.

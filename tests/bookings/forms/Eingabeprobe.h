@@ -14,6 +14,7 @@
 
 #include "bookings/forms/TE_Eingabe.h"
 #include "core/globals.h"
+#include "data/helpers.h"
 #include "data/schema.h"
 #include "gemeinsam/Testliste.h"
 #include "platform/controls/Eingabefeld.h"
@@ -34,6 +35,7 @@ class Eingabeprobe : public testing::Test {
     TZ_Variablen::AppPfad = m_ordner.path() + "/";
     TZ_Variablen::DatenbankPfad = TZ_Variablen::AppPfad + "TOVA2.MDB";
     TZ_Variablen::HeuteText = "15.06.2026";
+    Eingabefeld::setDatumErgaenzer([](const QString& text) { return DatumErgaenzen(text); });
     DatenbankAnlegen();
     volk("1", "Anna", "Hof");
     volk("2", "Berta", "Waldrand");

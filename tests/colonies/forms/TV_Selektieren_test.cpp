@@ -4,11 +4,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <optional>
 
 #include "colonies/forms/Selektionsprobe.h"
 #include "gemeinsam/Bildschirm.h"
-#include "platform/controls/Gestaltung.h"
 
 namespace {
 
@@ -218,21 +216,8 @@ TEST_F(TVSelektieren, EinDatenbankfehlerLaesstDieFormOffen) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-// With TOVA_BILDER set to a folder, pictures in the program's look are left there.
 class SelektierenBild : public TVSelektieren, public ::testing::WithParamInterface<int> {
  protected:
-  void SetUp() override {
-    TVSelektieren::SetUp();
-    if (qEnvironmentVariableIsSet("TOVA_BILDER")) {
-      static const bool gestaltet = (gestalten(*qApp), true);
-      EXPECT_TRUE(gestaltet);
-    }
-    m_schrift.emplace(GetParam());
-  }
-  void TearDown() override {
-    TVSelektieren::TearDown();
-    m_schrift.reset();
-  }
   // Those of the form, not the ones within its inputs.
   QList<QAbstractButton*> knoepfe() const {
     QList<QAbstractButton*> alle;
@@ -242,7 +227,7 @@ class SelektierenBild : public TVSelektieren, public ::testing::WithParamInterfa
   }
 
  private:
-  std::optional<Schriftgroesse> m_schrift;
+  const Schriftgroesse m_schrift{GetParam()};
 };
 
 TEST_P(SelektierenBild, NichtsIstAbgeschnittenUndEsPasstAufEinenKleinenSchirm) {

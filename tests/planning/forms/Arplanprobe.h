@@ -7,8 +7,6 @@
 #include "gemeinsam/Formularprobe.h"
 #include "planning/forms/TV_Arplanoptionen.h"
 
-inline const QString Loeschfrage =
-    "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
 inline const QString Neufrage =
     "Durch diese Aktion werden alle Termine lt. Arbeitsplanoptionen aus dem aktuellen Jahr 2006 "
     "gelöscht und neu berechnet. Es werden auch die erledigten Termine gelöscht. Berechnet werden "

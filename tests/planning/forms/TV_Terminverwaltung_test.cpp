@@ -323,10 +323,10 @@ TEST_F(TVTerminverwaltung, LoeschenFragtUndNimmtDieZeileWeg) {
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
   klicke(QString("löschen"));
   klickeZeile(0);
-  boxen.frageMit("Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?", false);
+  boxen.frageMit(Loeschfrage, false);
   klicke(QString("löschen"));
   EXPECT_EQ(anzahl("Termine"), 4);
-  boxen.frageMit("Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?", true);
+  boxen.frageMit(Loeschfrage, true);
   klicke(QString("löschen"));
   EXPECT_EQ(anzahl("Termine", "Termin = 'Schau'"), 0);
   EXPECT_EQ(spalte("Termin"), "Steuer");

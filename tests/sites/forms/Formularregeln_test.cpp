@@ -9,10 +9,6 @@
 
 namespace {
 
-const QString Weil = "Die Daten werden nicht gespeichert, weil...\r\n\r\n";
-const QString LoeschFrage =
-    "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
-
 class Formularregeln : public Orteprobe {
  protected:
   void TearDown() override {
@@ -215,8 +211,8 @@ TEST_F(Formularregeln, EinePflanzeLoeschenVerlangtEineZeileUndFragt) {
   TZ_Variablen::EinstellungenZahl[55] = 1;
   oeffne("2");
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.")
-      .frage(LoeschFrage, false)
-      .frage(LoeschFrage, true);
+      .frage(Loeschfrage, false)
+      .frage(Loeschfrage, true);
   klicke("löschen");
   waehle("lipflanzen", 0);
   klicke("löschen");

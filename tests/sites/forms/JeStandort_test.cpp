@@ -6,27 +6,7 @@
 
 namespace {
 
-const QString Weil = "Die Daten werden nicht gespeichert, weil...\r\n\r\n";
-const QString LoeschFrage =
-    "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
-
-class JeStandortReiter : public Orteprobe {
- protected:
-  void SetUp() override {
-    Orteprobe::SetUp();
-    hof = standort("Hof");
-    heide = standort("Heide");
-    pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
-    pflanze("Linde", QDate(2003, 6, 10), QDate(2003, 7, 10));
-  }
-  // The tab, with the site chosen; "Heide" is row 0, "Hof" row 1.
-  void zumStandort(int zeile) {
-    zumReiter(1);
-    waehle("lijeort", zeile);
-  }
-  qint64 hof = 0;
-  qint64 heide = 0;
-};
+class JeStandortReiter : public ZweiOrte {};
 
 TEST_F(JeStandortReiter, ZeigtDiePflanzenDesGewaehltenStandorts) {
   tracht(hof, "Raps", 60);
@@ -171,7 +151,7 @@ TEST_F(JeStandortReiter, LoeschenZeigtDieSummeNeu) {
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
   klicke("lschje");
   waehle("lijepflanze", 0);
-  boxen.frage(LoeschFrage, true);
+  boxen.frage(Loeschfrage, true);
   klicke("lschje");
   EXPECT_EQ(anzahl("Standorte_Pflanzen"), 1);
   EXPECT_EQ(text("bezproz"), "60");

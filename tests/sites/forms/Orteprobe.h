@@ -30,3 +30,22 @@ class Orteprobe : public Formularprobe<TV_Pflanzen_Standorte, Ortebetrieb> {
     tippe("sevtje_2", anteil);
   }
 };
+
+// Two sites and two plants. In the chooser "Heide" is row 0 and "Hof" row 1.
+class ZweiOrte : public Orteprobe {
+ protected:
+  void SetUp() override {
+    Orteprobe::SetUp();
+    hof = standort("Hof");
+    heide = standort("Heide");
+    pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
+    pflanze("Linde", QDate(2003, 6, 10), QDate(2003, 7, 10));
+  }
+  // The tab of the plants at a site, with the site chosen.
+  void zumStandort(int zeile) {
+    zumReiter(1);
+    waehle("lijeort", zeile);
+  }
+  qint64 hof = 0;
+  qint64 heide = 0;
+};

@@ -6,8 +6,6 @@
 
 namespace {
 
-const QString Weil = "Die Daten werden nicht gespeichert, weil...\r\n\r\n";
-
 class PflanzenReiter : public Orteprobe {};
 
 TEST_F(PflanzenReiter, NeuSchreibtUndFindetDieZeileWieder) {

@@ -7,10 +7,6 @@
 
 namespace {
 
-const QString Weil = "Die Daten werden nicht gespeichert, weil...\r\n\r\n";
-const QString LoeschFrage =
-    "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
-
 class TVPflanzenStandorte : public Orteprobe {};
 class StandorteReiter : public Orteprobe {};
 
@@ -308,10 +304,10 @@ TEST_F(StandorteReiter, LoeschenFragtUndLaesstDiePflanzenZeilenStehen) {
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
   klicke("lschstandort");
   waehle("listandorte", 0);
-  boxen.frage(LoeschFrage, false);
+  boxen.frage(Loeschfrage, false);
   klicke("lschstandort");
   EXPECT_EQ(anzahl("Standorte"), 2);
-  boxen.frage(LoeschFrage, true);
+  boxen.frage(Loeschfrage, true);
   klicke("lschstandort");
   EXPECT_EQ(anzahl("Standorte", "Standort = 'Heide'"), 0);
   EXPECT_EQ(anzahl("Standorte_Pflanzen"), 1);

@@ -6,33 +6,18 @@
 
 namespace {
 
-const QString Weil = "Die Daten werden nicht gespeichert, weil...\r\n\r\n";
 const QString Ueber100 =
     Weil + "...der prozentuale Anteil bei den Pflanzen am Standort nicht über 100 sein darf.";
 const QString KeinOrt = "weil der gewählte Standort nicht im Register \"Standorte\" steht";
 
-// "Heide" is row 0 of the chooser, "Hof" row 1.
-class Trachtzeilen : public Orteprobe {
+class Trachtzeilen : public ZweiOrte {
  protected:
-  void SetUp() override {
-    Orteprobe::SetUp();
-    hof = standort("Hof");
-    heide = standort("Heide");
-    pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
-    pflanze("Linde", QDate(2003, 6, 10), QDate(2003, 7, 10));
-  }
-  void zumStandort(int zeile) {
-    zumReiter(1);
-    waehle("lijeort", zeile);
-  }
   static qint64 zeilenVon(qint64 ort) {
     return anzahl("Standorte_Pflanzen", QString("Standort_Kennung = %1").arg(ort));
   }
   std::string zelle(int zeile, const QString& spalte) {
     return liste("lijepflanze")->zelle(zeile, spalte).toStdString();
   }
-  qint64 hof = 0;
-  qint64 heide = 0;
 };
 
 // ---- changing a row ----

@@ -3,9 +3,6 @@
 // The tabs of purchases and sales.
 namespace {
 
-const QString Weil = "Die Daten werden nicht gespeichert, weil...\r\n\r\n";
-const QString LoeschFrage =
-    "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
 const QString ZuerstLoeschen = "Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.";
 
 class EinkaufReiter : public Handelsprobe {};
@@ -183,10 +180,10 @@ TEST_F(VerkaufReiter, LoeschenOhneZeileUndDieFrage) {
   klicke("lschverkauf");
   tippeVerkauf("Honig", "3");
   klicke("neuverkauf_0");
-  boxen.frage(LoeschFrage, false);
+  boxen.frage(Loeschfrage, false);
   klicke("lschverkauf");
   EXPECT_EQ(anzahl("Verkauf") + anzahl("Honiglager"), 2);
-  boxen.frage(LoeschFrage, true);
+  boxen.frage(Loeschfrage, true);
   klicke("lschverkauf");
   EXPECT_EQ(anzahl("Verkauf") + anzahl("Honiglager"), 0);
   EXPECT_EQ(liste("lihonig")->zeilen(), 0);

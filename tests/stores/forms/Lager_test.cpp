@@ -3,7 +3,6 @@
 // The tab of the honey store.
 namespace {
 
-const QString Weil = "Die Daten werden nicht gespeichert, weil...\r\n\r\n";
 const QString ZuerstLoeschen = "Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.";
 
 class LagerReiter : public Handelsprobe {};

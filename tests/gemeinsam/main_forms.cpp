@@ -4,8 +4,9 @@
 
 #include "platform/controls/Gestaltung.h"
 
+// Forms are judged in the look that the user sees.
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication anwendung(argc, argv);
   gestalten(anwendung);
   testing::InitGoogleTest(&argc, argv);

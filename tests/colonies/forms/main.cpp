@@ -1,9 +1,0 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
-
-int main(int argc, char** argv) {
-  QApplication app(argc, argv);
-  ::testing::InitGoogleTest(&argc, argv);
-  return RUN_ALL_TESTS();
-}
