@@ -33,6 +33,9 @@ using namespace TZ_Variablen;
 
 namespace {
 
+const QString Loeschfrage =
+    "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
+
 Formfall hauptformular() {
   Formfall f{"TA_TOVA", "TA_TOVA", "TA_TOVA", {}, {}};
   f.machen = [](Betrieb& betrieb) -> Form {
@@ -130,8 +133,7 @@ Formfall eingabe(int art) {
         tippe(form, "sevt_0", "31.02.2026");
         boxen.hinweis("Die Buchung wird nicht ausgeführt, weil das Datum nicht korrekt ist.");
       }};
-  f.loeschen = Loeschen{buchungstyp(art).tabelle,
-                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
+  f.loeschen = Loeschen{buchungstyp(art).tabelle, Loeschfrage,
                         [](QWidget* form) { druecke(form, QString("löschen")); }};
   return f;
 }
@@ -234,9 +236,7 @@ Formfall arbeitsplanoptionen() {
                       }};
   // The first of the list; a period that ends behind its start.
   f.sichern->werte = {{"sevt_0", "1. Durchsicht"}, {"sevt_1", "01.05"}, {"sevt_2", "30.06"}};
-  f.loeschen = Loeschen{"Arbeitsplanoptionen",
-                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
-                        [](QWidget* form) {
+  f.loeschen = Loeschen{"Arbeitsplanoptionen", Loeschfrage, [](QWidget* form) {
                           klickeZeile(form->findChild<Grid*>("liarplan"), 0);
                           druecke(form, QString("löschen"));
                         }};
@@ -284,9 +284,7 @@ Formfall terminverwaltung() {
                         boxen.hinweisMit("...die Terminart angegeben werden muß.");
                       }};
   f.sichern->werte = {{"sevt_0", "18.06.2026"}, {"sevt_1", "Futter nachsehen"}, {"sevt_8", "2"}};
-  f.loeschen = Loeschen{"Termine",
-                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
-                        [](QWidget* form) {
+  f.loeschen = Loeschen{"Termine", Loeschfrage, [](QWidget* form) {
                           auto* grid = form->findChild<Grid*>("litermine");
                           klickeZeile(grid, grid->findeZeile("Termin = 'Schwarmkontrolle'"));
                           druecke(form, QString("löschen"));
@@ -329,9 +327,7 @@ Sichern abgelehntOhne(const QString& knopf, const QString& pflichtfeld, const QS
 Formfall standorte() {
   Formfall f{"TV_Pflanzen_Standorte_Standorte", "TV_Pflanzen_Standorte", "TV_Pflanzen_Standorte",
              "neustandort_0", [](Betrieb&) { return standortform("0"); }};
-  f.loeschen = Loeschen{"Standorte",
-                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
-                        [](QWidget* form) {
+  f.loeschen = Loeschen{"Standorte", Loeschfrage, [](QWidget* form) {
                           zeileAufReiter(form, 0, "listandorte", "Standort = 'Hausgarten'");
                           druecke(form, "lschstandort");
                         }};
@@ -352,9 +348,7 @@ Formfall pflanzenJeStandort() {
     form->findChild<QTabWidget*>("reiter")->setCurrentIndex(1);
     return form;
   };
-  f.loeschen = Loeschen{"Standorte_Pflanzen",
-                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
-                        [](QWidget* form) {
+  f.loeschen = Loeschen{"Standorte_Pflanzen", Loeschfrage, [](QWidget* form) {
                           zeileAufReiter(form, 1, "lijepflanze", "Pflanze = 'Krokus'");
                           druecke(form, "lschje");
                         }};
@@ -380,9 +374,7 @@ Formfall pflanzen() {
                         tippe(form, "sevt_0", {});
                         boxen.hinweisMit("...die Pflanze angegeben werden muß.");
                       }};
-  f.loeschen = Loeschen{"Pflanzen",
-                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
-                        [](QWidget* form) {
+  f.loeschen = Loeschen{"Pflanzen", Loeschfrage, [](QWidget* form) {
                           zeileAufReiter(form, 2, "lipflanzen", "Pflanze = 'Krokus'");
                           druecke(form, QString("löschen"));
                         }};
@@ -442,9 +434,7 @@ Formfall handel(int reiter) {
                         boxen.hinweisMit("...das Produkt angegeben werden muß.");
                       }};
   f.sichern->werte = {{produkt, "Sommerhonig"}};
-  f.loeschen = Loeschen{tab.tabelle,
-                        "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
-                        [reiter, liste, tab](QWidget* form) {
+  f.loeschen = Loeschen{tab.tabelle, Loeschfrage, [reiter, liste, tab](QWidget* form) {
                           zeileAufReiter(form, reiter, liste, "Produkt = '" + tab.produkt + "'");
                           druecke(form, "lsch" + tab.name);
                         }};
