@@ -159,7 +159,7 @@ Lagerblock::Lagerblock() : Handelsblock(lagerplan()) {
   auto* links = new QWidget;
   auto* teiler = new QSplitter;
   teiler->setObjectName("lagerteiler");
-  layout()->replaceWidget(liste(), teiler);
+  delete layout()->replaceWidget(liste(), teiler);
   QVBoxLayout* spalte = spalteIn(links);
   auto* kopf = new QHBoxLayout;
   kopf->addWidget(ueberschrift("Lagerbuchungen"));
