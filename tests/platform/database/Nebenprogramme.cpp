@@ -1,10 +1,11 @@
-#include "platform/database/Helfer.h"
+// What this test program does as a second process.
 
 #include <unistd.h>
 
 #include <QThread>
 #include <cstdio>
 
+#include "gemeinsam/Nebenprogramm.h"
 #include "platform/database/Datenbank.h"
 #include "platform/database/Verbindung.h"
 
@@ -20,6 +21,8 @@ void schreibe(Database& db, int lauf) {
              {QString(2000, u'x'), lauf});
 }
 
+// Writes 150 of 300 rows of one action, through a cache so small that they reach the file, says
+// "halb" and waits to be killed.
 int unterbrochen(const QString& pfad) {
   Workspace arbeitsbereich;
   Database db = arbeitsbereich.OpenDatabase(pfad);
@@ -36,6 +39,7 @@ int unterbrochen(const QString& pfad) {
   return 0;
 }
 
+// Says "los" and writes actions of 300 rows, one after the other, until killed.
 int laeufe(const QString& pfad) {
   Workspace arbeitsbereich;
   Database db = arbeitsbereich.OpenDatabase(pfad);
@@ -50,6 +54,8 @@ int laeufe(const QString& pfad) {
   }
 }
 
+// Opens the file as a user without rights; says the kind of failure ("nurlesen", "keine", "anders")
+// or "offen".
 int ohneRechte(const QString& pfad) {
   constexpr uid_t niemand = 65534;
   if (geteuid() == 0 && (setgid(niemand) != 0 || setuid(niemand) != 0)) return 1;
@@ -66,12 +72,13 @@ int ohneRechte(const QString& pfad) {
   return 0;
 }
 
-}  // namespace
-
-std::optional<int> Helfer::laufe(const QStringList& argumente) {
-  if (argumente.size() != 3) return std::nullopt;
-  if (argumente[1] == QLatin1String("--unterbrochen")) return unterbrochen(argumente[2]);
-  if (argumente[1] == QLatin1String("--laeufe")) return laeufe(argumente[2]);
-  if (argumente[1] == QLatin1String("--ohne-rechte")) return ohneRechte(argumente[2]);
-  return std::nullopt;
+// Behind the word stands the file.
+Nebenprogramm::Aufgabe mitDatei(int (*aufgabe)(const QString&)) {
+  return [aufgabe](const QStringList& argumente) { return aufgabe(argumente.value(0)); };
 }
+
+const Nebenprogramm programme[] = {{"--unterbrochen", mitDatei(unterbrochen)},
+                                   {"--laeufe", mitDatei(laeufe)},
+                                   {"--ohne-rechte", mitDatei(ohneRechte)}};
+
+}  // namespace
