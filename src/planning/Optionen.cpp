@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/globals.h"
+#include "data/Verwaltungsfelder.h"
 #include "data/helpers.h"
 #include "planning/Optionsfehler.h"
 #include "planning/Termine.h"
@@ -14,7 +15,7 @@ using namespace TZ_Variablen;
 
 namespace {
 
-enum Slot { Arbeitsart, Start, Ende, Frist, Volkabhaengig, Buchung, Erledigtart };
+enum Slot : size_t { Arbeitsart, Start, Ende, Frist, Volkabhaengig, Buchung, Erledigtart };
 
 // "mmdd", so that days compare as texts.
 QString tagschlüssel(const QString& text) {
@@ -40,19 +41,27 @@ void termineBerechnen(Database& db, qint64 id, const QString& volkabhängig) {
 qint64 zeileAnlegen(Database& db, const Optionseingabe& eingabe) {
   Recordset rs = db.OpenRecordset("select top 1 * from Arbeitsplanoptionen");
   rs.AddNew();
-  rs["Arbeitsart"] = TextLesen(eingabe[Arbeitsart]);
-  rs["Startzeitraum"] = tagMonat(eingabe[Start]);
-  rs["Endzeitraum"] = tagMonat(eingabe[Ende]);
-  rs["Wiederholungsfrist_Tage"] = GanzLesen(eingabe[Frist]);
-  rs[QString("Volkabhängig")] = TextLesen(eingabe[Volkabhaengig]);
-  rs["Auto_erledigt_Buchung"] = TextLesen(eingabe[Buchung]);
-  rs["Auto_erledigt_Arbeitsart"] = TextLesen(eingabe[Erledigtart]);
+  for (const Slot slot : {Arbeitsart, Volkabhaengig, Buchung, Erledigtart})
+    rs[optionsfelder()[slot]] = TextLesen(eingabe[slot]);
+  for (const Slot slot : {Start, Ende}) rs[optionsfelder()[slot]] = tagMonat(eingabe[slot]);
+  rs[optionsfelder()[Frist]] = GanzLesen(eingabe[Frist]);
   rs.Update();
   rs.MoveLast();
   return rs.Wert("ID").toLongLong();
 }
 
 }  // namespace
+
+const std::array<QString, 7>& optionsfelder() {
+  static const std::array<QString, 7> felder = {"Arbeitsart",
+                                                "Startzeitraum",
+                                                "Endzeitraum",
+                                                "Wiederholungsfrist_Tage",
+                                                "Volkabhängig",
+                                                "Auto_erledigt_Buchung",
+                                                "Auto_erledigt_Arbeitsart"};
+  return felder;
+}
 
 QString optionenAnweisung() { return "select * from Arbeitsplanoptionen order by Arbeitsart"; }
 
@@ -80,26 +89,20 @@ QStringList erledigtArbeitsarten(Database& db) {
 QString optionPruefen(const Optionseingabe& eingabe) {
   const QString start = TextLesen(eingabe[Start]);
   const QString ende = TextLesen(eingabe[Ende]);
-  QString gründe;
-  if (TextLesen(eingabe[Arbeitsart]).isEmpty())
-    gründe += QString("...die Arbeitsart angegeben werden muß.") + CRLF;
+  QStringList gründe;
+  if (TextLesen(eingabe[Arbeitsart]).isEmpty()) gründe << "...die Arbeitsart angegeben werden muß.";
   if (!tagDesJahres(start).isValid() || !tagDesJahres(ende).isValid())
-    gründe += QString("...der Start- und Endzeitraum angegeben werden muß.") + CRLF;
+    gründe << "...der Start- und Endzeitraum angegeben werden muß.";
   if (tagschlüssel(start) > tagschlüssel(ende))
-    gründe += QString("...der Startzeitraum nicht hinter dem Endzeitraum liegen darf.") + CRLF;
-  if (gründe.isEmpty()) return {};
-  return QString("Die Daten werden nicht gespeichert, weil...") + CRLF + CRLF + gründe;
+    gründe << "...der Startzeitraum nicht hinter dem Endzeitraum liegen darf.";
+  return gründe.isEmpty() ? QString() : Verwaltung::ablehnung(gründe) + CRLF;
 }
 
 QString optionsnamePruefen(Database& db, const QString& arbeitsart, qint64 id) {
   const QString name = TextLesen(arbeitsart);
-  QString anweisung = "select Arbeitsart from Arbeitsplanoptionen where Arbeitsart = ?";
-  QVariantList werte{name};
-  if (id != 0) {
-    anweisung += " and ID <> ?";
-    werte << id;
-  }
-  if (db.Lesen(anweisung, werte)->zeilen() == 0) return {};
+  if (!Verwaltung::vorhanden(db, "Arbeitsplanoptionen", "Arbeitsart", name,
+                             id == 0 ? std::nullopt : std::optional(id)))
+    return {};
   return QString("Es existiert bereits ein Arbeitsplan mit dem Namen ") + name + u'.';
 }
 

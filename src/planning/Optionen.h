@@ -11,6 +11,8 @@
 // The inputs of an option, by slot: 0 Arbeitsart, 1 Startzeitraum, 2 Endzeitraum,
 // 3 Wiederholungsfrist_Tage, 4 Volkabhängig, 5 Auto_erledigt_Buchung, 6 Auto_erledigt_Arbeitsart.
 using Optionseingabe = std::array<QString, 7>;
+// The table's field of each slot.
+const std::array<QString, 7>& optionsfelder();
 
 // A row of the list of options.
 struct Optionszeile {

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "core/globals.h"
+#include "data/Verwaltungsfelder.h"
 #include "data/helpers.h"
 #include "platform/database/Recordset.h"
 #include "platform/locale/Deutsch.h"
@@ -96,9 +97,7 @@ Pruefung pruefen(Database& db, const Eingabe& eingabe) {
   return ergebnis;
 }
 
-QString abgelehntText(const QString& gruende) {
-  return "Die Daten werden nicht gespeichert, weil..." + CRLF + CRLF + gruende;
-}
+QString abgelehntText(const QString& gruende) { return Verwaltung::ablehnung({gruende}); }
 
 QString standortFrage(const QString& standort) {
   return "Soll der Termin wirklich bei allen Völkern am Standort '" + standort +

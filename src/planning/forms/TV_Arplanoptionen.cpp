@@ -16,6 +16,18 @@
 
 using namespace TZ_Variablen;
 
+namespace {
+
+// What the choice offers of this text, as the choice spells it; empty when it doesn't.
+QString angebotener(const QString& text, const QStringList& angebot) {
+  const auto treffer = std::find_if(angebot.cbegin(), angebot.cend(), [&](const QString& anderer) {
+    return Kollation::vergleiche(anderer, text) == 0;
+  });
+  return treffer == angebot.cend() ? QString() : *treffer;
+}
+
+}  // namespace
+
 TV_Arplanoptionen::TV_Arplanoptionen(QWidget* oeffner)
     : Formular("TV_Arplanoptionen", "Arbeitsplan-Optionen", oeffner) {
   aufbauen();
@@ -68,19 +80,10 @@ void TV_Arplanoptionen::leeren() {
 
 void TV_Arplanoptionen::zeileZeigen(int zeile) {
   if (zeile < 0 || zeile >= liarplan->zeilen()) return;
-  const std::array<QString, 5> felder = {"Arbeitsart", "Startzeitraum", "Endzeitraum",
-                                         "Wiederholungsfrist_Tage", QString("Volkabhängig")};
-  for (size_t i = 0; i < felder.size(); ++i)
-    sevt[i]->setInhalt(TextLesen(liarplan->wert(zeile, felder[i])));
-  for (const auto& [i, feld] :
-       {std::pair(size_t{5}, "Auto_erledigt_Buchung"), {size_t{6}, "Auto_erledigt_Arbeitsart"}}) {
-    // Only what the choice offers is shown, as the choice spells it.
-    const QString text = TextLesen(liarplan->wert(zeile, feld));
-    const QStringList angebot = sevt[i]->beschreibung().auswahl;
-    const auto treffer = std::find_if(angebot.cbegin(), angebot.cend(), [&](const QString& a) {
-      return Kollation::vergleiche(a, text) == 0;
-    });
-    sevt[i]->setInhalt(treffer == angebot.cend() ? QString() : *treffer);
+  for (size_t i = 0; i < sevt.size(); ++i) {
+    const QString text = TextLesen(liarplan->wert(zeile, optionsfelder()[i]));
+    const bool wahl = i >= 5;
+    sevt[i]->setInhalt(wahl ? angebotener(text, sevt[i]->beschreibung().auswahl) : text);
   }
   AlteArbeitsart = liarplan->wert(zeile, "Arbeitsart").toString();
 }

@@ -17,8 +17,7 @@ using Bauteile::knopf;
 
 namespace {
 
-struct Feld {
-  const char* spalte;  // of the list, headed as the input where its name is none to read
+struct Feld {  // of optionsfelder(), in its order
   const char* beschriftung;
   Eingabefeld::Beschreibung beschreibung;
   int zeile;  // in the frame
@@ -29,25 +28,13 @@ using Art = Eingabefeld::Art;
 
 const std::array<Feld, 7>& felder() {
   static const std::array<Feld, 7> liste = {
-      {{"Arbeitsart", "Arbeitsart", {Art::Text, 30, 0, {}, {}, {}, {}}, 0, 0},
-       {"Startzeitraum", "Startzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 1, 0},
-       {"Endzeitraum", "Endzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 2, 0},
-       {"Wiederholungsfrist_Tage",
-        "Wiederholungsfrist (Tage)",
-        {Art::Ganzzahl, 2, 0, 99, "0", {}, {}},
-        3,
-        0},
-       {"Volkabhängig", "Volkabhängig (J/N)", {Art::Auswahl, 1, 0, {}, {}, {}, {"J", "N"}}, 0, 1},
-       {"Auto_erledigt_Buchung",
-        "Autom. Erled. Buchung",
-        {Art::Auswahl, 15, 0, {}, {}, {}, erledigtBuchungen()},
-        1,
-        1},
-       {"Auto_erledigt_Arbeitsart",
-        "Autom. Erled. Arbeitsart",
-        {Art::Auswahl, 30, 0, {}, {}, {}, {}},
-        2,
-        1}}};
+      {{"Arbeitsart", {Art::Text, 30, 0, {}, {}, {}, {}}, 0, 0},
+       {"Startzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 1, 0},
+       {"Endzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 2, 0},
+       {"Wiederholungsfrist (Tage)", {Art::Ganzzahl, 2, 0, 99, "0", {}, {}}, 3, 0},
+       {"Volkabhängig (J/N)", {Art::Auswahl, 1, 0, {}, {}, {}, {"J", "N"}}, 0, 1},
+       {"Autom. Erled. Buchung", {Art::Auswahl, 15, 0, {}, {}, {}, erledigtBuchungen()}, 1, 1},
+       {"Autom. Erled. Arbeitsart", {Art::Auswahl, 30, 0, {}, {}, {}, {}}, 2, 1}}};
   return liste;
 }
 
@@ -70,9 +57,10 @@ void TV_Arplanoptionen::aufbauen() {
   liarplan->setAccessibleName("Arbeitsplan-Optionen");
   liarplan->setSelectionMode(QAbstractItemView::SingleSelection);
   liarplan->setLayoutSchluessel("TOVA/tv_arplanoptionen_liarplan/ColWidths");
-  for (const Feld& f : felder())
-    if (const QString name = QString::fromUtf8(f.spalte); name.contains(u'_'))
-      liarplan->setUeberschrift(name, QString::fromUtf8(f.beschriftung));
+  // Headed as the input where the field's name is none to read.
+  for (size_t i = 0; i < felder().size(); ++i)
+    if (const QString& name = optionsfelder()[i]; name.contains(u'_'))
+      liarplan->setUeberschrift(name, QString::fromUtf8(felder()[i].beschriftung));
   liarplan->setMinimumHeight(6 * fontMetrics().height() + 40);
 
   auto* spalte = new QVBoxLayout(this);
