@@ -1,6 +1,5 @@
 #include "Trachtgebiet.h"
 
-
 #include "core/globals.h"
 #include "platform/locale/Deutsch.h"
 #include "sites/Standorte.h"
