@@ -49,6 +49,15 @@ Daten buchungenLesen(Database& datenbank, int art, const QString& volkId, Anzeig
   return datenbank.Lesen(abfrage.anweisung, abfrage.werte);
 }
 
+QStringList volkstandorte(Database& datenbank) {
+  const Daten zeilen =
+      datenbank.Lesen("select distinct Standort from Bienenvolk order by Standort");
+  QStringList orte;
+  for (int i = 0; i < zeilen->zeilen(); ++i)
+    if (const QString ort = TextLesen(zeilen->wert(i, 0)); !orte.contains(ort)) orte << ort;
+  return orte;
+}
+
 QList<Slotaenderung> zeilentexte(const Datenblock& daten, int zeile, int art) {
   QList<Slotaenderung> texte;
   if (const int spalte = daten.spaltenNummer(u"Datum"); spalte >= 0)

@@ -27,6 +27,10 @@ Daten buchungenLesen(Database& datenbank, int art, const QString& volkId, Anzeig
 // text. A field that the list doesn't have is left out.
 QList<Slotaenderung> zeilentexte(const Datenblock& daten, int zeile, int art);
 
+// The sites of all colonies in their order, as they are read; colonies without one give an empty
+// text. Throws Datenbankfehler.
+QStringList volkstandorte(Database& datenbank);
+
 // "Bewegungsdaten für das Volk:  3 / Anna"
 QString listenUeberschrift(const QString& volknr, const QString& volkname);
 // The name under which the list's column widths are kept, as "1bewegungsdaten".

@@ -52,6 +52,18 @@ const Felder& trachtfelder() {
   return felder;
 }
 
+QString standortliste() { return "select * from Standorte order by Standort"; }
+
+QString pflanzenliste() { return "select * from Pflanzen order by Pflanze"; }
+
+QString trachtliste() {
+  return "select * from Standorte_Pflanzen where Standort_Kennung = ? order by Pflanze";
+}
+
+Daten standortnamen(Database& datenbank) {
+  return datenbank.Lesen("select Standort from Standorte order by Standort");
+}
+
 QStringList standortGruende(const Texte& texte) {
   if (!TextLesen(texte["Standort"]).isEmpty()) return {};
   return {"...der Standort angegeben werden muß."};
@@ -131,7 +143,7 @@ QDate verschoben(QDate tag, int jahre, const QString& pflanze) {
 }  // namespace
 
 void trachtzeitenErmitteln(Database& datenbank) {
-  const Daten orte = datenbank.Lesen("select * from Standorte order by Standort");
+  const Daten orte = datenbank.Lesen(standortliste());
   const int spalte = orte->spaltenNummer(u"Standort");
   datenbank.Sammelschreiben([&] {
     for (int i = 0; i < orte->zeilen(); ++i) trachtzeitErmitteln(datenbank, orte->wert(i, spalte));

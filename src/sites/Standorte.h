@@ -11,6 +11,13 @@ const Verwaltung::Felder& standortfelder();  // of the table Standorte
 const Verwaltung::Felder& pflanzenfelder();  // of Pflanzen
 const Verwaltung::Felder& trachtfelder();    // of Standorte_Pflanzen
 
+// The statements of the lists. That of the plants at a site takes the site's ID.
+QString standortliste();
+QString pflanzenliste();
+QString trachtliste();
+// The names of all sites in the order of their list.
+Daten standortnamen(Database& datenbank);
+
 // Reasons for not saving, in their order; none when all is well. anteilSonst is the share in per
 // cent of the site's other plants.
 QStringList standortGruende(const Verwaltung::Texte& texte);

@@ -47,6 +47,13 @@ QString geldfeld(Seite seite) {
   return seite == Seite::Einkauf ? QStringLiteral("Ausgaben") : QStringLiteral("Einnahmen");
 }
 
+QString geschaeftsliste(Seite seite) {
+  return seite == Seite::Einkauf ? QStringLiteral("select * from Einkauf order by Datum")
+                                 : QStringLiteral("select * from Verkauf order by Datum");
+}
+
+QString lagerliste() { return QStringLiteral("select * from Honiglager order by Datum"); }
+
 // ---- fields ----
 
 Felder geschaeftsfelder(Seite seite) {

@@ -15,6 +15,10 @@ QString tabelle(Seite seite);
 QString partnerfeld(Seite seite);
 QString geldfeld(Seite seite);
 
+// The statements of the lists.
+QString geschaeftsliste(Seite seite);
+QString lagerliste();
+
 // The inputs, today (HeuteText) as the first date. Not kept, as today differs from start to start.
 Verwaltung::Felder geschaeftsfelder(Seite seite);
 Verwaltung::Felder lagerfelder();

@@ -132,3 +132,11 @@ TEST_F(Buchungsliste, UeberschriftUndLayoutname) {
   EXPECT_EQ(listenLayout(0), "0bewegungsdaten");
   EXPECT_EQ(listenLayout(10), "10bewegungsdaten");
 }
+
+TEST_F(Buchungsliste, StandorteDerVoelkerJederEinmalUndKeinerAlsLeererText) {
+  schreibe("update Bienenvolk set Standort = null");
+  for (const QVariant& ort :
+       {QVariant("Waldrand"), QVariant("Heide"), QVariant("Waldrand"), QVariant(""), QVariant()})
+    schreibe("insert into Bienenvolk (Volknr, Standort) values ('9', ?)", {ort});
+  EXPECT_EQ(volkstandorte(db()), QStringList({"", "Heide", "Waldrand"}));
+}

@@ -143,12 +143,7 @@ void TE_Eingabe::laden() {
   volkliFuellen();
 
   m_kom->clear();
-  const Daten standorte =
-      m_datenbank.Lesen("select distinct Standort from Bienenvolk order by Standort");
-  for (int zeile = 0; zeile < standorte->zeilen(); ++zeile) {
-    const QString text = TextLesen(standorte->wert(zeile, 0));
-    if (m_kom->findText(text) < 0) m_kom->addItem(text);  // no site is null or an empty text
-  }
+  m_kom->addItems(volkstandorte(m_datenbank));
   m_kom->setCurrentIndex(-1);
   MaskeAufbauen();
 }

@@ -17,7 +17,7 @@ Verwaltungsblock::Plan standortplan() {
   plan.tabelle = "Standorte";
   plan.felder = Standorte::standortfelder();
   plan.titel = "Standorte eingeben / ändern";
-  plan.anweisung = "select * from Standorte order by Standort";
+  plan.anweisung = Standorte::standortliste();
   plan.liste = "listandorte";
   plan.listentitel = "Standorte";
   plan.schluessel = "tv_pflanzen_standorte_listandorte";
@@ -34,7 +34,7 @@ Verwaltungsblock::Plan pflanzenplan() {
   plan.tabelle = "Pflanzen";
   plan.felder = Standorte::pflanzenfelder();
   plan.titel = "Pflanzen eingeben / ändern";
-  plan.anweisung = "select * from Pflanzen order by Pflanze";
+  plan.anweisung = Standorte::pflanzenliste();
   plan.liste = "lipflanzen";
   plan.listentitel = "Pflanzen";
   plan.schluessel = "tv_pflanzen_standorte_lipflanzen";
@@ -49,7 +49,7 @@ Verwaltungsblock::Plan trachtplan() {
   plan.tabelle = "Standorte_Pflanzen";
   plan.felder = Standorte::trachtfelder();
   plan.titel = "Pflanzen am Standort eingeben / ändern";
-  plan.anweisung = "select * from Standorte_Pflanzen where Standort_Kennung = ? order by Pflanze";
+  plan.anweisung = Standorte::trachtliste();
   plan.liste = "lijepflanze";
   plan.listentitel = "Pflanzen (Tracht) am ausgewählten Standort";
   plan.schluessel = "tv_pflanzen_standorte_lijepflanze";

@@ -186,7 +186,7 @@ void TV_Pflanzen_Standorte::pflanzenJeStandortOeffnen() {
   const auto aktuell = m_standorte->aktuelleId();
   m_tracht->picklistenLesen();
   m_tracht->neuKnopf()->setDefault(true);
-  const Daten orte = m_db.Lesen("select Standort from Standorte order by Standort");
+  const Daten orte = Standorte::standortnamen(m_db);
   m_orte = ortsIds(*orte, *m_standorte->liste());
   lijeort->setDaten(orte);
   const qsizetype zeile = aktuell ? m_orte.indexOf(*aktuell) : 0;

@@ -25,8 +25,7 @@ Verwaltungsblock::Plan geschaeftsplan(Seite seite) {
   plan.tabelle = Handel::tabelle(seite);
   plan.felder = Handel::geschaeftsfelder(seite);
   plan.titel = einkauf ? "Einkäufe eingeben / ändern" : "Verkäufe eingeben / ändern";
-  plan.anweisung =
-      einkauf ? "select * from Einkauf order by Datum" : "select * from Verkauf order by Datum";
+  plan.anweisung = Handel::geschaeftsliste(seite);
   plan.liste = einkauf ? "lieinkauf" : "liverkauf";
   plan.listentitel = einkauf ? "Einkäufe" : "Verkäufe";
   plan.schluessel = einkauf ? "tv_einverkauf_lager_lieinkauf" : "tv_einverkauf_lager_liverkauf";
@@ -44,7 +43,7 @@ Verwaltungsblock::Plan lagerplan() {
   plan.tabelle = "Honiglager";
   plan.felder = Handel::lagerfelder();
   plan.titel = "Lagerbuchungen eingeben / ändern";
-  plan.anweisung = "select * from Honiglager order by Datum";
+  plan.anweisung = Handel::lagerliste();
   plan.liste = "lihonig";
   plan.listentitel = "Honiglager";
   plan.schluessel = "tv_einverkauf_lager_lihonig";
@@ -147,7 +146,7 @@ qint64 Geschaeftsblock::schreiben(const Texte& texte, std::optional<qint64> id,
 // Date and product come from the inputs: a movement of another day or product stays in the store.
 void Geschaeftsblock::vorLöschen(qint64 id) {
   const Texte eingaben = texte();
-  Handel::bewegungLoeschen(TZ_Variablen::DB, m_seite, eingaben["Datum"], eingaben["Produkt"], id);
+  Handel::bewegungLoeschen(datenbank(), m_seite, eingaben["Datum"], eingaben["Produkt"], id);
 }
 
 // ---- honey store ----
