@@ -192,7 +192,7 @@ void einstellungenZeigen(Begleiter& tag) {
   });
 }
 
-// No menu entry ends in this list yet; it gets what the main list shows.
+// The main list itself, which no entry hands on: the longest one there is.
 void listeWeitergeben(Begleiter& tag) {
   tag.schritt("TA_TOVA",
               [](QWidget* form) { zwischenlisteZeigen(form, *form->findChild<Grid*>("datali")); });

@@ -134,4 +134,14 @@ TEST(Arrows, MessageBoxesAndFileDialogsAreMadeInPlatformOnly) {
   }
 }
 
+TEST(Arrows, FormsHoldNoStatement) {
+  static const QRegularExpression anweisung(
+      QStringLiteral("\"(select .* from|insert into|update .* set|delete from) "),
+      QRegularExpression::CaseInsensitiveOption);
+  for (const QString& name : dateien()) {
+    if (!raum(name).endsWith("/forms")) continue;
+    EXPECT_FALSE(anweisung.match(inhalt(name)).hasMatch()) << name.toStdString();
+  }
+}
+
 }  // namespace
