@@ -118,6 +118,7 @@ Daten liste(Database& db) {
       "order by Datum",
       {grenze()});
   std::vector<Spalte> spalten;
+  spalten.reserve(static_cast<size_t>(voelker->spalten()));
   for (int i = 0; i < voelker->spalten(); ++i) spalten.push_back(voelker->spalte(i));
   const Mischung mischung(*voelker, *allgemein);
   Datenblock::Bauer bauer(spalten);
