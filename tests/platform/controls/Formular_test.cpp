@@ -157,10 +157,14 @@ TEST_F(FormularTest, AblageStehtSofortInDerDatei) {
   EXPECT_TRUE(QFile::exists(ordner.filePath(QStringLiteral("Fenster.ini"))));
 }
 
+// A file stands where the folder should be: not even the administrator can write there.
 TEST_F(FormularTest, AblageInUnbeschreibbaremOrdnerStoertNicht) {
-  Fensterablage::setDatei(QStringLiteral("/gibt/es/nicht/Fenster.ini"));
-  Fensterablage::schreiben(QStringLiteral("a"), 1);
-  SUCCEED();
+  QFile keinOrdner(ordner.filePath(QStringLiteral("belegt")));
+  ASSERT_TRUE(keinOrdner.open(QFile::WriteOnly));
+  const QString datei = keinOrdner.fileName() + QStringLiteral("/Fenster.ini");
+  Fensterablage::setDatei(datei);
+  EXPECT_NO_THROW(Fensterablage::schreiben(QStringLiteral("a"), 1));
+  EXPECT_FALSE(QFile::exists(datei));
 }
 
 TEST(Ereignis, GibtTrueWennAllesGutGing) {

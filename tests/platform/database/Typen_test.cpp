@@ -127,9 +127,10 @@ TEST_F(Typen, WertAusserhalbDesBereichsIstEinFehlerUndNichtsWirdGeschrieben) {
 }
 
 TEST_F(Typen, EineGescheiterteMassenaenderungAendertKeineZeile) {
-  for (int i = 1; i <= 300; ++i) {
-    db.Execute(s("insert into Bienenvolk (Jahre, Wabenanzahl) values (?, 1)"), {i});
-  }
+  db.Sammelschreiben([&] {
+    for (int i = 1; i <= 300; ++i)
+      db.Execute(s("insert into Bienenvolk (Jahre, Wabenanzahl) values (?, 1)"), {i});
+  });
   const QString anweisung = s("update Bienenvolk set Wabenanzahl = Jahre * 150");  // 219 fails
   ERWARTE_FEHLER(db.Execute(anweisung), Wertebereich, "Wabenanzahl");
   EXPECT_EQ(anzahl(s("where Wabenanzahl = 1")), 300);
