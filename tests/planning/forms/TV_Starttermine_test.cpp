@@ -1,6 +1,5 @@
 // The list of the open appointments: what it shows and hands on.
 
-
 #include "planning/forms/Starttermineprobe.h"
 
 namespace {
