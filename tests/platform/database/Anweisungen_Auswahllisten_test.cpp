@@ -1,4 +1,4 @@
-#include "platform/database/Anweisungen.h"
+#include "platform/database/Anweisungsprobe.h"
 
 // The statements that fill the lists to choose from.
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/database/Anweisungen.h"
+#include "platform/database/Anweisungsprobe.h"
 
 // The statements of bookings, and of their exchange with a mobile device.
 namespace {

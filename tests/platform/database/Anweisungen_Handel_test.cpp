@@ -1,4 +1,4 @@
-#include "platform/database/Anweisungen.h"
+#include "platform/database/Anweisungsprobe.h"
 
 // The statements of purchases, sales, the honey store, articles, customers and seals.
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/database/Anweisungen.h"
+#include "platform/database/Anweisungsprobe.h"
 
 // The statements of the lists, the groupings and the cross tables.
 namespace {

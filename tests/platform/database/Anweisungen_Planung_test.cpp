@@ -1,4 +1,4 @@
-#include "platform/database/Anweisungen.h"
+#include "platform/database/Anweisungsprobe.h"
 
 // The statements of the work plan, the appointments and the working hours.
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/database/Anweisungen.h"
+#include "platform/database/Anweisungsprobe.h"
 
 // The statements about colonies: the main list, the record, the selection, the lists to choose
 // from.
