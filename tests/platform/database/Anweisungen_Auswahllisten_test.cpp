@@ -8,7 +8,7 @@ struct Auswahllisten {
   QStringList felder;
 };
 
-class AnweisungenDerAuswahllisten : public Anweisungen,
+class AnweisungenDerAuswahllisten : public Anweisungsprobe,
                                     public testing::WithParamInterface<Auswahllisten> {};
 
 // Each text once, in the order of the texts; of texts that differ in case only, the first.
@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
         Auswahllisten{"Sonstigeernte", {"Ernteart"}}),
     [](const auto& fall) { return QString(fall.param.tabelle).replace("ö", "oe").toStdString(); });
 
-TEST_F(Anweisungen, AuswahllistenMitIhremInhalt) {
+TEST_F(Anweisungsprobe, AuswahllistenMitIhremInhalt) {
   pruefe({
       {"Beutearten, groß oder klein", "select distinct Beuteart from Bienenvolk order by Beuteart",
        zeilen({"<>", "Dadant", "Zander"})},

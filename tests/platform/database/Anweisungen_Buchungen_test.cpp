@@ -3,7 +3,7 @@
 // The statements of bookings, and of their exchange with a mobile device.
 namespace {
 
-TEST_F(Anweisungen, ListeDerBuchungsart) {
+TEST_F(Anweisungsprobe, ListeDerBuchungsart) {
   pruefe({
       {"Liste der Buchungsart", QString(stockkartenfelder) +
                                     " where Volk_ID = 1 and Datum >= #01/01/2006# and Datum <= "
@@ -11,7 +11,7 @@ TEST_F(Anweisungen, ListeDerBuchungsart) {
   });
 }
 
-TEST_F(Anweisungen, VorschlaegeAusFrueherenBuchungen) {
+TEST_F(Anweisungsprobe, VorschlaegeAusFrueherenBuchungen) {
   pruefe({
       {"Vorschlag aus der letzten Behandlung",
        "select top 1 * from Behandlung where Behandlungsart = 'varroa' order by Datum DESC",
@@ -32,7 +32,7 @@ TEST_F(Anweisungen, VorschlaegeAusFrueherenBuchungen) {
   });
 }
 
-TEST_F(Anweisungen, EineBuchungErledigtIhrenTermin) {
+TEST_F(Anweisungsprobe, EineBuchungErledigtIhrenTermin) {
   pruefe({
       {"Die eine Buchung", "select top 1 * from Honigernte where Volk_ID = 1 and ID = 2"},
       {"Optionen, die eine Buchung erledigt",
@@ -50,7 +50,7 @@ TEST_F(Anweisungen, EineBuchungErledigtIhrenTermin) {
   });
 }
 
-TEST_F(Anweisungen, NeuesteBuchungen) {
+TEST_F(Anweisungsprobe, NeuesteBuchungen) {
   pruefe({
       {"Leere Zeilen zum Anfügen", "select * from Honiglager where ID = 0", QStringList()},
       {"Neueste Stockkarte, bei gleichem Tag die erste",
@@ -66,7 +66,7 @@ TEST_F(Anweisungen, NeuesteBuchungen) {
   });
 }
 
-TEST_F(Anweisungen, AustauschJederBuchungsart) {
+TEST_F(Anweisungsprobe, AustauschJederBuchungsart) {
   for (const QString& tabelle : buchungstabellen) {
     pruefe({
         {"Buchungen ab einem Tag",
@@ -80,7 +80,7 @@ TEST_F(Anweisungen, AustauschJederBuchungsart) {
   }
 }
 
-TEST_F(Anweisungen, AustauschVonTerminenUndVoelkern) {
+TEST_F(Anweisungsprobe, AustauschVonTerminenUndVoelkern) {
   pruefe({
       {"Termine zum Mitnehmen",
        "select Datum, Volknr, Volkname, Termin, Standort, Erledigt, Termine.ID from Bienenvolk, "
@@ -97,7 +97,7 @@ TEST_F(Anweisungen, AustauschVonTerminenUndVoelkern) {
   });
 }
 
-TEST_F(Anweisungen, WasSchonEingelesenIst) {
+TEST_F(Anweisungsprobe, WasSchonEingelesenIst) {
   pruefe({
       {"Arbeit schon eingelesen",
        "select datum from Arbeiten where Volk_ID = 1 and Arbeitsart = 'durchsicht' and datum = "

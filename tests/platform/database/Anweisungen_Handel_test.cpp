@@ -3,7 +3,7 @@
 // The statements of purchases, sales, the honey store, articles, customers and seals.
 namespace {
 
-TEST_F(Anweisungen, EinkaeufeVerkaeufeUndIhreBewegungen) {
+TEST_F(Anweisungsprobe, EinkaeufeVerkaeufeUndIhreBewegungen) {
   pruefe({
       {"Einkäufe", "select * from Einkauf order by Datum"},
       {"Verkäufe", "select * from Verkauf order by Datum"},
@@ -18,7 +18,7 @@ TEST_F(Anweisungen, EinkaeufeVerkaeufeUndIhreBewegungen) {
   });
 }
 
-TEST_F(Anweisungen, HonigbestandUndDasLoeschenEinerBewegung) {
+TEST_F(Anweisungsprobe, HonigbestandUndDasLoeschenEinerBewegung) {
   pruefe({
       {"Bestand nach Produkt und Charge",
        "select Produkt, Charge, sum(Zugang - Abgang) as Summe, count(*) as Anzahl, sum(Zugang) as "
@@ -33,7 +33,7 @@ TEST_F(Anweisungen, HonigbestandUndDasLoeschenEinerBewegung) {
   });
 }
 
-TEST_F(Anweisungen, LagerartikelUndLagerbuchungen) {
+TEST_F(Anweisungsprobe, LagerartikelUndLagerbuchungen) {
   pruefe({
       {"Artikel", "select * from Lagerartikel order by Artikel"},
       {"Lagerbuchungen", "select * from Lagerbuchungen order by Datum, Artikel"},
@@ -63,7 +63,7 @@ TEST_F(Anweisungen, LagerartikelUndLagerbuchungen) {
   });
 }
 
-TEST_F(Anweisungen, KundenUndInventar) {
+TEST_F(Anweisungsprobe, KundenUndInventar) {
   pruefe({
       {"Kunden", "select * from Kunden order by Kundenname"},
       {"Kunde doppelt", "select Kundenname from Kunden where Kundenname = 'Meier' and ID <> 1",
@@ -79,7 +79,7 @@ TEST_F(Anweisungen, KundenUndInventar) {
   });
 }
 
-TEST_F(Anweisungen, Verschluesse) {
+TEST_F(Anweisungsprobe, Verschluesse) {
   pruefe({
       {"Verschlüsse", "select * from DIBVerschluss order by Verschlussnr"},
       {"Verschlüsse listen",
@@ -97,7 +97,7 @@ TEST_F(Anweisungen, Verschluesse) {
   });
 }
 
-TEST_F(Anweisungen, VerkaeufeNachProduktQualitaetUndAbnehmer) {
+TEST_F(Anweisungsprobe, VerkaeufeNachProduktQualitaetUndAbnehmer) {
   const QString zeit = " where Datum >= #01/01/2006# and Datum <= #12/31/2006#";
   pruefe({
       {"Verkäufe einzeln",
@@ -130,7 +130,7 @@ TEST_F(Anweisungen, VerkaeufeNachProduktQualitaetUndAbnehmer) {
   });
 }
 
-TEST_F(Anweisungen, VerkaeufeNachMonatUndJahr) {
+TEST_F(Anweisungsprobe, VerkaeufeNachMonatUndJahr) {
   const QString zeit = " where Datum >= #01/01/2006# and Datum <= #12/31/2006#";
   pruefe({
       {"Ein Monat",
@@ -155,7 +155,7 @@ TEST_F(Anweisungen, VerkaeufeNachMonatUndJahr) {
   });
 }
 
-TEST_F(Anweisungen, HoniglagerNachProduktChargeUndMonat) {
+TEST_F(Anweisungsprobe, HoniglagerNachProduktChargeUndMonat) {
   const QString zeit = " where Datum >= #01/01/2006# and Datum <= #12/31/2006#";
   pruefe({
       {"Honiglager einzeln",

@@ -3,7 +3,7 @@
 // The statements of the lists, the groupings and the cross tables.
 namespace {
 
-TEST_F(Anweisungen, Stockkarten) {
+TEST_F(Anweisungsprobe, Stockkarten) {
   pruefe({
       {"Völker der Stockkarten", "select Volknr, Volkname, ID from Bienenvolk order by Volknr"},
       {"Die erste Stockkarte trotz der Beschriftung",
@@ -18,7 +18,7 @@ TEST_F(Anweisungen, Stockkarten) {
   });
 }
 
-TEST_F(Anweisungen, Voelkerdaten) {
+TEST_F(Anweisungsprobe, Voelkerdaten) {
   pruefe({
       {"Völkerdaten",
        "select Volknr, Volkname, ID from Bienenvolk where Selektiert = 'X' order by Volknr",
@@ -28,7 +28,7 @@ TEST_F(Anweisungen, Voelkerdaten) {
   });
 }
 
-TEST_F(Anweisungen, Buchungsliste) {
+TEST_F(Anweisungsprobe, Buchungsliste) {
   pruefe({
       {"Buchungsliste",
        "select Bienenvolk.Volknr as Volknr, Bienenvolk.Volkname as Volkname, Honigernte.Datum as "
@@ -64,7 +64,7 @@ TEST_F(Anweisungen, Buchungsliste) {
   });
 }
 
-TEST_F(Anweisungen, Standortlisten) {
+TEST_F(Anweisungsprobe, Standortlisten) {
   pruefe({
       {"Pflanzen je Standort",
        "select Standort, Zusatzortshinweis, Pflanze, Entfernung_m, Proz_Anteil from Standorte, "
@@ -85,7 +85,7 @@ TEST_F(Anweisungen, Standortlisten) {
   });
 }
 
-TEST_F(Anweisungen, VoelkerJeMerkmal) {
+TEST_F(Anweisungsprobe, VoelkerJeMerkmal) {
   const QString bestand = " from Bienenvolk where Akt_im_Bestand = 'X'";
   pruefe({
       {"Völker je Standort", "select Standort, count(*) as Anzahl" + bestand + " group by Standort",
@@ -100,7 +100,7 @@ TEST_F(Anweisungen, VoelkerJeMerkmal) {
   });
 }
 
-TEST_F(Anweisungen, KreuztabellenDerVoelker) {
+TEST_F(Anweisungsprobe, KreuztabellenDerVoelker) {
   const QString bestand = " from Bienenvolk where Akt_im_Bestand = 'X'";
   pruefe({
       {"Standort und Waben",
@@ -127,7 +127,7 @@ TEST_F(Anweisungen, KreuztabellenDerVoelker) {
   });
 }
 
-TEST_F(Anweisungen, KreuztabellenDerBuchungen) {
+TEST_F(Anweisungsprobe, KreuztabellenDerBuchungen) {
   pruefe({
       {"Sorten je Volk",
        "transform count(*) select Volknr, count(*) as Anzahl from Bienenvolk, Honigernte where "
@@ -145,7 +145,7 @@ TEST_F(Anweisungen, KreuztabellenDerBuchungen) {
   });
 }
 
-TEST_F(Anweisungen, KostenDerHonigernteJeVolk) {
+TEST_F(Anweisungsprobe, KostenDerHonigernteJeVolk) {
   pruefe({
       {"Kosten der Honigernte je Volk",
        "select Volknr, count(*) as Buchungen, sum(Kosten) as S_Kosten, sum(Honig_Wert) as "
@@ -159,7 +159,7 @@ TEST_F(Anweisungen, KostenDerHonigernteJeVolk) {
   });
 }
 
-TEST_F(Anweisungen, KostenDerAnderenErntenJeVolk) {
+TEST_F(Anweisungsprobe, KostenDerAnderenErntenJeVolk) {
   const std::vector<std::pair<const char*, const char*>> ernten = {
       {"Wachsernte", "Wachs_Wert"}, {"Pollenernte", "Pollen_Wert"}, {"Sonstigeernte", "Wert"}};
   for (const auto& [tabelle, wert] : ernten) {
@@ -174,7 +174,7 @@ TEST_F(Anweisungen, KostenDerAnderenErntenJeVolk) {
   }
 }
 
-TEST_F(Anweisungen, KostenDerBuchungenJeVolk) {
+TEST_F(Anweisungsprobe, KostenDerBuchungenJeVolk) {
   for (const char* tabelle :
        {"Arbeiten", "Wanderung", "Gewichtsmessung", "Behandlung", "Königinwechsel"}) {
     pruefe({{"Kosten der Buchungen",

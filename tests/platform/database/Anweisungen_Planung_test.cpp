@@ -3,7 +3,7 @@
 // The statements of the work plan, the appointments and the working hours.
 namespace {
 
-TEST_F(Anweisungen, Arbeitsplanoptionen) {
+TEST_F(Anweisungsprobe, Arbeitsplanoptionen) {
   pruefe({
       {"Optionen", "select * from Arbeitsplanoptionen order by Arbeitsart"},
       {"Name der Option schon da",
@@ -14,7 +14,7 @@ TEST_F(Anweisungen, Arbeitsplanoptionen) {
   });
 }
 
-TEST_F(Anweisungen, BuchungenSeitDerSchwelle) {
+TEST_F(Anweisungsprobe, BuchungenSeitDerSchwelle) {
   pruefe({
       {"Letzte Buchung seit der Schwelle",
        "select top 1 Datum from Honigernte where Volk_ID = 1 and Datum >= #07/01/2006# order by "
@@ -28,7 +28,7 @@ TEST_F(Anweisungen, BuchungenSeitDerSchwelle) {
   });
 }
 
-TEST_F(Anweisungen, TermineDesJahres) {
+TEST_F(Anweisungsprobe, TermineDesJahres) {
   pruefe({
       {"Optionen je Volk", "select ID from Arbeitsplanoptionen where Volkabhängig = 'J'",
        zeilen({"1", "2"})},
@@ -40,7 +40,7 @@ TEST_F(Anweisungen, TermineDesJahres) {
   });
 }
 
-TEST_F(Anweisungen, Terminverwaltung) {
+TEST_F(Anweisungsprobe, Terminverwaltung) {
   const QString voelkertermine =
       "select Datum, Termin, Erledigt, Volknr, Volkname, Standort, Volk_ID, Termine.ID from "
       "Bienenvolk, Termine where Volk_ID = Bienenvolk.ID";
@@ -72,7 +72,7 @@ TEST_F(Anweisungen, Terminverwaltung) {
   });
 }
 
-TEST_F(Anweisungen, Starttermine) {
+TEST_F(Anweisungsprobe, Starttermine) {
   pruefe({
       {"Starttermine der Völker",
        "select Datum, Termin, Volknr, Volkname, Standort, Termine.ID from Termine, Bienenvolk "
@@ -86,7 +86,7 @@ TEST_F(Anweisungen, Starttermine) {
   });
 }
 
-TEST_F(Anweisungen, TermineNachStandort) {
+TEST_F(Anweisungsprobe, TermineNachStandort) {
   pruefe({
       {"Termine am Standort",
        "select Datum, Termin, Standort, Volk_ID, Termine.ID from Termine, Bienenvolk where Datum "
@@ -112,7 +112,7 @@ TEST_F(Anweisungen, TermineNachStandort) {
   });
 }
 
-TEST_F(Anweisungen, TermineErledigenUmbenennenUndLoeschen) {
+TEST_F(Anweisungsprobe, TermineErledigenUmbenennenUndLoeschen) {
   pruefe({
       {"Einen Termin erledigen", "UPDATE Termine SET Erledigt = 'J' where ID = 3"},
       {"Offene Termine der Reihe löschen",
@@ -131,7 +131,7 @@ TEST_F(Anweisungen, TermineErledigenUmbenennenUndLoeschen) {
   });
 }
 
-TEST_F(Anweisungen, Arbeitszeiten) {
+TEST_F(Anweisungsprobe, Arbeitszeiten) {
   const auto jahressumme = [](const QString& einschraenkung) {
     return "select sum(Zeit_h) as summe from Arbeiten, Bienenvolk" + einschraenkung +
            " and Datum >= #01/01/2006# and Datum <= #12/31/2006# and Volk_ID = Bienenvolk.ID";

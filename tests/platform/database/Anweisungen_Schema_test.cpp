@@ -3,7 +3,7 @@
 // The statements that make, widen and empty tables.
 namespace {
 
-TEST_F(Anweisungen, DatenhaltungUndSchema) {
+TEST_F(Anweisungsprobe, DatenhaltungUndSchema) {
   pruefe({
       {"Felder einer Tabelle", "select top 1 * from Bienenvolk"},
       {"Volknummer schon da", "select Volknr from Bienenvolk where Volknr = '10'", zeilen({"10"})},
@@ -21,7 +21,7 @@ TEST_F(Anweisungen, DatenhaltungUndSchema) {
   });
 }
 
-TEST_F(Anweisungen, JedeTabelleNimmtEineZeileUndGibtSieWieder) {
+TEST_F(Anweisungsprobe, JedeTabelleNimmtEineZeileUndGibtSieWieder) {
   for (const Tabellenangabe& tabelle : tabellen) {
     const QString name = tabelle.name;
     bank.lies("delete from " + name);
@@ -38,7 +38,7 @@ TEST_F(Anweisungen, JedeTabelleNimmtEineZeileUndGibtSieWieder) {
   }
 }
 
-TEST_F(Anweisungen, SchemaErweitern) {
+TEST_F(Anweisungsprobe, SchemaErweitern) {
   Probebank alt;
   alt.lies("create table Bienenvolk(Volknr TEXT (10), ID COUNTER)");
   alt.lies("create table Stockkarte(Datum DATETIME, ID COUNTER)");
@@ -83,7 +83,7 @@ TEST_F(Anweisungen, SchemaErweitern) {
   EXPECT_THROW(alt.lies("ALTER TABLE Honigernte ADD COLUMN Charge TEXT (15)"), Datenbankfehler);
 }
 
-TEST_F(Anweisungen, UebernahmeDerBewegungen) {
+TEST_F(Anweisungsprobe, UebernahmeDerBewegungen) {
   pruefe({
       {"Bewegungen zum Verkauf", "select * from Honiglager where Abgang > 0 and EVK_ID = 1"},
       {"Bewegungen zum Einkauf", "select * from Honiglager where Zugang > 0 and EVK_ID = 1",
@@ -94,7 +94,7 @@ TEST_F(Anweisungen, UebernahmeDerBewegungen) {
   });
 }
 
-TEST_F(Anweisungen, JedeTabelleLeeren) {
+TEST_F(Anweisungsprobe, JedeTabelleLeeren) {
   for (const Tabellenangabe& tabelle : tabellen) {
     pruefe(
         {{"Leeren", QString("delete from ") + QString(tabelle.name)},

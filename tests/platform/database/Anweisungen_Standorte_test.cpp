@@ -3,7 +3,7 @@
 // The statements of sites, forage, weather and the breeding book.
 namespace {
 
-TEST_F(Anweisungen, StandorteUndIhrePflanzen) {
+TEST_F(Anweisungsprobe, StandorteUndIhrePflanzen) {
   pruefe({
       {"Standorte", "select * from Standorte order by Standort"},
       {"Pflanzen am Standort",
@@ -20,7 +20,7 @@ TEST_F(Anweisungen, StandorteUndIhrePflanzen) {
   });
 }
 
-TEST_F(Anweisungen, Trachtzeiten) {
+TEST_F(Anweisungsprobe, Trachtzeiten) {
   pruefe({
       {"Trachtzeit eines Standorts",
        "select Trachtzeit_von, Trachtzeit_bis, ID from Standorte where Standort = 'Wald'",
@@ -38,7 +38,7 @@ TEST_F(Anweisungen, Trachtzeiten) {
   });
 }
 
-TEST_F(Anweisungen, Standortkarte) {
+TEST_F(Anweisungsprobe, Standortkarte) {
   pruefe({
       {"Standorte der Karte", "select Standort, PTop, PLeft from Standorte order by Standort",
        zeilen({"Wald|10|20", "Wiese|250|0"})},
@@ -50,7 +50,7 @@ TEST_F(Anweisungen, Standortkarte) {
   });
 }
 
-TEST_F(Anweisungen, Wetterdaten) {
+TEST_F(Anweisungsprobe, Wetterdaten) {
   pruefe({
       {"Wetter", "select * from Wetterdaten order by Datum DESC"},
       {"Tag schon da", "select Datum from Wetterdaten where Datum = #05/01/2006# and ID <> 2",
@@ -63,7 +63,7 @@ TEST_F(Anweisungen, Wetterdaten) {
   });
 }
 
-TEST_F(Anweisungen, WetterGruppiert) {
+TEST_F(Anweisungsprobe, WetterGruppiert) {
   const QString mittel =
       "count(*) as Anzahl, avg(Temperatur) as D_Temperatur, avg(Niederschlag_mm) as "
       "D_Niederschlag, "
@@ -92,7 +92,7 @@ TEST_F(Anweisungen, WetterGruppiert) {
   });
 }
 
-TEST_F(Anweisungen, Zuchtbuch) {
+TEST_F(Anweisungsprobe, Zuchtbuch) {
   pruefe({
       {"Zuchtbuch", "select * from Zuchtbuch order by Jahr, Zuchtbuchnr"},
       {"Zuchtbuch eines Jahres",
@@ -105,7 +105,7 @@ TEST_F(Anweisungen, Zuchtbuch) {
   });
 }
 
-TEST_F(Anweisungen, ZuchtbuchNachRasse) {
+TEST_F(Anweisungsprobe, ZuchtbuchNachRasse) {
   pruefe({
       {"Zuchtbuch nach Rasse",
        "select Rasse, count(*) as Buchungen, avg(Sanftmut) as Sanftm, avg(Wabensitz) as Wabens, "

@@ -3,7 +3,7 @@
 // The statements of the statistics and of the contribution margin.
 namespace {
 
-TEST_F(Anweisungen, MittelUndSummeJederAngabe) {
+TEST_F(Anweisungsprobe, MittelUndSummeJederAngabe) {
   const QString zeit = " where Datum >= #01/01/2006# and Datum <= #12/31/2006#";
   const std::vector<std::pair<const char*, QStringList>> masse = {
       {"Honigernte", {"Menge_kg", "Honig_Wert"}},
@@ -43,7 +43,7 @@ TEST_F(Anweisungen, MittelUndSummeJederAngabe) {
   }
 }
 
-TEST_F(Anweisungen, KostenJederBuchungsart) {
+TEST_F(Anweisungsprobe, KostenJederBuchungsart) {
   for (const QString& tabelle : buchungstabellen) {
     if (tabelle == "Stockkarte" || tabelle == "Notizen") continue;
     pruefe({{"Kosten", "select sum(Kosten) as summe from " + tabelle +
@@ -55,7 +55,7 @@ TEST_F(Anweisungen, KostenJederBuchungsart) {
   }
 }
 
-TEST_F(Anweisungen, HonigwertVolkstaerkeUndPraemien) {
+TEST_F(Anweisungsprobe, HonigwertVolkstaerkeUndPraemien) {
   const QString zeit = " where Datum >= #01/01/2006# and Datum <= #12/31/2006#";
   pruefe({
       {"Honigwert je kg",
@@ -75,7 +75,7 @@ TEST_F(Anweisungen, HonigwertVolkstaerkeUndPraemien) {
   });
 }
 
-TEST_F(Anweisungen, Deckungsbeitrag) {
+TEST_F(Anweisungsprobe, Deckungsbeitrag) {
   const QString imBestand =
       ", Bienenvolk where Bienenvolk.Akt_im_Bestand = 'X' and Datum >= #01/01/2006# and Datum <= "
       "#12/31/2006# and Volk_ID = Bienenvolk.ID";
@@ -108,7 +108,7 @@ TEST_F(Anweisungen, Deckungsbeitrag) {
   });
 }
 
-TEST_F(Anweisungen, Diagramme) {
+TEST_F(Anweisungsprobe, Diagramme) {
   pruefe({
       {"Völker je Standort",
        "select Standort as Inhalt1, count(*) as Wert1 from Bienenvolk group by Standort",

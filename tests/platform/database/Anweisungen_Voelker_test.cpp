@@ -4,7 +4,7 @@
 // from.
 namespace {
 
-TEST_F(Anweisungen, FaelligeTermine) {
+TEST_F(Anweisungsprobe, FaelligeTermine) {
   pruefe({
       {"Fällige Termine",
        "select top 1 * from Termine where Datum <= #05/02/2006# and Erledigt = 'N'",
@@ -14,7 +14,7 @@ TEST_F(Anweisungen, FaelligeTermine) {
   });
 }
 
-TEST_F(Anweisungen, BestandsUndAbgangsliste) {
+TEST_F(Anweisungsprobe, BestandsUndAbgangsliste) {
   const QString liste = listenfelder;
   pruefe({
       {"Bestandsliste", liste + " where Akt_im_Bestand = 'X'"},
@@ -34,7 +34,7 @@ TEST_F(Anweisungen, BestandsUndAbgangsliste) {
   });
 }
 
-TEST_F(Anweisungen, LetzteErnteUndHonigmengen) {
+TEST_F(Anweisungsprobe, LetzteErnteUndHonigmengen) {
   pruefe({
       {"Letzte Honigernte", "select top 1 * from Honigernte where Volk_ID = 1 order by Datum DESC",
        zeilen({"2006-07-15|20.0|Linde|gut|2.0|7.0|120.0|L1|nass|1|2"})},
@@ -49,7 +49,7 @@ TEST_F(Anweisungen, LetzteErnteUndHonigmengen) {
   });
 }
 
-TEST_F(Anweisungen, VoelkerImBestandUndIhreStockkarten) {
+TEST_F(Anweisungsprobe, VoelkerImBestandUndIhreStockkarten) {
   pruefe({
       {"Völker im Bestand", "select ID from Bienenvolk where Akt_im_Bestand = 'X'",
        zeilen({"1", "2", "3"})},
@@ -58,7 +58,7 @@ TEST_F(Anweisungen, VoelkerImBestandUndIhreStockkarten) {
   });
 }
 
-TEST_F(Anweisungen, BuchungenEinesVolkes) {
+TEST_F(Anweisungsprobe, BuchungenEinesVolkes) {
   for (const QString& tabelle : buchungstabellen) {
     pruefe({
         {"Buchungen eines Volkes",
@@ -72,7 +72,7 @@ TEST_F(Anweisungen, BuchungenEinesVolkes) {
   }
 }
 
-TEST_F(Anweisungen, AlleVoelkerUndDieLetzteWanderung) {
+TEST_F(Anweisungsprobe, AlleVoelkerUndDieLetzteWanderung) {
   pruefe({
       {"Alle Völker", "select * from Bienenvolk"},
       {"Letzte Wanderung", "select top 1 * from Wanderung where Volk_ID = 1 order by Datum DESC",
@@ -80,7 +80,7 @@ TEST_F(Anweisungen, AlleVoelkerUndDieLetzteWanderung) {
   });
 }
 
-TEST_F(Anweisungen, SelektionAufhebenLaesstNiemandenUnentschieden) {
+TEST_F(Anweisungsprobe, SelektionAufhebenLaesstNiemandenUnentschieden) {
   pruefe({
       {"Selektion aufheben", "update Bienenvolk set Selektiert = ''"},
       {"Niemand ist selektiert", "select count(*) as n from Bienenvolk where Selektiert = 'X'",
@@ -92,14 +92,14 @@ TEST_F(Anweisungen, SelektionAufhebenLaesstNiemandenUnentschieden) {
   });
 }
 
-TEST_F(Anweisungen, TermineEinesVolkesLoeschen) {
+TEST_F(Anweisungsprobe, TermineEinesVolkesLoeschen) {
   pruefe({
       {"Termine eines Volkes löschen", "delete from termine where Volk_ID = 4"},
       {"Seine Termine sind weg", "select count(*) as n from Termine", zeilen({"4"})},
   });
 }
 
-TEST_F(Anweisungen, BuchungenEinesVolkesLoeschen) {
+TEST_F(Anweisungsprobe, BuchungenEinesVolkesLoeschen) {
   for (const QString& tabelle : buchungstabellen + QStringList{"Termine"}) {
     pruefe({{"Buchungen löschen", "delete from " + tabelle + " where Volk_ID = 1"},
             {"Keine mehr da", "select count(*) as n from " + tabelle + " where Volk_ID = 1",

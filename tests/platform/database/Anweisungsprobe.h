@@ -120,14 +120,14 @@ inline constexpr const char* betrieb[] = {
     "('Schleuder', 400, 2005, 2010), ('Auto', 9000, 2000, 2006)",
 };
 
-class Anweisungen : public testing::Test {
+class Anweisungsprobe : public testing::Test {
  protected:
-  Anweisungen() {
+  Anweisungsprobe() {
     bank.legeTabellenAn();
     for (const char* anweisung : betrieb) bank.lies(anweisung);
     Funktionen::setzeUhr([] { return QDateTime(QDate(2007, 1, 15), QTime(12, 0)); });
   }
-  ~Anweisungen() override { Funktionen::setzeUhr({}); }
+  ~Anweisungsprobe() override { Funktionen::setzeUhr({}); }
 
   void pruefe(const std::vector<Fall>& faelle) {
     for (const Fall& fall : faelle) {
