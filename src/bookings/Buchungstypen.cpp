@@ -1,6 +1,7 @@
 #include "bookings/Buchungstypen.h"
 
 #include "core/globals.h"
+#include "data/Pickliste.h"
 #include "data/helpers.h"
 #include "data/schema.h"
 
@@ -234,13 +235,6 @@ QString picklistenAbfrage(const Buchungsslot& slot) {
 }
 
 QStringList pickliste(Database& datenbank, const Buchungsslot& slot) {
-  QStringList texte;
   const QString abfrage = picklistenAbfrage(slot);
-  if (abfrage.isEmpty()) return texte;
-  const Daten daten = datenbank.Lesen(abfrage);
-  for (int zeile = 0; zeile < daten->zeilen(); ++zeile) {
-    const QString text = TextLesen(daten->wert(zeile, 0));
-    if (!text.isEmpty()) texte.append(text);
-  }
-  return texte;
+  return abfrage.isEmpty() ? QStringList() : Pickliste::lesen(datenbank, abfrage);
 }

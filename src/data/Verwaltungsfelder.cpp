@@ -1,6 +1,7 @@
 #include "data/Verwaltungsfelder.h"
 
 #include "core/globals.h"
+#include "data/Pickliste.h"
 #include "data/helpers.h"
 #include "platform/database/Recordset.h"
 #include "platform/locale/Deutsch.h"
@@ -106,14 +107,9 @@ QVariant feldwert(const Feld& feld, const QString& text) {
 }
 
 QStringList pickliste(Database& datenbank, const Feld& feld) {
-  QStringList texte;
-  if (feld.listenAnweisung.isEmpty()) return feld.hatPickliste() ? feld.texte : texte;
-  const Daten zeilen = datenbank.Lesen(feld.listenAnweisung);
-  for (int i = 0; i < zeilen->zeilen(); ++i) {
-    const QString text = TextLesen(zeilen->wert(i, 0));
-    if (!text.isEmpty()) texte << text;
-  }
-  return texte;
+  if (!feld.hatPickliste()) return {};
+  if (feld.listenAnweisung.isEmpty()) return feld.texte;
+  return Pickliste::lesen(datenbank, feld.listenAnweisung);
 }
 
 qint64 speichern(Database& datenbank, const QString& tabelle, const Felder& felder,

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/globals.h"
+#include "data/Pickliste.h"
 #include "data/Verwaltungsfelder.h"
 #include "data/helpers.h"
 #include "planning/Optionsfehler.h"
@@ -74,13 +75,12 @@ const QStringList& erledigtBuchungen() {
 
 QStringList erledigtArbeitsarten(Database& db) {
   QStringList liste = {{}};
-  const Daten arten = db.Lesen("select distinct Arbeitsart from Arbeiten order by Arbeitsart");
-  for (int i = 0; i < arten->zeilen(); ++i) {
-    const QString text = TextLesen(arten->wert(i, 0));
+  for (const QString& text :
+       Pickliste::lesen(db, "select distinct Arbeitsart from Arbeiten order by Arbeitsart")) {
     const auto gleich = [&](const QString& anderer) {
       return Kollation::vergleiche(anderer, text) == 0;
     };
-    // Different texts of the table may be one when they are read; the empty one is there already.
+    // Different texts of the table may be one when they are read.
     if (std::none_of(liste.cbegin(), liste.cend(), gleich)) liste << text;
   }
   return liste;

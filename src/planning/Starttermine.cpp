@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "core/globals.h"
+#include "data/Pickliste.h"
 #include "data/helpers.h"
 #include "platform/database/Kollation.h"
 #include "platform/database/Recordset.h"
@@ -137,11 +138,7 @@ Daten gruppiert(Database& db) {
 }
 
 QStringList arbeitsarten(Database& db) {
-  const Daten zeilen = db.Lesen("select Arbeitsart from Arbeitsplanoptionen order by Arbeitsart");
-  QStringList arten;
-  for (int i = 0; i < zeilen->zeilen(); ++i)
-    if (const QString art = zeilen->anzeige(i, 0); !art.trimmed().isEmpty()) arten << art;
-  return arten;
+  return Pickliste::lesen(db, "select Arbeitsart from Arbeitsplanoptionen order by Arbeitsart");
 }
 
 void TerminErledigen(Database& db, qint64 id, const QString& kennzeichen, const QString& termin,

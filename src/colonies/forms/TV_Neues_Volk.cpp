@@ -7,6 +7,7 @@
 #include "colonies/Volk.h"
 #include "core/globals.h"
 #include "core/main_list.h"
+#include "data/Pickliste.h"
 #include "data/forms/helpers_forms.h"
 #include "data/helpers.h"
 #include "platform/controls/Eingabefeld.h"
@@ -50,14 +51,7 @@ void TV_Neues_Volk::laden() {
 void TV_Neues_Volk::listenFuellen() {
   for (const Volkfeld& f : volkfelder()) {
     const QString anweisung = f.listenAnweisung();
-    if (anweisung.isEmpty()) continue;
-    const Daten zeilen = m_db.Lesen(anweisung);
-    QStringList texte;
-    for (int i = 0; i < zeilen->zeilen(); ++i) {
-      const QString text = TextLesen(zeilen->wert(i, 0));
-      if (!text.isEmpty()) texte << text;
-    }
-    feld(f)->setListe(texte);
+    if (!anweisung.isEmpty()) feld(f)->setListe(Pickliste::lesen(m_db, anweisung));
   }
 }
 

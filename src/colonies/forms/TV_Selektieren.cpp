@@ -9,7 +9,7 @@
 
 #include "core/globals.h"
 #include "core/main_list.h"
-#include "data/helpers.h"
+#include "data/Pickliste.h"
 #include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
@@ -187,15 +187,8 @@ void TV_Selektieren::eingabenLeeren() {
 }
 
 void TV_Selektieren::listenFuellen() {
-  for (size_t i = 0; i < Bezug; ++i) {
-    const Daten zeilen = m_db.Lesen(Selektion::listenAnweisung(static_cast<int>(i)));
-    QStringList texte;
-    for (int zeile = 0; zeile < zeilen->zeilen(); ++zeile) {
-      const QString text = TextLesen(zeilen->wert(zeile, 0));
-      if (!text.isEmpty()) texte << text;
-    }
-    sevt[i]->setListe(texte);
-  }
+  for (size_t i = 0; i < Bezug; ++i)
+    sevt[i]->setListe(Pickliste::lesen(m_db, Selektion::listenAnweisung(static_cast<int>(i))));
 }
 
 void TV_Selektieren::anzahlZeigen() {
