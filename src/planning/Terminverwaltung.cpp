@@ -3,7 +3,7 @@
 #include <cstdlib>
 
 #include "core/globals.h"
-#include "data/Verwaltungsfelder.h"
+#include "data/Pickliste.h"
 #include "data/helpers.h"
 #include "platform/database/Recordset.h"
 #include "platform/locale/Deutsch.h"
@@ -20,14 +20,6 @@ constexpr int TageVoraus = 14;
 constexpr qint64 MeisteTage = 9999;
 
 QString heutePlus(qint64 tage) { return Deutsch::datumText(DatumLesen(HeuteText).addDays(tage)); }
-
-QStringList texte(Database& db, const QString& anweisung) {
-  const Daten zeilen = db.Lesen(anweisung);
-  QStringList liste;
-  for (int i = 0; i < zeilen->zeilen(); ++i)
-    if (const QString text = zeilen->anzeige(i, 0); !text.trimmed().isEmpty()) liste << text;
-  return liste;
-}
 
 void fuellen(Recordset& termine, const Eingabe& eingabe, qint64 volkId) {
   termine["Datum"] = DatumLesen(eingabe.datum);
@@ -83,9 +75,9 @@ Daten liste(Database& db, const Filter& filter) {
 Pruefung pruefen(Database& db, const Eingabe& eingabe) {
   Pruefung ergebnis;
   if (!IstDatum(eingabe.datum))
-    ergebnis.gruende += "...das Datum des Termins angegeben werden muß." + CRLF;
+    ergebnis.gruende << "...das Datum des Termins angegeben werden muß.";
   if (TextLesen(eingabe.termin).isEmpty())
-    ergebnis.gruende += "...die Terminart angegeben werden muß." + CRLF;
+    ergebnis.gruende << "...die Terminart angegeben werden muß.";
   const QString volknr = TextLesen(eingabe.volknr);
   if (volknr.isEmpty()) return ergebnis;
   const Daten volk =
@@ -93,11 +85,9 @@ Pruefung pruefen(Database& db, const Eingabe& eingabe) {
   if (volk->zeilen() > 0)
     ergebnis.volkId = volk->ganzzahl(0, 0);
   else
-    ergebnis.gruende += "...das angegebene Volk nicht existiert (aktuell im Bestand ist)." + CRLF;
+    ergebnis.gruende << "...das angegebene Volk nicht existiert (aktuell im Bestand ist).";
   return ergebnis;
 }
-
-QString abgelehntText(const QString& gruende) { return Verwaltung::ablehnung({gruende}); }
 
 QString standortFrage(const QString& standort) {
   return "Soll der Termin wirklich bei allen Völkern am Standort '" + standort +
@@ -163,15 +153,17 @@ QString volknummer(Database& db, qint64 volkId) {
 }
 
 QStringList volknummern(Database& db) {
-  return texte(db, "select distinct Volknr from Bienenvolk order by Volknr");
+  return Pickliste::lesen(db, "select distinct Volknr from Bienenvolk order by Volknr");
 }
 
 QStringList terminarten(Database& db) {
-  return texte(db, "select distinct Termin from Termine order by Termin");
+  return Pickliste::lesen(db, "select distinct Termin from Termine order by Termin");
 }
 
+// amStandortEintragen looks for the site as it was chosen.
 QStringList standorte(Database& db) {
-  return texte(db, "select distinct Standort from Bienenvolk order by Standort");
+  return Pickliste::lesen(db, "select distinct Standort from Bienenvolk order by Standort",
+                          Pickliste::Schreibung::WieGespeichert);
 }
 
 QString nurTage(const QString& text) {

@@ -40,11 +40,10 @@ struct Eingabe {
 };
 
 struct Pruefung {
-  QString gruende;    // each with a line break behind it; empty when all is well
-  qint64 volkId = 0;  // the colony in stock of that number
+  QStringList gruende;  // for not saving
+  qint64 volkId = 0;    // the colony in stock of that number
 };
 Pruefung pruefen(Database& db, const Eingabe& eingabe);
-QString abgelehntText(const QString& gruende);
 QString standortFrage(const QString& standort);
 
 // Whether the colony (0 for none) has this appointment on that day already, in another row than

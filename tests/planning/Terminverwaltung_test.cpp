@@ -135,17 +135,17 @@ TEST_F(TerminverwaltungTest, ListeIstNachDatumGeordnet) {
 
 TEST_F(TerminverwaltungTest, OhneDatumWirdNichtGespeichert) {
   EXPECT_EQ(pruefen(db(), eingabe("31.02.2006")).gruende,
-            "...das Datum des Termins angegeben werden muß.\r\n");
+            QStringList("...das Datum des Termins angegeben werden muß."));
 }
 
 TEST_F(TerminverwaltungTest, OhneTerminartWirdNichtGespeichert) {
   EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", " ")).gruende,
-            "...die Terminart angegeben werden muß.\r\n");
+            QStringList("...die Terminart angegeben werden muß."));
 }
 
 TEST_F(TerminverwaltungTest, UnbekanntesVolkWirdAbgelehnt) {
   EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "9")).gruende,
-            "...das angegebene Volk nicht existiert (aktuell im Bestand ist).\r\n");
+            QStringList("...das angegebene Volk nicht existiert (aktuell im Bestand ist)."));
 }
 
 TEST_F(TerminverwaltungTest, VolkNichtImBestandWirdAbgelehntObwohlDieListeSeineZeilenZeigt) {
@@ -153,15 +153,14 @@ TEST_F(TerminverwaltungTest, VolkNichtImBestandWirdAbgelehntObwohlDieListeSeineZ
   termin(tag(6, 21), "alt", volk);
   EXPECT_EQ(texte(filter(Ansicht::Volkabhaengig)), "alt|9");
   EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "9")).gruende,
-            "...das angegebene Volk nicht existiert (aktuell im Bestand ist).\r\n");
+            QStringList("...das angegebene Volk nicht existiert (aktuell im Bestand ist)."));
 }
 
-TEST_F(TerminverwaltungTest, AlleGruendeStehenUntereinander) {
-  EXPECT_EQ(abgelehntText(pruefen(db(), eingabe("", "", "9")).gruende),
-            "Die Daten werden nicht gespeichert, weil...\r\n\r\n"
-            "...das Datum des Termins angegeben werden muß.\r\n"
-            "...die Terminart angegeben werden muß.\r\n"
-            "...das angegebene Volk nicht existiert (aktuell im Bestand ist).\r\n");
+TEST_F(TerminverwaltungTest, AlleGruendeInIhrerFolge) {
+  EXPECT_EQ(pruefen(db(), eingabe("", "", "9")).gruende,
+            QStringList({"...das Datum des Termins angegeben werden muß.",
+                         "...die Terminart angegeben werden muß.",
+                         "...das angegebene Volk nicht existiert (aktuell im Bestand ist)."}));
 }
 
 TEST_F(TerminverwaltungTest, LeereVolknummerIstVolkNullUndEineNummerDasVolkImBestand) {
@@ -169,13 +168,13 @@ TEST_F(TerminverwaltungTest, LeereVolknummerIstVolkNullUndEineNummerDasVolkImBes
   const qint64 volk = neuesVolk("4");
   EXPECT_EQ(pruefen(db(), eingabe()).volkId, 0);
   EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "4")).volkId, volk);
-  EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "4")).gruende, "");
+  EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "4")).gruende, QStringList());
 }
 
 TEST_F(TerminverwaltungTest, BlankAlsVolknummerIstEinAllgemeinerTermin) {
   neuesVolk("");
   const Pruefung pruefung = pruefen(db(), eingabe("21.06.2006", "Schau", " "));
-  EXPECT_EQ(pruefung.gruende, "");
+  EXPECT_EQ(pruefung.gruende, QStringList());
   EXPECT_EQ(pruefung.volkId, 0);
 }
 
@@ -312,6 +311,13 @@ TEST_F(TerminverwaltungTest, ListenZeigenJedenTextEinmalInDerOrdnung) {
   EXPECT_EQ(volknummern(db()), QStringList({"10", "2", "3"}));
   EXPECT_EQ(standorte(db()), QStringList({"Heide", "Hof"}));
   EXPECT_EQ(terminarten(db()), QStringList({"A", "B"}));
+}
+
+TEST_F(TerminverwaltungTest, DerGewaehlteStandortFindetSeineVoelkerWieErInDerTabelleSteht) {
+  neuesVolk("1", "X", "Bauer's Hof");
+  ASSERT_EQ(standorte(db()), QStringList("Bauer's Hof"));
+  amStandortEintragen(db(), {"21.06.2006", "Schau", "N", {}, standorte(db()).first()});
+  EXPECT_EQ(texte(filter(Ansicht::Volkabhaengig)), "Schau|1");
 }
 
 TEST_F(TerminverwaltungTest, HeuteInTagenRechnetHinUndZurueck) {

@@ -3,9 +3,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 #include "core/globals.h"
+#include "data/Verwaltungsfelder.h"
 #include "data/forms/helpers_forms.h"
 #include "data/helpers.h"
 #include "planning/forms/TV_Starttermine.h"
@@ -15,6 +17,7 @@
 #include "platform/controls/Meldungen.h"
 
 using Terminverwaltung::Ansicht;
+using TZ_Variablen::CRLF;
 using TZ_Variablen::HeuteText;
 
 namespace {
@@ -58,6 +61,7 @@ void TV_Terminverwaltung::keyPressEvent(QKeyEvent* event) {
 }
 
 void TV_Terminverwaltung::zeigen() {
+  const auto ende = qScopeGuard([this] { m_db.Close(); });
   laden();
   Formular::zeigen();
 }
@@ -187,7 +191,7 @@ void TV_Terminverwaltung::speichern(bool neuerTermin) {
   const Terminverwaltung::Eingabe daten = eingabe();
   const Terminverwaltung::Pruefung pruefung = Terminverwaltung::pruefen(m_db, daten);
   if (!pruefung.gruende.isEmpty())
-    return Meldungen::Hinweis(Terminverwaltung::abgelehntText(pruefung.gruende), this);
+    return Meldungen::Hinweis(Verwaltung::ablehnung(pruefung.gruende) + CRLF, this);
   const int zeile = litermine->aktuelleZeile();
   if (!neuerTermin && zeile < 0)
     return Meldungen::Hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!",
@@ -265,9 +269,4 @@ void TV_Terminverwaltung::listeNeuLesen(qint64 id, bool eingabenBehalten) {
   if (id == 0) return;
   const QScopedValueRollback behalten(m_eingabenBehalten, eingabenBehalten);
   aktuellSetzen(id);
-}
-
-void TV_Terminverwaltung::done(int ergebnis) {
-  m_db.Close();
-  Formular::done(ergebnis);
 }

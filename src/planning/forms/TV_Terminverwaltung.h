@@ -25,7 +25,6 @@ class TV_Terminverwaltung : public Formular {
   void laden();
 
  protected:
-  void done(int ergebnis) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -48,6 +47,7 @@ class TV_Terminverwaltung : public Formular {
   QWidget* terminBauen();
   QWidget* knoepfeBauen();
   QWidget* fussBauen();
+  void reihenfolgeSetzen();
   void setzen(QGridLayout* gitter, int zeile, int spalte, size_t index, const QString& titel);
   void verbinden();
   void filterVerbinden();

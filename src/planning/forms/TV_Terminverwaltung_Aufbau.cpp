@@ -8,20 +8,12 @@
 #include <algorithm>
 
 #include "planning/forms/TV_Terminverwaltung.h"
+#include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 
-namespace {
-
-QPushButton* knopf(const QString& text, const QString& name) {
-  auto* k = new QPushButton(text);
-  k->setObjectName(name);
-  k->setAutoDefault(false);
-  return k;
-}
-
-}  // namespace
+using Bauteile::knopfOhneEnter;
 
 void TV_Terminverwaltung::aufbauen() {
   for (size_t i = 0; i < sevt.size(); ++i) {
@@ -41,6 +33,7 @@ void TV_Terminverwaltung::aufbauen() {
   seite->addWidget(litermine, 1);
   seite->addWidget(terminBauen());
   seite->addWidget(fussBauen());
+  reihenfolgeSetzen();
   resize(sizeHint().expandedTo(QSize(std::max(900, fontMetrics().height() * 60), 640)));
 }
 
@@ -85,20 +78,16 @@ QWidget* TV_Terminverwaltung::terminBauen() {
   gitter->addWidget(knoepfeBauen(), 3, 0, 1, 4);
   gitter->setColumnStretch(1, 2);
   gitter->setColumnStretch(3, 3);
-  QWidget* vorher = nullptr;
-  for (const size_t i : {Datum, InTagen, Erledigt, Termin, Volk, Standort}) {
-    if (vorher != nullptr) setTabOrder(vorher, sevt[i]);
-    vorher = sevt[i];
-  }
   return rahmen;
 }
 
 QWidget* TV_Terminverwaltung::knoepfeBauen() {
-  neu[0] = knopf("&Neu", "neu_0");
+  neu[0] = knopfOhneEnter("&Neu", "neu_0");
   neu[0]->setDefault(true);
-  neu[1] = knopf("&Ändern", "neu_1");
-  löschen = knopf("&Löschen", QString("löschen"));
-  lschalleerledigte = knopf("Alle als erledigt markierte Termine löschen", "lschalleerledigte");
+  neu[1] = knopfOhneEnter("&Ändern", "neu_1");
+  löschen = knopfOhneEnter("&Löschen", QString("löschen"));
+  lschalleerledigte =
+      knopfOhneEnter("Alle als erledigt markierte Termine löschen", "lschalleerledigte");
   neu[0]->setToolTip("Die Eingaben als neuen Termin eintragen");
   neu[1]->setToolTip("Den in der Liste gewählten Termin ändern");
   löschen->setToolTip("Den in der Liste gewählten Termin löschen");
@@ -113,9 +102,9 @@ QWidget* TV_Terminverwaltung::knoepfeBauen() {
 }
 
 QWidget* TV_Terminverwaltung::fussBauen() {
-  ok = knopf("Aktuelle &offene Termine", "ok");
-  hilfe = knopf("&Hilfe", "hilfe");
-  schließen = knopf("&Schließen", QString("schließen"));
+  ok = knopfOhneEnter("Aktuelle &offene Termine", "ok");
+  hilfe = knopfOhneEnter("&Hilfe", "hilfe");
+  schließen = knopfOhneEnter("&Schließen", QString("schließen"));
   auto* leiste = new QWidget;
   auto* zeile = new QHBoxLayout(leiste);
   zeile->setContentsMargins(0, 0, 0, 0);
@@ -127,6 +116,16 @@ QWidget* TV_Terminverwaltung::fussBauen() {
   zeile->addWidget(hilfe);
   zeile->addWidget(schließen);
   return leiste;
+}
+
+// From the filters over the list to the inputs, then the buttons.
+void TV_Terminverwaltung::reihenfolgeSetzen() {
+  QList<QWidget*> folge = {opti[0], opti[1]};
+  for (size_t i = NurVolk; i <= Bis; ++i) folge << sevt[i];
+  folge << litermine;
+  for (const size_t i : {Datum, InTagen, Erledigt, Termin, Volk, Standort}) folge << sevt[i];
+  folge << neu[0] << neu[1] << löschen << lschalleerledigte << ok << hilfe << schließen;
+  Bauteile::tabfolge(folge);
 }
 
 void TV_Terminverwaltung::verbinden() {

@@ -225,6 +225,24 @@ TEST_F(TVTerminverwaltung, RueckkehrAusDenOffenenTerminenLaesstEinenGewaehltenSt
   EXPECT_EQ(inhalt(10), "Heide");
 }
 
+TEST_F(TVTerminverwaltung, GeschlossenHaeltDasFormularDieDatenbankNicht) {
+  form = std::make_unique<TV_Terminverwaltung>();
+  Formblick blick([](QWidget*) {});
+  form->zeigen();
+  EXPECT_EQ(blick.name, "TV_Terminverwaltung");
+  boxen.hinweisMit("Die Datenbank ist geschlossen.");
+  kind<QRadioButton>("opti_1")->click();
+}
+
+TEST_F(TVTerminverwaltung, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieDatenbankNicht) {
+  db().Execute("drop table Termine");
+  form = std::make_unique<TV_Terminverwaltung>();
+  EXPECT_THROW(form->zeigen(), Datenbankfehler);
+  EXPECT_FALSE(offen());
+  boxen.hinweisMit("Die Datenbank ist geschlossen.");
+  kind<QRadioButton>("opti_1")->click();
+}
+
 TEST_F(TVTerminverwaltung, SpaltenbreitenHabenIhrenSchluessel) {
   Fensterablage::setDatei(TZ_Variablen::AppPfad + "TOVA2.LAY");
   oeffne();
