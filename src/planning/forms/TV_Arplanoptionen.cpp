@@ -1,6 +1,7 @@
 #include "planning/forms/TV_Arplanoptionen.h"
 
 #include <QPushButton>
+#include <QScopeGuard>
 #include <algorithm>
 
 #include "core/globals.h"
@@ -39,6 +40,7 @@ void TV_Arplanoptionen::setTerminverwaltung(std::function<void()> oeffnen) {
 }
 
 void TV_Arplanoptionen::zeigen() {
+  const auto ende = qScopeGuard([this] { entladen(); });
   laden();
   Formular::zeigen();
 }
@@ -47,18 +49,13 @@ void TV_Arplanoptionen::laden() {
   calender->setText(QString("Alle Termine für das aktuelle Jahr ") + HeuteText.mid(6, 4) +
                     QString(" löschen und wieder neu setzen"));
   m_db = Arbeitsbereich.OpenDatabase(DatenbankPfad);
-  try {
-    arbeitsartenFuellen();
-    leeren();
-    listeLaden();
-  } catch (...) {
-    trennen();
-    throw;
-  }
+  arbeitsartenFuellen();
+  leeren();
+  listeLaden();
   sevt[0]->setFocus();
 }
 
-void TV_Arplanoptionen::trennen() {
+void TV_Arplanoptionen::entladen() {
   liarplan->setDaten({});
   m_db.Close();
 }
@@ -202,9 +199,4 @@ void TV_Arplanoptionen::alleBerechnen() {
     });
   }
   Meldungen::Hinweis(QString("Die Termine wurden gelöscht und neu gesetzt."), this);
-}
-
-void TV_Arplanoptionen::done(int ergebnis) {
-  trennen();
-  Formular::done(ergebnis);
 }

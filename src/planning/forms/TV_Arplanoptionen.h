@@ -26,9 +26,6 @@ class TV_Arplanoptionen : public Formular {
   // Loading alone: the list, empty inputs.
   void laden();
 
- protected:
-  void done(int ergebnis) override;
-
  private:
   void aufbauen();
   QWidget* feldgruppeBauen();
@@ -39,7 +36,7 @@ class TV_Arplanoptionen : public Formular {
   void reihenfolgeSetzen();
 
   void listeLaden();
-  void trennen();
+  void entladen();
   void neuLesen(qint64 id);
   void arbeitsartenFuellen();
   void leeren();

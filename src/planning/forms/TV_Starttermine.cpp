@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QPushButton>
+#include <QScopeGuard>
 
 #include "core/globals.h"
 #include "output/forms/TA_Zwischenliste.h"
@@ -63,6 +64,7 @@ bool TV_Starttermine::eventFilter(QObject* objekt, QEvent* event) {
 }
 
 void TV_Starttermine::zeigen() {
+  const auto ende = qScopeGuard([this] { m_db.Close(); });
   laden();
   Formular::zeigen();
 }
@@ -169,6 +171,5 @@ void TV_Starttermine::gruppiertListen() {
 
 void TV_Starttermine::done(int ergebnis) {
   EinstellungenZahl[13] = kon->isChecked() ? 1 : 0;
-  m_db.Close();
   Formular::done(ergebnis);
 }

@@ -160,6 +160,24 @@ TEST_F(TVStarttermine, SpaltenbreitenHabenIhrenSchluessel) {
   Fensterablage::setDatei({});
 }
 
+TEST_F(TVStarttermine, GeschlossenHaeltDasFormularDieDatenbankNicht) {
+  form = std::make_unique<TV_Starttermine>();
+  Formblick blick([](QWidget*) {});
+  form->zeigen();
+  EXPECT_EQ(blick.name, "TV_Starttermine");
+  boxen.hinweisMit("Die Datenbank ist geschlossen.");
+  kind<QPushButton>("okgruppiert")->click();
+}
+
+TEST_F(TVStarttermine, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieDatenbankNicht) {
+  db().Execute("drop table Arbeitsplanoptionen");
+  form = std::make_unique<TV_Starttermine>();
+  EXPECT_THROW(form->zeigen(), Datenbankfehler);
+  EXPECT_FALSE(offen());
+  boxen.hinweisMit("Die Datenbank ist geschlossen.");
+  kind<QPushButton>("okgruppiert")->click();
+}
+
 TEST_F(TVStarttermine, FuenfzigtausendFaelligeZeilenOeffnenAlle) {
   const qint64 volk = neuesVolk("1", "X", "Hof");
   db().Sammelschreiben([&] {
