@@ -51,15 +51,8 @@ void gross(QPushButton* knopf) {
 TE_Eingabe::TE_Eingabe(QWidget* oeffner)
     : Formular("TE_Eingabe", "Eingabe (Bewegungsdaten)", oeffner) {
   auto* zeile = new QHBoxLayout(this);
-  m_teiler = new QSplitter;
-  m_teiler->setObjectName("teiler");
-  m_teiler->addWidget(baueVoelker());
-  m_teiler->addWidget(baueBuchung());
-  m_teiler->setStretchFactor(0, 1);
-  m_teiler->setStretchFactor(1, 3);
-  m_teiler->setChildrenCollapsible(false);
-  m_teiler->setSizes({300, 700});
-  m_teiler->setHandleWidth(2 * fontMetrics().averageCharWidth());
+  QWidget* voelker = baueVoelker();
+  m_teiler = Bauteile::teiler("teiler", {voelker, 1, 300}, {baueBuchung(), 3, 700});
   zeile->addWidget(m_teiler);
   tabFolgeSetzen();
   verbinden();

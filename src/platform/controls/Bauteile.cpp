@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QSplitter>
 
 namespace Bauteile {
 
@@ -49,6 +50,18 @@ QWidget* reiterseite(QWidget* inhalt) {
   auto* spalte = new QVBoxLayout(seite);
   spalte->addWidget(inhalt);
   return seite;
+}
+
+QSplitter* teiler(const QString& name, const Teilseite& links, const Teilseite& rechts) {
+  auto* neu = benannt(new QSplitter, name);
+  neu->addWidget(links.inhalt);
+  neu->addWidget(rechts.inhalt);
+  neu->setStretchFactor(0, links.anteil);
+  neu->setStretchFactor(1, rechts.anteil);
+  neu->setChildrenCollapsible(false);
+  neu->setSizes({links.breite, rechts.breite});
+  neu->setHandleWidth(2 * neu->fontMetrics().averageCharWidth());
+  return neu;
 }
 
 void tabfolge(const QList<QWidget*>& folge) {

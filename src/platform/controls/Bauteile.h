@@ -7,6 +7,7 @@ class QDialog;
 class QBoxLayout;
 class QLabel;
 class QPushButton;
+class QSplitter;
 class QWidget;
 
 // Pieces that many forms are made of. Their texts carry the mnemonic's "&".
@@ -32,6 +33,15 @@ QPushButton* okUndSchliessen(QDialog* dialog, QBoxLayout* seite);
 QLabel* ueberschrift(const QString& text);
 // A page of a tab widget: the content with the margin that a page has.
 QWidget* reiterseite(QWidget* inhalt);
+
+// Two pages side by side, neither of which can be pushed away altogether. Each gets its share of
+// what the window grows by; the widths to begin with are to each other as the given ones.
+struct Teilseite {
+  QWidget* inhalt;
+  int anteil;
+  int breite;
+};
+QSplitter* teiler(const QString& name, const Teilseite& links, const Teilseite& rechts);
 
 // The Tab key goes from one to the next. All must stand in the window.
 void tabfolge(const QList<QWidget*>& folge);

@@ -82,16 +82,7 @@ QWidget* TV_Pflanzen_Standorte::reiterJeStandort() {
   lijeort->setAccessibleName("Standort wählen");
   lijeort->setSelectionMode(QAbstractItemView::SingleSelection);
   lijeort->setMinimumWidth(24 * fontMetrics().averageCharWidth());
-  auto* teiler = new QSplitter;
-  teiler->setObjectName("teiler");
-  teiler->addWidget(lijeort);
-  teiler->addWidget(m_tracht);
-  teiler->setStretchFactor(0, 1);
-  teiler->setStretchFactor(1, 2);
-  teiler->setSizes({300, 600});
-  teiler->setChildrenCollapsible(false);
-  teiler->setHandleWidth(2 * fontMetrics().averageCharWidth());
-  return reiterseite(teiler);
+  return reiterseite(Bauteile::teiler("teiler", {lijeort, 1, 300}, {m_tracht, 2, 600}));
 }
 
 QWidget* TV_Pflanzen_Standorte::fussBauen() {

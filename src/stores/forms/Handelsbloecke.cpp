@@ -156,8 +156,7 @@ Lagerblock::Lagerblock() : Handelsblock(lagerplan()) {
     if (feld.art == Verwaltung::Art::Dezimal)  // headed as the inputs: they say that it's kilograms
       liste()->setUeberschrift(feld.feld, feld.beschriftung);
   auto* links = new QWidget;
-  auto* teiler = new QSplitter;
-  teiler->setObjectName("lagerteiler");
+  auto* teiler = Bauteile::teiler("lagerteiler", {links, 3, 600}, {bestandBauen(), 2, 400});
   delete layout()->replaceWidget(liste(), teiler);
   QVBoxLayout* spalte = spalteIn(links);
   auto* kopf = new QHBoxLayout;
@@ -165,14 +164,7 @@ Lagerblock::Lagerblock() : Handelsblock(lagerplan()) {
   kopf->addStretch(1);
   spalte->addLayout(kopf);
   spalte->addWidget(liste(), 1);
-  teiler->addWidget(links);
-  teiler->addWidget(bestandBauen());
   kopf->addStrut(comalle->sizeHint().height());  // both lists begin at the same height
-  teiler->setStretchFactor(0, 3);
-  teiler->setStretchFactor(1, 2);
-  teiler->setSizes({600, 400});
-  teiler->setChildrenCollapsible(false);
-  teiler->setHandleWidth(2 * fontMetrics().averageCharWidth());
 }
 
 QWidget* Lagerblock::bestandBauen() {
