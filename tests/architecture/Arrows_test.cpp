@@ -84,6 +84,7 @@ QString subsystem(const QString& name) { return name.section('/', 0, 0); }
 
 bool erlaubt(const QString& von, const QString& nach) {
   if (von == nach) return true;
+  if (subsysteme.contains(von) && nach == "output") return false;  // what is put out is the forms'
   if (subsysteme.contains(subsystem(von)) && subsysteme.contains(subsystem(nach)) &&
       subsystem(von) != subsystem(nach))
     return untereinander.contains(subsystem(von), subsystem(nach));
