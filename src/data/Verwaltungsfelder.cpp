@@ -76,6 +76,10 @@ Feld datum(const QString& feld, const QString& beschriftung) {
   return {Art::Datum, feld, beschriftung, 10};
 }
 
+Feld tagMonat(const QString& feld, const QString& beschriftung) {
+  return {Art::TagMonat, feld, beschriftung};
+}
+
 Texte vorgaben(const Felder& felder) {
   Texte texte;
   for (const Feld& feld : felder) texte[feld.feld] = feld.ersterText;
@@ -101,6 +105,7 @@ QVariant feldwert(const Feld& feld, const QString& text) {
       return IstDatum(text) ? QVariant(DatumLesen(text)) : QVariant();
     case Art::Text:
     case Art::Auswahl:
+    case Art::TagMonat:
       break;
   }
   return TextLesen(text);

@@ -12,7 +12,7 @@
 // dressing, row display and saving all read it from here.
 namespace Verwaltung {
 
-enum class Art { Text, Auswahl, Ganzzahl, Dezimal, Datum };
+enum class Art { Text, Auswahl, Ganzzahl, Dezimal, Datum, TagMonat };
 
 struct Feld {
   Art art = Art::Text;
@@ -44,6 +44,7 @@ Feld auswahl(const QString& feld, const QString& beschriftung, const QStringList
 Feld ganzzahl(const QString& feld, const QString& beschriftung, qint64 bis);
 Feld dezimal(const QString& feld, const QString& beschriftung, int laenge, int nachkommastellen);
 Feld datum(const QString& feld, const QString& beschriftung);
+Feld tagMonat(const QString& feld, const QString& beschriftung);  // stored as a text, "dd.mm"
 
 using Felder = QList<Feld>;
 using Texte = QHash<QString, QString>;  // the inputs' texts by field

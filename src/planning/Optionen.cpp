@@ -42,10 +42,11 @@ void termineBerechnen(Database& db, qint64 id, const QString& volkabhängig) {
 qint64 zeileAnlegen(Database& db, const Optionseingabe& eingabe) {
   Recordset rs = db.OpenRecordset("select top 1 * from Arbeitsplanoptionen");
   rs.AddNew();
-  for (const Slot slot : {Arbeitsart, Volkabhaengig, Buchung, Erledigtart})
-    rs[optionsfelder()[slot]] = TextLesen(eingabe[slot]);
-  for (const Slot slot : {Start, Ende}) rs[optionsfelder()[slot]] = tagMonat(eingabe[slot]);
-  rs[optionsfelder()[Frist]] = GanzLesen(eingabe[Frist]);
+  for (size_t i = 0; i < eingabe.size(); ++i) {
+    const Verwaltung::Feld& feld = optionsfelder()[i];
+    const bool tag = feld.art == Verwaltung::Art::TagMonat;
+    rs[feld.feld] = Verwaltung::feldwert(feld, tag ? tagMonat(eingabe[i]) : eingabe[i]);
+  }
   rs.Update();
   rs.MoveLast();
   return rs.Wert("ID").toLongLong();
@@ -53,14 +54,16 @@ qint64 zeileAnlegen(Database& db, const Optionseingabe& eingabe) {
 
 }  // namespace
 
-const std::array<QString, 7>& optionsfelder() {
-  static const std::array<QString, 7> felder = {"Arbeitsart",
-                                                "Startzeitraum",
-                                                "Endzeitraum",
-                                                "Wiederholungsfrist_Tage",
-                                                "Volkabhängig",
-                                                "Auto_erledigt_Buchung",
-                                                "Auto_erledigt_Arbeitsart"};
+const std::array<Verwaltung::Feld, 7>& optionsfelder() {
+  using namespace Verwaltung;
+  static const std::array<Feld, 7> felder = {
+      text("Arbeitsart", "Arbeitsart", 30),
+      Verwaltung::tagMonat("Startzeitraum", "Startzeitraum (TT.MM)"),
+      Verwaltung::tagMonat("Endzeitraum", "Endzeitraum (TT.MM)"),
+      ganzzahl("Wiederholungsfrist_Tage", "Wiederholungsfrist (Tage)", 99).vorgabe("0"),
+      auswahl("Volkabhängig", "Volkabhängig (J/N)", {"J", "N"}),
+      auswahl("Auto_erledigt_Buchung", "Autom. Erled. Buchung", erledigtBuchungen()),
+      auswahl("Auto_erledigt_Arbeitsart", "Autom. Erled. Arbeitsart", {})};
   return felder;
 }
 

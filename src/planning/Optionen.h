@@ -4,6 +4,7 @@
 #include <array>
 #include <functional>
 
+#include "data/Verwaltungsfelder.h"
 #include "platform/database/Datenbank.h"
 
 // The work plan options: templates of the yearly work, from which the appointments are derived.
@@ -11,8 +12,8 @@
 // The inputs of an option, by slot: 0 Arbeitsart, 1 Startzeitraum, 2 Endzeitraum,
 // 3 Wiederholungsfrist_Tage, 4 Volkabhängig, 5 Auto_erledigt_Buchung, 6 Auto_erledigt_Arbeitsart.
 using Optionseingabe = std::array<QString, 7>;
-// The table's field of each slot.
-const std::array<QString, 7>& optionsfelder();
+// The field of each slot. The texts of slot 6 are erledigtArbeitsarten.
+const std::array<Verwaltung::Feld, 7>& optionsfelder();
 
 // A row of the list of options.
 struct Optionszeile {

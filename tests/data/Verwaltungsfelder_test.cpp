@@ -100,6 +100,13 @@ TEST_F(Verwaltungsfelder, EinAngebotIstDiePicklisteInSeinerFolge) {
   EXPECT_FALSE(auswahl("Lieferant", "Lieferant", {"J", "N"}).hatPickliste());
 }
 
+TEST_F(Verwaltungsfelder, EinTagImJahrIstEinText) {
+  const Feld start = tagMonat("Startzeitraum", "Startzeitraum (TT.MM)");
+  EXPECT_EQ(feldwert(start, " 01.05 "), QVariant(QString("01.05")));
+  EXPECT_EQ(feldtext(start, "01.05"), "01.05");
+  EXPECT_FALSE(start.hatPickliste());
+}
+
 TEST(OhneNull, VerbietetNurDieNull) {
   const Feld anteil = ganzzahl("Proz_Anteil", "Anteil in %", 100).ohneNull();
   EXPECT_TRUE(anteil.nullVerboten);

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "data/forms/Feldbeschreibung.h"
 #include "data/forms/helpers_forms.h"
 #include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
@@ -17,39 +18,6 @@
 
 using namespace Verwaltung;
 using Bauteile::knopf;
-
-namespace {
-
-Eingabefeld::Beschreibung beschreibung(const Feld& feld) {
-  Eingabefeld::Beschreibung b;
-  b.maxLaenge = feld.maxLaenge;
-  b.ersterText = feld.ersterText;
-  b.einheit = feld.zeichen;
-  if (feld.nurAnzeige) return b;  // no button for what isn't typed
-  switch (feld.art) {
-    case Art::Text:
-      break;
-    case Art::Auswahl:
-      b.art = Eingabefeld::Art::Auswahl;
-      b.auswahl = feld.texte;
-      break;
-    case Art::Ganzzahl:
-      b.art = Eingabefeld::Art::Ganzzahl;
-      b.bis = feld.bis;
-      b.ohneNull = feld.nullVerboten;
-      break;
-    case Art::Dezimal:
-      b.art = Eingabefeld::Art::Dezimal;
-      b.nachkommastellen = feld.nachkommastellen;
-      break;
-    case Art::Datum:
-      b.art = Eingabefeld::Art::Datum;
-      break;
-  }
-  return b;
-}
-
-}  // namespace
 
 Verwaltungsblock::Verwaltungsblock(const Plan& plan, QWidget* eltern)
     : QWidget(eltern), m_plan(plan) {

@@ -78,7 +78,7 @@ void TV_Arplanoptionen::leeren() {
 void TV_Arplanoptionen::zeileZeigen(int zeile) {
   if (zeile < 0 || zeile >= liarplan->zeilen()) return;
   for (size_t i = 0; i < sevt.size(); ++i) {
-    const QString text = TextLesen(liarplan->wert(zeile, optionsfelder()[i]));
+    const QString text = TextLesen(liarplan->wert(zeile, optionsfelder()[i].feld));
     const bool wahl = i >= 5;
     sevt[i]->setInhalt(wahl ? angebotener(text, sevt[i]->beschreibung().auswahl) : text);
   }

@@ -7,36 +7,15 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include "data/forms/Feldbeschreibung.h"
 #include "planning/forms/TV_Arplanoptionen.h"
 #include "platform/controls/Bauteile.h"
-#include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 
 using Bauteile::knopf;
 
 namespace {
-
-struct Feld {  // of optionsfelder(), in its order
-  const char* beschriftung;
-  Eingabefeld::Beschreibung beschreibung;
-  int zeile;  // in the frame
-  int seite;  // left 0, right 1
-};
-
-using Art = Eingabefeld::Art;
-
-const std::array<Feld, 7>& felder() {
-  static const std::array<Feld, 7> liste = {
-      {{"Arbeitsart", {Art::Text, 30, 0, {}, {}, {}, {}}, 0, 0},
-       {"Startzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 1, 0},
-       {"Endzeitraum (TT.MM)", {Art::TagMonat, 0, 0, {}, {}, {}, {}}, 2, 0},
-       {"Wiederholungsfrist (Tage)", {Art::Ganzzahl, 2, 0, 99, "0", {}, {}}, 3, 0},
-       {"Volkabhängig (J/N)", {Art::Auswahl, 1, 0, {}, {}, {}, {"J", "N"}}, 0, 1},
-       {"Autom. Erled. Buchung", {Art::Auswahl, 15, 0, {}, {}, {}, erledigtBuchungen()}, 1, 1},
-       {"Autom. Erled. Arbeitsart", {Art::Auswahl, 30, 0, {}, {}, {}, {}}, 2, 1}}};
-  return liste;
-}
 
 // A row of buttons without a margin of its own.
 QWidget* leiste(const QList<QWidget*>& links, const QList<QWidget*>& rechts) {
@@ -58,9 +37,8 @@ void TV_Arplanoptionen::aufbauen() {
   liarplan->setSelectionMode(QAbstractItemView::SingleSelection);
   liarplan->setLayoutSchluessel("TOVA/tv_arplanoptionen_liarplan/ColWidths");
   // Headed as the input where the field's name is none to read.
-  for (size_t i = 0; i < felder().size(); ++i)
-    if (const QString& name = optionsfelder()[i]; name.contains(u'_'))
-      liarplan->setUeberschrift(name, QString::fromUtf8(felder()[i].beschriftung));
+  for (const Verwaltung::Feld& feld : optionsfelder())
+    if (feld.feld.contains(u'_')) liarplan->setUeberschrift(feld.feld, feld.beschriftung);
   liarplan->setMinimumHeight(6 * fontMetrics().height() + 40);
 
   auto* spalte = new QVBoxLayout(this);
@@ -77,18 +55,21 @@ void TV_Arplanoptionen::aufbauen() {
              .boundedTo(frei * 9 / 10));
 }
 
+// Two columns, read downwards.
 QWidget* TV_Arplanoptionen::feldgruppeBauen() {
+  constexpr int Hoehe = 4;
   auto* rahmen = new QGroupBox("Arbeitsplan-Option");
   auto* gitter = new QGridLayout(rahmen);
   for (size_t i = 0; i < sevt.size(); ++i) {
-    const Feld& f = felder()[i];
+    const Verwaltung::Feld& feld = optionsfelder()[i];
+    const int zeile = static_cast<int>(i) % Hoehe;
+    const int spalte = static_cast<int>(i) / Hoehe * 3;
     auto* eingabe = new Eingabefeld;
     eingabe->setObjectName("sevt_" + QString::number(i));
-    eingabe->einrichten(f.beschreibung);
+    eingabe->einrichten(Verwaltung::beschreibung(feld));
     sevt[i] = eingabe;
-    gitter->addWidget(beschriften(QString::fromUtf8(f.beschriftung), eingabe), f.zeile,
-                      3 * f.seite);
-    gitter->addWidget(eingabe, f.zeile, 3 * f.seite + 1);
+    gitter->addWidget(beschriften(feld.beschriftung, eingabe), zeile, spalte);
+    gitter->addWidget(eingabe, zeile, spalte + 1);
   }
   gitter->setColumnMinimumWidth(2, fontMetrics().averageCharWidth() * 2);
   gitter->setColumnStretch(1, 1);
