@@ -158,6 +158,18 @@ TEST_F(Jahreslauf, VolkunabhaengigeOptionenBleibenUnberuehrt) {
                                     QString("%1 Einwinterung 15.09. N").arg(volk)}));
 }
 
+TEST_F(Jahreslauf, NurJGiltAlsVolkabhaengig) {
+  const qint64 volk = neuesVolk("1");
+  option("Einwinterung", "15.09", 0, "15.09");
+  option("Leer", "16.09", 0, "16.09", "");
+  option("Anders", "17.09", 0, "17.09", "X");
+  const qint64 ohne = option("Ohne Angabe", "18.09", 0, "18.09");
+  db().Execute(QString("update Arbeitsplanoptionen set Volkabhängig = ? where ID = ?"),
+               {QVariant(), ohne});
+  laufe({true});
+  EXPECT_EQ(termine(), QStringList(QString("%1 Einwinterung 15.09. N").arg(volk)));
+}
+
 TEST_F(Jahreslauf, OhneVolkKommtDerGrundUndDasJahrIstErledigt) {
   option("Einwinterung", "15.09", 0, "15.09");
   laufe({true});

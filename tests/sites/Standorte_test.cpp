@@ -109,6 +109,20 @@ TEST(Pflanzenpruefung, NameUndBeideDaten) {
       QStringList("...die Weidezeit von...bis korrekt angegeben werden muß."));
 }
 
+TEST(Pflanzenpruefung, JedesDerBeidenDatenMussDaSein) {
+  const QStringList grund("...die Weidezeit von...bis korrekt angegeben werden muß.");
+  for (const char* kein : {"", "31.04.2003", "Mai"}) {
+    EXPECT_EQ(Standorte::pflanzenGruende(
+                  {{"Pflanze", "Raps"}, {"Weidezeit_von", kein}, {"Weidezeit_bis", "20.05.2003"}}),
+              grund)
+        << kein;
+    EXPECT_EQ(Standorte::pflanzenGruende(
+                  {{"Pflanze", "Raps"}, {"Weidezeit_von", "20.04.2003"}, {"Weidezeit_bis", kein}}),
+              grund)
+        << kein;
+  }
+}
+
 TEST(Pflanzenpruefung, DieFolgeDerBeidenDatenZaehltNicht) {
   EXPECT_EQ(
       Standorte::pflanzenGruende(
@@ -160,6 +174,10 @@ TEST(Trachtpruefung, EineSummeUnterNullLaesstMehrZu) {
   EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "5", "100"), -10), QStringList());
 }
 
+TEST(NeuerStandort, StehtAufDerKarteBei250) {
+  EXPECT_EQ(Standorte::neuerPlatz(), QVariantHash({{"PTop", 250}, {"PLeft", 250}}));
+}
+
 TEST_F(Anteile, SummeMitLeerenUndNegativenAnteilen) {
   const qint64 hof = standort("Hof");
   tracht(hof, "Raps", 60);
@@ -176,8 +194,11 @@ TEST_F(Anteile, SummeJeStandortOhnePflanzenNull) {
   const qint64 heide = standort("Heide");
   tracht(hof, "Raps", 60);
   tracht(hof, "Linde", 25);
+  const qint64 wald = standort("Wald");
+  tracht(wald, "Linde", 40);
   EXPECT_EQ(Standorte::anteilSumme(db(), hof), 85);
   EXPECT_EQ(Standorte::anteilSumme(db(), heide), 0);
+  EXPECT_EQ(Standorte::anteilSumme(db(), wald), 40);
 }
 
 }  // namespace

@@ -179,6 +179,20 @@ TEST_F(Bewegung, GleicheNummerInBeidenTabellenZweiBewegungen) {
   EXPECT_EQ(zeilen("select Zugang, Abgang from Honiglager"), QStringList("0|4"));
 }
 
+// The movement to be replaced isn't simply the first one that bears the number.
+TEST_F(Bewegung, GleicheNummerDieDesAnderenGeschaeftsStehtDavor) {
+  const qint64 einkauf = kaufe("Honig", "8");
+  const qint64 verkauf = verkaufe("Honig", "3");
+  ASSERT_EQ(verkauf, einkauf);
+  aendere(Seite::Verkauf, verkauf, geschaeft(Seite::Verkauf, "Honig", "4"));
+  EXPECT_EQ(zeilen("select Zugang, Abgang from Honiglager order by Abgang"),
+            QStringList({"8|0", "0|4"}));
+  db().Execute("delete from Honiglager where Zugang = 8");
+  aendere(Seite::Einkauf, einkauf, geschaeft(Seite::Einkauf, "Honig", "9"));
+  EXPECT_EQ(zeilen("select Zugang, Abgang from Honiglager order by Abgang"),
+            QStringList({"9|0", "0|4"}));
+}
+
 TEST_F(Bewegung, WachsSchreibtKeine) {
   verkaufe("Wachs", "3");
   EXPECT_EQ(anzahl("Honiglager"), 0);
