@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QLineEdit>
 #include <QTest>
 #include <memory>
+#include <type_traits>
 
 #include "data/helpers.h"
 #include "platform/controls/Eingabefeld.h"
@@ -32,7 +34,7 @@ class Formularprobe : public Basis {
   }
 
   void oeffne() {
-    form = std::make_unique<Form>();
+    form = neueForm();
     form->laden();
     form->show();
     form->activateWindow();
@@ -52,23 +54,28 @@ class Formularprobe : public Basis {
   std::string inhalt(int index) { return feld(index)->inhalt().toStdString(); }
   Grid* liste(const QString& name) { return kind<Grid>(name); }
 
-  // Types over what stands in the input.
-  static void tippe(Eingabefeld* eingabe, const QString& text) {
-    eingabe->setFocus();
-    eingabe->selectAll();
-    if (eingabe->art() != Eingabefeld::Art::Auswahl) QTest::keyClick(eingabe, Qt::Key_Delete);
+  static void tasten(QWidget* ziel, const QString& text) {
     for (const QChar zeichen : text)  // keyClicks knows no umlauts
-      QTest::sendKeyEvent(QTest::Click, eingabe, static_cast<Qt::Key>(zeichen.toUpper().unicode()),
+      QTest::sendKeyEvent(QTest::Click, ziel, static_cast<Qt::Key>(zeichen.toUpper().unicode()),
                           QString(zeichen), Qt::NoModifier);
   }
-  void tippe(const QString& name, const QString& text) { tippe(feld(name), text); }
+  // Types over what stands in the input.
+  static void tippe(QLineEdit* eingabe, const QString& text) {
+    eingabe->setFocus();
+    eingabe->selectAll();
+    const auto* feld = qobject_cast<Eingabefeld*>(eingabe);
+    if (feld == nullptr || feld->art() != Eingabefeld::Art::Auswahl)
+      QTest::keyClick(eingabe, Qt::Key_Delete);
+    tasten(eingabe, text);
+  }
+  void tippe(const QString& name, const QString& text) { tippe(kind<QLineEdit>(name), text); }
   void tippe(int index, const QString& text) { tippe(feld(index), text); }
 
   // At its left end, where a check box has its mark.
-  void klicke(const QString& name) {
-    auto* knopf = kind<QAbstractButton>(name);
+  static void klicke(QAbstractButton* knopf) {
     QTest::mouseClick(knopf, Qt::LeftButton, {}, QPoint(8, knopf->height() / 2));
   }
+  void klicke(const QString& name) { klicke(kind<QAbstractButton>(name)); }
   static QPoint mitte(Grid* grid, int zeile) {
     const QModelIndex index = grid->model()->index(zeile, 0);
     grid->scrollTo(index);
@@ -76,6 +83,13 @@ class Formularprobe : public Basis {
   }
   void waehle(const QString& grid, int zeile) {
     QTest::mouseClick(liste(grid)->viewport(), Qt::LeftButton, {}, mitte(liste(grid), zeile));
+  }
+
+  static std::unique_ptr<Form> neueForm() {
+    if constexpr (std::is_default_constructible_v<Form>)
+      return std::make_unique<Form>();
+    else
+      return std::make_unique<Form>(nullptr);  // without a window that opened it
   }
 
   Meldungen::Probe boxen;

@@ -13,10 +13,9 @@
 #include <QTest>
 #include <QTimer>
 
+#include "gemeinsam/Formularprobe.h"
 #include "output/Listen.h"
 #include "output/Uebergabe.h"
-#include "platform/controls/Grid.h"
-#include "platform/controls/Meldungen.h"
 #include "platform/controls/Oeffnen.h"
 #include "platform/files/Textdatei.h"
 #include "platform/files/Xlsx.h"
@@ -27,9 +26,8 @@ namespace {
 
 const QString KeineDaten = "Es sind keine Daten in der Liste.";
 
-// The form over a list that was handed on, driven by key and mouse. Boxes and opened files that no
-// test expected fail.
-class ZwischenlisteTest : public testing::Test {
+// A program folder in which files are not really opened.
+class Ausgabeordner : public testing::Test {
  protected:
   void SetUp() override {
     EinstellungenText[4] = " | ";
@@ -40,34 +38,25 @@ class ZwischenlisteTest : public testing::Test {
     });
   }
   void TearDown() override {
-    form.reset();
     Oeffnen::setOeffner({});
     Formular::setHilfe({});
     Fensterablage::setDatei({});
-    EXPECT_EQ(boxen.fehler().toStdString(), "");
   }
 
+  Programmordner ordner;
+  QStringList geoeffnet;
+  bool oeffnenGelingt = true;
+};
+
+// The form over a list that was handed on.
+class ZwischenlisteTest : public Formularprobe<TA_Zwischenliste, Ausgabeordner> {
+ protected:
+  using Formularprobe::oeffne;
   void oeffne(const Ausgabeliste& liste) {
     Uebergabe::schreiben(Uebergabe::datei(), liste);
     oeffne();
   }
-  void oeffne() {
-    form = std::make_unique<TA_Zwischenliste>();
-    form->laden();
-    form->show();
-    form->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-  }
-  template <typename T = QPushButton>
-  T* kind(const QString& name) {
-    T* k = form->findChild<T*>(name);
-    EXPECT_NE(k, nullptr) << name.toStdString();
-    return k;
-  }
   Grid* gridli() { return kind<Grid>("gridli"); }
-  void klicke(const QString& name) {
-    QTest::mouseClick(kind<QAbstractButton>(name), Qt::LeftButton);
-  }
   // Waits for the text output, looks at it and closes it.
   void beiTextausgabe(std::function<void(QWidget*)> pruefung = {}) {
     auto* uhr = new QTimer(form.get());
@@ -86,11 +75,6 @@ class ZwischenlisteTest : public testing::Test {
     return Textdatei::vonCp1252(Listen::bytes(AppPfad + name)).toStdString();
   }
 
-  Programmordner ordner;
-  Meldungen::Probe boxen;
-  std::unique_ptr<TA_Zwischenliste> form;
-  QStringList geoeffnet;
-  bool oeffnenGelingt = true;
   int textausgaben = 0;
 };
 

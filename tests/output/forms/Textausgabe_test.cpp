@@ -19,16 +19,17 @@
 #include "core/globals.h"
 #include "gemeinsam/Bildschirm.h"
 #include "gemeinsam/Druckdialog.h"
+#include "gemeinsam/Formularprobe.h"
 #include "gemeinsam/Pdf.h"
 #include "output/forms/TA_Textausgabe.h"
-#include "platform/controls/Meldungen.h"
 #include "platform/files/Textdatei.h"
 
 using namespace TZ_Variablen;
 
 namespace {
 
-class Listenausgabe : public testing::Test {
+// A program folder, and a current folder that is another.
+class Druckordner : public testing::Test {
  protected:
   void SetUp() override {
     zuruecksetzen();
@@ -40,44 +41,30 @@ class Listenausgabe : public testing::Test {
     EinstellungenZahl[22] = 10;
   }
   void TearDown() override {
-    EXPECT_EQ(boxen.fehler().toStdString(), "");
-    schriftZuruecksetzen();
-    form.reset();
     Formular::setHilfe({});
     QDir::setCurrent(m_vorher);
     zuruecksetzen();
   }
 
-  void liste(const QStringList& zeilen) { Textausgabe::listeSchreiben(zeilen); }
-  void oeffne() {
-    form = std::make_unique<TA_Textausgabe>(nullptr);
-    form->laden();
-    form->show();
-    form->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  QTemporaryDir m_ordner;
+  QTemporaryDir m_aktuell;
+  QString m_vorher;
+};
+
+class Listenausgabe : public Formularprobe<TA_Textausgabe, Druckordner> {
+ protected:
+  void TearDown() override {
+    schriftZuruecksetzen();
+    Formularprobe::TearDown();
   }
+
+  void liste(const QStringList& zeilen) { Textausgabe::listeSchreiben(zeilen); }
+  using Formularprobe::oeffne;
   void oeffne(const QStringList& zeilen) {
     liste(zeilen);
     oeffne();
   }
 
-  template <typename T = QWidget>
-  T* kind(const QString& name) {
-    T* k = form->findChild<T*>(name);
-    EXPECT_NE(k, nullptr) << name.toStdString();
-    return k;
-  }
-  void klicke(const QString& name) {
-    auto* k = kind<QAbstractButton>(name);
-    QTest::mouseClick(k, Qt::LeftButton, {}, QPoint(8, k->height() / 2));
-  }
-  void tippe(const QString& name, const QString& text) {
-    auto* feld = kind<QLineEdit>(name);
-    feld->setFocus();
-    feld->selectAll();
-    QTest::keyClick(feld, Qt::Key_Delete);
-    QTest::keyClicks(feld, text);
-  }
   QString text() { return kind<QPlainTextEdit>("t")->toPlainText(); }
   QFont schrift() { return kind<QPlainTextEdit>("t")->font(); }
   QString groesse() { return kind<QComboBox>("größe")->currentText(); }
@@ -105,12 +92,6 @@ class Listenausgabe : public testing::Test {
   void bild(const QString& name) { bildAblegen(*form, "text_" + name); }
   QString pdf() const { return m_ordner.filePath("druck.pdf"); }
   QString druckauf() const { return m_aktuell.filePath("DRUCKAUF.TXT"); }
-
-  QTemporaryDir m_ordner;
-  QTemporaryDir m_aktuell;  // the current folder is another than the program's
-  QString m_vorher;
-  Meldungen::Probe boxen;
-  std::unique_ptr<TA_Textausgabe> form;
 };
 
 // Loading
