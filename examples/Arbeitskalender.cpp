@@ -186,7 +186,7 @@ void Arbeitskalender::amStandEintragen(QDate tag, const QString& termin) {
 void Arbeitskalender::eintragen(QDate tag, const QString& termin, const QString& volknr) {
   const Terminverwaltung::Eingabe eingabe{Deutsch::datumText(tag), termin, "N", volknr, {}};
   const Terminverwaltung::Pruefung pruefung = Terminverwaltung::pruefen(DB, eingabe);
-  verlange(pruefung.gruende);
+  verlange(pruefung.gruende.join(TZ_Variablen::CRLF));
   if (!Terminverwaltung::existiert(DB, eingabe, pruefung.volkId))
     Terminverwaltung::speichern(DB, eingabe, pruefung.volkId);
 }
