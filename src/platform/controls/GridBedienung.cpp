@@ -197,6 +197,7 @@ int Grid::zellenrand(int spalte) const {
 void Grid::breitenAnpassen() {
   const QFontMetrics mass(font());
   const int breitestes = mass.horizontalAdvance(u'W');
+  const int ziffer = mass.horizontalAdvance(u'0');
   const int grenze = mass.height() * GroessteBreite;
   const int zeilen = this->zeilen();
   const int schritt = std::max(1, (zeilen - GemesseneZeilen) / GemesseneZeilen);
@@ -205,14 +206,23 @@ void Grid::breitenAnpassen() {
     // With room for the sort arrow, whether it stands there now or not.
     const int rand = zellenrand(spalte) + Luft;
     int breite = horizontalHeader()->sectionSizeHint(spalte) - rand;
+    const bool zahl = m_modell->rechtsbuendig(spalte) && !hatAnzeige(spalte);
+    const bool datum = m_modell->daten()->spalte(spalte).typ == Feldtyp::Datum;
     qsizetype laengster = 0;
+    // Can't be the widest; making and measuring a text is dear. All dates are of one width.
+    const auto schmaler = [&](qsizetype zeichen) {
+      return zeichen * 4 < laengster * 3 || zeichen * breitestes <= breite ||
+             (datum && zeichen == laengster);
+    };
     for (int zeile = 0; zeile < zeilen && breite < grenze;
          zeile += zeile < GemesseneZeilen ? 1 : schritt) {
+      if (schmaler(m_modell->zeichenHoechstens(zeile, spalte))) continue;
       const QString text = m_modell->text(zeile, spalte);
-      // Can't be the widest; measuring is dear.
-      if (text.size() * 4 < laengster * 3 || text.size() * breitestes <= breite) continue;
+      if (schmaler(text.size())) continue;
       laengster = std::max(laengster, text.size());
-      breite = std::max(breite, mass.horizontalAdvance(text));
+      const int bedarf =
+          zahl ? static_cast<int>(text.size()) * ziffer : mass.horizontalAdvance(text);
+      breite = std::max(breite, bedarf);
     }
     m_breiten += std::clamp(breite + rand, KleinsteBreite, grenze);
   }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <numeric>
 
 #include "platform/database/Kollation.h"
@@ -107,6 +108,15 @@ QString GridModell::text(int zeile, int spalte) const {
   const Anzeige* anzeige = m_spaltenanzeige[static_cast<size_t>(spalte)];
   return anzeige != nullptr ? (*anzeige)(m_daten->wert(block, spalte))
                             : m_daten->anzeige(block, spalte);
+}
+
+qsizetype GridModell::zeichenHoechstens(int zeile, int spalte) const {
+  constexpr qsizetype Zahl = 20;  // twelve digits, or an amount of money with its points
+  const int block = blockzeile(zeile);
+  if (hatAnzeige(spalte)) return std::numeric_limits<int>::max();
+  if (m_daten->istNull(block, spalte)) return 0;
+  // A character has one byte at least.
+  return m_daten->istText(block, spalte) ? m_daten->rohtext(block, spalte).size() : Zahl;
 }
 
 QVariant GridModell::wert(int zeile, int spalte) const {

@@ -31,6 +31,8 @@ class GridModell : public QAbstractTableModel {
   void setErsteSpalte(std::function<QString(int)> text);
   // The whole text of a cell; the screen shows it in one line.
   QString text(int zeile, int spalte) const;
+  // How many characters the cell's text has at most, told without making it.
+  qsizetype zeichenHoechstens(int zeile, int spalte) const;
   QVariant wert(int zeile, int spalte) const;
   QString ueberschrift(int spalte) const;
   // Numbers stand on the right, heading and cells alike: a column of a number's type, or an
