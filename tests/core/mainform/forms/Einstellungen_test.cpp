@@ -16,13 +16,13 @@
 #include "core/settings.h"
 #include "gemeinsam/AndererBenutzer.h"
 #include "gemeinsam/Bildschirm.h"
-#include "platform/controls/Eingabefeld.h"
+#include "gemeinsam/Formularprobe.h"
 #include "platform/files/Textdatei.h"
 
 using namespace TZ_Variablen;
 
-// The form alone, on the settings of a first start.
-class Einstellungsform : public testing::Test {
+// A program folder with the settings of a first start.
+class Einstellungsordner : public testing::Test {
  protected:
   void SetUp() override {
     zuruecksetzen();
@@ -35,28 +35,21 @@ class Einstellungsform : public testing::Test {
     ListeNeuLesen = 0;
   }
   void TearDown() override {
-    EXPECT_EQ(boxen.fehler().toStdString(), "");
-    form.reset();
     Fensterablage::setDatei({});
     DB.Close();
     Arbeitsbereich.Close();
     zuruecksetzen();
   }
-  void oeffne() {
-    form = std::make_unique<TO_Einstellungen>();
-    form->laden();
-    form->show();
-    form->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  QStringList gespeichert() const {
+    return Textdatei::lesen(m_ordner.filePath("Einstellungen.TV2"));
   }
 
-  template <typename T = QWidget>
-  T* kind(const QString& name) {
-    T* k = form->findChild<T*>(name);
-    EXPECT_NE(k, nullptr) << name.toStdString();
-    return k;
-  }
-  Eingabefeld* feld(int index) { return kind<Eingabefeld>(QStringLiteral("sevt_%1").arg(index)); }
+  QTemporaryDir m_ordner;
+};
+
+// The form alone; what is on another page is brought to the front first.
+class Einstellungsform : public Formularprobe<TO_Einstellungen, Einstellungsordner> {
+ protected:
   QCheckBox* kon(int index) { return kind<QCheckBox>(QStringLiteral("kon_%1").arg(index)); }
   void zeigeReiter(QWidget* w) {
     auto* reiter = kind<QTabWidget>("reiter");
@@ -64,16 +57,12 @@ class Einstellungsform : public testing::Test {
       if (reiter->widget(i)->isAncestorOf(w)) reiter->setCurrentIndex(i);
   }
   void tippe(int index, const QString& text) {
-    Eingabefeld* f = feld(index);
-    zeigeReiter(f);
-    f->setFocus();
-    f->selectAll();
-    QTest::keyClick(f, Qt::Key_Delete);
-    QTest::keyClicks(f, text);
+    zeigeReiter(feld(index));
+    Formularprobe::tippe(index, text);
   }
-  void klicke(QAbstractButton* k) {
-    zeigeReiter(k);
-    QTest::mouseClick(k, Qt::LeftButton, {}, QPoint(10, k->height() / 2));
+  void klicke(QAbstractButton* knopf) {
+    zeigeReiter(knopf);
+    Formularprobe::klicke(knopf);
   }
   void klicke(const QString& name) { klicke(kind<QAbstractButton>(name)); }
   QStringList zeilen(const QString& name) {
@@ -82,13 +71,6 @@ class Einstellungsform : public testing::Test {
     for (int i = 0; i < liste->count(); ++i) texte << liste->item(i)->text();
     return texte;
   }
-  QStringList gespeichert() const {
-    return Textdatei::lesen(m_ordner.filePath("Einstellungen.TV2"));
-  }
-
-  QTemporaryDir m_ordner;
-  Meldungen::Probe boxen;
-  std::unique_ptr<TO_Einstellungen> form;
 };
 
 TEST_F(Einstellungsform, JedesElementHatNamenUndBeschriftung) {
