@@ -4,7 +4,20 @@
 // What the user finds after a save or a deletion that failed.
 namespace {
 
-class Handelsfehler : public Handelsprobe {};
+class Handelsfehler : public Handelsprobe {
+ protected:
+  // The database refuses this; after "rollback" nothing of the whole action is left.
+  static void stoere(const QString& ereignis, const QString& art = "fail") {
+    Verbindung::zu(TZ_Variablen::DatenbankPfad)
+        ->steuere(("create trigger kaputt before " + ereignis + " begin select raise(" + art +
+                   ", 'gestört'); end")
+                      .toUtf8());
+  }
+  static QString gestoert() {
+    return "Die Datenbank \"" + TZ_Variablen::DatenbankPfad +
+           "\" konnte die Anweisung nicht ausführen (gestört).";
+  }
+};
 
 TEST_F(Handelsfehler, VolleFestplatteWirdGesagtUndDieEingabenBleiben) {
   Verbindung* verbindung = Verbindung::zu(TZ_Variablen::DatenbankPfad);
@@ -33,10 +46,8 @@ TEST_F(Handelsfehler, VolleFestplatteWirdGesagtUndDieEingabenBleiben) {
 TEST_F(Handelsfehler, WasHalbGeschriebenIstStehtInDerListe) {
   oeffne(Verkauf);
   tippeVerkauf("Honig", "3", "Meier");
-  Verbindung::zu(TZ_Variablen::DatenbankPfad)
-      ->steuere(
-          "create trigger kaputt before insert on Honiglager begin select raise(fail, 'x'); end");
-  boxen.hinweisMit("");
+  stoere("insert on Honiglager");
+  boxen.hinweis(gestoert());
   klicke("neuverkauf_0");
   EXPECT_EQ(inhalte("verkauf"), "20.06.2006|Honig||Meier|3||0|");
   EXPECT_EQ(liste("liverkauf")->zeilen(), 1);
@@ -49,10 +60,8 @@ TEST_F(Handelsfehler, GingNurDieAlteBewegungWegStehtSieNichtMehrImLager) {
   oeffne(Verkauf);
   waehle("liverkauf", 0);
   tippe("sevtverkauf_4", "4");
-  Verbindung::zu(TZ_Variablen::DatenbankPfad)
-      ->steuere(
-          "create trigger kaputt before insert on Honiglager begin select raise(fail, 'x'); end");
-  boxen.hinweisMit("");
+  stoere("insert on Honiglager");
+  boxen.hinweis(gestoert());
   klicke("neuverkauf_1");
   EXPECT_EQ(zeilen("select Menge from Verkauf"), QStringList("4"));
   EXPECT_EQ(liste("liverkauf")->zelle(0, "Menge"), "4");
@@ -64,10 +73,8 @@ TEST_F(Handelsfehler, GescheitertesLoeschenLaesstGeschaeftUndBewegung) {
   verkaufe("Honig", "3");
   oeffne(Verkauf);
   waehle("liverkauf", 0);
-  Verbindung::zu(TZ_Variablen::DatenbankPfad)
-      ->steuere(
-          "create trigger kaputt before delete on Verkauf begin select raise(rollback, 'x'); end");
-  boxen.hinweisMit("");
+  stoere("delete on Verkauf", "rollback");
+  boxen.hinweis(gestoert() + " Von diesem Vorgang wurde nichts gespeichert.");
   klicke("lschverkauf");
   EXPECT_EQ(anzahl("Verkauf"), 1);
   EXPECT_EQ(anzahl("Honiglager"), 1);
