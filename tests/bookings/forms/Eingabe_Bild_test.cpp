@@ -154,7 +154,7 @@ TEST_P(EingabeBild, NichtsIstAbgeschnittenUndEsPasstAufEinenKleinenSchirm) {
   oeffne(0);
   for (int art = 0; art < 11; ++art) {
     const QString fall = "Art " + QString::number(art) + ": ";
-    waehle("opti_" + QString::number(art));
+    klicke("opti_" + QString::number(art));
     tippe(0, "15.06.2026");
     form->resize(1366, 700);  // less the window's title and the task bar
     QTest::qWait(1);
@@ -177,7 +177,7 @@ TEST_P(EingabeBild, NichtsIstAbgeschnittenUndEsPasstAufEinenKleinenSchirm) {
 TEST_P(EingabeBild, VerborgenePlaetzeHinterlassenKeineLuecken) {
   oeffne(0);
   for (int art = 0; art < 10; ++art) {
-    waehle("opti_" + QString::number(art));
+    klicke("opti_" + QString::number(art));
     form->resize(1366, 700);
     QTest::qWait(1);
     const int oben = feld(1)->y();
@@ -247,25 +247,25 @@ TEST_F(EingabeBedienung, DieBeschriftungenDerKnoepfeStehenFest) {
                                                     {"anzeige_2", "Akt. und letztes Jahr"},
                                                     {"cmdschließen", "&Schließen"}};
   for (const auto& [name, beschriftung] : erwartet)
-    EXPECT_EQ(finde<QAbstractButton>(name)->text(), beschriftung);
+    EXPECT_EQ(kind<QAbstractButton>(name)->text(), beschriftung);
 }
 
 TEST_F(EingabeBedienung, JedesSichtbareEingabefeldHatEinenVorlesenamen) {
   oeffne(0);
   for (int art = 0; art < 10; ++art) {
-    waehle("opti_" + QString::number(art));
+    klicke("opti_" + QString::number(art));
     for (const int slot : sichtbar())
       EXPECT_FALSE(feld(slot)->accessibleName().isEmpty()) << art << " " << slot;
   }
   for (const char* name : {"volkli", "li", "kom", "sevt_0"})
-    EXPECT_FALSE(finde<QWidget>(name)->accessibleName().isEmpty()) << name;
+    EXPECT_FALSE(kind<QWidget>(name)->accessibleName().isEmpty()) << name;
 }
 
 TEST_F(EingabeBedienung, DieHilfeKenntDasThemaDerForm) {
   QString thema;
   Formular::setHilfe([&](QWidget*, const QString& t) { thema = t; });
   oeffne(0);
-  druecke("comhilfe");
+  klicke("comhilfe");
   EXPECT_EQ(thema, "TE_Eingabe");
   thema.clear();
   taste(feld(0), Qt::Key_F1);

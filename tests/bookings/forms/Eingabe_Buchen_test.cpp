@@ -17,7 +17,7 @@ TEST_F(Buchen, NeuMitEinemVolkFragtNichtsUndBuchtSofort) {
   tippe(1, "Füttern");
   tippe(2, "1,5");
   tippe(4, "nach Regen");
-  druecke("neu_0");
+  klicke("neu_0");
   const Daten daten = lies("select * from Arbeiten");
   ASSERT_EQ(daten->zeilen(), 1);
   const auto feldwert = [&](const char* name) {
@@ -46,9 +46,9 @@ TEST_F(Buchen, NachLoeschenUndNeinBuchtDieEingabetasteWieder) {
   zeile("Arbeiten", 1, "2026-05-20", {{"Arbeitsart", "Füttern"}});
   TZ_Variablen::EinstellungenZahl[55] = 1;
   oeffne(5);
-  meldungen.frageMit("Soll der markierte Datensatz", false);
-  finde<QAbstractButton>("löschen")->setFocus();
-  druecke("löschen");
+  boxen.frageMit("Soll der markierte Datensatz", false);
+  kind<QAbstractButton>("löschen")->setFocus();
+  klicke("löschen");
   tippe(1, "Kontrolle");
   taste(feld(1), Qt::Key_Return);
   EXPECT_EQ(anzahl("Arbeiten"), 2);
@@ -56,8 +56,8 @@ TEST_F(Buchen, NachLoeschenUndNeinBuchtDieEingabetasteWieder) {
 
 TEST_F(Buchen, NachDemSchliessenUndWiederoeffnenBuchtDieEingabetaste) {
   oeffne(5);
-  finde<QAbstractButton>("cmdschließen")->setFocus();
-  druecke("cmdschließen");
+  kind<QAbstractButton>("cmdschließen")->setFocus();
+  klicke("cmdschließen");
   oeffne(5);
   tippe(1, "Kontrolle");
   taste(feld(1), Qt::Key_Return);
@@ -79,7 +79,7 @@ TEST_F(Buchen, EineGehalteneEingabetasteBuchtNurEinmal) {
 TEST_F(Buchen, DieEingabetasteInDenListenBuchtNicht) {
   zeile("Arbeiten", 1, "2026-05-20", {{"Arbeitsart", "Füttern"}});
   oeffne(5);
-  for (QWidget* hier : QList<QWidget*>{li(), volkli(), finde<QWidget>("kom")}) {
+  for (QWidget* hier : QList<QWidget*>{li(), volkli(), kind<QWidget>("kom")}) {
     hier->setFocus();
     taste(hier, Qt::Key_Return);
     EXPECT_EQ(anzahl("Arbeiten"), 1);
@@ -114,9 +114,9 @@ TEST_F(Buchen, Der31FebruarWirdAbgelehntUndNichtsGeschrieben) {
   oeffne(5);
   tippe(1, "Füttern");
   tippe(0, "31.2.2026");
-  meldungen.hinweis(FalschesDatum);
+  boxen.hinweis(FalschesDatum);
   taste(feld(0), Qt::Key_Return);
-  EXPECT_EQ(meldungen.fehler(), "");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
   EXPECT_EQ(ListeNeuLesen, 0);
   EXPECT_EQ(text(1), "Füttern");
@@ -127,19 +127,19 @@ TEST_F(Buchen, OhneDatumWirdNichtsGebucht) {
   oeffne(5);
   tippe(0, "");
   taste(feld(0), Qt::Key_Delete);
-  meldungen.hinweis(FalschesDatum);
-  druecke("neu_0");
-  meldungen.hinweis(FalschesDatum);
-  druecke("neu_1");
+  boxen.hinweis(FalschesDatum);
+  klicke("neu_0");
+  boxen.hinweis(FalschesDatum);
+  klicke("neu_1");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
 }
 
 TEST_F(Buchen, NeuOhneMarkiertesVolkVerlangtEines) {
   oeffne(5);
   markiere({});
-  meldungen.hinweis(
+  boxen.hinweis(
       "Bitte markieren Sie zuerst die Völker, bei denen die Buchung ausgeführt werden soll!");
-  druecke("neu_0");
+  klicke("neu_0");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
 }
 
@@ -147,9 +147,9 @@ TEST_F(Buchen, MitDreiMarkiertenVoelkernWirdEinmalGefragtUndBeiAllenGebucht) {
   markiere({0, 1, 2});
   oeffne(5);
   tippe(1, "Füttern");
-  meldungen.frage(DreiMarkiert, true);
-  druecke("neu_0");
-  EXPECT_EQ(meldungen.fehler(), "");
+  boxen.frage(DreiMarkiert, true);
+  klicke("neu_0");
+  EXPECT_EQ(boxen.fehler(), "");
   const Daten daten = lies("select Volk_ID from Arbeiten order by ID");
   ASSERT_EQ(daten->zeilen(), 3);
   EXPECT_EQ(daten->ganzzahl(0, 0), 1);
@@ -163,16 +163,16 @@ TEST_F(Buchen, NeinAufDieFrageBuchtNichtsUndDieEingabeBleibt) {
   markiere({0, 1, 2});
   oeffne(5);
   tippe(1, "Füttern");
-  meldungen.frage(DreiMarkiert, false);
-  druecke("neu_0");
+  boxen.frage(DreiMarkiert, false);
+  klicke("neu_0");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
   EXPECT_EQ(text(1), "Füttern");
 }
 
 TEST_F(Buchen, AendernOhneBuchungVerlangtEinenDatensatz) {
   oeffne(5);
-  meldungen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!");
-  druecke("neu_1");
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!");
+  klicke("neu_1");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
 }
 
@@ -184,7 +184,7 @@ TEST_F(Buchen, AendernSchreibtDieGewaehlteZeileUndFindetSieWieder) {
   klicke(li(), 1);
   tippe(1, "zwei neu");
   tippe(0, "04.05.2026");
-  druecke("neu_1");
+  klicke("neu_1");
   ASSERT_EQ(li()->zeilen(), 3);
   EXPECT_EQ(li()->aktuelleZeile(), 2) << "the changed booking is the newest now";
   EXPECT_EQ(li()->zelle(2, "Arbeitsart"), "zwei neu");
@@ -199,8 +199,8 @@ TEST_F(Buchen, EinZweitesAendernTrifftWiederDieselbeZeileMitIhrenWerten) {
   oeffne(5);
   klicke(li(), 0);
   tippe(4, "A");
-  druecke("neu_1");
-  druecke("neu_1");
+  klicke("neu_1");
+  klicke("neu_1");
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where ID = 1"), "eins");
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where ID = 2"), "zwei");
 }
@@ -211,12 +211,12 @@ TEST_F(Buchen, AendernMitDreiMarkiertenWarntUndAendertNurDieZeileDesAktuellenVol
   markiere({0, 1, 2});
   oeffne(5);
   tippe(1, "neu");
-  meldungen.hinweis(
+  boxen.hinweis(
       "ACHTUNG: Sie haben mehrere Völker markiert und [Ändern] angeklickt. Änderungen können nur "
       "für ein Volk vorgenommen werden. Die Änderung wird deshalb nur beim aktuellen Volk 1 auf "
       "dem ausgewählten Datensatz ausgeführt.");
-  druecke("neu_1");
-  EXPECT_EQ(meldungen.fehler(), "");
+  klicke("neu_1");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(anzahl("Arbeiten"), 2);
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where Volk_ID = 1"), "neu");
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where Volk_ID = 2"), "alt");
@@ -224,18 +224,17 @@ TEST_F(Buchen, AendernMitDreiMarkiertenWarntUndAendertNurDieZeileDesAktuellenVol
 
 TEST_F(Buchen, LoeschenOhneZeileVerlangtEinenDatensatz) {
   oeffne(5);
-  meldungen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
-  druecke("löschen");
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
+  klicke("löschen");
 }
 
 TEST_F(Buchen, LoeschenFragtUndNeinLaesstDieBuchungStehen) {
   EinstellungenZahl[55] = 1;
   zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "eins"}});
   oeffne(5);
-  meldungen.frageMit("Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?",
-                     false);
-  druecke("löschen");
-  EXPECT_EQ(meldungen.fehler(), "");
+  boxen.frageMit("Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?", false);
+  klicke("löschen");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(anzahl("Arbeiten"), 1);
   EXPECT_EQ(li()->zeilen(), 1);
 }
@@ -246,8 +245,8 @@ TEST_F(Buchen, LoeschenNimmtDieZeileUndZeigtDieDieNunDortSteht) {
   zeile("Arbeiten", 1, "2026-05-02", {{"Arbeitsart", "zwei"}});
   oeffne(5);
   klicke(li(), 0);
-  meldungen.frageMit("unwiederbringlich", true);
-  druecke("löschen");
+  boxen.frageMit("unwiederbringlich", true);
+  klicke("löschen");
   EXPECT_EQ(anzahl("Arbeiten"), 1);
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten"), "zwei");
   EXPECT_EQ(text(1), "zwei");
@@ -257,7 +256,7 @@ TEST_F(Buchen, LoeschenNimmtDieZeileUndZeigtDieDieNunDortSteht) {
 TEST_F(Buchen, LoeschenOhneSicherheitsabfrageLoeschtSofort) {
   zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "eins"}});
   oeffne(5);
-  druecke("löschen");
+  klicke("löschen");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
   EXPECT_EQ(li()->zeilen(), 0);
 }
@@ -265,9 +264,9 @@ TEST_F(Buchen, LoeschenOhneSicherheitsabfrageLoeschtSofort) {
 TEST_F(Buchen, DieLoeschfrageKommtErstWennEineZeileGewaehltIst) {
   EinstellungenZahl[55] = 1;
   oeffne(5);
-  meldungen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
-  druecke("löschen");
-  EXPECT_EQ(meldungen.fehler(), "");
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
+  klicke("löschen");
+  EXPECT_EQ(boxen.fehler(), "");
 }
 
 TEST_F(Buchen, GeteiltWerdenZehnKiloAufDreiVoelkerZuJe3Komma33) {
@@ -277,8 +276,8 @@ TEST_F(Buchen, GeteiltWerdenZehnKiloAufDreiVoelkerZuJe3Komma33) {
   oeffne(1);
   tippe(1, "10");
   tippe(2, "Raps");
-  meldungen.frage(DreiMarkiert, true);
-  druecke("neu_0");
+  boxen.frage(DreiMarkiert, true);
+  klicke("neu_0");
   for (int volk = 1; volk <= 3; ++volk)
     EXPECT_EQ(wert("select Menge_kg from Honigernte where Volk_ID = " + QString::number(volk)),
               3.33);
@@ -293,8 +292,8 @@ TEST_F(Buchen, HonigwabenWerdenKiloUndDasZweiteVolkMultipliziertWeiter) {
   markiere({0, 1});
   oeffne(1);
   tippe(1, "10");
-  meldungen.frageMit("Es sind im Moment 2 Völker markiert.", true);
-  druecke("neu_0");
+  boxen.frageMit("Es sind im Moment 2 Völker markiert.", true);
+  klicke("neu_0");
   EXPECT_EQ(wert("select Menge_kg from Honigernte where Volk_ID = 1"), 25.0);
   EXPECT_EQ(wert("select Menge_kg from Honigernte where Volk_ID = 2"), 62.5);
 }
@@ -309,8 +308,8 @@ TEST_F(Buchen, DreihundertVoelkerInEinemLauf) {
   liste->setMarkierteZeilen(alle);
   oeffne(0);
   tippe(13, "6");
-  meldungen.frageMit("Es sind im Moment 300 Völker markiert.", true);
-  druecke("neu_0");
+  boxen.frageMit("Es sind im Moment 300 Völker markiert.", true);
+  klicke("neu_0");
   EXPECT_EQ(anzahl("Stockkarte"), 300);
   EXPECT_EQ(wert("select count(*) as n from Stockkarte where Brutwaben = 6").toInt(), 300);
   form->close();
@@ -323,7 +322,7 @@ class Schliessen : public Eingabeprobe {
   void bucheHonig() {
     oeffne(1);
     tippe(1, "12,5");
-    druecke("neu_0");
+    klicke("neu_0");
     ASSERT_EQ(wert("select Honigmenge_Gesamt from Bienenvolk where ID = 1").toDouble(), 0.0)
         << "the summary waits for the closing";
   }
@@ -338,7 +337,7 @@ class Schliessen : public Eingabeprobe {
 
 TEST_F(Schliessen, MitDemKnopfZiehtDieVolkfelderNach) {
   bucheHonig();
-  druecke("cmdschließen");
+  klicke("cmdschließen");
   pruefeZusammenfassung();
 }
 
@@ -369,7 +368,7 @@ TEST_F(Schliessen, DieGeloeschteErnteBleibtInDerZusammenfassungWennSonstNichtsGe
       "where ID = 1",
       {QDate(2026, 6, 1)});
   oeffne(1);
-  druecke("löschen");
+  klicke("löschen");
   form->close();
   EXPECT_EQ(anzahl("Honigernte"), 0);
   EXPECT_EQ(wert("select L_Honigernte from Bienenvolk where ID = 1"), QDate(2026, 6, 1));
@@ -382,9 +381,9 @@ TEST_F(Schliessen, MitEinerAnderenBuchungDesVolkesFaelltDieGeloeschteErnteHeraus
       "where ID = 1",
       {QDate(2026, 6, 1)});
   oeffne(1);
-  druecke("löschen");
-  waehle("opti_5");
-  druecke("neu_0");
+  klicke("löschen");
+  klicke("opti_5");
+  klicke("neu_0");
   form->close();
   EXPECT_TRUE(wert("select L_Honigernte from Bienenvolk where ID = 1").isNull());
   EXPECT_EQ(wert("select Honigmenge_Gesamt from Bienenvolk where ID = 1").toDouble(), 0.0);
@@ -397,7 +396,7 @@ TEST_F(Schliessen, DieGebuchtenVoelkerGeltenNurFuerDieseOeffnung) {
   liste->datenvölkerlesen();
   liste->setAktuelleZeile(1);
   oeffne(1);
-  druecke("neu_0");
+  klicke("neu_0");
   form->close();
   EXPECT_EQ(wert("select L_Honigmenge_kg from Bienenvolk where ID = 1"), 77.0);
 }

@@ -32,7 +32,7 @@ class EingabeDatentraeger : public Eingabeprobe {
     });
     oeffne(5);
     tippe(1, "vorher");
-    druecke("neu_0");
+    klicke("neu_0");
     if (voelker > 1) {
       volkli()->setFocus();
       taste(volkli(), Qt::Key_A, Qt::ControlModifier);
@@ -45,7 +45,7 @@ class EingabeDatentraeger : public Eingabeprobe {
     tippe(4, "alle");
   }
   void pruefeEingabeSteht(int voelker) {
-    EXPECT_EQ(meldungen.fehler(), "");
+    EXPECT_EQ(boxen.fehler(), "");
     EXPECT_EQ(text(0), "14.06.2026");
     EXPECT_EQ(text(1), "Waben schneiden");
     EXPECT_EQ(text(2), "0,25");
@@ -64,9 +64,9 @@ class EingabeDatentraeger : public Eingabeprobe {
   }
   // The second try, without typing anything anew.
   void pruefeNeuerAnlauf(int voelker) {
-    meldungen.frageMit(QString::number(voelker) + " Völker markiert", true);
-    druecke("neu_0");
-    EXPECT_EQ(meldungen.fehler(), "");
+    boxen.frageMit(QString::number(voelker) + " Völker markiert", true);
+    klicke("neu_0");
+    EXPECT_EQ(boxen.fehler(), "");
     EXPECT_EQ(anzahl("Arbeiten"), voelker + 1);
     EXPECT_EQ(wert("select count(*) as n from Arbeiten where Arbeitsart = 'Waben schneiden' and "
                    "Bemerkung = 'alle' and Zeit_h = 0.25")
@@ -81,8 +81,8 @@ class EingabeDatentraeger : public Eingabeprobe {
 TEST_F(EingabeDatentraeger, VollerDatentraegerImLaufUeberDreihundertVoelker) {
   bucheUndTippe(300);
   fastVoll();
-  meldungen.frageMit("300 Völker markiert", true).hinweis(keinPlatz());
-  druecke("neu_0");
+  boxen.frageMit("300 Völker markiert", true).hinweis(keinPlatz());
+  klicke("neu_0");
   pruefeEingabeSteht(300);
   pruefeNurFrueheresGespeichert();
   wiederPlatz();
@@ -93,8 +93,8 @@ TEST_F(EingabeDatentraeger, VollerDatentraegerZweimalHintereinanderVerliertNicht
   bucheUndTippe(300);
   fastVoll();
   for (int versuch = 0; versuch < 2; ++versuch) {
-    meldungen.frageMit("300 Völker markiert", true).hinweis(keinPlatz());
-    druecke("neu_0");
+    boxen.frageMit("300 Völker markiert", true).hinweis(keinPlatz());
+    klicke("neu_0");
     pruefeEingabeSteht(300);
     pruefeNurFrueheresGespeichert();
   }
@@ -129,11 +129,11 @@ TEST_F(EingabeDatentraeger, DatenbankUndOrdnerWerdenWaehrendDerArbeitSchreibgesc
     const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
     const AndererBenutzer niemand;
     ASSERT_FALSE(niemand.darfAlles());
-    meldungen.frageMit("3 Völker markiert", true)
+    boxen.frageMit("3 Völker markiert", true)
         .hinweisMit("Die Datenbank \"" + DatenbankPfad +
                     "\" kann nicht beschrieben werden. Bitte prüfen Sie, ob die Datei oder ihr "
                     "Ordner schreibgeschützt ist.");
-    druecke("neu_0");
+    klicke("neu_0");
     pruefeEingabeSteht(3);
     pruefeNurFrueheresGespeichert();
   }
@@ -146,15 +146,15 @@ TEST_F(EingabeDatentraeger, SchreibgeschuetztMisslingenAuchAendernUndLoeschenOhn
     const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
     const AndererBenutzer niemand;
     ASSERT_FALSE(niemand.darfAlles());
-    meldungen.hinweisMit("kann nicht beschrieben werden");
-    druecke("neu_1");
-    EXPECT_EQ(meldungen.fehler(), "");
+    boxen.hinweisMit("kann nicht beschrieben werden");
+    klicke("neu_1");
+    EXPECT_EQ(boxen.fehler(), "");
     EXPECT_EQ(text(1), "Waben schneiden");
-    meldungen.hinweisMit("kann nicht beschrieben werden");
-    druecke("löschen");
+    boxen.hinweisMit("kann nicht beschrieben werden");
+    klicke("löschen");
     pruefeNurFrueheresGespeichert();
   }
-  druecke("neu_1");
+  klicke("neu_1");
   EXPECT_EQ(li()->zelle(0, "Arbeitsart"), "Waben schneiden");
 }
 
@@ -163,9 +163,9 @@ TEST_F(EingabeDatentraeger, SchreibgeschuetztSchliesstDieFormMitMeldung) {
   const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
   const AndererBenutzer niemand;
   ASSERT_FALSE(niemand.darfAlles());
-  meldungen.hinweisMit("kann nicht beschrieben werden");
-  druecke("cmdschließen");
-  EXPECT_EQ(meldungen.fehler(), "");
+  boxen.hinweisMit("kann nicht beschrieben werden");
+  klicke("cmdschließen");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_FALSE(form->isVisible());
 }
 
@@ -174,11 +174,11 @@ TEST_F(EingabeDatentraeger, EineMaskeLaesstSichSchreibgeschuetztNichtSichernUndD
   const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
   const AndererBenutzer niemand;
   ASSERT_FALSE(niemand.darfAlles());
-  meldungen.hinweisMit("TOVA_TE_EINGABE_STD5.TV2");
-  druecke("standard_0");
-  EXPECT_EQ(meldungen.fehler(), "");
+  boxen.hinweisMit("TOVA_TE_EINGABE_STD5.TV2");
+  klicke("standard_0");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(text(1), "Waben schneiden");
-  meldungen.hinweisMit("kann nicht beschrieben werden");  // the colonies' fields, on closing
+  boxen.hinweisMit("kann nicht beschrieben werden");  // the colonies' fields, on closing
   form->close();
 }
 

@@ -23,6 +23,10 @@ class EingabeFehler : public Eingabeprobe {
     direkt("create trigger stoerung before " + ereignis + " on " + tabelle + " when " + wenn +
            " begin select raise(fail, 'gestört'); end");
   }
+  static QString gestoert() {
+    return "Die Datenbank \"" + DatenbankPfad +
+           "\" konnte die Anweisung nicht ausführen (gestört).";
+  }
 };
 
 TEST_F(EingabeFehler, BrichtDerLaufBeimDrittenVolkAbBleibenZweiGebuchtUndDieEingabeStehen) {
@@ -30,9 +34,9 @@ TEST_F(EingabeFehler, BrichtDerLaufBeimDrittenVolkAbBleibenZweiGebuchtUndDieEing
   markiere({0, 1, 2});
   oeffne(5);
   tippe(1, "Füttern");
-  meldungen.frageMit("Es sind im Moment 3 Völker markiert.", true).hinweisMit("");
-  druecke("neu_0");
-  EXPECT_EQ(meldungen.fehler(), "");
+  boxen.frageMit("Es sind im Moment 3 Völker markiert.", true).hinweis(gestoert());
+  klicke("neu_0");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(anzahl("Arbeiten"), 2);
   EXPECT_EQ(li()->zeilen(), 1) << "the list shows what was saved for the current colony";
   EXPECT_EQ(text(1), "Füttern");
@@ -45,11 +49,11 @@ TEST_F(EingabeFehler, NachDemFehlerKannWeitergearbeitetWerden) {
   stoere("insert", "Arbeiten", "new.Volk_ID = 1");
   oeffne(5);
   tippe(1, "Füttern");
-  meldungen.hinweisMit("");
-  druecke("neu_0");
+  boxen.hinweis(gestoert());
+  klicke("neu_0");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
   direkt("drop trigger stoerung");
-  druecke("neu_0");
+  klicke("neu_0");
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten"), "Füttern");
 }
 
@@ -60,9 +64,9 @@ TEST_F(EingabeFehler, EinMisslungenesAendernLaesstZeileUndEingabeStehen) {
   oeffne(5);
   klicke(li(), 0);
   tippe(1, "neu");
-  meldungen.hinweisMit("");
-  druecke("neu_1");
-  EXPECT_EQ(meldungen.fehler(), "");
+  boxen.hinweis(gestoert());
+  klicke("neu_1");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(text(1), "neu");
   EXPECT_EQ(li()->aktuelleZeile(), 0);
   EXPECT_EQ(li()->zelle(0, "Arbeitsart"), "eins");
@@ -72,9 +76,9 @@ TEST_F(EingabeFehler, EinMisslungenesLoeschenLaesstDieZeileInDerListe) {
   zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "eins"}});
   stoere("delete", "Arbeiten", "1");
   oeffne(5);
-  meldungen.hinweisMit("");
-  druecke("löschen");
-  EXPECT_EQ(meldungen.fehler(), "");
+  boxen.hinweis(gestoert());
+  klicke("löschen");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(li()->zeilen(), 1);
   EXPECT_EQ(anzahl("Arbeiten"), 1);
 }
@@ -83,10 +87,10 @@ TEST_F(EingabeFehler, MisslingtDasNachziehenSchliesstDieFormTrotzdem) {
   stoere("update", "Bienenvolk", "1");
   oeffne(1);
   tippe(1, "5");
-  druecke("neu_0");
-  meldungen.hinweisMit("");
-  druecke("cmdschließen");
-  EXPECT_EQ(meldungen.fehler(), "");
+  klicke("neu_0");
+  boxen.hinweis(gestoert());
+  klicke("cmdschließen");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_FALSE(form->isVisible());
 }
 
@@ -97,8 +101,8 @@ TEST_F(EingabeFehler, HonigwabenStehenNachEinemFehlerSoWieSieGespeichertWurden) 
   markiere({0, 1});
   oeffne(1);
   tippe(1, "10");
-  meldungen.frageMit("2 Völker markiert", true).hinweisMit("");
-  druecke("neu_0");
+  boxen.frageMit("2 Völker markiert", true).hinweis(gestoert());
+  klicke("neu_0");
   EXPECT_EQ(anzahl("Honigernte"), 1);
   EXPECT_EQ(text(1), "62,50") << "the second colony had already multiplied";
 }
@@ -112,16 +116,16 @@ TEST_F(EingabeFehler, WurdeDerGanzeLaufVerworfenStehenWiederDieHonigwaben) {
   markiere({0, 1});
   oeffne(1);
   tippe(1, "10");
-  meldungen.frageMit("2 Völker markiert", true)
+  boxen.frageMit("2 Völker markiert", true)
       .hinweisMit("Von diesem Vorgang wurde nichts gespeichert.");
-  druecke("neu_0");
-  EXPECT_EQ(meldungen.fehler(), "");
+  klicke("neu_0");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(anzahl("Honigernte"), 0);
   EXPECT_EQ(li()->zeilen(), 0);
   EXPECT_EQ(text(1), "10") << "a second try must not multiply the multiplied";
   direkt("drop trigger stoerung");
-  meldungen.frageMit("2 Völker markiert", true);
-  druecke("neu_0");
+  boxen.frageMit("2 Völker markiert", true);
+  klicke("neu_0");
   EXPECT_EQ(wert("select Menge_kg from Honigernte where Volk_ID = 1"), 25.0);
   EXPECT_EQ(wert("select Menge_kg from Honigernte where Volk_ID = 2"), 62.5);
 }

@@ -28,11 +28,11 @@ TEST_F(Maske, JedeArtZeigtGenauIhrePlaetze) {
       "Wanderung",  "Gewichtsmessung", "Behandlung", "Königinwechsel", "Notizen"};
   oeffne(0);
   for (int art = 10; art >= 0; --art) {
-    waehle("opti_" + QString::number(art));
+    klicke("opti_" + QString::number(art));
     EXPECT_EQ(BuchungsArt, art);
     EXPECT_EQ(sichtbar(), erwartet[art]) << art;
     EXPECT_EQ(schild("bezeingabeart"), ueberschriften[art]);
-    EXPECT_EQ(finde<QAbstractButton>("opti_" + QString::number(art))->text(), ueberschriften[art]);
+    EXPECT_EQ(kind<QAbstractButton>("opti_" + QString::number(art))->text(), ueberschriften[art]);
     EXPECT_TRUE(feld(0)->isVisible());
     EXPECT_TRUE(hatFokus(0)) << art;
   }
@@ -44,10 +44,10 @@ TEST_F(Maske, BeschriftungenUndVorlesenamenStehenAnDenFeldern) {
   EXPECT_EQ(schild("bezsevt_24"), "Futter Flssg.|Teig|Eigen");
   EXPECT_EQ(feld(25)->accessibleName(), "Futter Teig");
   EXPECT_EQ(feld(26)->accessibleName(), "Futter Eigen");
-  waehle("opti_6");
+  klicke("opti_6");
   EXPECT_EQ(schild("bezsevt_5"), "Prämie erhalten JN");
   EXPECT_EQ(feld(5)->accessibleName(), "Prämie erhalten JN");
-  waehle("opti_10");
+  klicke("opti_10");
   EXPECT_EQ(notiz()->accessibleName(), "Notiz");
 }
 
@@ -118,7 +118,7 @@ TEST_F(Maske, DieRechteMaustasteZeigtDieBuchungDieSieAktuellMacht) {
   QTest::mouseClick(li()->viewport(), Qt::RightButton, Qt::NoModifier,
                     li()->visualRect(li()->model()->index(0, 0)).center());
   EXPECT_EQ(text(1), li()->aktuelleZeile() == 0 ? "Füttern" : "Schwarmkontrolle");
-  druecke("neu_1");
+  klicke("neu_1");
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where ID = 1"), "Füttern");
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where ID = 2"), "Schwarmkontrolle");
 }
@@ -170,11 +170,11 @@ TEST_F(Maske, AktuellesJahrZeigtDenErstenJanuarBisZumLetztenDezember) {
     zeile("Arbeiten", 1, tag, {{"Arbeitsart", tag}});
   oeffne(5);
   EXPECT_EQ(li()->zeilen(), 6) << "Alles is the choice of a new operation";
-  waehle("anzeige_1");
+  klicke("anzeige_1");
   ASSERT_EQ(li()->zeilen(), 2);
   EXPECT_EQ(li()->zelle(0, "Arbeitsart"), "2026-01-01");
   EXPECT_EQ(li()->zelle(1, "Arbeitsart"), "2026-12-31");
-  waehle("anzeige_2");
+  klicke("anzeige_2");
   ASSERT_EQ(li()->zeilen(), 4);
   EXPECT_EQ(li()->zelle(0, "Arbeitsart"), "2025-01-01");
   EXPECT_EQ(li()->zelle(3, "Arbeitsart"), "2026-12-31");
@@ -184,19 +184,19 @@ TEST_F(Maske, DerAnzeigebereichBleibtInPlatz67UndGiltFuerAlleArten) {
   zeile("Arbeiten", 1, "2025-05-01", {{"Arbeitsart", "alt"}});
   zeile("Wachsernte", 1, "2025-05-01", {{"Menge_kg", 1}});
   oeffne(5);
-  waehle("anzeige_1");
+  klicke("anzeige_1");
   EXPECT_EQ(EinstellungenZahl[67], 1);
   EXPECT_EQ(li()->zeilen(), 0);
-  waehle("opti_2");
+  klicke("opti_2");
   EXPECT_EQ(li()->zeilen(), 0);
   form->close();
   oeffne(5);
-  EXPECT_TRUE(finde<QAbstractButton>("anzeige_1")->isChecked());
+  EXPECT_TRUE(kind<QAbstractButton>("anzeige_1")->isChecked());
   EXPECT_EQ(li()->zeilen(), 0);
-  waehle("anzeige_2");
+  klicke("anzeige_2");
   EXPECT_EQ(EinstellungenZahl[67], 2);
   EXPECT_EQ(li()->zeilen(), 1);
-  waehle("anzeige_0");
+  klicke("anzeige_0");
   EXPECT_EQ(EinstellungenZahl[67], 0);
 }
 
@@ -205,7 +205,7 @@ TEST_F(Maske, UmschaltenAufAllesBehaeltDasGetippteDatum) {
   EinstellungenZahl[67] = 1;
   oeffne(5);
   tippe(0, "01.03.2026");
-  waehle("anzeige_0");
+  klicke("anzeige_0");
   EXPECT_EQ(li()->zeilen(), 1);
   EXPECT_EQ(text(0), "01.03.2026");
   EXPECT_EQ(text(1), "alt");
@@ -215,10 +215,10 @@ TEST_F(Maske, EinArtwechselVergisstDasGetippteAberNichtDasDatum) {
   oeffne(5);
   tippe(0, "03.04.2026");
   tippe(1, "Füttern");
-  waehle("opti_8");
+  klicke("opti_8");
   EXPECT_EQ(text(0), "03.04.2026");
   EXPECT_EQ(text(1), "");
-  waehle("opti_5");
+  klicke("opti_5");
   EXPECT_EQ(text(0), "03.04.2026");
   EXPECT_EQ(text(1), "");
 }
@@ -226,7 +226,7 @@ TEST_F(Maske, EinArtwechselVergisstDasGetippteAberNichtDasDatum) {
 TEST_F(Maske, NochEinKlickAufDieselbeArtLaesstDasGetippteStehen) {
   oeffne(5);
   tippe(1, "Füttern");
-  waehle("opti_5");
+  klicke("opti_5");
   EXPECT_EQ(text(1), "Füttern");
 }
 
@@ -240,7 +240,7 @@ TEST_F(Maske, DieAuswahllistenBietenFruehereEingabenAllerVoelkerAn) {
   EXPECT_EQ(feld(2)->liste(), (QStringList{"Lindenhonig", "Waldhonig"}));
   EXPECT_EQ(feld(7)->liste(), QStringList{"L-17"});
   EXPECT_EQ(feld(1)->liste(), QStringList{});
-  waehle("opti_6");
+  klicke("opti_6");
   EXPECT_EQ(feld(1)->liste(), QStringList{"Heide"});
 }
 
@@ -258,14 +258,14 @@ TEST_F(Maske, EineUnlesbareSpaltenabfrageWirdGemeldetUndDieListeIstLeer) {
   EinstellungenText[22] = "select Unfug from Stockkarte";
   oeffne(5);
   EXPECT_EQ(li()->zeilen(), 1);
-  meldungen.hinweisMit("");
-  waehle("opti_0");
-  EXPECT_EQ(meldungen.fehler(), "");
+  boxen.hinweisMit("Unfug");
+  klicke("opti_0");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(li()->zeilen(), 0) << "rows of the type before would be deleted from the wrong table";
   EXPECT_TRUE(volkli()->isEnabled());
-  EXPECT_TRUE(finde<QWidget>("cmdschließen")->isEnabled());
+  EXPECT_TRUE(kind<QWidget>("cmdschließen")->isEnabled());
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-  waehle("opti_5");
+  klicke("opti_5");
   EXPECT_EQ(li()->zeilen(), 1);
 }
 
@@ -276,12 +276,12 @@ TEST_F(Maske, MisslingtEineAuswahllisteStehenKeineBuchungenDerArtVorherInDerList
   oeffne(5);
   ASSERT_EQ(li()->zeilen(), 1);
   DB.Execute("drop table Standorte");
-  meldungen.hinweisMit("Standorte");
-  waehle("opti_6");
-  EXPECT_EQ(meldungen.fehler(), "");
+  boxen.hinweisMit("Standorte");
+  klicke("opti_6");
+  EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(li()->zeilen(), 0);
-  meldungen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
-  druecke("löschen");
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
+  klicke("löschen");
   EXPECT_EQ(anzahl("Wanderung"), 1);
   EXPECT_EQ(anzahl("Arbeiten"), 1);
 }
@@ -291,11 +291,11 @@ TEST_F(Maske, OhneVoelkerGehtDieFormAufUndBuchtNichts) {
   oeffne(5);
   EXPECT_EQ(volkli()->zeilen(), 0);
   EXPECT_EQ(li()->zeilen(), 0);
-  druecke("nextvolk1_0");
-  druecke("nextvolk1_1");
-  meldungen.hinweis(
+  klicke("nextvolk1_0");
+  klicke("nextvolk1_1");
+  boxen.hinweis(
       "Bitte markieren Sie zuerst die Völker, bei denen die Buchung ausgeführt werden soll!");
-  druecke("neu_0");
+  klicke("neu_0");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
 }
 
@@ -308,15 +308,15 @@ TEST_F(Maske, NotizenZeigenNurDasMehrzeiligeFeldUndKommenZurueck) {
   EXPECT_EQ(anzahl("Notizen"), 0) << "Enter is a new line here";
   taste(notiz(), Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(wert("select Notiz from Notizen"), "Weisel gesehen\r\nBrut in Ordnung");
-  waehle("opti_5");
-  waehle("opti_10");
+  klicke("opti_5");
+  klicke("opti_10");
   EXPECT_EQ(notiz()->toPlainText(), "Weisel gesehen\nBrut in Ordnung");
 }
 
 TEST_F(Maske, EineDatenbankDieKeineIstWirdGemeldetUndDieFormSchliesst) {
   liste = std::make_unique<Testliste>();
   DatenbankPfad = AppPfad + "fehlt/TOVA2.MDB";
-  meldungen.hinweisMit("");
+  boxen.hinweis("Die Datenbank \"" + DatenbankPfad + "\" wurde nicht gefunden.");
   form = std::make_unique<TE_Eingabe>(nullptr);
   form->show();
   QTest::qWait(50);

@@ -44,17 +44,17 @@ TEST_F(Rechnen, Sechzigundsechzig120WabenWerdenGezeigtGespeichertUndWiederGezeig
   tippe(13, "60");
   EXPECT_EQ(text(11), "120");
   EXPECT_EQ(text(10), "9") << "the count of 90 combs";
-  druecke("neu_0");
+  klicke("neu_0");
   EXPECT_EQ(wert("select Waben from Stockkarte").toInt(), 120);
   EXPECT_EQ(wert("select Magazine from Stockkarte").toInt(), 9);
-  druecke("nextvolk1_1");
+  klicke("nextvolk1_1");
   EXPECT_EQ(text(11), "0");
-  druecke("nextvolk1_0");
+  klicke("nextvolk1_0");
   EXPECT_EQ(text(11), "120");
   EXPECT_EQ(text(12), "60");
-  druecke("neu_1");
+  klicke("neu_1");
   EXPECT_EQ(wert("select Waben from Stockkarte").toInt(), 120) << "a change keeps it";
-  druecke("cmdschließen");
+  klicke("cmdschließen");
   EXPECT_EQ(wert("select Wabenanzahl from Bienenvolk where ID = 1").toInt(), 120);
 }
 
@@ -64,7 +64,7 @@ TEST_F(Rechnen, DieWabenJeMagazinKommenVomAktuellenVolk) {
   oeffne(0);
   tippe(13, "12");
   EXPECT_EQ(text(10), "2");
-  druecke("nextvolk1_1");
+  klicke("nextvolk1_1");
   tippe(13, "12");
   EXPECT_EQ(text(10), "1");
 }
@@ -74,7 +74,7 @@ TEST_F(Rechnen, WabenBleibenWieGetipptWennKeineWabenartFolgt) {
   tippe(11, "20");
   tippe(1, "3,5");
   EXPECT_EQ(text(11), "20");
-  druecke("neu_0");
+  klicke("neu_0");
   EXPECT_EQ(wert("select Waben from Stockkarte").toInt(), 20);
   EXPECT_EQ(text(11), "20") << "showing the booking computes nothing anew";
 }
@@ -96,10 +96,10 @@ TEST_F(Rechnen, DieBilanzZeigtBasisUndUnterschied) {
 TEST_F(Rechnen, DieBilanzGehoertZurStockkarteUndNichtZumVorigenVolk) {
   zeile("Stockkarte", 1, "2026-05-01", {{"Waben", 10}});
   oeffne(0);
-  druecke("nextvolk1_1");
+  klicke("nextvolk1_1");
   tippe(13, "4");
   EXPECT_EQ(schild("bezmw"), "MW: 0 (0)   WZ: 0 (4)");
-  waehle("opti_1");
+  klicke("opti_1");
   tippe(1, "4");
   EXPECT_EQ(schild("bezmw"), "");
 }
@@ -120,7 +120,7 @@ TEST_F(Rechnen, JedeGeldvorgabeFolgtIhrerMengeBeimTippen) {
       {9, 5, "0,75", 6, "13,50"}};
   oeffne(0);
   for (const Fall& fall : faelle) {
-    waehle("opti_" + QString::number(fall.art));
+    klicke("opti_" + QString::number(fall.art));
     tippe(fall.quelle, fall.eingabe);
     EXPECT_EQ(text(fall.ziel), fall.ergebnis) << "Art " << fall.art << " Platz " << fall.quelle;
   }
@@ -211,12 +211,12 @@ TEST_F(Rechnen, WachsPollenUndSonstigeErnteNehmenAuchDenLetztenPreis) {
   tippe(2, "gut");
   taste(feld(2), Qt::Key_Tab);
   EXPECT_EQ(text(5), "36,00");
-  waehle("opti_3");
+  klicke("opti_3");
   tippe(1, "50");
   tippe(2, "gut");
   taste(feld(2), Qt::Key_Tab);
   EXPECT_EQ(text(5), "2,50");
-  waehle("opti_4");
+  klicke("opti_4");
   tippe(1, "Propolis");
   tippe(2, "40");
   tippe(3, "gut");

@@ -103,13 +103,13 @@ TEST_F(Voelker, DieRechteMaustasteMachtDasVolkInBeidenListenAktuell) {
 
 TEST_F(Voelker, WeiterVomLetztenVolkGehtZumErsten) {
   oeffne(5);
-  druecke("nextvolk1_1");
+  klicke("nextvolk1_1");
   EXPECT_EQ(liste->aktuelleZeile(), 1);
   EXPECT_EQ(volkli()->aktuelleZeile(), 1);
   EXPECT_EQ(liste->markierteZeilen(), QList<int>{1});
   EXPECT_EQ(volkli()->markierteZeilen(), QList<int>{1});
-  druecke("nextvolk1_1");
-  druecke("nextvolk1_1");
+  klicke("nextvolk1_1");
+  klicke("nextvolk1_1");
   EXPECT_EQ(liste->aktuelleZeile(), 0);
   EXPECT_EQ(volkli()->aktuelleZeile(), 0);
   EXPECT_TRUE(hatFokus(0));
@@ -117,7 +117,7 @@ TEST_F(Voelker, WeiterVomLetztenVolkGehtZumErsten) {
 
 TEST_F(Voelker, ZurueckVomErstenVolkGehtZumLetzten) {
   oeffne(5);
-  druecke("nextvolk1_0");
+  klicke("nextvolk1_0");
   EXPECT_EQ(liste->aktuelleZeile(), 2);
   EXPECT_EQ(volkli()->aktuelleZeile(), 2);
   EXPECT_EQ(schild("bezbewegungsdaten"), "Bewegungsdaten für das Volk:  3 / Carla");
@@ -126,7 +126,7 @@ TEST_F(Voelker, ZurueckVomErstenVolkGehtZumLetzten) {
 TEST_F(Voelker, DasDatumBleibtBeimVolkwechsel) {
   oeffne(5);
   tippe(0, "02.02.2026");
-  druecke("nextvolk1_1");
+  klicke("nextvolk1_1");
   EXPECT_EQ(text(0), "02.02.2026");
 }
 
@@ -134,7 +134,7 @@ TEST_F(Voelker, EinStandortMarkiertSeineVoelkerInBeidenListen) {
   liste = std::make_unique<Testliste>();
   liste->setAktuelleZeile(1);
   oeffne(5);
-  auto* kom = finde<QComboBox>("kom");
+  auto* kom = kind<QComboBox>("kom");
   ASSERT_EQ(kom->count(), 2);
   EXPECT_EQ(kom->itemText(0), "Hof");
   EXPECT_EQ(kom->itemText(1), "Waldrand");
@@ -158,10 +158,10 @@ TEST_F(Voelker, EinStandortOhneVolkInDerListeLaesstKeinesAktuell) {
   EXPECT_EQ(liste->markierteZeilen(), QList<int>{});
   EXPECT_EQ(li()->zeilen(), 0);
   EXPECT_EQ(text(1), "");
-  meldungen.hinweis(
+  boxen.hinweis(
       "Bitte markieren Sie zuerst die Völker, bei denen die Buchung ausgeführt werden soll!");
-  druecke("neu_0");
-  druecke("nextvolk1_1");
+  klicke("neu_0");
+  klicke("nextvolk1_1");
   EXPECT_EQ(liste->aktuelleZeile(), 0);
 }
 
@@ -185,10 +185,10 @@ TEST_F(Voelker, ZehntausendVoelkerWerdenNurEinmalGelesen) {
   int neuAufgebaut = 0;
   QObject::connect(volkli()->model(), &QAbstractItemModel::modelReset, form.get(),
                    [&] { ++neuAufgebaut; });
-  druecke("nextvolk1_0");
+  klicke("nextvolk1_0");
   EXPECT_EQ(volkli()->aktuelleZeile(), 9999);
-  druecke("nextvolk1_1");
-  waehle("opti_1");
+  klicke("nextvolk1_1");
+  klicke("opti_1");
   EXPECT_EQ(neuAufgebaut, 0);
   waehleStandort("Heide");
   EXPECT_EQ(liste->markierteZeilen().size(), 9997);
@@ -212,11 +212,11 @@ TEST_F(Voelker, VonFuenfhundertMarkiertenGehtWeiterMitEinemEinzigenSchritt) {
   liste->wechsel = 0;
   int markierungen = 0;
   QObject::connect(volkli(), &Grid::markierungGeaendert, form.get(), [&] { ++markierungen; });
-  waehle("opti_7");
+  klicke("opti_7");
   EXPECT_EQ(liste->wechsel, 0);
   EXPECT_EQ(markierungen, 0);
   EXPECT_EQ(liste->markierteZeilen(), verstreut) << "another type keeps the marks";
-  druecke("nextvolk1_0");
+  klicke("nextvolk1_0");
   EXPECT_EQ(liste->wechsel, 1);
   EXPECT_EQ(markierungen, 1);
   EXPECT_EQ(volkli()->markierteZeilen(), QList<int>{9998});

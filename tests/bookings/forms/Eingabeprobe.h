@@ -1,53 +1,38 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
-#include <QTest>
 #include <memory>
 
 #include "bookings/forms/TE_Eingabe.h"
 #include "core/globals.h"
-#include "data/helpers.h"
 #include "data/schema.h"
+#include "gemeinsam/Formularprobe.h"
 #include "gemeinsam/Testliste.h"
-#include "platform/controls/Eingabefeld.h"
-#include "platform/controls/Grid.h"
-#include "platform/controls/Meldungen.h"
 
 // gtest shows QString values readable.
 inline void PrintTo(const QString& text, std::ostream* aus) {
   *aus << '"' << qPrintable(text) << '"';
 }
 
-// A new operation with three colonies on two sites and the form, driven as a user drives it. Today
-// is the 15th of June 2026.
-class Eingabeprobe : public testing::Test {
+// A new operation with three colonies on two sites. Today is the 15th of June 2026.
+class Eingabebetrieb : public testing::Test {
  protected:
   void SetUp() override {
     TZ_Variablen::zuruecksetzen();
     TZ_Variablen::AppPfad = m_ordner.path() + "/";
     TZ_Variablen::DatenbankPfad = TZ_Variablen::AppPfad + "TOVA2.MDB";
     TZ_Variablen::HeuteText = "15.06.2026";
-    Eingabefeld::setDatumErgaenzer([](const QString& text) { return DatumErgaenzen(text); });
     DatenbankAnlegen();
     volk("1", "Anna", "Hof");
     volk("2", "Berta", "Waldrand");
     volk("3", "Carla", "Hof");
   }
-  void TearDown() override {
-    EXPECT_EQ(meldungen.fehler(), "");
-    if (form && form->isVisible()) form->close();
-    form.reset();
-    liste.reset();
-    TZ_Variablen::zuruecksetzen();
-  }
+  void TearDown() override { TZ_Variablen::zuruecksetzen(); }
 
   // Writes a colony; the first one gets the ID 1.
   void volk(const QString& nr, const QString& name, const QString& standort,
@@ -72,83 +57,6 @@ class Eingabeprobe : public testing::Test {
                              werte);
   }
 
-  // Shows the form for a type; the main list stands on its first colony unless one is there.
-  void oeffne(int art) {
-    if (!liste) liste = std::make_unique<Testliste>();
-    if (!form) form = std::make_unique<TE_Eingabe>(nullptr);
-    TZ_Variablen::BuchungsArt = art;
-    form->show();
-    form->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-  }
-  void markiere(const QList<int>& zeilen) {
-    if (!liste) liste = std::make_unique<Testliste>();
-    liste->setMarkierteZeilen(zeilen);
-  }
-
-  template <class T>
-  T* finde(const QString& name) {
-    T* gefunden = form->findChild<T*>(name);
-    if (!gefunden) throw std::runtime_error(("no control " + name).toStdString());
-    return gefunden;
-  }
-  Eingabefeld* feld(int slot) { return finde<Eingabefeld>("sevt_" + QString::number(slot)); }
-  QPlainTextEdit* notiz() { return finde<QPlainTextEdit>("sevt_15"); }
-  QString text(int slot) { return feld(slot)->text(); }
-  QString schild(const QString& name) { return finde<QLabel>(name)->text(); }
-  Grid* li() { return finde<Grid>("li"); }
-  Grid* volkli() { return finde<Grid>("volkli"); }
-  bool hatFokus(int slot) { return QApplication::focusWidget() == feld(slot); }
-
-  // Types like a user who came into the field: what stands there is replaced.
-  void tippe(int slot, const QString& text) {
-    feld(slot)->setFocus();
-    feld(slot)->selectAll();
-    tasten(feld(slot), text);
-  }
-  static void tasten(QWidget* ziel, const QString& text) {
-    for (const QChar zeichen : text)
-      QTest::sendKeyEvent(QTest::Click, ziel, static_cast<Qt::Key>(zeichen.toUpper().unicode()),
-                          QString(zeichen), Qt::NoModifier);
-  }
-  void taste(QWidget* ziel, Qt::Key taste, Qt::KeyboardModifiers dazu = Qt::NoModifier) {
-    QTest::keyClick(ziel, taste, dazu);
-  }
-  void fuegeEin(QWidget* ziel, const QString& text) {
-    QApplication::clipboard()->setText(text);
-    ziel->setFocus();
-    QTest::keyClick(ziel, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(ziel, Qt::Key_V, Qt::ControlModifier);
-  }
-  void druecke(const QString& knopf) {
-    QTest::mouseClick(finde<QAbstractButton>(knopf), Qt::LeftButton);
-  }
-  // A click on the round part of an option.
-  void waehle(const QString& option) {
-    auto* knopf = finde<QAbstractButton>(option);
-    QTest::mouseClick(knopf, Qt::LeftButton, Qt::NoModifier, QPoint(8, knopf->height() / 2));
-  }
-  void klicke(Grid* liste, int zeile, Qt::KeyboardModifiers dazu = Qt::NoModifier) {
-    const QModelIndex index = liste->model()->index(zeile, 0);
-    liste->scrollTo(index);
-    QTest::mouseClick(liste->viewport(), Qt::LeftButton, dazu, liste->visualRect(index).center());
-  }
-  void waehleStandort(const QString& standort) {
-    auto* kom = finde<QComboBox>("kom");
-    const int index = kom->findText(standort);
-    ASSERT_GE(index, 0) << qPrintable(standort);
-    kom->setCurrentIndex(index);
-    Q_EMIT kom->activated(index);
-  }
-
-  // The slots 1 to 27 that are to be seen.
-  QList<int> sichtbar() {
-    QList<int> slots;
-    for (int slot = 1; slot < 28; ++slot)
-      if (finde<QWidget>("sevt_" + QString::number(slot))->isVisible()) slots.append(slot);
-    return slots;
-  }
-
   static Daten lies(const QString& anweisung) { return TZ_Variablen::DB.Lesen(anweisung); }
   static qint64 anzahl(const QString& tabelle) {
     return lies("select count(*) as anzahl from " + tabelle)->ganzzahl(0, 0);
@@ -159,7 +67,68 @@ class Eingabeprobe : public testing::Test {
   }
 
   QTemporaryDir m_ordner;
-  Meldungen::Probe meldungen;
+};
+
+// The form on it.
+class Eingabeprobe : public Formularprobe<TE_Eingabe, Eingabebetrieb> {
+ protected:
+  void TearDown() override {
+    EXPECT_EQ(boxen.fehler(), "");
+    if (form && form->isVisible()) form->close();
+    form.reset();
+    liste.reset();
+    Formularprobe::TearDown();
+  }
+
+  // Shows the form for a type; the main list stands on its first colony unless one is there.
+  void oeffne(int art) {
+    if (!liste) liste = std::make_unique<Testliste>();
+    if (!form) form = neueForm();
+    TZ_Variablen::BuchungsArt = art;
+    form->show();
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  }
+  void markiere(const QList<int>& zeilen) {
+    if (!liste) liste = std::make_unique<Testliste>();
+    liste->setMarkierteZeilen(zeilen);
+  }
+
+  QPlainTextEdit* notiz() { return kind<QPlainTextEdit>("sevt_15"); }
+  QString text(int slot) { return feld(slot)->text(); }
+  QString schild(const QString& name) { return kind<QLabel>(name)->text(); }
+  Grid* li() { return kind<Grid>("li"); }
+  Grid* volkli() { return kind<Grid>("volkli"); }
+  bool hatFokus(int slot) { return QApplication::focusWidget() == feld(slot); }
+
+  void taste(QWidget* ziel, Qt::Key taste, Qt::KeyboardModifiers dazu = Qt::NoModifier) {
+    QTest::keyClick(ziel, taste, dazu);
+  }
+  void fuegeEin(QWidget* ziel, const QString& text) {
+    QApplication::clipboard()->setText(text);
+    ziel->setFocus();
+    QTest::keyClick(ziel, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(ziel, Qt::Key_V, Qt::ControlModifier);
+  }
+  using Formularprobe::klicke;
+  void klicke(Grid* liste, int zeile, Qt::KeyboardModifiers dazu = Qt::NoModifier) {
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, dazu, mitte(liste, zeile));
+  }
+  void waehleStandort(const QString& standort) {
+    auto* kom = kind<QComboBox>("kom");
+    const int index = kom->findText(standort);
+    ASSERT_GE(index, 0) << qPrintable(standort);
+    kom->setCurrentIndex(index);
+    Q_EMIT kom->activated(index);
+  }
+
+  // The slots 1 to 27 that are to be seen.
+  QList<int> sichtbar() {
+    QList<int> slots;
+    for (int slot = 1; slot < 28; ++slot)
+      if (kind<QWidget>("sevt_" + QString::number(slot))->isVisible()) slots.append(slot);
+    return slots;
+  }
+
   std::unique_ptr<Testliste> liste;
-  std::unique_ptr<TE_Eingabe> form;
 };
