@@ -121,6 +121,7 @@ TEST_F(Reihenerledigung, AllgemeinerTerminMitReiheLoeschtSeineOffenenBruederOhne
 }
 
 TEST_F(Reihenerledigung, LeereVolkIdHatKeineReihe) {
+  option("A", "01.06", 14, "31.08");
   const qint64 id = termin(tag(6, 15), "A", QVariant());
   termin(tag(6, 29), "A", QVariant());
   TerminErledigen(db(), id, "J", "A", {"20.06.2006", true});

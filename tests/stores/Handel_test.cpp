@@ -260,6 +260,19 @@ TEST_F(BewegungLoeschen, MitTagUndProduktWieGebucht) {
   EXPECT_EQ(anzahl("Honiglager"), 0);
 }
 
+// The other deals of that day, before and after it, keep theirs.
+TEST_F(BewegungLoeschen, NurDieDesGeschaeftsNichtDieGleichenDesTages) {
+  for (const Seite seite : {Seite::Verkauf, Seite::Einkauf}) {
+    db().Execute("delete from Honiglager");
+    QList<qint64> ids;
+    for (const char* menge : {"1", "2", "3"})
+      ids << (seite == Seite::Verkauf ? verkaufe("Honig", menge) : kaufe("Honig", menge));
+    Handel::bewegungLoeschen(db(), seite, "20.06.2006", "Honig", ids[1]);
+    EXPECT_EQ(zeilen("select Zugang + Abgang from Honiglager order by ID"),
+              QStringList({"1", "3"}));
+  }
+}
+
 TEST_F(BewegungLoeschen, AndererTagOderAnderesProduktLaesstSieStehen) {
   const qint64 id = verkaufe("Honig", "3");
   Handel::bewegungLoeschen(db(), Seite::Verkauf, "21.06.2006", "Honig", id);
