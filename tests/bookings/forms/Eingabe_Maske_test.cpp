@@ -258,7 +258,7 @@ TEST_F(Maske, EineUnlesbareSpaltenabfrageWirdGemeldetUndDieListeIstLeer) {
   EinstellungenText[22] = "select Unfug from Stockkarte";
   oeffne(5);
   EXPECT_EQ(li()->zeilen(), 1);
-  boxen.hinweisMit("Unfug");
+  boxen.hinweis("Das Feld \"Unfug\" gibt es in der Datenbank nicht.");
   klicke("opti_0");
   EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(li()->zeilen(), 0) << "rows of the type before would be deleted from the wrong table";
@@ -276,7 +276,7 @@ TEST_F(Maske, MisslingtEineAuswahllisteStehenKeineBuchungenDerArtVorherInDerList
   oeffne(5);
   ASSERT_EQ(li()->zeilen(), 1);
   DB.Execute("drop table Standorte");
-  boxen.hinweisMit("Standorte");
+  boxen.hinweis("Die Tabelle \"Standorte\" gibt es in der Datenbank nicht.");
   klicke("opti_6");
   EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(li()->zeilen(), 0);

@@ -344,7 +344,7 @@ TEST_F(TVNeuesVolk, GescheitertesSpeichernLaesstDieEingabenStehen) {
   tippe("sevt_0", "5");
   tippe("sevt_1", "Maja");
   db().Execute("drop table Bienenvolk");
-  boxen.hinweisMit("Bienenvolk");
+  boxen.hinweis("Die Tabelle \"Bienenvolk\" gibt es in der Datenbank nicht.");
   klicke("ok");
   EXPECT_TRUE(offen());
   EXPECT_EQ(inhalt("sevt_0"), "5");

@@ -352,7 +352,7 @@ TEST_F(Arplanfaelle, NachGescheitertenTerminenStehtDieGespeicherteOptionInDerLis
   klickeZeile(0);
   db().Execute("drop table Termine");
   fuelle("Kontrolle", "01.07", "15.07", "N");
-  boxen.hinweisMit("Termine");
+  boxen.hinweis("Die Tabelle \"Termine\" gibt es in der Datenbank nicht.");
   klicke("neu_0");
   EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(anzahl("Arbeitsplanoptionen"), 2);  // what was written before the failure stays
@@ -368,7 +368,7 @@ TEST_F(Arplanfaelle, NachGescheitertemUmbenennenBleibenZeileUndEingabe) {
   klickeZeile(1);
   db().Execute("drop table Termine");
   tippe(0, "Kerzen");
-  boxen.hinweis(Aendernhinweis).hinweisMit("Termine");
+  boxen.hinweis(Aendernhinweis).hinweis("Die Tabelle \"Termine\" gibt es in der Datenbank nicht.");
   klicke("neu_1");
   EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(namen(), QStringList({"Honig", "Kerzen"}));  // the row was written before
@@ -403,7 +403,7 @@ TEST_F(Arplanfaelle, NachGescheitertemLoeschenZeigtDieListeWasNochDaIst) {
   oeffne();
   klickeZeile(0);
   db().Execute("drop table Termine");
-  boxen.frage(Loeschfrage, true).hinweisMit("Termine");
+  boxen.frage(Loeschfrage, true).hinweis("Die Tabelle \"Termine\" gibt es in der Datenbank nicht.");
   klicke("löschen");
   EXPECT_EQ(boxen.fehler(), "");
   // The row was deleted before the failure, and that stays: nothing is current.

@@ -421,7 +421,7 @@ TEST_F(Voelkerliste, EineUngeleseneListeGiltBeimStartNichtAlsLeer) {
   ASSERT_TRUE(laden());
   DB.Execute("drop table Bienenvolk");
   Formbesuch hilfe("TH_Hilfe_Wieanfangen");
-  probe.hinweisMit("Bienenvolk");
+  probe.hinweis("Die Tabelle \"Bienenvolk\" gibt es in der Datenbank nicht.");
   zeigen();
   EXPECT_FALSE(hilfe.war());
 }
