@@ -17,7 +17,7 @@
 namespace {
 
 constexpr qint64 SuchpauseMs = 1000;  // after a longer one a letter begins a new search
-constexpr int GemesseneZeilen = 100;  // of the first, and as many of the others
+constexpr int GemesseneZeilen = 50;   // of the first, and as many of the others
 constexpr int GroessteBreite = 20;    // heights of a line, so that it grows with the font
 constexpr int Luft = 6;
 
