@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTabWidget>
 
 #include "colonies/Volk.h"
@@ -31,9 +32,9 @@ TV_Neues_Volk::TV_Neues_Volk(QWidget* oeffner)
 bool TV_Neues_Volk::istNeu() const { return TZ_Variablen::VolkModus != QString("Ändern"); }
 
 void TV_Neues_Volk::zeigen() {
+  const auto ende = qScopeGuard([this] { m_db.Close(); });
   laden();
   Formular::zeigen();
-  m_db.Close();
 }
 
 void TV_Neues_Volk::laden() {

@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopeGuard>
 
 #include "core/globals.h"
 #include "core/main_list.h"
@@ -154,6 +155,7 @@ bool TV_Selektieren::eventFilter(QObject* objekt, QEvent* event) {
 }
 
 void TV_Selektieren::zeigen() {
+  const auto ende = qScopeGuard([this] { m_db.Close(); });
   laden();
   Formular::zeigen();
 }
@@ -216,6 +218,5 @@ void TV_Selektieren::selektieren(int index) {
 void TV_Selektieren::done(int ergebnis) {
   for (size_t i = 0; i < kon.size(); ++i)
     EinstellungenZahl[KonSlot[i]] = kon[i]->isChecked() ? 1 : 0;
-  m_db.Close();
   Formular::done(ergebnis);
 }

@@ -454,6 +454,18 @@ TEST_F(TVNeuesVolk, ZeigenIstModalBisGeschlossenWird) {
   EXPECT_EQ(volknummern(), "1");
 }
 
+TEST_F(TVNeuesVolk, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieDatenbankNicht) {
+  liste = std::make_unique<Testliste>("select * from Bienenvolk");
+  TZ_Variablen::VolkModus = "Neu";
+  db().Execute("drop table Bienenvolk");
+  form = std::make_unique<TV_Neues_Volk>();
+  EXPECT_THROW(form->zeigen(), Datenbankfehler);
+  EXPECT_FALSE(form->isVisible());
+  feld("sevt_0")->setInhalt("1");
+  boxen.hinweisMit("Die Datenbank ist geschlossen.");
+  kind<QPushButton>("ok")->click();
+}
+
 class VolkLoeschenMitFrage : public Formtest {
  protected:
   void SetUp() override {

@@ -38,6 +38,15 @@ TEST_F(TVSelektieren, AuswahllistenZeigenJedenWertEinmalOhneDenLeeren) {
   EXPECT_EQ(feld(5)->beschreibung().auswahl, Selektion::zahlfelder());
 }
 
+TEST_F(TVSelektieren, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieDatenbankNicht) {
+  db().Execute("drop table Bienenvolk");
+  form = std::make_unique<TV_Selektieren>();
+  EXPECT_THROW(form->zeigen(), Datenbankfehler);
+  EXPECT_FALSE(form->isVisible());
+  boxen.hinweisMit("Die Datenbank ist geschlossen.");
+  kind<QPushButton>("entselekt_0")->click();
+}
+
 TEST_F(TVSelektieren, SelektiertNachStandortUndLiestDieListeNeu) {
   oeffne();
   tippe(0, "Hof");
