@@ -1,6 +1,8 @@
 // The medium fails while the form is at work: no room left, or the database can't be written any
 // more. The message says so, the entries stay, the list shows what is saved, and the same Neu works
 // once the cause is gone.
+#include <optional>
+
 #include "Eingabeprobe.h"
 #include "gemeinsam/AndererBenutzer.h"
 #include "platform/database/Verbindung.h"
@@ -107,28 +109,33 @@ constexpr QFileDevice::Permissions NurLesen = QFileDevice::ReadOwner | QFileDevi
                                               QFileDevice::ReadOther | QFileDevice::ExeOwner |
                                               QFileDevice::ExeGroup | QFileDevice::ExeOther;
 
+// Protects the database and its folder, from the administrator too, while it lives.
 class Schreibschutz {
  public:
-  Schreibschutz(const QString& ordner, const QString& datei) : m_pfade{datei, ordner} {
+  Schreibschutz() : m_pfade{DatenbankPfad, AppPfad} {
     for (const QString& pfad : m_pfade) QFile::setPermissions(pfad, NurLesen);
+    m_niemand.emplace();
   }
   ~Schreibschutz() {
+    m_niemand.reset();
     for (const QString& pfad : m_pfade)
       QFile::setPermissions(pfad, NurLesen | QFileDevice::WriteOwner);
   }
   Schreibschutz(const Schreibschutz&) = delete;
   Schreibschutz& operator=(const Schreibschutz&) = delete;
 
+  bool gilt() const { return !m_niemand->darfAlles(); }
+
  private:
   const QStringList m_pfade;
+  std::optional<AndererBenutzer> m_niemand;
 };
 
 TEST_F(EingabeDatentraeger, DatenbankUndOrdnerWerdenWaehrendDerArbeitSchreibgeschuetzt) {
   bucheUndTippe(3);
   {
-    const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
-    const AndererBenutzer niemand;
-    ASSERT_FALSE(niemand.darfAlles());
+    const Schreibschutz schutz;
+    ASSERT_TRUE(schutz.gilt());
     boxen.frageMit("3 Völker markiert", true)
         .hinweisMit("Die Datenbank \"" + DatenbankPfad +
                     "\" kann nicht beschrieben werden. Bitte prüfen Sie, ob die Datei oder ihr "
@@ -143,9 +150,8 @@ TEST_F(EingabeDatentraeger, DatenbankUndOrdnerWerdenWaehrendDerArbeitSchreibgesc
 TEST_F(EingabeDatentraeger, SchreibgeschuetztMisslingenAuchAendernUndLoeschenOhneVerlust) {
   bucheUndTippe(1);
   {
-    const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
-    const AndererBenutzer niemand;
-    ASSERT_FALSE(niemand.darfAlles());
+    const Schreibschutz schutz;
+    ASSERT_TRUE(schutz.gilt());
     boxen.hinweisMit("kann nicht beschrieben werden");
     klicke("neu_1");
     EXPECT_EQ(boxen.fehler(), "");
@@ -160,9 +166,8 @@ TEST_F(EingabeDatentraeger, SchreibgeschuetztMisslingenAuchAendernUndLoeschenOhn
 
 TEST_F(EingabeDatentraeger, SchreibgeschuetztSchliesstDieFormMitMeldung) {
   bucheUndTippe(1);
-  const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
-  const AndererBenutzer niemand;
-  ASSERT_FALSE(niemand.darfAlles());
+  const Schreibschutz schutz;
+  ASSERT_TRUE(schutz.gilt());
   boxen.hinweisMit("kann nicht beschrieben werden");
   klicke("cmdschließen");
   EXPECT_EQ(boxen.fehler(), "");
@@ -171,9 +176,8 @@ TEST_F(EingabeDatentraeger, SchreibgeschuetztSchliesstDieFormMitMeldung) {
 
 TEST_F(EingabeDatentraeger, EineMaskeLaesstSichSchreibgeschuetztNichtSichernUndDieEingabeBleibt) {
   bucheUndTippe(1);
-  const Schreibschutz schutz(m_ordner.path(), DatenbankPfad);
-  const AndererBenutzer niemand;
-  ASSERT_FALSE(niemand.darfAlles());
+  const Schreibschutz schutz;
+  ASSERT_TRUE(schutz.gilt());
   boxen.hinweisMit("TOVA_TE_EINGABE_STD5.TV2");
   klicke("standard_0");
   EXPECT_EQ(boxen.fehler(), "");
