@@ -74,8 +74,8 @@ void Arbeitskalender::optionenEinrichten() {
       DB.Execute("delete from Arbeitsplanoptionen where Arbeitsart = ?", {arbeitsart});
     });
   for (const Optionseingabe& option : neue) {
-    verlange(optionPruefen(option));
-    verlange(optionsnamePruefen(DB, option[0], 0));
+    verlange(optionPrüfen(option));
+    verlange(optionsnamePrüfen(DB, option[0], 0));
     optionAnlegen(DB, option);
   }
   const Daten waben =
@@ -105,7 +105,7 @@ void Arbeitskalender::jahrBeginnen(int jahr, QDate saisonstart) {
   });
 }
 
-void Arbeitskalender::jahrAbschliessen(int jahr) {
+void Arbeitskalender::jahrAbschließen(int jahr) {
   if (jahr < m_beginn || QDate(jahr, 12, 31) >= m_heute) return;
   const AmTag silvester(QDate(jahr, 12, 31));
   Starttermine::bisHeuteErledigen(DB);
@@ -158,13 +158,13 @@ void Arbeitskalender::ausstehendesEintragen() {
   eintragen(m_heute, "Regenrinne richten");
   eintragen(m_heute.addDays(4), "Steuerberater anrufen");
   eintragen(m_heute.addDays(11), saison ? "Schulklasse zu Besuch" : "Vortrag Volkshochschule");
-  const Daten voelker =
+  const Daten völker =
       DB.Lesen("select top 3 Volknr from Bienenvolk where Akt_im_Bestand = 'X' order by ID");
   const QStringList arbeiten =
       saison ? QStringList{"Drohnenwabe umhängen", "Ableger bilden", "Beute tauschen"}
              : QStringList{"Futter wiegen", "Gemüll untersuchen", "Deckel abdichten"};
-  for (int i = 0; i < voelker->zeilen(); ++i)
-    eintragen(m_heute.addDays(3 * i - 1), arbeiten[i], voelker->anzeige(i, 0));
+  for (int i = 0; i < völker->zeilen(); ++i)
+    eintragen(m_heute.addDays(3 * i - 1), arbeiten[i], völker->anzeige(i, 0));
   amStandEintragen(m_heute.addDays(6),
                    saison ? "Gras mähen, Tränke füllen" : "Fluglöcher freiräumen");
 }
@@ -185,8 +185,8 @@ void Arbeitskalender::amStandEintragen(QDate tag, const QString& termin) {
 
 void Arbeitskalender::eintragen(QDate tag, const QString& termin, const QString& volknr) {
   const Terminverwaltung::Eingabe eingabe{Deutsch::datumText(tag), termin, "N", volknr, {}};
-  const Terminverwaltung::Pruefung pruefung = Terminverwaltung::pruefen(DB, eingabe);
-  verlange(pruefung.gruende.join(TZ_Variablen::CRLF));
-  if (!Terminverwaltung::existiert(DB, eingabe, pruefung.volkId))
-    Terminverwaltung::speichern(DB, eingabe, pruefung.volkId);
+  const Terminverwaltung::Prüfung prüfung = Terminverwaltung::prüfen(DB, eingabe);
+  verlange(prüfung.gründe.join(TZ_Variablen::CRLF));
+  if (!Terminverwaltung::existiert(DB, eingabe, prüfung.volkId))
+    Terminverwaltung::speichern(DB, eingabe, prüfung.volkId);
 }

@@ -19,7 +19,7 @@ class Arbeitskalender {
   // entered by hand. saisonstart: the day before which there were no colonies yet.
   void jahrBeginnen(int jahr, QDate saisonstart);
   // At New Year's Eve all that is left of the year is ticked off.
-  void jahrAbschliessen(int jahr);
+  void jahrAbschließen(int jahr);
   // Of this year all is ticked off but the last days' rest: a site closed in one go, single ones
   // here and there. Then what stands ahead is entered. The colonies must stand at their sites.
   void bisHeute();

@@ -55,13 +55,13 @@ Begleiter& Begleiter::bild(const QString& form, const QString& name) {
 void Begleiter::starten() { m_takt.start(taktMs); }
 
 QString Begleiter::offen() const {
-  return m_naechster < m_schritte.size() ? m_schritte[m_naechster].form : QString();
+  return m_nächster < m_schritte.size() ? m_schritte[m_nächster].form : QString();
 }
 
 void Begleiter::weiter() {
-  if (m_naechster >= m_schritte.size()) return;
+  if (m_nächster >= m_schritte.size()) return;
   m_takt.start(taktMs);  // first: the action may open a form and come back only when that closes
-  const Schritt schritt = m_schritte[m_naechster];
+  const Schritt schritt = m_schritte[m_nächster];
   QWidget* fenster = oberstes();
   if (!fenster || fenster->objectName() != schritt.form) {
     if (++m_gewartet > geduld)
@@ -76,7 +76,7 @@ void Begleiter::weiter() {
     return;
   }
   m_gewartet = 0;
-  ++m_naechster;
+  ++m_nächster;
   schritt.aktion(fenster);
 }
 
@@ -102,20 +102,20 @@ void Hand::tippen(QWidget* form, const QString& feld, const QString& text) {
   QTest::keyClick(eingabe, Qt::Key_Tab);
 }
 
-void Hand::druecken(QWidget* form, const QString& knopf) {
+void Hand::drücken(QWidget* form, const QString& knopf) {
   auto* taste = finde<QAbstractButton>(form, knopf);
   if (!taste->isEnabled()) abbrechen(knopf + " is disabled");
   QTest::mouseClick(taste, Qt::LeftButton, Qt::NoModifier,
                     QPoint(qMin(12, taste->width() / 2), taste->height() / 2));
 }
 
-void Hand::waehlen(QWidget* form, const QString& eintrag) {
+void Hand::wählen(QWidget* form, const QString& eintrag) {
   auto* aktion = finde<QAction>(form, eintrag);
   if (!aktion->isEnabled()) abbrechen(eintrag + " is disabled");
   aktion->trigger();
 }
 
-void Hand::reiterWaehlen(QWidget* form, const QString& reiter, int nummer) {
+void Hand::reiterWählen(QWidget* form, const QString& reiter, int nummer) {
   QTabBar* leiste = finde<QTabWidget>(form, reiter)->tabBar();
   QTest::mouseClick(leiste, Qt::LeftButton, Qt::NoModifier, leiste->tabRect(nummer).center());
 }

@@ -33,7 +33,7 @@ class Begleiter {
   };
   QString m_bildordner;
   QList<Schritt> m_schritte;
-  qsizetype m_naechster = 0;
+  qsizetype m_nächster = 0;
   int m_gewartet = 0;
   QTimer m_takt;
 };
@@ -42,9 +42,9 @@ class Begleiter {
 // reached ends the tour with a message.
 namespace Hand {
 void tippen(QWidget* form, const QString& feld, const QString& text);  // replaces what is there
-void druecken(QWidget* form, const QString& knopf);
-void waehlen(QWidget* form, const QString& eintrag);                   // a menu entry
-void reiterWaehlen(QWidget* form, const QString& reiter, int nummer);  // counts from 0
+void drücken(QWidget* form, const QString& knopf);
+void wählen(QWidget* form, const QString& eintrag);                   // a menu entry
+void reiterWählen(QWidget* form, const QString& reiter, int nummer);  // counts from 0
 // Marks rows of a grid: a click on the first, then clicks with Ctrl.
 void markieren(QWidget* form, const QString& gitter, const QList<int>& zeilen);
 }  // namespace Hand

@@ -10,6 +10,7 @@
 #include "Zufall.h"
 #include "core/globals.h"
 #include "core/settings.h"
+#include "data/Datenbankdatei.h"
 #include "data/schema.h"
 #include "platform/locale/Deutsch.h"
 
@@ -46,10 +47,10 @@ class OhneIndexe {
 constexpr int Stapel = 100;  // colonies to a commit
 
 // Does the work for each colony.
-void stapelweise(int voelker, const std::function<void(int)>& arbeit,
+void stapelweise(int völker, const std::function<void(int)>& arbeit,
                  const std::function<void(int)>& fortschritt = {}) {
-  for (int erstes = 1; erstes <= voelker; erstes += Stapel) {
-    const int letztes = std::min(erstes + Stapel - 1, voelker);
+  for (int erstes = 1; erstes <= völker; erstes += Stapel) {
+    const int letztes = std::min(erstes + Stapel - 1, völker);
     DB.Sammelschreiben([&] {
       for (int nummer = erstes; nummer <= letztes; ++nummer) arbeit(nummer);
     });
@@ -59,62 +60,61 @@ void stapelweise(int voelker, const std::function<void(int)>& arbeit,
 
 // The register is filled in the quiet time before the first season, so that no appointment comes
 // of it; those come with the yearly run.
-void voelkerAnlegen(Erzeuger& erzeuger, int voelker, int erstesJahr) {
+void völkerAnlegen(Erzeuger& erzeuger, int völker, int erstesJahr) {
   const QString heute = HeuteText;
   HeuteText = Deutsch::datumText(QDate(erstesJahr - 1, 12, 31));
-  stapelweise(voelker, [&](int nummer) { erzeuger.volkAnlegen(nummer); });
+  stapelweise(völker, [&](int nummer) { erzeuger.volkAnlegen(nummer); });
   HeuteText = heute;
 }
 
-void betriebFuellen(const Betriebsgroesse& groesse, QDate heute,
-                    const std::function<void(int)>& fortschritt) {
-  Zufall zufall(groesse.saat);
-  const int erstesJahr = heute.year() - groesse.jahre + 1;
+void betriebFüllen(const Betriebsgröße& größe, QDate heute,
+                   const std::function<void(int)>& fortschritt) {
+  Zufall zufall(größe.saat);
+  const int erstesJahr = heute.year() - größe.jahre + 1;
   Arbeitskalender kalender(zufall, heute, std::max(erstesJahr, heute.year() - terminjahre + 1));
-  Erzeuger erzeuger(groesse, heute, zufall);
-  OhneIndexe ohne(groesse.voelker * std::max(groesse.buchungenJeVolk, 100) > 100000);
+  Erzeuger erzeuger(größe, heute, zufall);
+  OhneIndexe ohne(größe.völker * std::max(größe.buchungenJeVolk, 100) > 100000);
   trachtgebietAnlegen(zufall, heute.year());
-  voelkerAnlegen(erzeuger, groesse.voelker, erstesJahr);
+  völkerAnlegen(erzeuger, größe.völker, erstesJahr);
   kalender.optionenEinrichten();
   for (int jahr = erstesJahr; jahr <= heute.year(); ++jahr) {
     kalender.jahrBeginnen(jahr, erzeuger.saisonstart());
     stapelweise(
-        groesse.voelker,
+        größe.völker,
         [&](int nummer) {
           erzeuger.saison(nummer, jahr);
-          if (jahr == heute.year()) erzeuger.auffuellen(nummer);
+          if (jahr == heute.year()) erzeuger.auffüllen(nummer);
         },
         jahr == heute.year() ? fortschritt : nullptr);
-    kalender.jahrAbschliessen(jahr);
+    kalender.jahrAbschließen(jahr);
   }
   ohne.bauen();
   erzeuger.nachziehen();
   kalender.bisHeute();
-  Handelsbuch(zufall, heute, erstesJahr, groesse.voelker).fuehren();
+  Handelsbuch(zufall, heute, erstesJahr, größe.völker).führen();
 }
 
 }  // namespace
 
-void betriebAnlegen(const QString& ordner, const Betriebsgroesse& groesse,
+void betriebAnlegen(const QString& ordner, const Betriebsgröße& größe,
                     const std::function<void(int)>& fortschritt) {
-  const QDate heute = groesse.heute.isValid() ? groesse.heute : QDate::currentDate();
-  zuruecksetzen();
+  const QDate heute = größe.heute.isValid() ? größe.heute : QDate::currentDate();
+  zurücksetzen();
   AppPfad = QDir(ordner).absolutePath() + "/";
   DatenbankPfad = AppPfad + "TOVA2.MDB";
   HeuteText = Deutsch::datumText(heute);
   EinstellungenStandard(heute);
-  WabenJeMagazinPruefen();
-  MehrwertsteuerPruefen();
-  EinstellungenZahl[68] = 1;  // harvests go into the honey store
+  EinstellungenPrüfen();
+  EinstellungenZahl[Zahlslots.ernteInsHoniglager] = 1;  // harvests go into the honey store
   EinstellungenWert = {7.5F, 9.0F, 0.02F, 0.1F, 18.0F, 2.0F};
   DatenbankAnlegen();
 
   // What fits into one batch is one commit: making it doesn't wait for the disk time and again.
-  const auto fuellen = [&] { betriebFuellen(groesse, heute, fortschritt); };
-  if (groesse.voelker <= Stapel)
-    DB.Sammelschreiben(fuellen);
+  const auto füllen = [&] { betriebFüllen(größe, heute, fortschritt); };
+  if (größe.völker <= Stapel)
+    DB.Sammelschreiben(füllen);
   else
-    fuellen();
+    füllen();
   ListeNeuLesen = 1;
   EinstellungenSchreiben();
 }

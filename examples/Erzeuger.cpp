@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "Trachtgebiet.h"
-#include "bookings/Volkfelder.h"
+#include "bookings/Zusammenfassung.h"
 #include "colonies/Volk.h"
 #include "core/globals.h"
 #include "data/helpers.h"
@@ -40,11 +40,11 @@ class Eintrag {
   Eintrag(int art, QDate datum) {
     m_buchung.art = art;
     m_buchung.texte[0] = Deutsch::datumText(datum);
-    for (const Buchungsslot& platz : buchungstyp(art).plaetze)
+    for (const Buchungsslot& platz : buchungstyp(art).plätze)
       m_buchung.texte[static_cast<size_t>(platz.nummer)] = platz.ersterText;
   }
   Eintrag& text(const char* feld, const QString& wert) {
-    for (const Buchungsslot& platz : buchungstyp(m_buchung.art).plaetze)
+    for (const Buchungsslot& platz : buchungstyp(m_buchung.art).plätze)
       if (platz.feld == QLatin1String(feld) || platz.feld == QString(feld))
         m_buchung.texte[static_cast<size_t>(platz.nummer)] = wert;
     return *this;
@@ -63,11 +63,11 @@ class Eintrag {
 };
 
 void Erzeuger::volkAnlegen(int nummer) {
-  m_volk = &m_voelker.emplace_back();
+  m_volk = &m_völker.emplace_back();
   m_volk->zugang = ersterZugang().addDays(m_zufall.zahl(0, zugangstage));
   const int erstesJahr = m_volk->zugang.year();
   // One in eight doesn't come through its second winter.
-  const bool weg = nummer % 8 == 5 && m_groesse.jahre > 1;
+  const bool weg = nummer % 8 == 5 && m_größe.jahre > 1;
   m_volk->abgang = weg ? QDate(erstesJahr + 1, 2, m_zufall.zahl(5, 25)) : QDate();
   m_volk->stimmung = m_zufall.bruch(2.5, 4);
   m_volk->eigenart = m_zufall.zahl(-2, 2);
@@ -86,7 +86,7 @@ void Erzeuger::volkAnlegen(int nummer) {
   setze("Bienenrasse", m_zufall.aus(rassen));
   setze("Beuteart", m_zufall.aus(beuten));
   setze("Waben_je_Magazin", "10");
-  setze("Standort", bienenstaende()[Hausgarten].name);
+  setze("Standort", bienenstände()[Hausgarten].name);
   setze("Königin_Nr", QStringLiteral("%1-%2").arg(erstesJahr - 1).arg(nummer));
   setze("Königin_Farbe", jahresfarbe(erstesJahr - 1));
   setze("Königin_Zugangsdatum", Deutsch::datumText(m_volk->zugang));
@@ -103,13 +103,13 @@ void Erzeuger::volkAnlegen(int nummer) {
 }
 
 void Erzeuger::saison(int nummer, int jahr) {
-  m_volk = &m_voelker[static_cast<size_t>(nummer - 1)];
+  m_volk = &m_völker[static_cast<size_t>(nummer - 1)];
   durchsichten(jahr);
   ernten(jahr);
   wanderungen(jahr);
   arbeiten(jahr);
   behandlungen(jahr);
-  koenigin(jahr);
+  königin(jahr);
   notiz(jahr);
 }
 
@@ -124,10 +124,10 @@ void Erzeuger::notiz(int jahr) {
   buchen(e);
 }
 
-void Erzeuger::auffuellen(int nummer) {
-  m_volk = &m_voelker[static_cast<size_t>(nummer - 1)];
-  if (m_groesse.buchungenJeVolk > m_volk->gebucht)
-    waagstockTage(m_groesse.buchungenJeVolk - m_volk->gebucht);
+void Erzeuger::auffüllen(int nummer) {
+  m_volk = &m_völker[static_cast<size_t>(nummer - 1)];
+  if (m_größe.buchungenJeVolk > m_volk->gebucht)
+    waagstockTage(m_größe.buchungenJeVolk - m_volk->gebucht);
 }
 
 void Erzeuger::durchsichten(int jahr) {
@@ -196,10 +196,10 @@ void Erzeuger::honig(QDate am, const QString& sorte, double kg) {
 }
 
 void Erzeuger::ernten(int jahr) {
-  const double guete = m_zufall.bruch(0.6, 1.3);
-  honig(tag(jahr, 5, 20, 28), "Rapshonig", m_zufall.bruch(8, 18) * guete);
-  honig(tag(jahr, 7, 2, 12), "Lindenhonig", m_zufall.bruch(6, 16) * guete);
-  if (m_zufall.chance(40)) honig(tag(jahr, 7, 25, 31), "Waldhonig", m_zufall.bruch(4, 14) * guete);
+  const double güte = m_zufall.bruch(0.6, 1.3);
+  honig(tag(jahr, 5, 20, 28), "Rapshonig", m_zufall.bruch(8, 18) * güte);
+  honig(tag(jahr, 7, 2, 12), "Lindenhonig", m_zufall.bruch(6, 16) * güte);
+  if (m_zufall.chance(40)) honig(tag(jahr, 7, 25, 31), "Waldhonig", m_zufall.bruch(4, 14) * güte);
   buchen(Eintrag(2, tag(jahr, 9, 5, 25))
              .zahl("Menge_kg", m_zufall.bruch(0.2, 0.8))
              .text("Qualität", "hell")
@@ -222,19 +222,19 @@ void Erzeuger::ernten(int jahr) {
 
 void Erzeuger::wanderungen(int jahr) {
   const auto wandern = [this](QDate am, Stand stand) {
-    const Bienenstand& ort = bienenstaende()[stand];
+    const Bienenstand& ort = bienenstände()[stand];
     buchen(Eintrag(6, am)
                .text("Standort", ort.name)
                .zeit(0.75)
-               .zahl("Standortprämie", ort.praemie)
-               .text("Prämie_erhalten", ort.praemie > 0 && m_zufall.chance(70) ? "J" : "N"));
+               .zahl("Standortprämie", ort.prämie)
+               .text("Prämie_erhalten", ort.prämie > 0 && m_zufall.chance(70) ? "J" : "N"));
   };
   if (m_zufall.chance(70))
     wandern(tag(jahr, 4, 20, 28), m_zufall.chance(75) ? Rapsfeld : Streuobstwiese);
   if (m_zufall.chance(60)) wandern(tag(jahr, 6, 5, 15), Lindenallee);
   if (m_zufall.chance(30)) wandern(tag(jahr, 7, 14, 20), Waldlichtung);
   if (m_zufall.chance(15)) {
-    wandern(tag(jahr, 8, 2, 6), Heideflaeche);
+    wandern(tag(jahr, 8, 2, 6), Heidefläche);
     wandern(tag(jahr, 9, 15, 25), Hausgarten);
     return;
   }
@@ -282,7 +282,7 @@ void Erzeuger::behandlungen(int jahr) {
   behandeln(tag(jahr, 12, 10, 24), "Winterbehandlung", "Oxalsäure geträufelt", 30, "4.12.07", 30);
 }
 
-void Erzeuger::koenigin(int jahr) {
+void Erzeuger::königin(int jahr) {
   if (!m_zufall.chance(40)) return;
   buchen(
       Eintrag(9, tag(jahr, 6, 15, 28))
@@ -309,13 +309,14 @@ void Erzeuger::buchen(Eintrag eintrag) {
   const QDate am = DatumLesen(eintrag.buchung().texte[0]);
   if (am < m_volk->zugang || am > m_heute || (m_volk->abgang.isValid() && am > m_volk->abgang))
     return;
+  // As if noted already: all summaries are written at the end.
+  m_kontext.geänderteVölker = "/" + m_volk->id + "/";
   BuchungSpeichern(DB, eintrag.buchung(), m_volk->id, "-1", m_kontext);
-  m_kontext.geaenderteVoelker.clear();
   ++m_volk->gebucht;
 }
 
 void Erzeuger::nachziehen() {
   QString alle;
-  for (const Volkstand& volk : m_voelker) alle += "/" + volk.id + "/";
+  for (const Volkstand& volk : m_völker) alle += "/" + volk.id + "/";
   VolkfelderNachziehen(DB, alle);
 }

@@ -25,21 +25,21 @@ struct Volkstand {
 // Datenbankfehler.
 class Erzeuger {
  public:
-  Erzeuger(const Betriebsgroesse& groesse, QDate heute, Zufall& zufall)
-      : m_groesse(groesse), m_heute(heute), m_zufall(zufall) {}
+  Erzeuger(const Betriebsgröße& größe, QDate heute, Zufall& zufall)
+      : m_größe(größe), m_heute(heute), m_zufall(zufall) {}
 
   // The last day on which a colony came.
   QDate saisonstart() const { return ersterZugang().addDays(zugangstage); }
 
   void volkAnlegen(int nummer);
   void saison(int nummer, int jahr);
-  void auffuellen(int nummer);  // with weighings to the wanted count
+  void auffüllen(int nummer);  // with weighings to the wanted count
   void nachziehen();
 
  private:
   static constexpr int zugangstage = 20;
 
-  QDate ersterZugang() const { return QDate(m_heute.year() - m_groesse.jahre + 1, 3, 1); }
+  QDate ersterZugang() const { return QDate(m_heute.year() - m_größe.jahre + 1, 3, 1); }
   void durchsichten(int jahr);
   void durchsicht(QDate tag);
   void ernten(int jahr);
@@ -47,7 +47,7 @@ class Erzeuger {
   void wanderungen(int jahr);
   void arbeiten(int jahr);
   void behandlungen(int jahr);
-  void koenigin(int jahr);
+  void königin(int jahr);
   void notiz(int jahr);
   void waagstockTage(int anzahl);
   void buchen(Eintrag eintrag);
@@ -55,10 +55,10 @@ class Erzeuger {
     return QDate(jahr, monat, m_zufall.zahl(erster, letzter));
   }
 
-  Betriebsgroesse m_groesse;
+  Betriebsgröße m_größe;
   QDate m_heute;
   Zufall& m_zufall;
   Buchungskontext m_kontext;
-  std::vector<Volkstand> m_voelker;
+  std::vector<Volkstand> m_völker;
   Volkstand* m_volk = nullptr;  // the colony at work
 };

@@ -13,28 +13,28 @@ namespace {
 
 constexpr int reifetage = 14;      // until a batch is stirred and filled
 constexpr int verkaufstage = 330;  // by then a batch is as good as sold
-constexpr int fuellabstand = 45;   // days between two fillings of a batch
-constexpr double rueckstellprobe = 0.5;
+constexpr int füllabstand = 45;    // days between two fillings of a batch
+constexpr double rückstellprobe = 0.5;
 
 const QStringList haushalte = {"Ziegler Martha",    "Brandl Josef",   "Öttinger Käthe",
                                "Wimmer Alois",      "Dr. Seidl Ruth", "Neumann Günther",
                                "Pfarramt Oberndorf"};
-const QStringList haendler = {"Hofladen Steiner", "Bäckerei Lechner", "Gasthof zur Post",
-                              "Dorfladen Talhof", "Reformhaus Kranz"};
+const QStringList händler = {"Hofladen Steiner", "Bäckerei Lechner", "Gasthof zur Post",
+                             "Dorfladen Talhof", "Reformhaus Kranz"};
 const QStringList andere = {"Kindergarten Oberndorf", "Weihnachtsmarkt", "Imker Jäger"};
 
 QString zahl(double wert) { return Deutsch::zahl(wert, 2); }
 
 double halbeKilo(double kg) { return std::floor(kg * 2) / 2; }
 
-void verlange(const QStringList& gruende) {
-  if (!gruende.isEmpty())
-    throw Datenbankfehler(Datenbankfehler::Art::Allgemein, Verwaltung::ablehnung(gruende));
+void verlange(const QStringList& gründe) {
+  if (!gründe.isEmpty())
+    throw Datenbankfehler(Datenbankfehler::Art::Allgemein, Verwaltung::ablehnung(gründe));
 }
 
 }  // namespace
 
-void Handelsbuch::fuehren() {
+void Handelsbuch::führen() {
   for (int jahr = m_erstesJahr; jahr <= m_heute.year(); ++jahr) {
     einkaufen(jahr);
     nebenherVerkaufen(jahr);
@@ -45,7 +45,7 @@ void Handelsbuch::fuehren() {
 
 // "Gläser", not "Honiggläser": whatever has honey in its name counts as honey in the store.
 void Handelsbuch::einkaufen(int jahr) {
-  const int v = m_voelker;
+  const int v = m_völker;
   einkauf(tag(jahr, 3), "Mittelwände Zander", "Bienenwachs rein", "Imkerbedarf Wagner",
           std::ceil(v * 0.4), "kg", std::ceil(v * 0.4) * 14.5);
   einkauf(tag(jahr, 4), "Gläser 500 g", "mit Deckel", "Glashütte Breitner", v * 30, "St",
@@ -65,10 +65,10 @@ void Handelsbuch::einkaufen(int jahr) {
 }
 
 void Handelsbuch::nebenherVerkaufen(int jahr) {
-  const int v = m_voelker;
+  const int v = m_völker;
   verkauf(tag(jahr, 5), "Ableger", "mit Jungkönigin", andere[2], std::ceil(v / 12.0), "St",
           std::ceil(v / 12.0) * 130);
-  verkauf(tag(jahr, 6), "Pollen", "getrocknet", haendler[4], std::ceil(v / 6.0), "kg",
+  verkauf(tag(jahr, 6), "Pollen", "getrocknet", händler[4], std::ceil(v / 6.0), "kg",
           std::ceil(v / 6.0) * 32);
   verkauf(tag(jahr, 10), "Bienenwachs", "geklärt", andere[2], std::ceil(v * 0.2), "kg",
           std::ceil(v * 0.2) * 11);
@@ -85,92 +85,91 @@ QList<Handelsbuch::Posten> Handelsbuch::posten() const {
   for (int i = 0; i < zeilen->zeilen(); ++i)
     alle << Posten{zeilen->anzeige(i, 0), zeilen->anzeige(i, 1), zeilen->zahl(i, 2),
                    QDate::fromString(zeilen->wert(i, 3).toString().left(10), Qt::ISODate)};
-  for (const Geschaeft& geschaeft : m_geschaefte)
-    if (!geschaeft.verkauf && Handel::istHonig(geschaeft.produkt))
-      alle << Posten{geschaeft.produkt, geschaeft.charge, geschaeft.menge, geschaeft.tag};
+  for (const Geschäft& geschäft : m_geschäfte)
+    if (!geschäft.verkauf && Handel::istHonig(geschäft.produkt))
+      alle << Posten{geschäft.produkt, geschäft.charge, geschäft.menge, geschäft.tag};
   return alle;
 }
 
 // Every week or two somebody buys: households some jars, shops a good deal more.
 void Handelsbuch::honigVerkaufen(const Posten& posten) {
   double rest = posten.kg;
-  const QDate fertig = posten.vollstaendig.addDays(reifetage);
-  const QDate ende = posten.vollstaendig.addDays(verkaufstage);
+  const QDate fertig = posten.vollständig.addDays(reifetage);
+  const QDate ende = posten.vollständig.addDays(verkaufstage);
   for (QDate am = fertig; am <= std::min(ende, m_heute); am = am.addDays(m_zufall.zahl(6, 16))) {
     const bool laden = m_zufall.chance(40);
     const double kg =
         halbeKilo(posten.kg * (laden ? m_zufall.bruch(0.03, 0.08) : m_zufall.bruch(0.01, 0.03)));
-    const QString kunde = m_zufall.aus(laden ? haendler : haushalte);
-    if (kg <= 0 || kg > rest - rueckstellprobe) continue;
+    const QString kunde = m_zufall.aus(laden ? händler : haushalte);
+    if (kg <= 0 || kg > rest - rückstellprobe) continue;
     rest -= kg;
-    const qint64 fuellung = (fertig.daysTo(am) / fuellabstand) * fuellabstand;
-    m_geschaefte << Geschaeft{am,
-                              true,
-                              posten.produkt,
-                              laden ? "Karton" : "Glas 500 g",
-                              kunde,
-                              kg,
-                              "kg",
-                              kg * (laden ? 9.0 : 11.0),
-                              posten.charge,
-                              fertig.addDays(fuellung)};
+    const qint64 füllung = (fertig.daysTo(am) / füllabstand) * füllabstand;
+    m_geschäfte << Geschäft{am,
+                            true,
+                            posten.produkt,
+                            laden ? "Karton" : "Glas 500 g",
+                            kunde,
+                            kg,
+                            "kg",
+                            kg * (laden ? 9.0 : 11.0),
+                            posten.charge,
+                            fertig.addDays(füllung)};
   }
   if (ende > m_heute) return;
-  const double uebrig = halbeKilo(rest - rueckstellprobe);
-  if (uebrig > 0)
-    m_entnahmen << Entnahme{ende, posten.produkt, posten.charge, uebrig, "Met und Backhonig"};
+  const double übrig = halbeKilo(rest - rückstellprobe);
+  if (übrig > 0)
+    m_entnahmen << Entnahme{ende, posten.produkt, posten.charge, übrig, "Met und Backhonig"};
 }
 
-void Handelsbuch::einkauf(QDate tag, const char* produkt, const char* qualitaet,
+void Handelsbuch::einkauf(QDate tag, const char* produkt, const char* qualität,
                           const char* lieferant, double menge, const char* einheit, double geld,
                           const QString& charge) {
   if (tag > m_heute) return;
-  m_geschaefte << Geschaeft{tag,   false,   produkt, qualitaet, lieferant,
-                            menge, einheit, geld,    charge};
+  m_geschäfte << Geschäft{tag, false, produkt, qualität, lieferant, menge, einheit, geld, charge};
 }
 
-void Handelsbuch::verkauf(QDate tag, const char* produkt, const char* qualitaet,
+void Handelsbuch::verkauf(QDate tag, const char* produkt, const char* qualität,
                           const QString& abnehmer, double menge, const char* einheit, double geld) {
   if (tag > m_heute) return;
-  m_geschaefte << Geschaeft{tag, true, produkt, qualitaet, abnehmer, menge, einheit, geld, {}};
+  m_geschäfte << Geschäft{tag, true, produkt, qualität, abnehmer, menge, einheit, geld, {}};
 }
 
 // In the order of the days, as they were entered.
 void Handelsbuch::schreiben() {
-  const auto frueher = [](const auto& a, const auto& b) { return a.tag < b.tag; };
-  std::stable_sort(m_geschaefte.begin(), m_geschaefte.end(), frueher);
-  std::stable_sort(m_entnahmen.begin(), m_entnahmen.end(), frueher);
+  const auto früher = [](const auto& a, const auto& b) { return a.tag < b.tag; };
+  std::stable_sort(m_geschäfte.begin(), m_geschäfte.end(), früher);
+  std::stable_sort(m_entnahmen.begin(), m_entnahmen.end(), früher);
   DB.Sammelschreiben([this] {
-    for (const Geschaeft& geschaeft : std::as_const(m_geschaefte)) speichern(geschaeft);
+    for (const Geschäft& geschäft : std::as_const(m_geschäfte)) speichern(geschäft);
     for (const Entnahme& entnahme : std::as_const(m_entnahmen)) speichern(entnahme);
   });
 }
 
-void Handelsbuch::speichern(const Geschaeft& geschaeft) {
-  const Handel::Seite seite = geschaeft.verkauf ? Handel::Seite::Verkauf : Handel::Seite::Einkauf;
+void Handelsbuch::speichern(const Geschäft& geschäft) {
+  const Handel::Seite seite = geschäft.verkauf ? Handel::Seite::Verkauf : Handel::Seite::Einkauf;
   Verwaltung::Texte texte;
-  texte["Datum"] = Deutsch::datumText(geschaeft.tag);
-  texte["Produkt"] = geschaeft.produkt;
-  texte[QString("Qualität")] = geschaeft.qualitaet;
-  texte[Handel::partnerfeld(seite)] = geschaeft.partner;
-  texte["Menge"] = zahl(geschaeft.menge);
-  texte["Einheit"] = geschaeft.einheit;
-  texte[Handel::geldfeld(seite)] = zahl(geschaeft.geld);
-  texte["Charge"] = geschaeft.charge;
-  verlange(Handel::geschaeftsgruende(texte));
-  const qint64 id = Handel::geschaeftSpeichern(DB, seite, texte, {});
-  if (geschaeft.abgefuellt.isValid()) abfuellungEintragen(id, geschaeft.abgefuellt);
+  texte["Datum"] = Deutsch::datumText(geschäft.tag);
+  texte["Produkt"] = geschäft.produkt;
+  texte[QString("Qualität")] = geschäft.qualität;
+  texte[Handel::partnerfeld(seite)] = geschäft.partner;
+  texte["Menge"] = zahl(geschäft.menge);
+  texte["Einheit"] = geschäft.einheit;
+  texte[Handel::geldfeld(seite)] = zahl(geschäft.geld);
+  texte["Charge"] = geschäft.charge;
+  verlange(Handel::geschäftsgründe(texte));
+  const qint64 id = Handel::geschäftSpeichern(DB, seite, texte, {});
+  if (geschäft.abgefüllt.isValid()) abfüllungEintragen(id, geschäft.abgefüllt);
 }
 
 // As on the honey tab: the sale's movement is changed, all its other fields stay.
-void Handelsbuch::abfuellungEintragen(qint64 verkaufId, QDate tag) {
+void Handelsbuch::abfüllungEintragen(qint64 verkaufId, QDate tag) {
   const Daten zeile =
       DB.Lesen("select * from Honiglager where EVK_ID = ? and Zugang = 0", {verkaufId});
   Verwaltung::Texte texte;
   for (const Verwaltung::Feld& feld : Handel::lagerfelder())
     texte[feld.feld] = Verwaltung::feldtext(feld, zeile->wert(0, zeile->spaltenNummer(feld.feld)));
   texte[QString("Abfülldatum")] = Deutsch::datumText(tag);
-  verlange(Handel::lagergruende(texte));
+  verlange(Handel::lagergründe(texte));
   Verwaltung::speichern(DB, "Honiglager", Handel::lagerfelder(), texte,
                         zeile->ganzzahl(0, zeile->spaltenNummer(u"ID")));
 }
@@ -183,6 +182,6 @@ void Handelsbuch::speichern(const Entnahme& entnahme) {
   texte["Abgang"] = zahl(entnahme.kg);
   texte["Bemerkung"] = entnahme.bemerkung;
   texte["Charge"] = entnahme.charge;
-  verlange(Handel::lagergruende(texte));
+  verlange(Handel::lagergründe(texte));
   Verwaltung::speichern(DB, "Honiglager", Handel::lagerfelder(), texte, {}, {{"EVK_ID", 0}});
 }

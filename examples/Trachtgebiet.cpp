@@ -57,18 +57,18 @@ const Tracht trachten[] = {
     {Waldlichtung, "Fichte", 20, 40},      {Waldlichtung, "Weißtanne", 100, 25},
     {Streuobstwiese, "Kirsche", 50, 25},   {Streuobstwiese, "Apfel", 20, 35},
     {Streuobstwiese, "Löwenzahn", 20, 20}, {Streuobstwiese, "Weißklee", 30, 15},
-    {Heideflaeche, "Besenheide", 50, 80},  {Heideflaeche, "Goldrute", 500, 10},
+    {Heidefläche, "Besenheide", 50, 80},   {Heidefläche, "Goldrute", 500, 10},
 };
 
 // What the forms would refuse must not come in here either.
-void verlange(const QStringList& gruende) {
-  if (!gruende.isEmpty())
-    throw Datenbankfehler(Datenbankfehler::Art::Allgemein, Verwaltung::ablehnung(gruende));
+void verlange(const QStringList& gründe) {
+  if (!gründe.isEmpty())
+    throw Datenbankfehler(Datenbankfehler::Art::Allgemein, Verwaltung::ablehnung(gründe));
 }
 
 QList<qint64> standorteAnlegen(Zufall& zufall) {
   QList<qint64> ids;
-  for (const Bienenstand& stand : bienenstaende()) {
+  for (const Bienenstand& stand : bienenstände()) {
     Verwaltung::Texte texte = Verwaltung::vorgaben(Standorte::standortfelder());
     texte["Standort"] = QString(stand.name);
     texte["Zusatzortshinweis"] = QString(stand.hinweis);
@@ -78,8 +78,8 @@ QList<qint64> standorteAnlegen(Zufall& zufall) {
     texte["Entfernung_Wasser_m"] = QString::number(zufall.zahl(1, 12) * 50);
     texte["Flugrichtung"] = QString(stand.flugrichtung);
     texte[QString("Max_Völker")] = QString::number(stand.winter ? 40 : 25);
-    texte[QString("Standortprämie_Volk")] = Deutsch::zahl(stand.praemie, 2);
-    verlange(Standorte::standortGruende(texte));
+    texte[QString("Standortprämie_Volk")] = Deutsch::zahl(stand.prämie, 2);
+    verlange(Standorte::standortGründe(texte));
     ids << Verwaltung::speichern(DB, "Standorte", Standorte::standortfelder(), texte, {},
                                  Standorte::neuerPlatz());
   }
@@ -97,7 +97,7 @@ void pflanzenAnlegen() {
     texte["Weidezeit_bis"] = tag(pflanze.bis);
     texte["Nektarstufe"] = QString::number(pflanze.nektar);
     texte["Pollenstufe"] = QString::number(pflanze.pollen);
-    verlange(Standorte::pflanzenGruende(texte));
+    verlange(Standorte::pflanzenGründe(texte));
     Verwaltung::speichern(DB, "Pflanzen", Standorte::pflanzenfelder(), texte, {});
   }
 }
@@ -109,7 +109,7 @@ void trachtenAnlegen(const QList<qint64>& standorte) {
     texte["Pflanze"] = QString(tracht.pflanze);
     texte["Entfernung_m"] = QString::number(tracht.meter);
     texte["Proz_Anteil"] = QString::number(tracht.anteil);
-    verlange(Standorte::trachtGruende(texte, Standorte::anteilSumme(DB, standort)));
+    verlange(Standorte::trachtGründe(texte, Standorte::anteilSumme(DB, standort)));
     Verwaltung::speichern(DB, "Standorte_Pflanzen", Standorte::trachtfelder(), texte, {},
                           {{"Standort_Kennung", standort}});
   }
@@ -117,8 +117,8 @@ void trachtenAnlegen(const QList<qint64>& standorte) {
 
 }  // namespace
 
-const QList<Bienenstand>& bienenstaende() {
-  static const QList<Bienenstand> staende = {
+const QList<Bienenstand>& bienenstände() {
+  static const QList<Bienenstand> stände = {
       {"Hausgarten Oberndorf", "hinter der Scheune", "mild", "Süd-Ost", true, true, 0},
       {"Rapsfeld Mühlenweg", "Zufahrt über den Feldweg", "offen, windig", "Süd", false, true, 0},
       {"Lindenallee am Schloßpark", "Schlüssel beim Gärtner", "geschützt", "Süd-Ost", true, true,
@@ -128,7 +128,7 @@ const QList<Bienenstand>& bienenstaende() {
       {"Heidefläche Birkenbusch", "Genehmigung vom Forstamt", "trocken", "Süd-West", false, true,
        2.5},
   };
-  return staende;
+  return stände;
 }
 
 void trachtgebietAnlegen(Zufall& zufall, int jahr) {

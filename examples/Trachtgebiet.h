@@ -13,13 +13,13 @@ struct Bienenstand {
   const char* flugrichtung;
   bool winter;    // colonies may stay there
   bool auto_hin;  // a car gets there
-  double praemie;
+  double prämie;
 };
 
 // The first one is the winter stand at home, the others are visited for their forage, in the order
 // of the year.
-enum Stand { Hausgarten, Rapsfeld, Lindenallee, Waldlichtung, Streuobstwiese, Heideflaeche };
-const QList<Bienenstand>& bienenstaende();
+enum Stand { Hausgarten, Rapsfeld, Lindenallee, Waldlichtung, Streuobstwiese, Heidefläche };
+const QList<Bienenstand>& bienenstände();
 
 // Sites, plants with their bloom in that year, the ties between both, the forage periods that
 // follow from them. Throws Datenbankfehler.

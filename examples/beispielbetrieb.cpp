@@ -1,5 +1,5 @@
 // Makes the sample operation in a folder.
-// usage: beispielbetrieb FOLDER [--voelker N] [--jahre N] [--buchungen-je-volk N] [--saat N]
+// usage: beispielbetrieb FOLDER [--völker N] [--jahre N] [--buchungen-je-volk N] [--saat N]
 //                        [--heute dd.mm.yyyy]
 
 #include <QCommandLineParser>
@@ -9,7 +9,7 @@
 #include <cstdio>
 
 #include "Betrieb.h"
-#include "platform/database/Datenbankfehler.h"
+#include "platform/database/werte/Datenbankfehler.h"
 #include "platform/files/Textdatei.h"
 #include "platform/locale/Deutsch.h"
 
@@ -27,13 +27,12 @@ int main(int argc, char** argv) {
   parser.process(app);
   if (parser.positionalArguments().size() != 1) parser.showHelp(2);
 
-  Betriebsgroesse groesse;
-  groesse.voelker = parser.value("voelker").toInt();
-  groesse.jahre = parser.value("jahre").toInt();
-  groesse.buchungenJeVolk = parser.value("buchungen-je-volk").toInt();
-  groesse.saat = parser.value("saat").toUInt();
-  if (parser.isSet("heute"))
-    groesse.heute = Deutsch::datum(parser.value("heute")).value_or(QDate());
+  Betriebsgröße größe;
+  größe.völker = parser.value("voelker").toInt();
+  größe.jahre = parser.value("jahre").toInt();
+  größe.buchungenJeVolk = parser.value("buchungen-je-volk").toInt();
+  größe.saat = parser.value("saat").toUInt();
+  if (parser.isSet("heute")) größe.heute = Deutsch::datum(parser.value("heute")).value_or(QDate());
 
   const QString ordner = parser.positionalArguments().first();
   if (QFile::exists(ordner + "/TOVA2.MDB")) {
@@ -42,7 +41,7 @@ int main(int argc, char** argv) {
   }
   QDir().mkpath(ordner);
   try {
-    betriebAnlegen(ordner, groesse);
+    betriebAnlegen(ordner, größe);
   } catch (const Datenbankfehler& fehler) {
     std::fprintf(stderr, "%s\n", qPrintable(fehler.text()));
     return 1;

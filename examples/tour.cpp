@@ -14,7 +14,7 @@
 #include "Betrieb.h"
 #include "Bienenjahr.h"
 #include "core/globals.h"
-#include "core/mainform/forms/TA_TOVA.h"
+#include "mainform/forms/TA_TOVA.h"
 #include "output/forms/TA_Zwischenliste.h"
 #include "platform/controls/Gestaltung.h"
 #include "platform/controls/Grid.h"
@@ -63,16 +63,16 @@ bool ersterTag(const QString& bilder) {
   Begleiter tag(bilder);
   tag.schritt("TH_Hilfe_Wieanfangen", [&](QWidget* form) {
     tag.fotografieren(form, "01_erste_schritte");
-    Hand::druecken(form, "schritt_2");
+    Hand::drücken(form, "schritt_2");
   });
   const QStringList namen = {"Auguste", "Berta", "Clothilde", "Dorothea"};
   for (const QString& name : namen)
     tag.schritt("TV_Neues_Volk", [&, name](QWidget* form) {
       volkEintippen(form, name, "Carnica", "Hausgarten");
       if (name == namen.first()) tag.fotografieren(form, "02_neues_volk");
-      Hand::druecken(form, "oknächster_0");
+      Hand::drücken(form, "oknächster_0");
     });
-  tag.schritt("TV_Neues_Volk", [](QWidget* form) { Hand::druecken(form, "cmdabbrechen"); });
+  tag.schritt("TV_Neues_Volk", [](QWidget* form) { Hand::drücken(form, "cmdabbrechen"); });
   tag.schritt("TH_Hilfe_Wieanfangen", [](QWidget* form) { form->close(); });
   // The work plan has made appointments for the new colonies; some are due soon.
   tag.schritt("TV_Starttermine", [&](QWidget* form) {
@@ -82,7 +82,7 @@ bool ersterTag(const QString& bilder) {
   tag.schritt("TA_TOVA", [&](QWidget* form) {
     tag.fotografieren(form, "03_vier_voelker");
     Hand::markieren(form, "datali", {0});
-    Hand::waehlen(form, "XE_stockkarte");
+    Hand::wählen(form, "XE_stockkarte");
   });
   tag.schritt("TE_Eingabe", [&](QWidget* form) {
     for (int slot = 1; slot <= 9; ++slot)
@@ -93,13 +93,13 @@ bool ersterTag(const QString& bilder) {
     Hand::tippen(form, "sevt_18", "2");
     Hand::tippen(form, "sevt_27", "Königin gesehen");
     tag.fotografieren(form, "04_durchsicht");
-    Hand::druecken(form, "neu_0");
+    Hand::drücken(form, "neu_0");
     tag.fotografieren(form, "05_durchsicht_gebucht");
-    Hand::druecken(form, "cmdschließen");
+    Hand::drücken(form, "cmdschließen");
   });
   tag.schritt("TA_TOVA", [&](QWidget* form) {
     Hand::markieren(form, "datali", {0, 1, 2});
-    Hand::waehlen(form, "XE_honigernte");
+    Hand::wählen(form, "XE_honigernte");
   });
   tag.schritt("TE_Eingabe", [&](QWidget* form) {
     Hand::tippen(form, "sevt_1", "12,5");
@@ -107,16 +107,16 @@ bool ersterTag(const QString& bilder) {
     Hand::tippen(form, "sevt_3", "I");
     Hand::tippen(form, "sevt_7", "2026/1");
     tag.fotografieren(form, "06_honigernte");
-    Hand::druecken(form, "neu_0");
+    Hand::drücken(form, "neu_0");
     tag.fotografieren(form, "08_honigernte_gebucht");
-    Hand::druecken(form, "cmdschließen");
+    Hand::drücken(form, "cmdschließen");
   });
   tag.schritt("frage", [&](QWidget* form) {
     tag.fotografieren(form, "07_drei_voelker");
-    Hand::druecken(form, "ja");
+    Hand::drücken(form, "ja");
   });
   tag.schritt("TA_TOVA", [&](QWidget* form) {
-    Hand::druecken(form, "cmdok");
+    Hand::drücken(form, "cmdok");
     tag.fotografieren(form, "09_volk_info");
   });
   return besuchen(ordner.path(), tag);
@@ -127,68 +127,68 @@ bool ersterTag(const QString& bilder) {
 void hauptformularZeigen(Begleiter& tag) {
   tag.schritt("TA_TOVA", [&](QWidget* form) {
     Hand::markieren(form, "datali", {2});
-    Hand::druecken(form, "kon1");  // the picture, and the panel with it
+    Hand::drücken(form, "kon1");  // the picture, and the panel with it
     tag.fotografieren(form, "hauptformular");
-    Hand::druecken(form, "linksrechts");
+    Hand::drücken(form, "linksrechts");
     tag.fotografieren(form, "hauptformular_breites_textfeld");
-    Hand::druecken(form, "linksrechts");
-    Hand::druecken(form, "comdrucken");
+    Hand::drücken(form, "linksrechts");
+    Hand::drücken(form, "comdrucken");
   });
   tag.schritt("TA_Textausgabe", [&](QWidget* form) {
     tag.fotografieren(form, "textausgabe");
-    Hand::druecken(form, "abbv");
+    Hand::drücken(form, "abbv");
   });
-  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::waehlen(form, "XV_volkändern"); });
+  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::wählen(form, "XV_volkändern"); });
   tag.schritt("TV_Neues_Volk", [&](QWidget* form) {
     tag.fotografieren(form, "volk_aendern_1_stammdaten");
-    Hand::reiterWaehlen(form, "reiter", 1);
+    Hand::reiterWählen(form, "reiter", 1);
     tag.fotografieren(form, "volk_aendern_2_beute");
-    Hand::reiterWaehlen(form, "reiter", 2);
+    Hand::reiterWählen(form, "reiter", 2);
     tag.fotografieren(form, "volk_aendern_3_bewertung");
-    Hand::druecken(form, "cmdabbrechen");
+    Hand::drücken(form, "cmdabbrechen");
   });
 }
 
 void eingabenZeigen(Begleiter& tag) {
-  static const QStringList eintraege = {
-      "XE_stockkarte",    "XE_honigernte",       "XE_wachsernte", "XE_pollenernte",
-      "XE_sonstigeernte", "XE_arbeiten",         "XE_wanderung",  "XE_gewichtsmessung",
-      "XE_behandlung",    "XE_Königinenwechsel", "XE_Notizen"};
-  for (const QString& eintrag : eintraege) {
-    tag.schritt("TA_TOVA", [eintrag](QWidget* form) { Hand::waehlen(form, eintrag); });
+  static const QStringList einträge = {"XE_stockkarte",       "XE_honigernte",      "XE_wachsernte",
+                                       "XE_pollenernte",      "XE_sonstigeernte",   "XE_arbeiten",
+                                       "XE_wanderung",        "XE_gewichtsmessung", "XE_behandlung",
+                                       "XE_Königinenwechsel", "XE_Notizen"};
+  for (const QString& eintrag : einträge) {
+    tag.schritt("TA_TOVA", [eintrag](QWidget* form) { Hand::wählen(form, eintrag); });
     tag.schritt("TE_Eingabe", [&tag, eintrag](QWidget* form) {
       tag.fotografieren(form, "eingabe_" + eintrag.mid(3).toLower().replace(u'ö', "oe"));
-      Hand::druecken(form, "cmdschließen");
+      Hand::drücken(form, "cmdschließen");
     });
   }
 }
 
 // Selects the colonies of one place and marks them.
 void selektierenUndMarkieren(Begleiter& tag) {
-  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::waehlen(form, "XV_völkerselektieren"); });
+  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::wählen(form, "XV_völkerselektieren"); });
   tag.schritt("TV_Selektieren", [&](QWidget* form) {
     Hand::tippen(form, "sevt_2", "Buckfast");
-    Hand::druecken(form, "entselekt_4");
+    Hand::drücken(form, "entselekt_4");
     tag.fotografieren(form, "selektieren");
-    Hand::druecken(form, "schliessen");
+    Hand::drücken(form, "schliessen");
   });
   tag.schritt("frage", [&](QWidget* form) {
     tag.fotografieren(form, "selektierte_markieren");
-    Hand::druecken(form, "ja");
+    Hand::drücken(form, "ja");
   });
-  tag.schritt("hinweis", [](QWidget* form) { Hand::druecken(form, "ok"); });
+  tag.schritt("hinweis", [](QWidget* form) { Hand::drücken(form, "ok"); });
   tag.bild("TA_TOVA", "hauptformular_markiert");
 }
 
 void einstellungenZeigen(Begleiter& tag) {
-  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::waehlen(form, "O_Einstellungen"); });
+  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::wählen(form, "O_Einstellungen"); });
   tag.schritt("TO_Einstellungen", [&](QWidget* form) {
     static const QStringList reiter = {"allgemein", "eingabe", "werte", "auswertungen", "felder"};
     for (int i = 0; i < reiter.size(); ++i) {
-      Hand::reiterWaehlen(form, "reiter", i);
+      Hand::reiterWählen(form, "reiter", i);
       tag.fotografieren(form, QStringLiteral("einstellungen_%1_%2").arg(i + 1).arg(reiter[i]));
     }
-    Hand::druecken(form, "cmdabbrechen");
+    Hand::drücken(form, "cmdabbrechen");
   });
 }
 
@@ -198,17 +198,17 @@ void listeWeitergeben(Begleiter& tag) {
               [](QWidget* form) { zwischenlisteZeigen(form, *form->findChild<Grid*>("datali")); });
   tag.schritt("TA_Zwischenliste", [&](QWidget* form) {
     tag.fotografieren(form, "zwischenliste");
-    Hand::druecken(form, "comtext");
+    Hand::drücken(form, "comtext");
   });
   tag.schritt("TA_Textausgabe", [&](QWidget* form) {
     tag.fotografieren(form, "textausgabe_liste");
-    Hand::druecken(form, "abbv");
+    Hand::drücken(form, "abbv");
   });
-  tag.schritt("TA_Zwischenliste", [](QWidget* form) { Hand::druecken(form, "cmdschließen"); });
+  tag.schritt("TA_Zwischenliste", [](QWidget* form) { Hand::drücken(form, "cmdschließen"); });
 }
 
 void hilfeLesen(Begleiter& tag) {
-  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::waehlen(form, "hilfestartmenue"); });
+  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::wählen(form, "hilfestartmenue"); });
   tag.schritt("TH_Hilfe", [&](QWidget* form) {
     tag.fotografieren(form, "hilfe");
     form->close();
@@ -218,9 +218,9 @@ void hilfeLesen(Begleiter& tag) {
 // The same forms with three seasons behind them.
 bool imDrittenJahr(const QString& bilder) {
   QTemporaryDir ordner;
-  Betriebsgroesse groesse;
-  groesse.heute = heute;
-  betriebAnlegen(ordner.path(), groesse);
+  Betriebsgröße größe;
+  größe.heute = heute;
+  betriebAnlegen(ordner.path(), größe);
   TZ_Variablen::DB.Close();
   TZ_Variablen::Arbeitsbereich.Close();
 

@@ -1,6 +1,6 @@
 #include <QApplication>
 
-#include "core/mainform/forms/TA_TOVA.h"
+#include "mainform/forms/TA_TOVA.h"
 #include "platform/controls/Gestaltung.h"
 
 int main(int argc, char** argv) {

@@ -1,63 +1,65 @@
 #include "bookings/Buchungstypen.h"
 
 #include "core/globals.h"
-#include "data/Pickliste.h"
 #include "data/helpers.h"
 #include "data/schema.h"
 
 namespace {
 
-using Plaetze = QList<Buchungsslot>;
+using Plätze = QList<Buchungsslot>;
+using Verwaltung::Feld;
 
 enum class Teilen : bool { Nein, Ja };
 
-Buchungsslot dezimal(int nummer, const QString& beschriftung, const QString& feld, int laenge,
+Buchungsslot platz(int nummer, const Feld& feld, Teilen teilen = Teilen::Nein) {
+  return {feld, nummer, teilen == Teilen::Ja};
+}
+
+Buchungsslot dezimal(int nummer, const QString& beschriftung, const QString& feld, int länge,
                      int nachkommastellen, Teilen teilen) {
-  Buchungsslot slot{nummer, beschriftung, feld, Slotart::Dezimal, laenge, nachkommastellen};
-  slot.ersterText = ZahlFormat(0, nachkommastellen);
-  slot.geteilt = teilen == Teilen::Ja;
-  return slot;
+  return platz(nummer,
+               Verwaltung::dezimal(feld, beschriftung, länge, nachkommastellen)
+                   .vorgabe(ZahlFormat(0, nachkommastellen)),
+               teilen);
 }
 
 Buchungsslot note(int nummer, const QString& beschriftung, const QString& feld) {
   return dezimal(nummer, beschriftung, feld, 4, 1, Teilen::Nein);
 }
 
+// A food store beside the one before.
+Buchungsslot vorratDaneben(int nummer, const QString& name, const QString& feld) {
+  return platz(nummer, Verwaltung::dezimal(feld, {}, 5, 2).vorgabe("0,00").daneben(name));
+}
+
 Buchungsslot zeit(int nummer) { return dezimal(nummer, "Zeit (h)", "Zeit_h", 5, 2, Teilen::Ja); }
 
 Buchungsslot geld(int nummer, const QString& beschriftung, const QString& feld) {
-  Buchungsslot slot = dezimal(nummer, beschriftung, feld, 8, 2, Teilen::Ja);
-  slot.geld = true;
-  return slot;
+  return platz(nummer, Verwaltung::geld(feld, beschriftung, 8).vorgabe("0,00"), Teilen::Ja);
 }
 
 Buchungsslot kosten(int nummer) { return geld(nummer, "Kosten", "Kosten"); }
 
-Buchungsslot ganz(int nummer, const QString& beschriftung, const QString& feld, int laenge,
-                  qint64 bis, Teilen teilen = Teilen::Nein) {
-  Buchungsslot slot{nummer, beschriftung, feld, Slotart::Ganzzahl, laenge, 0, bis, "0"};
-  slot.geteilt = teilen == Teilen::Ja;
-  return slot;
+Buchungsslot ganz(int nummer, const QString& beschriftung, const QString& feld, qint64 bis,
+                  Teilen teilen = Teilen::Nein) {
+  return platz(nummer, Verwaltung::ganzzahl(feld, beschriftung, bis).vorgabe("0"), teilen);
 }
 
 Buchungsslot mengeInGramm(int nummer) {
-  return ganz(nummer, "Menge (g)", "Menge_g", 4, 9999, Teilen::Ja);
+  return ganz(nummer, "Menge (g)", "Menge_g", 9999, Teilen::Ja);
 }
 
 // A text with the pick list of what the field held before.
-Buchungsslot text(int nummer, const QString& beschriftung, const QString& feld, int laenge,
+Buchungsslot text(int nummer, const QString& beschriftung, const QString& feld, int länge,
                   const QString& listenTabelle) {
-  Buchungsslot slot{nummer, beschriftung, feld, Slotart::Text, laenge};
-  slot.listenTabelle = listenTabelle;
-  slot.listenFeld = feld;
-  return slot;
+  return platz(nummer, Verwaltung::text(feld, beschriftung, länge).listeAus(listenTabelle));
 }
 
 Buchungsslot bemerkung(int nummer, const QString& tabelle) {
   return text(nummer, "Bemerkung", "Bemerkung", 30, tabelle);
 }
 
-Plaetze stockkarte() {
+Plätze stockkarte() {
   return {
       note(1, "Volksstärke", "Volkstärke"),
       note(2, "Brutstand", "Brutstand"),
@@ -68,27 +70,29 @@ Plaetze stockkarte() {
       note(7, "Winterfestigkeit", "Winterfestigkeit"),
       note(8, "Varroabefall", "Varroabefall"),
       note(9, "Belagert", "Belagert"),
-      ganz(10, "Magazine", "Magazine", 2, 9),
-      ganz(11, "Waben", "Waben", 2, 99),
-      ganz(12, "Honigwaben", "Honigwaben", 2, 99),
-      ganz(13, "Brutwaben", "Brutwaben", 2, 99),
-      ganz(14, "Pollenwaben", "Pollenwaben", 2, 99),
-      ganz(16, "Drohnenwaben", "Drohnenwaben", 2, 99),
-      ganz(17, "Leerwaben", "Leerwaben", 2, 99),
-      ganz(18, "Mittelwände", "Mittelwände", 2, 99),
-      ganz(19, "Futterwaben", "Futterwaben", 2, 99),
-      ganz(20, "HW_verdeckelt%", "HW_verdeckelt", 3, 100),
-      ganz(21, "BW_Stifte%", "BW_Stift", 3, 100),
-      ganz(22, "BW_offen%", "BW_offen", 3, 100),
-      ganz(23, "BW_verdeckelt%", "BW_verdeckelt", 3, 100),
-      dezimal(24, "Futter Flssg.|Teig|Eigen", "Futter_flüssig_l", 5, 2, Teilen::Nein),
-      dezimal(25, {}, "Futter_Teig_kg", 5, 2, Teilen::Nein),
-      dezimal(26, {}, "Eigener_Futtervorrat", 5, 2, Teilen::Nein),
+      ganz(10, "Magazine", "Magazine", 9),
+      ganz(11, "Waben", "Waben", 99),
+      ganz(12, "Honigwaben", "Honigwaben", 99),
+      ganz(13, "Brutwaben", "Brutwaben", 99),
+      ganz(14, "Pollenwaben", "Pollenwaben", 99),
+      ganz(16, "Drohnenwaben", "Drohnenwaben", 99),
+      ganz(17, "Leerwaben", "Leerwaben", 99),
+      ganz(18, "Mittelwände", "Mittelwände", 99),
+      ganz(19, "Futterwaben", "Futterwaben", 99),
+      ganz(20, "HW_verdeckelt%", "HW_verdeckelt", 100),
+      ganz(21, "BW_Stifte%", "BW_Stift", 100),
+      ganz(22, "BW_offen%", "BW_offen", 100),
+      ganz(23, "BW_verdeckelt%", "BW_verdeckelt", 100),
+      platz(24, Verwaltung::dezimal("Futter_flüssig_l", "Futter Flssg.|Teig|Eigen", 5, 2)
+                    .vorgabe("0,00")
+                    .genannt("Futter flüssig")),
+      vorratDaneben(25, "Futter Teig", "Futter_Teig_kg"),
+      vorratDaneben(26, "Futter Eigen", "Eigener_Futtervorrat"),
       bemerkung(27, "Stockkarte"),
   };
 }
 
-Plaetze honigernte() {
+Plätze honigernte() {
   return {
       dezimal(1, "Menge (kg)", "Menge_kg", 8, 2, Teilen::Ja),
       text(2, "Honigsorte", "Honigsorte", 20, "Honigernte"),
@@ -101,7 +105,7 @@ Plaetze honigernte() {
   };
 }
 
-Plaetze wachsernte() {
+Plätze wachsernte() {
   return {
       dezimal(1, "Menge (kg)", "Menge_kg", 8, 2, Teilen::Ja),
       text(2, "Qualität", "Qualität", 10, "Wachsernte"),
@@ -112,7 +116,7 @@ Plaetze wachsernte() {
   };
 }
 
-Plaetze pollenernte() {
+Plätze pollenernte() {
   return {
       mengeInGramm(1),
       text(2, "Qualität", "Qualität", 10, "Pollenernte"),
@@ -123,7 +127,7 @@ Plaetze pollenernte() {
   };
 }
 
-Plaetze sonstigeernte() {
+Plätze sonstigeernte() {
   return {
       text(1, "Art der Ernte", "Ernteart", 20, "Sonstigeernte"),
       mengeInGramm(2),
@@ -135,7 +139,7 @@ Plaetze sonstigeernte() {
   };
 }
 
-Plaetze arbeiten() {
+Plätze arbeiten() {
   return {
       text(1, "Arbeitsart", "Arbeitsart", 30, "Arbeiten"),
       zeit(2),
@@ -144,16 +148,18 @@ Plaetze arbeiten() {
   };
 }
 
-Plaetze wanderung() {
-  Buchungsslot erhalten{5, "Prämie erhalten JN", "Prämie_erhalten", Slotart::Auswahl, 1};
-  erhalten.auswahl = QStringList{"J", "N"};
+Plätze wanderung() {
   return {
-      text(1, "Standort", "Standort", 100, "Standorte"), zeit(2),  kosten(3),
-      geld(4, "Standortprämie", "Standortprämie"),       erhalten, bemerkung(6, "Wanderung"),
+      text(1, "Standort", "Standort", 100, "Standorte"),
+      zeit(2),
+      kosten(3),
+      geld(4, "Standortprämie", "Standortprämie"),
+      platz(5, Verwaltung::auswahl("Prämie_erhalten", "Prämie erhalten JN", {"J", "N"})),
+      bemerkung(6, "Wanderung"),
   };
 }
 
-Plaetze gewichtsmessung() {
+Plätze gewichtsmessung() {
   return {
       dezimal(1, "Gewicht (kg)", "Gewicht_kg", 7, 3, Teilen::Nein),
       zeit(2),
@@ -162,21 +168,21 @@ Plaetze gewichtsmessung() {
   };
 }
 
-Plaetze behandlung() {
+Plätze behandlung() {
   return {
       text(1, "Behandlungsart", "Behandlungsart", 30, "Behandlung"),
       text(2, "Mittel", "Mittel", 30, "Behandlung"),
       mengeInGramm(3),
       text(4, "Zulassungsnr", "Zulassungsnr", 10, "Behandlung"),
-      ganz(5, "Wartezeit in Tagen", "Wartezeit", 2, 99),
+      ganz(5, "Wartezeit in Tagen", "Wartezeit", 99),
       zeit(6),
       kosten(7),
       bemerkung(8, "Behandlung"),
-      ganz(9, "Anzahl Varroen", "Anz_Varroen", 3, 999),
+      ganz(9, "Anzahl Varroen", "Anz_Varroen", 999),
   };
 }
 
-Plaetze koeniginwechsel() {
+Plätze königinwechsel() {
   return {
       text(1, "Herkunft", "Herkunft", 30, "Königinwechsel"),
       text(2, "Zuchtindex", "Zuchtindex", 10, "Königinwechsel"),
@@ -188,7 +194,7 @@ Plaetze koeniginwechsel() {
   };
 }
 
-Plaetze notizen() { return {{NotizSlot, {}, "Notiz", Slotart::Notiz}}; }
+Plätze notizen() { return {platz(NotizSlot, Verwaltung::notiz("Notiz", "Notiz"))}; }
 
 QList<Buchungstyp> alleTypen() {
   QList<Buchungstyp> typen{
@@ -201,7 +207,7 @@ QList<Buchungstyp> alleTypen() {
       {6, {}, "Wanderung", wanderung()},
       {7, {}, "Gewichtsmessung", gewichtsmessung()},
       {8, {}, "Behandlung", behandlung()},
-      {9, {}, "Königinwechsel", koeniginwechsel()},
+      {9, {}, "Königinwechsel", königinwechsel()},
       {10, {}, "Notizen", notizen()},
   };
   for (Buchungstyp& typ : typen) typ.tabelle = buchungstabellen().at(typ.art);
@@ -211,7 +217,7 @@ QList<Buchungstyp> alleTypen() {
 }  // namespace
 
 const Buchungsslot* Buchungstyp::platz(int nummer) const {
-  for (const Buchungsslot& slot : plaetze)
+  for (const Buchungsslot& slot : plätze)
     if (slot.nummer == nummer) return &slot;
   return nullptr;
 }
@@ -222,19 +228,8 @@ const Buchungstyp& buchungstyp(int art) {
 }
 
 QString listenAbfrage(int art) {
-  const QString& eigene = TZ_Variablen::EinstellungenText[22];
+  const QString& eigene = TZ_Variablen::EinstellungenText[Textslots.stockkartenfelder];
   // A settings file of an early version can have no statement there.
   if (art == 0 && !eigene.trimmed().isEmpty()) return eigene;
   return "select * from " + buchungstyp(art).tabelle;
-}
-
-QString picklistenAbfrage(const Buchungsslot& slot) {
-  if (slot.listenTabelle.isEmpty()) return {};
-  return "select distinct " + slot.listenFeld + " from " + slot.listenTabelle + " order by " +
-         slot.listenFeld;
-}
-
-QStringList pickliste(Database& datenbank, const Buchungsslot& slot) {
-  const QString abfrage = picklistenAbfrage(slot);
-  return abfrage.isEmpty() ? QStringList() : Pickliste::lesen(datenbank, abfrage);
 }

@@ -9,7 +9,7 @@ namespace {
 QList<int> maskenslots(const Slotarten& arten) {
   QList<int> nummern;
   for (int slot = 1; slot < AnzahlSlots; ++slot)
-    if (slot != NotizSlot && arten[static_cast<size_t>(slot)] != Slotart::Auswahl)
+    if (slot != NotizSlot && arten[static_cast<size_t>(slot)] != Verwaltung::Art::Auswahl)
       nummern.append(slot);
   return nummern;
 }
@@ -17,7 +17,7 @@ QList<int> maskenslots(const Slotarten& arten) {
 }  // namespace
 
 void einkleiden(Slotarten& arten, int art) {
-  for (const Buchungsslot& slot : buchungstyp(art).plaetze)
+  for (const Buchungsslot& slot : buchungstyp(art).plätze)
     arten[static_cast<size_t>(slot.nummer)] = slot.art;
 }
 
@@ -36,10 +36,10 @@ QString maskeGesichertText(int art) {
          " gespeichert.";
 }
 
-std::optional<QList<Slotaenderung>> maskeEinlesen(int art, const Slotarten& arten) {
+std::optional<QList<Slotänderung>> maskeEinlesen(int art, const Slotarten& arten) {
   if (!Textdatei::existiert(maskenDatei(art))) return std::nullopt;
   const QStringList zeilen = Textdatei::lesen(maskenDatei(art));
-  QList<Slotaenderung> texte;
+  QList<Slotänderung> texte;
   for (const int slot : maskenslots(arten)) {
     if (texte.size() == zeilen.size()) break;
     texte.append({slot, zeilen.at(texte.size())});

@@ -9,7 +9,7 @@
 
 // The kind that each slot has from its last dressing. All are Text when the form opens; a type
 // dresses only the slots that it uses, the others keep what they were.
-using Slotarten = std::array<Slotart, AnzahlSlots>;
+using Slotarten = std::array<Verwaltung::Art, AnzahlSlots>;
 void einkleiden(Slotarten& arten, int art);
 
 // AppPfad + "TOVA_TE_EINGABE_STD" + the type's number + ".TV2"
@@ -22,4 +22,4 @@ QString maskeGesichertText(int art);
 
 // The texts of the mask, each for its slot; a short file fills only the first ones. Nothing when
 // there is no such file. Throws Dateifehler.
-std::optional<QList<Slotaenderung>> maskeEinlesen(int art, const Slotarten& arten);
+std::optional<QList<Slotänderung>> maskeEinlesen(int art, const Slotarten& arten);

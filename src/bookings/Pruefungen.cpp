@@ -2,17 +2,17 @@
 
 #include "data/helpers.h"
 
-using Art = Pruefergebnis::Art;
+using Art = Prüfergebnis::Art;
 
 namespace {
 
-Pruefergebnis falschesDatum() {
+Prüfergebnis falschesDatum() {
   return {Art::Abbruch, "Die Buchung wird nicht ausgeführt, weil das Datum nicht korrekt ist."};
 }
 
 }  // namespace
 
-Pruefergebnis pruefeNeu(const QString& datum, int anzahlMarkiert) {
+Prüfergebnis prüfeNeu(const QString& datum, int anzahlMarkiert) {
   if (!IstDatum(datum)) return falschesDatum();
   if (anzahlMarkiert < 1)
     return {Art::Abbruch,
@@ -24,10 +24,10 @@ Pruefergebnis pruefeNeu(const QString& datum, int anzahlMarkiert) {
   return {};
 }
 
-Pruefergebnis pruefeAendern(const QString& datum, bool zeileGewaehlt, int anzahlMarkiert,
-                            const QString& volknr) {
+Prüfergebnis prüfeÄndern(const QString& datum, bool zeileGewählt, int anzahlMarkiert,
+                         const QString& volknr) {
   if (!IstDatum(datum)) return falschesDatum();
-  if (!zeileGewaehlt)
+  if (!zeileGewählt)
     return {Art::Abbruch, "Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!"};
   if (anzahlMarkiert > 1)
     return {Art::HinweisUndWeiter,
@@ -38,8 +38,8 @@ Pruefergebnis pruefeAendern(const QString& datum, bool zeileGewaehlt, int anzahl
   return {};
 }
 
-Pruefergebnis pruefeLoeschen(bool zeileGewaehlt) {
-  if (!zeileGewaehlt)
+Prüfergebnis prüfeLöschen(bool zeileGewählt) {
+  if (!zeileGewählt)
     return {Art::Abbruch, "Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten."};
   return {};
 }

@@ -3,7 +3,7 @@
 #include <QString>
 
 // The checks before a booking is written, changed or deleted, in their order.
-struct Pruefergebnis {
+struct Prüfergebnis {
   enum class Art {
     Weiter,            // do it, without a word
     Abbruch,           // show the text as a Hinweis and do nothing
@@ -15,9 +15,9 @@ struct Pruefergebnis {
 };
 
 // The button neu(0): the date's text, the number of colonies marked.
-Pruefergebnis pruefeNeu(const QString& datum, int anzahlMarkiert);
+Prüfergebnis prüfeNeu(const QString& datum, int anzahlMarkiert);
 // The button neu(1): whether the list has a current row, the number of the current colony.
-Pruefergebnis pruefeAendern(const QString& datum, bool zeileGewaehlt, int anzahlMarkiert,
-                            const QString& volknr);
+Prüfergebnis prüfeÄndern(const QString& datum, bool zeileGewählt, int anzahlMarkiert,
+                         const QString& volknr);
 // The button löschen; the question whether to delete at all is LoeschenBestaetigt's.
-Pruefergebnis pruefeLoeschen(bool zeileGewaehlt);
+Prüfergebnis prüfeLöschen(bool zeileGewählt);

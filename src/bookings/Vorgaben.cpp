@@ -18,14 +18,14 @@ Recordset neueste(Database& datenbank, const QString& tabelle, const QStringList
                                  werte);
 }
 
-QList<Slotaenderung> behandlung(Database& datenbank, int slot, const Slottexte& texte) {
+QList<Slotänderung> behandlung(Database& datenbank, int slot, const Slottexte& texte) {
   const QString text = eingabe(texte, slot);
   if (text.isEmpty()) return {};
   Recordset zeile =
       neueste(datenbank, "Behandlung", {slot == 1 ? "Behandlungsart" : "Mittel"}, {text});
   if (zeile.RecordCount() == 0) return {};
 
-  QList<Slotaenderung> vorgaben;
+  QList<Slotänderung> vorgaben;
   if (slot == 1) vorgaben.append({2, TextLesen(zeile.Wert("Mittel"))});
   vorgaben.append({3, ZahlFormat(ZahlLesen(zeile.Wert("Menge_g")), 0)});
   vorgaben.append({4, TextLesen(zeile.Wert("Zulassungsnr"))});
@@ -36,8 +36,8 @@ QList<Slotaenderung> behandlung(Database& datenbank, int slot, const Slottexte& 
 // What makes two harvests comparable, and where quantity and value of a type stand.
 struct Preisregel {
   int art;
-  QList<int> ausloeser;
-  QList<int> guete;  // slots whose fields name the grade
+  QList<int> auslöser;
+  QList<int> güte;  // slots whose fields name the grade
   int menge;
   int wert;
 };
@@ -65,7 +65,7 @@ std::optional<double> letzterPreis(Database& datenbank, int art, const Slottexte
   const Buchungstyp& typ = buchungstyp(art);
   QStringList felder;
   QVariantList werte;
-  for (const int slot : regel.guete) {
+  for (const int slot : regel.güte) {
     felder.append(typ.platz(slot)->feld);
     werte.append(eingabe(texte, slot));
   }
@@ -76,18 +76,18 @@ std::optional<double> letzterPreis(Database& datenbank, int art, const Slottexte
   return zeile.Wert(typ.platz(regel.wert)->feld).toDouble() / menge;
 }
 
-Slotaenderung wertZumPreis(int art, const Slottexte& texte, double preis) {
+Slotänderung wertZumPreis(int art, const Slottexte& texte, double preis) {
   const Preisregel& regel = *preisregel(art);
   const double menge = ZahlLesen(texte[static_cast<size_t>(regel.menge)]);
   // Single precision: 5 x (0.45 / 10) is 0.225 and not a little less.
   return {regel.wert, ZahlFormat(Deutsch::einfach(menge * preis), 2)};
 }
 
-QList<Slotaenderung> vorgabenBeimVerlassen(Database& datenbank, int art, int slot,
-                                           const Slottexte& texte) {
+QList<Slotänderung> vorgabenBeimVerlassen(Database& datenbank, int art, int slot,
+                                          const Slottexte& texte) {
   if (art == 8 && (slot == 1 || slot == 2)) return behandlung(datenbank, slot, texte);
   const Preisregel* regel = preisregel(art);
-  if (regel == nullptr || !regel->ausloeser.contains(slot)) return {};
+  if (regel == nullptr || !regel->auslöser.contains(slot)) return {};
   const auto preis = letzterPreis(datenbank, art, texte);
   if (!preis) return {};
   return {wertZumPreis(art, texte, *preis)};

@@ -2,7 +2,7 @@
 
 #include "core/globals.h"
 #include "data/helpers.h"
-#include "platform/database/Kollation.h"
+#include "platform/database/werte/Kollation.h"
 
 namespace {
 

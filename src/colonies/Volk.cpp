@@ -15,10 +15,10 @@ namespace {
 enum Sevt {
   Volknr = 0,
   Standort = 3,
-  KoeniginNr,
-  KoeniginFarbe,
-  KoeniginZugang,
-  Mittelwaende = 8,
+  KöniginNr,
+  KöniginFarbe,
+  KöniginZugang,
+  Mittelwände = 8,
   Wabenanzahl = 9,
   Abgangsdatum = 13
 };
@@ -42,7 +42,7 @@ struct Vorhaben {
 
 bool sechsGeändert(const Volkeingabe& eingabe, const Volkeingabe& geladen) {
   for (const size_t i :
-       {Standort, KoeniginNr, KoeniginFarbe, KoeniginZugang, Mittelwaende, Wabenanzahl})
+       {Standort, KöniginNr, KöniginFarbe, KöniginZugang, Mittelwände, Wabenanzahl})
     if (eingabe.sevt[i] != geladen.sevt[i]) return true;
   return false;
 }
@@ -88,22 +88,6 @@ void frageÄnderung(Database& db, Vorhaben& v, const Volkeingabe& eingabe,
         "(Stockkarten, Ernten, Wanderungen etc.) von diesem Volk gelöscht werden?");
 }
 
-QVariant feldwert(const Volkfeld& feld, const QString& text) {
-  switch (feld.art) {
-    case Volkfeld::Art::Text:
-      return TextLesen(text);
-    case Volkfeld::Art::Ganzzahl:
-      return GanzLesen(text);
-    case Volkfeld::Art::Dezimal:
-    case Volkfeld::Art::Waehrung:
-      return ZahlLesen(text);
-    case Volkfeld::Art::Datum:
-      break;
-  }
-  const QDate datum = DatumLesen(text);
-  return datum.isValid() ? QVariant(datum) : QVariant();
-}
-
 void schreibeWanderung(Database& db, const Vorhaben& v) {
   Recordset rs = db.OpenRecordset("select top 1 * from Wanderung");
   rs.AddNew();
@@ -129,7 +113,8 @@ void schreibeVolk(Database& db, Vorhaben& v, const Volkeingabe& eingabe) {
   } else {
     rs.Edit();
   }
-  for (const Volkfeld& feld : volkfelder()) rs[feld.feld] = feldwert(feld, eingabe[feld]);
+  for (const Volkfeld& feld : volkfelder())
+    rs[feld.feld] = Verwaltung::feldwert(feld, eingabe[feld]);
   rs["Standort"] = v.standort;
   rs["Akt_im_Bestand"] = v.imBestand ? "X" : "";
   rs.Update();
@@ -188,7 +173,7 @@ bool nummerVergeben(Database& db, qint64 id, const QString& nummer) {
 
 }  // namespace
 
-QString volkPruefen(Database& db, qint64 id, const Volkeingabe& eingabe) {
+QString volkPrüfen(Database& db, qint64 id, const Volkeingabe& eingabe) {
   const QString nummer = TextLesen(eingabe.sevt[Volknr]);
   QStringList gründe;
   if (nummer.isEmpty()) gründe << "...die Volknummer angegeben werden muß.";

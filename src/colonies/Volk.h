@@ -12,9 +12,9 @@ struct Volkfragen {
 
 // The whole text that tells why the inputs can't be saved; empty when they can. id 0 is a new
 // colony.
-QString volkPruefen(Database& db, qint64 id, const Volkeingabe& eingabe);
+QString volkPrüfen(Database& db, qint64 id, const Volkeingabe& eingabe);
 
-// Saves inputs that passed volkPruefen, with all that follows for migrations, appointments and old
+// Saves inputs that passed volkPrüfen, with all that follows for migrations, appointments and old
 // bookings, and sets ListeNeuLesen. id 0 adds a colony, any other changes that one; geladen is what
 // the inputs held when it was loaded. Returns the colony's ID. All questions come before the first
 // write, so that no transaction waits for the user; all writes are one Sammelschreiben. A work plan

@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr int SlotWabenJeMagazin = 56;
-constexpr int SlotFolgenummer = 57;
 constexpr int SevtVolknr = 0;
 constexpr int SevtWabenJeMagazin = 17;
 constexpr int LetzteGemeinsameZeile = 16;  // lines 1 to 16 are sevt 1 to 16
@@ -35,7 +33,7 @@ void standardLesen(Volkeingabe& eingabe) {
   const auto nimm = [&](int sevt, int nummer) {
     if (zeilen.hat(nummer))
       eingabe.sevt[static_cast<size_t>(sevt)] =
-          zeilen.zeile(nummer).left(volkfelder().at(sevt).maxLaenge);
+          zeilen.zeile(nummer).left(volkfelder().at(sevt).maxLänge);
   };
   for (int i = 1; i <= LetzteGemeinsameZeile; ++i) nimm(i, i);
   if (zeilen.hat(17)) eingabe.kon = GanzLesen(zeilen.zeile(17)) != 0;
@@ -56,11 +54,13 @@ const QString& Volkeingabe::operator[](const Volkfeld& feld) const {
 }
 
 QString volkFolgenummer(const QString& letzteNummer) {
-  if (TZ_Variablen::EinstellungenZahl[SlotFolgenummer] == 0 || !NurZiffern(letzteNummer)) return {};
-  const int maxLaenge = volkfelder().at(SevtVolknr).maxLaenge;
-  if (letzteNummer.size() > maxLaenge) return {};
+  if (TZ_Variablen::EinstellungenZahl[Zahlslots.volknummerHochzählen] == 0 ||
+      !NurZiffern(letzteNummer))
+    return {};
+  const int maxLänge = volkfelder().at(SevtVolknr).maxLänge;
+  if (letzteNummer.size() > maxLänge) return {};
   const QString folge = QString::number(letzteNummer.toLongLong() + 1);
-  return folge.size() > maxLaenge ? QString() : folge;
+  return folge.size() > maxLänge ? QString() : folge;
 }
 
 Volkeingabe volkNeu(const QString& letzteNummer) {
@@ -68,7 +68,7 @@ Volkeingabe volkNeu(const QString& letzteNummer) {
   eingabe.sevt[SevtVolknr] = volkFolgenummer(letzteNummer);
   standardLesen(eingabe);
   eingabe.sevt[SevtWabenJeMagazin] =
-      QString::number(TZ_Variablen::EinstellungenZahl[SlotWabenJeMagazin]);
+      QString::number(TZ_Variablen::EinstellungenZahl[Zahlslots.wabenJeMagazin]);
   return eingabe;
 }
 
@@ -76,7 +76,8 @@ std::optional<Volkeingabe> volkLaden(Database& db, qint64 id) {
   Recordset rs = db.OpenRecordset("select * from Bienenvolk where ID = ?", {id});
   if (rs.RecordCount() == 0) return std::nullopt;
   Volkeingabe eingabe;
-  for (const Volkfeld& feld : volkfelder()) eingabe[feld] = TextLesen(rs.Wert(feld.feld));
+  for (const Volkfeld& feld : volkfelder())
+    eingabe[feld] = Verwaltung::feldtext(feld, rs.Wert(feld.feld));
   eingabe.kon = TextLesen(rs.Wert("Akt_im_Bestand")) == QLatin1String("X");
   return eingabe;
 }
@@ -90,6 +91,7 @@ void volkStandardSchreiben(const Volkeingabe& eingabe) {
          << eingabe.sevt[SevtWabenJeMagazin];
   Textdatei::schreiben(volkStandardDatei(), zeilen);
   const qint64 waben = GanzLesen(eingabe.sevt[SevtWabenJeMagazin]);
-  TZ_Variablen::EinstellungenZahl[SlotWabenJeMagazin] = static_cast<qint16>(std::clamp<qint64>(
-      waben, std::numeric_limits<qint16>::min(), std::numeric_limits<qint16>::max()));
+  TZ_Variablen::EinstellungenZahl[Zahlslots.wabenJeMagazin] =
+      static_cast<qint16>(std::clamp<qint64>(waben, std::numeric_limits<qint16>::min(),
+                                             std::numeric_limits<qint16>::max()));
 }

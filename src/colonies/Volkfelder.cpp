@@ -4,13 +4,13 @@
 
 namespace {
 
-using Art = Volkfeld::Art;
+using Verwaltung::Feld;
 
 enum Reiter { Stammdaten, BeuteWaben, BewertungFutter };
 enum Gruppe {
   GVolk,
   GZugang,
-  GKoenigin,
+  GKönigin,
   GAbgang,
   GBeute,
   GBrut,
@@ -20,54 +20,44 @@ enum Gruppe {
   GErnte
 };
 
-Volkfeld text(const char* feld, const char* beschriftung, int maxLaenge, Gruppe gruppe) {
-  Volkfeld f;
-  f.feld = QString::fromUtf8(feld);
-  f.beschriftung = QString::fromUtf8(beschriftung);
-  f.maxLaenge = maxLaenge;
+Volkfeld in(Gruppe gruppe, const Feld& feld) {
+  Volkfeld f{feld};
   f.gruppe = gruppe;
   return f;
 }
 
-Volkfeld liste(const char* feld, const char* beschriftung, int maxLaenge, Gruppe gruppe,
-               const char* tabelle = "Bienenvolk") {
-  Volkfeld f = text(feld, beschriftung, maxLaenge, gruppe);
-  f.listenTabelle = QString::fromUtf8(tabelle);
-  return f;
+Volkfeld text(const QString& feld, const QString& beschriftung, int länge, Gruppe gruppe) {
+  return in(gruppe, Verwaltung::text(feld, beschriftung, länge));
+}
+
+Volkfeld liste(const QString& feld, const QString& beschriftung, int länge, Gruppe gruppe,
+               const QString& tabelle = "Bienenvolk") {
+  return in(gruppe, Verwaltung::text(feld, beschriftung, länge).listeAus(tabelle));
 }
 
 // Counts go up to what the field can hold; the default of the combs per magazine is kept in a slot
 // of 16 bits.
-Volkfeld ganz(const char* feld, const char* beschriftung, Gruppe gruppe, qint64 bis = 2147483647) {
-  Volkfeld f = text(feld, beschriftung, static_cast<int>(QString::number(bis).size()), gruppe);
-  f.art = Art::Ganzzahl;
-  f.bis = bis;
-  return f;
+Volkfeld ganz(const QString& feld, const QString& beschriftung, Gruppe gruppe,
+              qint64 bis = 2147483647) {
+  return in(gruppe, Verwaltung::ganzzahl(feld, beschriftung, bis));
 }
 
 // Long enough for every number that a booking can leave here, so that none is cut when it is shown;
 // the decimals limit only what is typed.
-Volkfeld dezimal(const char* feld, const char* beschriftung, Gruppe gruppe, int stellen,
-                 const char* einheit = "") {
-  Volkfeld f = text(feld, beschriftung, 14, gruppe);
-  f.art = Art::Dezimal;
-  f.nachkommastellen = stellen;
-  f.einheit = QString::fromUtf8(einheit);
-  return f;
+constexpr int Zahllänge = 14;
+
+Volkfeld dezimal(const QString& feld, const QString& beschriftung, Gruppe gruppe, int stellen,
+                 const QString& einheit = {}) {
+  return in(gruppe,
+            Verwaltung::dezimal(feld, beschriftung, Zahllänge, stellen).knapp().einheit(einheit));
 }
 
-Volkfeld geld(const char* feld, const char* beschriftung, Gruppe gruppe) {
-  Volkfeld f = text(feld, beschriftung, 14, gruppe);
-  f.art = Art::Waehrung;
-  f.nachkommastellen = 2;
-  f.einheit = QString("€");
-  return f;
+Volkfeld geld(const QString& feld, const QString& beschriftung, Gruppe gruppe) {
+  return in(gruppe, Verwaltung::geld(feld, beschriftung, Zahllänge).knapp());
 }
 
-Volkfeld datum(const char* feld, const char* beschriftung, Gruppe gruppe) {
-  Volkfeld f = text(feld, beschriftung, 10, gruppe);
-  f.art = Art::Datum;
-  return f;
+Volkfeld datum(const QString& feld, const QString& beschriftung, Gruppe gruppe) {
+  return in(gruppe, Verwaltung::datum(feld, beschriftung));
 }
 
 QList<Volkfeld> numeriert(QList<Volkfeld> felder, Volkarray array) {
@@ -85,9 +75,9 @@ QList<Volkfeld> sevtFelder() {
           liste("Volkname", "Volkname", 20, GVolk),
           liste("Bienenrasse", "Bienenrasse", 20, GVolk),
           liste("Standort", "Standort", 100, GVolk, "Standorte"),
-          liste("Königin_Nr", "Königin-Nr", 20, GKoenigin),
-          liste("Königin_Farbe", "Königin-Farbe", 10, GKoenigin),
-          datum("Königin_Zugangsdatum", "Zugangsdatum Königin", GKoenigin),
+          liste("Königin_Nr", "Königin-Nr", 20, GKönigin),
+          liste("Königin_Farbe", "Königin-Farbe", 10, GKönigin),
+          datum("Königin_Zugangsdatum", "Zugangsdatum Königin", GKönigin),
           liste("Beuteart", "Beuteart", 20, GBeute),
           ganz("Mittelwände", "Mittelwände", GBeute),
           ganz("Wabenanzahl", "Wabenanzahl", GBeute),
@@ -99,8 +89,8 @@ QList<Volkfeld> sevtFelder() {
           liste("Abnehmer", "Abnehmer", 50, GAbgang),
           geld("Volk_Verkaufspreis", "Verkaufspreis", GAbgang),
           ganz("Waben_je_Magazin", "Waben je Magazin", GBeute, 32767),
-          liste("Belegstelle", "Belegstelle", 20, GKoenigin),
-          text("Zuchtbuchnr", "Zuchtbuch-Nr", 15, GKoenigin),
+          liste("Belegstelle", "Belegstelle", 20, GKönigin),
+          text("Zuchtbuchnr", "Zuchtbuch-Nr", 15, GKönigin),
       },
       Volkarray::sevt);
 }
@@ -140,11 +130,6 @@ QList<Volkfeld> sevtxFelder() {
 }
 
 }  // namespace
-
-QString Volkfeld::listenAnweisung() const {
-  if (listenTabelle.isEmpty()) return {};
-  return "select distinct " + feld + " from " + listenTabelle + " order by " + feld;
-}
 
 const QList<Volkfeld>& volkfelder() {
   static const QList<Volkfeld> felder = sevtFelder() + sevtxFelder();

@@ -3,27 +3,17 @@
 #include <QList>
 #include <QString>
 
+#include "data/Verwaltungsfelder.h"
+
 // The inputs of the colony record, each described once.
 
 enum class Volkarray { sevt, sevtx };
 
-struct Volkfeld {
-  enum class Art { Text, Ganzzahl, Dezimal, Waehrung, Datum };
-
+// An input of the record: its place on the form, and what it is.
+struct Volkfeld : Verwaltung::Feld {
   Volkarray array = Volkarray::sevt;
-  int index = 0;  // within its array
-  QString feld;   // of Bienenvolk
-  QString beschriftung;
-  Art art = Art::Text;
-  int maxLaenge = 0;         // characters
-  int nachkommastellen = 0;  // Dezimal and Waehrung
-  QString einheit;           // shown behind the input; may be empty
-  QString listenTabelle;     // where the pick list comes from; empty: no pick list
-  int gruppe = 0;            // index into volkgruppen()
-  qint64 bis = 0;            // Ganzzahl: greatest number
-
-  // The statement of the pick list; empty without one.
-  QString listenAnweisung() const;
+  int index = 0;   // within its array
+  int gruppe = 0;  // index into volkgruppen()
 };
 
 // A frame on the form: its caption, its tab and its column there. Frames of a column stand below

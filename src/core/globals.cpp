@@ -19,11 +19,11 @@ QString DateiErgebnis;
 int BildAnhalten = 0;
 bool SammelFolgevolk = false;
 
-std::array<qint16, 101> EinstellungenZahl{};
-std::array<float, 11> EinstellungenWert{};
-std::array<QString, 61> EinstellungenText;
+Slotspeicher<qint16, Zahlslot, 101> EinstellungenZahl{};
+Slotspeicher<float, Wertslot, 11> EinstellungenWert{};
+Slotspeicher<QString, Textslot, 61> EinstellungenText;
 
-void zuruecksetzen() {
+void zurücksetzen() {
   DB.Close();
   Arbeitsbereich.Close();
   for (QString* text : {&AppPfad, &DatenbankPfad, &HeuteText, &AktVolkID, &VolkModus, &FormModus,

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QString>
-#include <array>
 
+#include "core/slots.h"
 #include "platform/database/Datenbank.h"
 
 // The program's global state. Forms talk to one another only through it and through the database:
@@ -30,11 +30,12 @@ extern QString DateiErgebnis;  // file chosen in a file form; empty after Cancel
 extern int BildAnhalten;       // 1 while a run moves the main list through several colonies
 extern bool SammelFolgevolk;   // set from the second colony of a booking run on
 
-extern std::array<qint16, 101> EinstellungenZahl;
-extern std::array<float, 11> EinstellungenWert;
-extern std::array<QString, 61> EinstellungenText;
+// The settings; their places have names (core/slots.h).
+extern Slotspeicher<qint16, Zahlslot, 101> EinstellungenZahl;
+extern Slotspeicher<float, Wertslot, 11> EinstellungenWert;
+extern Slotspeicher<QString, Textslot, 61> EinstellungenText;
 
 // Everything as it is before the start; for the start itself and for tests.
-void zuruecksetzen();
+void zurücksetzen();
 
 }  // namespace TZ_Variablen

@@ -16,14 +16,14 @@ bool istUnterstrichen(const QStringList& zeilen, qsizetype nummer, QChar strich)
 // Builds the text block by block; neighbouring lines of the same kind share a block.
 class HtmlBauer {
  public:
-  void ueberschrift(const QString& text, const char* marke) {
-    schliessen();
+  void überschrift(const QString& text, const char* marke) {
+    schließen();
     const QString name = QString::fromLatin1(marke);
     m_html += QStringLiteral("<%1>%2</%1>\n").arg(name, text.toHtmlEscaped());
   }
   void zeile(const QString& text, const char* block) {
     if (m_offen != QLatin1String(block)) {
-      schliessen();
+      schließen();
       m_offen = QLatin1String(block);
       m_html += QStringLiteral("<%1>").arg(m_offen);
     } else if (m_offen == QLatin1String("pre")) {
@@ -34,7 +34,7 @@ class HtmlBauer {
     const QString inhalt = text.toHtmlEscaped();
     m_html += m_offen == QLatin1String("ul") ? QStringLiteral("<li>%1</li>").arg(inhalt) : inhalt;
   }
-  void schliessen() {
+  void schließen() {
     if (!m_offen.isEmpty()) m_html += QStringLiteral("</%1>\n").arg(m_offen);
     m_offen.clear();
   }
@@ -70,13 +70,13 @@ QString alsHtml(const QStringList& zeilen) {
   for (qsizetype i = 0; i < zeilen.size(); ++i) {
     const QString& zeile = zeilen[i];
     if (istUnterstrichen(zeilen, i, u'=')) {
-      bauer.ueberschrift(zeile.trimmed(), "h2");
+      bauer.überschrift(zeile.trimmed(), "h2");
       ++i;
     } else if (istUnterstrichen(zeilen, i, u'-')) {
-      bauer.ueberschrift(zeile.trimmed(), "h3");
+      bauer.überschrift(zeile.trimmed(), "h3");
       ++i;
     } else if (zeile.trimmed().isEmpty()) {
-      bauer.schliessen();
+      bauer.schließen();
     } else if (zeile.startsWith(QStringLiteral("- "))) {
       bauer.zeile(zeile.mid(2).trimmed(), "ul");
     } else if (zeile.startsWith(QStringLiteral("  "))) {
@@ -85,7 +85,7 @@ QString alsHtml(const QStringList& zeilen) {
       bauer.zeile(zeile.trimmed(), "p");
     }
   }
-  bauer.schliessen();
+  bauer.schließen();
   return bauer.html();
 }
 

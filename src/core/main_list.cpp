@@ -11,7 +11,7 @@ class LeereListe : public Hauptliste {
   QList<int> markierteZeilen() const override { return {}; }
   void setMarkierteZeilen(const QList<int>&) override {}
   QString zelle(int, const QString&) const override { return {}; }
-  void loescheZeile(int) override {}
+  void löscheZeile(int) override {}
   void datenvölkerlesen() override {}
 };
 

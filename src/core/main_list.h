@@ -18,7 +18,7 @@ class Hauptliste {
   // The cell as the list shows it; empty for a column that the configured list doesn't have.
   virtual QString zelle(int zeile, const QString& spalte) const = 0;
   // Deletes the row and the Bienenvolk row behind it.
-  virtual void loescheZeile(int zeile) = 0;
+  virtual void löscheZeile(int zeile) = 0;
   // Reads the list anew from the database.
   virtual void datenvölkerlesen() = 0;
 };

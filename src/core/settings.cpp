@@ -40,34 +40,81 @@ QString eineZeile(const QString& text) {
   return zeile;
 }
 
-// Takes the lines one by one into the slots; a bad line ends it.
-void zeilenLesen(const QStringList& zeilen) {
-  auto zeile = zeilen.cbegin();
-  for (qint16& platz : EinstellungenZahl) {
-    if (zeile == zeilen.cend()) return;
-    const auto zahl = ganzzahl(*zeile++);
-    if (!zahl) return;
-    platz = *zahl;
-  }
-  for (float& platz : EinstellungenWert) {
-    if (zeile == zeilen.cend()) return;
-    const auto zahl = wert(*zeile++);
-    if (!zahl) return;
-    platz = *zahl;
-  }
-  for (QString& platz : EinstellungenText) {
-    if (zeile == zeilen.cend()) return;
-    platz = *zeile++;
-  }
+// The encoding that the mark at a file's beginning tells; empty without one.
+QString fremdeCodierung(const QByteArray& bytes) {
+  if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF")) return QStringLiteral("UTF-16");
+  return bytes.startsWith("\xEF\xBB\xBF") ? QStringLiteral("UTF-8") : QString();
 }
+
+// What stands in a line, as far as it can be shown.
+QString gezeigt(const QString& zeile) {
+  constexpr qsizetype Länge = 40;
+  QString text = zeile.left(Länge);
+  for (QChar& zeichen : text)
+    if (!zeichen.isPrint()) zeichen = u'?';
+  return u'\u201E' + text + (zeile.size() > Länge ? QStringLiteral("...") : QString()) + u'\u201C';
+}
+
+// The lines of the file, one after the other, until one can't be read.
+class Zeilenleser {
+ public:
+  explicit Zeilenleser(const QString& pfad) : m_zeilen(Textdatei::lesen(pfad)) {
+    const QString codierung = fremdeCodierung(Textdatei::bytesLesen(pfad));
+    if (!codierung.isEmpty())
+      abbrechen(QStringLiteral("Die Datei ist in der Codierung %1 gespeichert statt in "
+                               "Windows-1252 (ANSI).")
+                    .arg(codierung));
+  }
+
+  void nimm(qint16& platz) {
+    nimm(platz, ganzzahl, QStringLiteral("keine ganze Zahl von -32768 bis 32767"));
+  }
+  void nimm(float& platz) { nimm(platz, wert, QStringLiteral("keine Zahl")); }
+  void nimm(QString& platz) {
+    nimm(platz, [](const QString& zeile) { return std::optional(zeile); }, {});
+  }
+
+  const std::optional<Einstellungsbruch>& bruch() const { return m_bruch; }
+
+ private:
+  void abbrechen(const QString& grund) { m_bruch = {static_cast<int>(m_nummer) + 1, grund}; }
+
+  template <typename Zelle, typename Lesart>
+  void nimm(Zelle& platz, Lesart lesart, const QString& sonst) {
+    if (m_bruch) return;
+    if (m_nummer == m_zeilen.size()) {
+      abbrechen(m_zeilen.isEmpty() ? QStringLiteral("Die Datei ist leer.")
+                                   : QStringLiteral("Die Datei endet vorher."));
+      return;
+    }
+    const QString& zeile = m_zeilen[m_nummer];
+    if (const auto gelesen = lesart(zeile)) {
+      platz = *gelesen;
+      ++m_nummer;
+    } else {
+      abbrechen(QStringLiteral("Dort steht %1, das ist %2.").arg(gezeigt(zeile), sonst));
+    }
+  }
+
+  QStringList m_zeilen;
+  qsizetype m_nummer = 0;  // lines read
+  std::optional<Einstellungsbruch> m_bruch;
+};
 
 }  // namespace
 
-void EinstellungenLesen() {
-  if (!Textdatei::existiert(pfad())) return;
-  zeilenLesen(Textdatei::lesen(pfad()));
-  if (EinstellungenText[4].isEmpty()) EinstellungenText[4] = TrennzeichenStandard;
+std::optional<Einstellungsbruch> EinstellungenLesen() {
+  if (!Textdatei::existiert(pfad())) return std::nullopt;
+  Zeilenleser zeilen(pfad());
+  for (qint16& platz : EinstellungenZahl) zeilen.nimm(platz);
+  for (float& platz : EinstellungenWert) zeilen.nimm(platz);
+  for (QString& platz : EinstellungenText) zeilen.nimm(platz);
+  QString& trenner = EinstellungenText[Textslots.trennzeichen];
+  if (trenner.isEmpty()) trenner = TrennzeichenStandard;
+  return zeilen.bruch();
 }
+
+void EinstellungenAufheben() { Textdatei::kopieren(pfad(), pfad() + QStringLiteral(".alt")); }
 
 void EinstellungenSchreiben() {
   QStringList zeilen;
@@ -80,24 +127,16 @@ void EinstellungenSchreiben() {
 }
 
 void EinstellungenStandard(QDate heute) {
-  EinstellungenZahl[13] = 1;
-  EinstellungenZahl[17] = 14;
-  EinstellungenZahl[24] = 1;
-  EinstellungenZahl[28] = static_cast<qint16>(heute.year());
-  EinstellungenZahl[46] = 1;
-  EinstellungenZahl[47] = 1;
-  EinstellungenZahl[49] = 60;
-  EinstellungenZahl[50] = 14;
-  EinstellungenZahl[55] = 1;
-  EinstellungenZahl[57] = 1;
-  EinstellungenText[4] = TrennzeichenStandard;
+  for (const Zahlslot& slot : zahlslots())
+    EinstellungenZahl[slot] =
+        static_cast<qint16>(slot.standard == LaufendesJahr ? heute.year() : slot.standard);
+  for (const Wertslot& slot : wertslots()) EinstellungenWert[slot] = 0;
+  for (const Textslot& slot : textslots())
+    EinstellungenText[slot] = QString::fromUtf16(slot.standard);
 }
 
-void MehrwertsteuerPruefen() {
-  if (EinstellungenZahl[44] < 1 || EinstellungenZahl[44] > 50) EinstellungenZahl[44] = 19;
-  if (EinstellungenZahl[45] < 1 || EinstellungenZahl[45] > 50) EinstellungenZahl[45] = 7;
-}
-
-void WabenJeMagazinPruefen() {
-  if (EinstellungenZahl[56] < 8 || EinstellungenZahl[56] > 16) EinstellungenZahl[56] = 10;
+void EinstellungenPrüfen() {
+  for (const Zahlslot& slot : zahlslots())
+    if (slot.reparatur == Reparatur::AuchStart)
+      EinstellungenZahl[slot] = static_cast<qint16>(slot.grenzen.begrenzt(EinstellungenZahl[slot]));
 }

@@ -10,6 +10,13 @@ using TZ_Variablen::CRLF;
 
 namespace Verwaltung {
 
+namespace {
+
+// The characters of a whole number, its sign included.
+int stellen(qint64 zahl) { return static_cast<int>(QString::number(zahl).size()); }
+
+}  // namespace
+
 Feld Feld::vorgabe(const QString& text) const {
   Feld neu = *this;
   neu.ersterText = text;
@@ -22,6 +29,22 @@ Feld Feld::liste(const QString& anweisung) const {
   return neu;
 }
 
+Feld Feld::listeAus(const QString& tabelle) const {
+  return liste("select distinct " + feld + " from " + tabelle + " order by " + feld);
+}
+
+Feld Feld::genannt(const QString& name) const {
+  Feld neu = *this;
+  neu.gesprochen = name;
+  return neu;
+}
+
+Feld Feld::daneben(const QString& name) const {
+  Feld neu = genannt(name);
+  neu.beschriftung.clear();
+  return neu;
+}
+
 Feld Feld::angebot(const QStringList& angebotene) const {
   Feld neu = *this;
   neu.texte = angebotene;
@@ -30,7 +53,7 @@ Feld Feld::angebot(const QStringList& angebotene) const {
 
 Feld Feld::knapp() const {
   Feld neu = *this;
-  neu.ohneFuellnullen = true;
+  neu.ohneFüllnullen = true;
   return neu;
 }
 
@@ -50,14 +73,15 @@ Feld Feld::gezeigt() const {
   return neu;
 }
 
-Feld Feld::ohneNull() const {
+Feld Feld::ab(qint64 kleinste) const {
   Feld neu = *this;
-  neu.nullVerboten = true;
+  neu.von = kleinste;
+  neu.maxLänge = std::max(neu.maxLänge, stellen(kleinste));
   return neu;
 }
 
-Feld text(const QString& feld, const QString& beschriftung, int laenge) {
-  return {Art::Text, feld, beschriftung, laenge};
+Feld text(const QString& feld, const QString& beschriftung, int länge) {
+  return {Art::Text, feld, beschriftung, länge};
 }
 
 Feld auswahl(const QString& feld, const QString& beschriftung, const QStringList& texte) {
@@ -65,11 +89,21 @@ Feld auswahl(const QString& feld, const QString& beschriftung, const QStringList
 }
 
 Feld ganzzahl(const QString& feld, const QString& beschriftung, qint64 bis) {
-  return {Art::Ganzzahl, feld, beschriftung, static_cast<int>(QString::number(bis).size()), 0, bis};
+  return {Art::Ganzzahl, feld, beschriftung, stellen(bis), 0, bis};
 }
 
-Feld dezimal(const QString& feld, const QString& beschriftung, int laenge, int nachkommastellen) {
-  return {Art::Dezimal, feld, beschriftung, laenge, nachkommastellen};
+Feld dezimal(const QString& feld, const QString& beschriftung, int länge, int nachkommastellen) {
+  return {Art::Dezimal, feld, beschriftung, länge, nachkommastellen};
+}
+
+Feld geld(const QString& feld, const QString& beschriftung, int länge) {
+  return dezimal(feld, beschriftung, länge, 2).einheit("€");
+}
+
+Feld notiz(const QString& feld, const QString& name) {
+  Feld neu{Art::Notiz, feld, {}};
+  neu.gesprochen = name;
+  return neu;
 }
 
 Feld datum(const QString& feld, const QString& beschriftung) {
@@ -80,6 +114,12 @@ Feld tagMonat(const QString& feld, const QString& beschriftung) {
   return {Art::TagMonat, feld, beschriftung};
 }
 
+Feld Feld::wörtlich() const {
+  Feld neu = *this;
+  neu.unverändert = true;
+  return neu;
+}
+
 Texte vorgaben(const Felder& felder) {
   Texte texte;
   for (const Feld& feld : felder) texte[feld.feld] = feld.ersterText;
@@ -88,11 +128,13 @@ Texte vorgaben(const Felder& felder) {
 
 QString feldtext(const Feld& feld, const QVariant& wert) {
   if (wert.isNull()) return {};
+  if (feld.unverändert) return wert.toString();
   if (feld.art != Art::Dezimal) return TextLesen(wert);
   QString genau = Deutsch::schlicht(wert.toDouble());
-  if (feld.ohneFuellnullen) return genau;
+  if (feld.ohneFüllnullen) return genau;
   const QString gerundet = Deutsch::zahl(wert.toDouble(), feld.nachkommastellen);
-  return ZahlLesenDoppelt(gerundet) == ZahlLesenDoppelt(genau) ? gerundet : genau;
+  const bool passt = feld.maxLänge == 0 || gerundet.size() <= feld.maxLänge;
+  return passt && ZahlLesenDoppelt(gerundet) == ZahlLesenDoppelt(genau) ? gerundet : genau;
 }
 
 QVariant feldwert(const Feld& feld, const QString& text) {
@@ -106,9 +148,10 @@ QVariant feldwert(const Feld& feld, const QString& text) {
     case Art::Text:
     case Art::Auswahl:
     case Art::TagMonat:
+    case Art::Notiz:
       break;
   }
-  return TextLesen(text);
+  return feld.unverändert ? text : TextLesen(text);
 }
 
 QStringList pickliste(Database& datenbank, const Feld& feld) {
@@ -137,10 +180,12 @@ qint64 speichern(Database& datenbank, const QString& tabelle, const Felder& feld
   return id ? *id : datenbank.LetzteID();
 }
 
-bool vorhanden(Database& datenbank, const QString& tabelle, const QString& feld,
-               const QString& text, std::optional<qint64> id) {
-  QString anweisung = "select " + feld + " from " + tabelle + " where " + feld + " = ?";
-  QVariantList werte{TextLesen(text)};
+bool vorhanden(Database& datenbank, const QString& tabelle, const Feld& feld, const QString& text,
+               std::optional<qint64> id) {
+  const QVariant wert = feldwert(feld, text);
+  if (wert.isNull()) return false;
+  QString anweisung = "select " + feld.feld + " from " + tabelle + " where " + feld.feld + " = ?";
+  QVariantList werte{wert};
   if (id) {
     anweisung += " and ID <> ?";
     werte << *id;
@@ -148,8 +193,8 @@ bool vorhanden(Database& datenbank, const QString& tabelle, const QString& feld,
   return datenbank.Lesen(anweisung, werte)->zeilen() > 0;
 }
 
-QString ablehnung(const QStringList& gruende) {
-  return "Die Daten werden nicht gespeichert, weil..." + CRLF + CRLF + gruende.join(CRLF);
+QString ablehnung(const QStringList& gründe) {
+  return "Die Daten werden nicht gespeichert, weil..." + CRLF + CRLF + gründe.join(CRLF);
 }
 
 }  // namespace Verwaltung

@@ -162,10 +162,11 @@ QString nachPunkten(const QString& text) {
 }  // namespace
 
 double ZahlLesenDoppelt(const QVariant& wert) {
-  // A whole number from a field comes out of the steps below as it is, without its sign.
-  if (wert.typeId() == QMetaType::LongLong)
-    if (const qint64 ganz = wert.toLongLong(); std::abs(ganz) < 1'000'000'000)
-      return static_cast<double>(std::abs(ganz));
+  // A number comes out of the steps below as it is, without its sign.
+  if (const auto zahl = alsZahl(wert)) {
+    const double betrag = std::fabs(*zahl);
+    return betrag < std::numeric_limits<double>::max() ? betrag : 0;  // nor what is no number
+  }
   QString text = alsText(wert);
   if (text.endsWith(u'.')) text.chop(1);
   ersetzeErstes(text, u',', u'.');

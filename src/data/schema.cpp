@@ -209,7 +209,10 @@ const std::vector<Vereinbarung> vereinbarungen = {
      "Bemerkung TEXT (30), ID COUNTER",
      {{"dibverschluss1", "Verschlussnr"}, {"dibverschluss2", "Charge"},
       {"dibverschluss3", "Kunde"}, {"dibverschluss4", "Datum"}, {"dibverschluss5", "Bemerkung"},
-      {"dibverschluss6", "ID"}}}
+      {"dibverschluss6", "ID"}}},
+    // The program's own: colonies whose summary is still to be written (bookings/Zusammenfassung).
+    {"Zusammenfassung_offen", "Volk_ID LONG, ID COUNTER",
+     {{"zusammenfassung_offen1", "Volk_ID"}}}
 };
 // clang-format on
 
@@ -252,7 +255,7 @@ QStringList startoptionen() {
     const char* start;
     int frist;
     const char* ende;
-    const char* volkabhaengig;
+    const char* volkabhängig;
     const char* buchung;
   };
   static const Option optionen[] = {
@@ -283,7 +286,7 @@ QStringList startoptionen() {
                        "Auto_erledigt_Arbeitsart) values ('%1', '%2', %3, '%4', '%5', '%6', '')")
                        .arg(QString(o.arbeit), QString(o.start))
                        .arg(o.frist)
-                       .arg(QString(o.ende), QString(o.volkabhaengig), QString(o.buchung));
+                       .arg(QString(o.ende), QString(o.volkabhängig), QString(o.buchung));
   return anweisungen;
 }
 

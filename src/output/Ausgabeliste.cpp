@@ -4,24 +4,24 @@
 
 #include "core/globals.h"
 
-Ausgabeliste::Ausgabeliste(Daten daten, QStringList ueberschriften)
-    : m_daten(std::move(daten)), m_ueberschriften(std::move(ueberschriften)) {
+Ausgabeliste::Ausgabeliste(Daten daten, QStringList überschriften)
+    : m_daten(std::move(daten)), m_überschriften(std::move(überschriften)) {
   m_ordnung.resize(m_daten ? static_cast<size_t>(m_daten->zeilen()) : 0);
   std::iota(m_ordnung.begin(), m_ordnung.end(), 0);
 }
 
-Ausgabeliste::Ausgabeliste(Daten daten, QStringList ueberschriften, std::vector<int> ordnung)
+Ausgabeliste::Ausgabeliste(Daten daten, QStringList überschriften, std::vector<int> ordnung)
     : m_daten(std::move(daten)),
-      m_ueberschriften(std::move(ueberschriften)),
+      m_überschriften(std::move(überschriften)),
       m_ordnung(std::move(ordnung)) {}
 
-QString Ausgabeliste::ueberschrift(int spalte) const {
-  return m_ueberschriften.value(spalte, m_daten->spalte(spalte).name);
+QString Ausgabeliste::überschrift(int spalte) const {
+  return m_überschriften.value(spalte, m_daten->spalte(spalte).name);
 }
 
-QStringList Ausgabeliste::ueberschriften() const {
+QStringList Ausgabeliste::überschriften() const {
   QStringList alle;
-  for (int i = 0; i < spalten(); ++i) alle += ueberschrift(i);
+  for (int i = 0; i < spalten(); ++i) alle += überschrift(i);
   return alle;
 }
 
@@ -34,7 +34,7 @@ bool Ausgabeliste::istTrennzeile(int zeile) const {
 Listenkopf listenkopf() {
   using namespace TZ_Variablen;
   Listenkopf kopf;
-  if (EinstellungenZahl[46] == 1) kopf.datum = HeuteText;
-  kopf.kopftext = EinstellungenText[0];
+  if (EinstellungenZahl[Zahlslots.datumAlsListenkopf] == 1) kopf.datum = HeuteText;
+  kopf.kopftext = EinstellungenText[Textslots.kopftext];
   return kopf;
 }

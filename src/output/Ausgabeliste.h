@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "platform/database/Datenblock.h"
+#include "platform/database/werte/Datenblock.h"
 
 // Told now and then how much of a long run is done; empty where nobody wants to know.
 using Fortschritt = std::function<void(int fertig, int gesamt)>;
@@ -17,22 +17,22 @@ class Ausgabeliste {
 
   Ausgabeliste() = default;  // no row, no column
   // All rows as they lie. A column without a caption is called by its name.
-  explicit Ausgabeliste(Daten daten, QStringList ueberschriften = {});
+  explicit Ausgabeliste(Daten daten, QStringList überschriften = {});
   // Only these rows of the block, in this order.
-  Ausgabeliste(Daten daten, QStringList ueberschriften, std::vector<int> ordnung);
+  Ausgabeliste(Daten daten, QStringList überschriften, std::vector<int> ordnung);
 
   const Daten& daten() const { return m_daten; }
   int zeilen() const { return static_cast<int>(m_ordnung.size()); }
   int spalten() const { return m_daten ? m_daten->spalten() : 0; }
   int blockzeile(int zeile) const { return m_ordnung[static_cast<size_t>(zeile)]; }
-  QString ueberschrift(int spalte) const;
-  QStringList ueberschriften() const;
+  QString überschrift(int spalte) const;
+  QStringList überschriften() const;
   // A row whose first cell is ".": an evaluation has put it between two groups.
   bool istTrennzeile(int zeile) const;
 
  private:
   Daten m_daten;
-  QStringList m_ueberschriften;
+  QStringList m_überschriften;
   std::vector<int> m_ordnung;
 };
 

@@ -15,7 +15,7 @@ using Form = Tabellenblatt::Form;
 constexpr int Schritt = 500;          // rows between two reports of progress
 constexpr int GemesseneZeilen = 500;  // for the widths
 constexpr qsizetype KleinsteBreite = 8;
-constexpr qsizetype GroessteBreite = 50;
+constexpr qsizetype GrößteBreite = 50;
 
 // Control characters can't stand in a sheet, besides tab and line breaks.
 void bereinigt(std::string& text) {
@@ -56,11 +56,11 @@ std::vector<bool> zahlenspalten(const Ausgabeliste& liste) {
 
 double breite(const Ausgabeliste& liste, int spalte, bool zahlen) {
   constexpr qsizetype Zahlenzusatz = 4;  // groups and decimals
-  qsizetype laenge = liste.ueberschrift(spalte).size();
+  qsizetype länge = liste.überschrift(spalte).size();
   for (int i = 0; i < std::min(liste.zeilen(), GemesseneZeilen); ++i)
-    laenge = std::max(laenge, liste.daten()->anzeige(liste.blockzeile(i), spalte).size() +
-                                  (zahlen ? Zahlenzusatz : 0));
-  return static_cast<double>(std::clamp(laenge, KleinsteBreite, GroessteBreite)) + 2;
+    länge = std::max(länge, liste.daten()->anzeige(liste.blockzeile(i), spalte).size() +
+                                (zahlen ? Zahlenzusatz : 0));
+  return static_cast<double>(std::clamp(länge, KleinsteBreite, GrößteBreite)) + 2;
 }
 
 class Schreiber {
@@ -84,7 +84,7 @@ class Schreiber {
       m_zeile += 2;
     }
     for (int i = 0; i < m_liste.spalten(); ++i)
-      m_blatt.text(m_zeile, i, bereinigt(m_liste.ueberschrift(i)).c_str(),
+      m_blatt.text(m_zeile, i, bereinigt(m_liste.überschrift(i)).c_str(),
                    istZahl(i) ? Form::FettRechts : Form::Fett);
     m_blatt.setKopfzeile(m_zeile++);
   }
@@ -106,7 +106,7 @@ class Schreiber {
       return;
     }
     m_text.clear();
-    Zelltext::anhaengen(m_text, daten, block, spalte);
+    Zelltext::anhängen(m_text, daten, block, spalte);
     bereinigt(m_text);
     if (m_text.empty()) return;
     m_blatt.text(m_zeile, spalte, m_text.c_str(), istZahl(spalte) ? Form::Rechts : Form::Standard);
@@ -119,7 +119,7 @@ class Schreiber {
   int m_zeile = 0;
 };
 
-void groessePruefen(const Ausgabeliste& liste) {
+void größePrüfen(const Ausgabeliste& liste) {
   constexpr int Kopfzeilen = 5;
   if (liste.spalten() > Tabellenblatt::MaxSpalten ||
       liste.zeilen() > Tabellenblatt::MaxZeilen - Kopfzeilen)
@@ -138,7 +138,7 @@ QString datei() { return TZ_Variablen::AppPfad + QStringLiteral("tova_liste.xlsx
 
 void schreiben(const QString& pfad, const Ausgabeliste& liste, const Listenkopf& kopf,
                const Fortschritt& fortschritt) {
-  groessePruefen(liste);
+  größePrüfen(liste);
   Tabellenblatt blatt(pfad, QStringLiteral("Liste"));
   Schreiber schreiber(blatt, liste);
   schreiber.spalten();

@@ -12,14 +12,8 @@ using namespace TZ_Variablen;
 
 namespace {
 
-constexpr int SlotQuer = 18;
-constexpr int SlotFett = 19;
-constexpr int SlotKursiv = 20;
-constexpr int SlotGroesse = 22;
-constexpr int SlotRand = 23;
-
-constexpr int GroessterRand = 30;  // that the field takes
-constexpr int GroessterRandBeimLaden = 20;
+constexpr int GrößterRand = 30;  // that the field takes
+constexpr int GrößterRandBeimLaden = 20;
 constexpr int Tabulator = 8;
 const QString Einzug = QStringLiteral("  ");
 
@@ -38,8 +32,8 @@ QString ohneTabulator(const QString& zeile) {
 // Where a text that fits up to "platz" is cut: behind the last blank of its right half, else there.
 qsizetype schnitt(const QString& text, qsizetype vorspann, qsizetype platz) {
   if (text[platz] == u' ') return platz;
-  const qsizetype frueheste = vorspann + (platz - vorspann) / 2;
-  for (qsizetype i = platz; i > frueheste; --i)
+  const qsizetype früheste = vorspann + (platz - vorspann) / 2;
+  for (qsizetype i = platz; i > früheste; --i)
     if (text[i - 1] == u' ') return i;
   return platz;
 }
@@ -56,7 +50,7 @@ namespace Textausgabe {
 
 void listeSchreiben(const QStringList& zeilen) {
   AusgabeDatei = Textliste::datei();
-  Textdatei::schreiben(AusgabeDatei, zeilen);
+  Textdatei::flüchtigSchreiben(AusgabeDatei, zeilen);
 }
 
 Anzeige lesen(const QString& pfad) {
@@ -64,7 +58,7 @@ Anzeige lesen(const QString& pfad) {
   for (const QString& zeile : Textdatei::lesen(pfad)) {
     anzeige.text += zeile + CRLF;
     if (anzeige.text.size() > MeisteZeichen) {
-      anzeige.zuGross = true;
+      anzeige.zuGroß = true;
       break;
     }
   }
@@ -75,7 +69,7 @@ QString fehltText(const QString& pfad) {
   return QStringLiteral("Die Datei ") + pfad + QStringLiteral(" existiert nicht");
 }
 
-QString zuGrossText() {
+QString zuGroßText() {
   return "ACHTUNG:" + CRLF + CRLF +
          "Der Text ist über 32 kB groß. Es ist deshalb u.U. nicht alles im Textfeld enthalten. "
          "Beim Ausdruck mit 'Datei drucken' werden trotzdem alle Daten ausgedruckt!";
@@ -92,36 +86,36 @@ bool schriftUnpassend(const QString& name) { return !name.startsWith(QStringLite
 
 Einstellungen laden() {
   Einstellungen e;
-  e.quer = EinstellungenZahl[SlotQuer] != 0;
-  e.fett = EinstellungenZahl[SlotFett] != 0;
-  e.kursiv = EinstellungenZahl[SlotKursiv] != 0;
-  const int groesse = EinstellungenZahl[SlotGroesse];
-  if (groesse >= KleinsteGroesse && groesse <= GroessteGroesse) e.groesse = groesse;
-  e.rand = std::clamp<int>(EinstellungenZahl[SlotRand], 0, GroessterRandBeimLaden);
+  e.quer = EinstellungenZahl[Zahlslots.textQuer] != 0;
+  e.fett = EinstellungenZahl[Zahlslots.textFett] != 0;
+  e.kursiv = EinstellungenZahl[Zahlslots.textKursiv] != 0;
+  const int größe = EinstellungenZahl[Zahlslots.textGröße];
+  if (größe >= KleinsteGröße && größe <= GrößteGröße) e.größe = größe;
+  e.rand = std::clamp<int>(EinstellungenZahl[Zahlslots.textRand], 0, GrößterRandBeimLaden);
   return e;
 }
 
 void sichern(const Einstellungen& e) {
-  EinstellungenZahl[SlotQuer] = e.quer ? 1 : 0;
-  EinstellungenZahl[SlotFett] = e.fett ? 1 : 0;
-  EinstellungenZahl[SlotKursiv] = e.kursiv ? 1 : 0;
-  EinstellungenZahl[SlotGroesse] = static_cast<qint16>(e.groesse);
-  EinstellungenZahl[SlotRand] = static_cast<qint16>(e.rand);
+  EinstellungenZahl[Zahlslots.textQuer] = e.quer ? 1 : 0;
+  EinstellungenZahl[Zahlslots.textFett] = e.fett ? 1 : 0;
+  EinstellungenZahl[Zahlslots.textKursiv] = e.kursiv ? 1 : 0;
+  EinstellungenZahl[Zahlslots.textGröße] = static_cast<qint16>(e.größe);
+  EinstellungenZahl[Zahlslots.textRand] = static_cast<qint16>(e.rand);
 }
 
-int groesseNach(int groesse, int schritt) {
-  return std::clamp(groesse + schritt, KleinsteStufe, GroessteStufe);
+int größeNach(int größe, int schritt) {
+  return std::clamp(größe + schritt, KleinsteStufe, GrößteStufe);
 }
 
 QString randNachTippen(const QString& text) {
   const double zahl = Deutsch::val(text);
   if (zahl < 0) return QStringLiteral("0");
-  if (zahl > GroessterRand) return QString::number(GroessterRand);
+  if (zahl > GrößterRand) return QString::number(GrößterRand);
   return text;
 }
 
 int rand(const QString& text) {
-  return static_cast<int>(std::clamp(Deutsch::val(text), 0.0, double(GroessterRand)));
+  return static_cast<int>(std::clamp(Deutsch::val(text), 0.0, double(GrößterRand)));
 }
 
 bool istSeitenwechsel(const QString& zeile, Druckweg weg) {
@@ -176,7 +170,7 @@ QList<QStringList> seiten(const QStringList& zeilen, Druckweg weg, int rand, int
 
 QString druckaufSchreiben(const QString& text) {
   QString pfad = QDir::current().filePath(QStringLiteral("DRUCKAUF.TXT"));
-  Textdatei::schreibenGanz(pfad, text);
+  Textdatei::flüchtigSchreibenGanz(pfad, text);
   return pfad;
 }
 

@@ -9,26 +9,26 @@
 namespace Textausgabe {
 
 inline constexpr int MeisteZeichen = 32000;  // of the text field
-inline constexpr int UeblicheGroesse = 10;   // points, where no size is kept
-inline constexpr int KleinsteGroesse = 8;    // of the list and of a kept size
-inline constexpr int GroessteGroesse = 48;
+inline constexpr int ÜblicheGröße = 10;      // points, where no size is kept
+inline constexpr int KleinsteGröße = 8;      // of the list and of a kept size
+inline constexpr int GrößteGröße = 48;
 inline constexpr int KleinsteStufe = 4;  // by the buttons
-inline constexpr int GroessteStufe = 30;
+inline constexpr int GrößteStufe = 30;
 
 // For the callers: writes the lines as LISTE.TXT in AppPfad and sets AusgabeDatei to it. Throws
 // Dateifehler; the form must then not be opened, since it would show an older list.
 void listeSchreiben(const QStringList& zeilen);
 
 struct Anzeige {
-  QString text;          // each line with CR LF behind it
-  bool zuGross = false;  // the reading was stopped, or the last line went beyond the limit
+  QString text;         // each line with CR LF behind it
+  bool zuGroß = false;  // the reading was stopped, or the last line went beyond the limit
 };
 // Adds line after line until the text is longer than the limit. Throws Dateifehler.
 Anzeige lesen(const QString& pfad);
 
 // What the user is told.
 QString fehltText(const QString& pfad);
-QString zuGrossText();
+QString zuGroßText();
 QString schriftHinweis();
 // True for a font with which the columns of a list don't stand below each other.
 bool schriftUnpassend(const QString& name);
@@ -38,14 +38,14 @@ struct Einstellungen {
   bool quer = false;
   bool fett = false;
   bool kursiv = false;
-  int groesse = UeblicheGroesse;  // points
-  int rand = 0;                   // characters
+  int größe = ÜblicheGröße;  // points
+  int rand = 0;              // characters
 };
 Einstellungen laden();
 void sichern(const Einstellungen& einstellungen);
 
 // The size after a press on a button.
-int groesseNach(int groesse, int schritt);
+int größeNach(int größe, int schritt);
 // What the margin's field holds after typing: below 0 gives "0", above 30 gives "30".
 QString randNachTippen(const QString& text);
 int rand(const QString& text);

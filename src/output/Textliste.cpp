@@ -36,7 +36,7 @@ bool istSchlicht(const std::string& text) {
 }
 
 // One line in the code page, in which a character is a byte.
-void fuerDieListe(std::string& text) {
+void fürDieListe(std::string& text) {
   if (istSchlicht(text)) return;
   einzeilig(text);
   const QByteArray bytes =
@@ -46,7 +46,7 @@ void fuerDieListe(std::string& text) {
 
 std::string codepage(const QString& text) {
   std::string bytes = text.toStdString();
-  fuerDieListe(bytes);
+  fürDieListe(bytes);
   return bytes;
 }
 
@@ -54,9 +54,9 @@ std::string codepage(const QString& text) {
 class Zellen {
  public:
   Zellen(const Ausgabeliste& liste, int spalten) : m_liste(liste), m_spalten(spalten) {
-    m_laengen.reserve(static_cast<size_t>(liste.zeilen()) * static_cast<size_t>(spalten));
+    m_längen.reserve(static_cast<size_t>(liste.zeilen()) * static_cast<size_t>(spalten));
     for (int i = 0; i < spalten; ++i) {
-      m_kopf.push_back(codepage(liste.ueberschrift(i)));
+      m_kopf.push_back(codepage(liste.überschrift(i)));
       m_breiten.push_back(m_kopf.back().size());
     }
   }
@@ -65,29 +65,29 @@ class Zellen {
     const int block = m_liste.blockzeile(zeile);
     for (int i = 0; i < m_spalten; ++i) {
       m_zelle.clear();
-      Zelltext::anhaengen(m_zelle, *m_liste.daten(), block, i);
-      fuerDieListe(m_zelle);
+      Zelltext::anhängen(m_zelle, *m_liste.daten(), block, i);
+      fürDieListe(m_zelle);
       m_texte += m_zelle;
       const auto nummer = static_cast<size_t>(i);
       m_breiten[nummer] = std::max(m_breiten[nummer], m_zelle.size());
       const bool rechts = Zelltext::zahl(*m_liste.daten(), block, i).has_value();
-      m_laengen.push_back(static_cast<quint32>(m_zelle.size()) << 1 | (rechts ? 1U : 0U));
+      m_längen.push_back(static_cast<quint32>(m_zelle.size()) << 1 | (rechts ? 1U : 0U));
     }
   }
 
   // The next row, in the order in which they were added.
   void zeileNach(std::string& ziel, const std::string& trenner, bool schreiben) {
     for (size_t i = 0; i < static_cast<size_t>(m_spalten); ++i) {
-      const quint32 was = m_laengen[m_naechste++];
-      const size_t laenge = was >> 1;
+      const quint32 was = m_längen[m_nächste++];
+      const size_t länge = was >> 1;
       if (schreiben) {
         if (i > 0) ziel += trenner;
-        const size_t blanks = m_breiten[i] - laenge;
+        const size_t blanks = m_breiten[i] - länge;
         if (was & 1) ziel.append(blanks, ' ');
-        ziel.append(m_texte, m_stelle, laenge);
+        ziel.append(m_texte, m_stelle, länge);
         if (!(was & 1)) ziel.append(blanks, ' ');
       }
-      m_stelle += laenge;
+      m_stelle += länge;
     }
     if (schreiben) ziel += Zeilenende;
   }
@@ -107,10 +107,10 @@ class Zellen {
   int m_spalten;
   std::vector<std::string> m_kopf;
   std::vector<size_t> m_breiten;
-  std::vector<quint32> m_laengen;  // twice the length, plus 1 for a number
+  std::vector<quint32> m_längen;  // twice the length, plus 1 for a number
   std::string m_texte;
   std::string m_zelle;
-  size_t m_naechste = 0;
+  size_t m_nächste = 0;
   size_t m_stelle = 0;
 };
 
@@ -121,8 +121,8 @@ namespace Textliste {
 QString datei() { return TZ_Variablen::AppPfad + QStringLiteral("LISTE.TXT"); }
 
 QString trennzeichen() {
-  const QString& gewaehlt = TZ_Variablen::EinstellungenText[4];
-  return gewaehlt.isEmpty() ? TrennzeichenStandard : gewaehlt;
+  const QString& gewählt = TZ_Variablen::EinstellungenText[Textslots.trennzeichen];
+  return gewählt.isEmpty() ? TrennzeichenStandard : gewählt;
 }
 
 void schreiben(const QString& pfad, const Ausgabeliste& liste, const Listenkopf& kopf,

@@ -18,8 +18,8 @@ constexpr std::string_view Arten = "TMKLSWDZA";
 constexpr std::string_view Kennung = "TOVA-Liste 1";
 constexpr int Schritt = 2000;  // rows between two reports of progress
 
-void entschaerft(std::string& ziel, const char* text, size_t laenge) {
-  const char* ende = text + laenge;
+void entschärft(std::string& ziel, const char* text, size_t länge) {
+  const char* ende = text + länge;
   while (text < ende) {
     const char* stelle = text;
     while (stelle < ende && *stelle != '\t' && *stelle != '\n' && *stelle != '\r' &&
@@ -35,9 +35,9 @@ void entschaerft(std::string& ziel, const char* text, size_t laenge) {
   }
 }
 
-void entschaerft(std::string& ziel, const QString& text) {
+void entschärft(std::string& ziel, const QString& text) {
   const QByteArray utf8 = text.toUtf8();
-  entschaerft(ziel, utf8.constData(), static_cast<size_t>(utf8.size()));
+  entschärft(ziel, utf8.constData(), static_cast<size_t>(utf8.size()));
 }
 
 // Null is "\N"; a cell of another kind than its column's is marked "\#" (number) or "\T" (text).
@@ -47,7 +47,7 @@ void zelle(std::string& ziel, const Datenblock& block, int zeile, int spalte, bo
   } else if (block.istText(zeile, spalte)) {
     if (zahlenspalte) ziel += "\\T";
     const QByteArrayView text = block.rohtext(zeile, spalte);
-    entschaerft(ziel, text.data(), static_cast<size_t>(text.size()));
+    entschärft(ziel, text.data(), static_cast<size_t>(text.size()));
   } else {
     if (!zahlenspalte) ziel += "\\#";
     std::array<char, 32> puffer{};
@@ -97,14 +97,14 @@ class Leser {
 };
 
 // Takes the next cell off the line.
-std::string_view naechste(std::string_view& zeile) {
+std::string_view nächste(std::string_view& zeile) {
   const size_t bis = zeile.find('\t');
   const std::string_view zelle = zeile.substr(0, bis);
   zeile.remove_prefix(bis == std::string_view::npos ? zeile.size() : bis + 1);
   return zelle;
 }
 
-std::string_view entschluesselt(std::string_view text, std::string& puffer) {
+std::string_view entschlüsselt(std::string_view text, std::string& puffer) {
   if (text.find('\\') == std::string_view::npos) return text;
   puffer.clear();
   for (size_t i = 0; i < text.size(); ++i) {
@@ -122,7 +122,7 @@ QStringList texte(std::string_view zeile, int anzahl) {
   QStringList alle;
   std::string puffer;
   for (int i = 0; i < anzahl; ++i) {
-    const std::string_view text = entschluesselt(naechste(zeile), puffer);
+    const std::string_view text = entschlüsselt(nächste(zeile), puffer);
     alle += QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   }
   return alle;
@@ -140,7 +140,7 @@ class Zeilenleser {
   void zeile(std::string_view rest) {
     if (static_cast<size_t>(std::count(rest.begin(), rest.end(), '\t')) + 1 != m_anzahl)
       unlesbar(m_pfad);
-    for (size_t i = 0; i < m_anzahl; ++i) zelle(naechste(rest), m_zahlenspalte[i]);
+    for (size_t i = 0; i < m_anzahl; ++i) zelle(nächste(rest), m_zahlenspalte[i]);
   }
 
  private:
@@ -152,7 +152,7 @@ class Zeilenleser {
       text.remove_prefix(2);
     }
     if (zahl) return zahlzelle(text);
-    const std::string_view klar = entschluesselt(text, m_puffer);
+    const std::string_view klar = entschlüsselt(text, m_puffer);
     m_bauer.text(klar.data(), static_cast<qsizetype>(klar.size()));
   }
 
@@ -190,7 +190,7 @@ std::vector<Spalte> spaltenLesen(const QString& pfad, std::string_view namen,
 
 }  // namespace
 
-namespace Uebergabe {
+namespace Übergabe {
 
 QString datei() { return TZ_Variablen::AppPfad + QStringLiteral("gridli.txt"); }
 
@@ -205,14 +205,14 @@ void schreiben(const QString& pfad, const Ausgabeliste& liste, const Fortschritt
   for (int i = 0; i < spalten; ++i) {
     const Spalte& s = liste.daten()->spalte(i);
     if (i > 0) puffer += '\t';
-    entschaerft(puffer, s.name);
+    entschärft(puffer, s.name);
     arten += Arten[static_cast<size_t>(s.typ)];
     zahlenspalte.push_back(istZahl(s.typ));
   }
   puffer.append("\n").append(arten).append("\n");
   for (int i = 0; i < spalten; ++i) {
     if (i > 0) puffer += '\t';
-    entschaerft(puffer, liste.ueberschrift(i));
+    entschärft(puffer, liste.überschrift(i));
   }
   puffer += '\n';
   const int zeilen = spalten > 0 ? liste.zeilen() : 0;
@@ -236,7 +236,7 @@ Ausgabeliste lesen(const QString& pfad, const Fortschritt& fortschritt) {
   if (leser.zeile() != Kennung) unlesbar(pfad);
   const std::string_view namen = leser.zeile();
   const std::string_view arten = leser.zeile();
-  const QStringList ueberschriften = texte(leser.zeile(), static_cast<int>(arten.size()));
+  const QStringList überschriften = texte(leser.zeile(), static_cast<int>(arten.size()));
   const std::vector<Spalte> spalten = spaltenLesen(pfad, namen, arten);
 
   const auto zeilen = std::count(leser.stelle(), leser.ende(), '\n');
@@ -247,7 +247,7 @@ Ausgabeliste lesen(const QString& pfad, const Fortschritt& fortschritt) {
     zeilenleser.zeile(leser.zeile());
     if (fortschritt && zeile % Schritt == 0) fortschritt(zeile, static_cast<int>(zeilen));
   }
-  return Ausgabeliste(zeilenleser.bauer().fertig(), ueberschriften);
+  return Ausgabeliste(zeilenleser.bauer().fertig(), überschriften);
 }
 
-}  // namespace Uebergabe
+}  // namespace Übergabe

@@ -5,7 +5,7 @@
 // gridli.txt in AppPfad: the list that an evaluation hands on to TA_Zwischenliste. UTF-8, a line
 // for the names of the columns, one for their kinds, one for the captions, then one for each row;
 // cells are parted by tabs, and tabs, line breaks and backslashes within them are escaped.
-namespace Uebergabe {
+namespace Übergabe {
 
 QString datei();
 
@@ -17,4 +17,4 @@ void schreiben(const QString& pfad, const Ausgabeliste& liste, const Fortschritt
 // or isn't one of these.
 Ausgabeliste lesen(const QString& pfad, const Fortschritt& fortschritt = {});
 
-}  // namespace Uebergabe
+}  // namespace Übergabe

@@ -100,14 +100,13 @@ class Bericht {
     m_seiten = std::max(1, (liste.zeilen() + m_zeilenJeSeite - 1) / m_zeilenJeSeite);
     for (int i = 0; i < liste.spalten(); ++i)
       m_kopfzellen += (rechts(i) ? "<th scope=\"col\" class=\"z\">" : "<th scope=\"col\">") +
-                      html(liste.ueberschrift(i)) + "</th>";
+                      html(liste.überschrift(i)) + "</th>";
   }
 
   int seiten() const { return m_seiten; }
 
   void seite(const QString& ordner, int nummer, const Fortschritt& fortschritt) {
-    Dateischreiber datei(ordner + QString::fromStdString(dateiname(nummer)),
-                         Dateischreiber::Art::Fluechtig);
+    Dateischreiber datei(ordner + QString::fromStdString(dateiname(nummer)));
     std::string& z = datei.puffer();
     kopf(z, nummer);
     z += "<table>\n<thead><tr>" + m_kopfzellen + "</tr></thead>\n<tbody>\n";
@@ -118,7 +117,7 @@ class Bericht {
       if (fortschritt && i % Schritt == 0) fortschritt(i, m_liste.zeilen());
     }
     z += "</tbody>\n</table>\n";
-    fuss(z, nummer);
+    fuß(z, nummer);
     datei.fertig();
   }
 
@@ -145,7 +144,7 @@ class Bericht {
     seitenwahl(z, nummer, "oben");
   }
 
-  void fuss(std::string& z, int nummer) const {
+  void fuß(std::string& z, int nummer) const {
     seitenwahl(z, nummer, "unten");
     const bool seitenzeile = m_vorgaben.seitenzeile && m_seiten > 1;
     const bool anzahlzeile = m_vorgaben.anzahlzeile && nummer == m_seiten;
@@ -194,7 +193,7 @@ class Bericht {
     for (int i = 0; i < m_liste.spalten(); ++i) {
       m_text.clear();
       // The point of a separator row is a mark for the program only.
-      if (!trenner || i > 0) Zelltext::anhaengen(m_text, daten, block, i);
+      if (!trenner || i > 0) Zelltext::anhängen(m_text, daten, block, i);
       z += Zelltext::zahl(daten, block, i) ? "<td class=\"z\">"
            : m_text.size() > LangerText    ? "<td class=\"l\">"
                                            : "<td>";
@@ -212,7 +211,7 @@ class Bericht {
   std::string m_text;
 };
 
-void alteSeitenLoeschen(const QString& ordner) {
+void alteSeitenLöschen(const QString& ordner) {
   const QDir verzeichnis(ordner);
   for (const QString& name :
        verzeichnis.entryList({QStringLiteral("report-*.htm")}, QDir::Files | QDir::Hidden)) {
@@ -231,15 +230,15 @@ Vorgaben vorgaben() {
   const Listenkopf kopf = listenkopf();
   if (!kopf.datum.isEmpty()) v.titel = kopf.datum + QStringLiteral("   ");
   v.titel += kopf.kopftext;
-  v.zeilenJeSeite = EinstellungenZahl[21];
-  v.seitenzeile = EinstellungenZahl[47] == 1;
-  v.anzahlzeile = EinstellungenZahl[48] == 1;
+  v.zeilenJeSeite = EinstellungenZahl[Zahlslots.webzeilen];
+  v.seitenzeile = EinstellungenZahl[Zahlslots.seitenzeile] == 1;
+  v.anzahlzeile = EinstellungenZahl[Zahlslots.anzahlzeile] == 1;
   return v;
 }
 
 QString schreiben(const QString& ordner, const Ausgabeliste& liste, const Vorgaben& vorgaben,
                   const Fortschritt& fortschritt) {
-  alteSeitenLoeschen(ordner);
+  alteSeitenLöschen(ordner);
   Bericht bericht(liste, vorgaben);
   for (int seite = 1; seite <= bericht.seiten(); ++seite) bericht.seite(ordner, seite, fortschritt);
   return ordner + QStringLiteral("report.htm");

@@ -4,11 +4,11 @@
 #include <charconv>
 #include <cmath>
 
-#include "platform/database/Feldregeln.h"
+#include "platform/database/werte/Feldregeln.h"
 
 namespace {
 
-constexpr double GroessteZahl = 1e15;  // from here on not every whole number is a double
+constexpr double GrößteZahl = 1e15;  // from here on not every whole number is a double
 
 // Most numbers have up to four decimals; those are written without a detour. False when it isn't
 // sure that the text is the shortest one of the number.
@@ -24,15 +24,15 @@ bool kurzeZahl(std::string& ziel, double wert, bool geld) {
   char* ende =
       std::to_chars(puffer.data(), puffer.data() + puffer.size(), betrag / Zehntausend).ptr;
   std::array<char, Stellen> bruch{};
-  int laenge = Stellen;
+  int länge = Stellen;
   qint64 rest = betrag % Zehntausend;
   for (int i = Stellen - 1; i >= 0; --i, rest /= 10)
     bruch[static_cast<size_t>(i)] = static_cast<char>('0' + rest % 10);
   const int kleinste = geld ? 2 : 0;
-  while (laenge > kleinste && bruch[static_cast<size_t>(laenge) - 1] == '0') --laenge;
+  while (länge > kleinste && bruch[static_cast<size_t>(länge) - 1] == '0') --länge;
   if (runde < 0) ziel += '-';
   ziel.append(puffer.data(), ende);
-  if (laenge > 0) ziel.append(1, ',').append(bruch.data(), static_cast<size_t>(laenge));
+  if (länge > 0) ziel.append(1, ',').append(bruch.data(), static_cast<size_t>(länge));
   return true;
 }
 
@@ -47,11 +47,11 @@ bool kannDatumSein(Feldtyp typ, QByteArrayView text) {
 
 namespace Zelltext {
 
-void anhaengen(std::string& ziel, const Datenblock& block, int zeile, int spalte) {
+void anhängen(std::string& ziel, const Datenblock& block, int zeile, int spalte) {
   if (block.istNull(zeile, spalte)) return;
   const Feldtyp typ = block.spalte(spalte).typ;
   if (!block.istText(zeile, spalte)) {
-    if (!kurzeZahl(ziel, block.zahl(zeile, spalte), typ == Feldtyp::Waehrung))
+    if (!kurzeZahl(ziel, block.zahl(zeile, spalte), typ == Feldtyp::Währung))
       ziel += block.anzeige(zeile, spalte).toStdString();
     return;
   }
@@ -73,23 +73,23 @@ std::optional<double> zahl(QByteArrayView text) {
   if (von < bis && (*von == '-' || *von == '+')) ++von;
   constexpr int Ziffern = 15;
   std::array<char, Ziffern + 1> puffer{};
-  size_t laenge = 0;
+  size_t länge = 0;
   int ziffern = 0;
   bool komma = false;
   for (; von < bis; ++von) {
     if (istZiffer(*von) && ziffern < Ziffern) {
       ++ziffern;
-      puffer[laenge++] = *von;
+      puffer[länge++] = *von;
     } else if (*von == ',' && !komma) {
       komma = true;
-      puffer[laenge++] = '.';
+      puffer[länge++] = '.';
     } else {
       return std::nullopt;
     }
   }
   if (ziffern == 0) return std::nullopt;
   double wert = 0;
-  std::from_chars(puffer.data(), puffer.data() + laenge, wert);
+  std::from_chars(puffer.data(), puffer.data() + länge, wert);
   return negativ ? -wert : wert;
 }
 
@@ -97,7 +97,7 @@ std::optional<double> zahl(const Datenblock& block, int zeile, int spalte) {
   if (block.istNull(zeile, spalte)) return std::nullopt;
   if (block.istText(zeile, spalte)) return zahl(block.rohtext(zeile, spalte));
   const double wert = block.zahl(zeile, spalte);
-  if (!(std::fabs(wert) < GroessteZahl)) return std::nullopt;
+  if (!(std::fabs(wert) < GrößteZahl)) return std::nullopt;
   return wert;
 }
 

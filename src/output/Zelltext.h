@@ -3,13 +3,13 @@
 #include <optional>
 #include <string>
 
-#include "platform/database/Datenblock.h"
+#include "platform/database/werte/Datenblock.h"
 
 // The cells of a list as texts and as numbers, quick enough for millions of them.
 namespace Zelltext {
 
 // Adds to the text (UTF-8) what Datenblock::anzeige gives.
-void anhaengen(std::string& ziel, const Datenblock& block, int zeile, int spalte);
+void anhängen(std::string& ziel, const Datenblock& block, int zeile, int spalte);
 
 // The number that a shown text is: digits with at most one comma, a sign and blanks around. None
 // for a text with a point (a date, a number with groups) and for one of more than 15 digits, which

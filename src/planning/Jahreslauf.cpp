@@ -10,8 +10,6 @@ using namespace TZ_Variablen;
 
 namespace {
 
-constexpr size_t JahrSlot = 28;
-
 // Of today, four digits.
 QString jahr() { return HeuteText.mid(6, 4); }
 
@@ -109,8 +107,8 @@ void VolkTermineSetzen(Database& db, const Terminfragen& fragen) {
   else
     fragen.hinweis(QString("Die Aktion wird nicht ausgeführt, weil...") + CRLF + CRLF +
                    lauf.gründe);
-  EinstellungenZahl[JahrSlot] = jahr().toShort();
+  EinstellungenZahl[Zahlslots.terminjahr] = jahr().toShort();
   EinstellungenSchreiben();
 }
 
-bool neuesJahr() { return jahr().toShort() != EinstellungenZahl[JahrSlot]; }
+bool neuesJahr() { return jahr().toShort() != EinstellungenZahl[Zahlslots.terminjahr]; }

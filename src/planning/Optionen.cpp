@@ -9,14 +9,14 @@
 #include "data/helpers.h"
 #include "planning/Optionsfehler.h"
 #include "planning/Termine.h"
-#include "platform/database/Kollation.h"
 #include "platform/database/Recordset.h"
+#include "platform/database/werte/Kollation.h"
 
 using namespace TZ_Variablen;
 
 namespace {
 
-enum Slot : size_t { Arbeitsart, Start, Ende, Frist, Volkabhaengig, Buchung, Erledigtart };
+enum Slot : size_t { Arbeitsart, Start, Ende, Frist, Volkabhängig, Buchung, Erledigtart };
 
 // "mmdd", so that days compare as texts.
 QString tagschlüssel(const QString& text) {
@@ -89,7 +89,7 @@ QStringList erledigtArbeitsarten(Database& db) {
   return liste;
 }
 
-QString optionPruefen(const Optionseingabe& eingabe) {
+QString optionPrüfen(const Optionseingabe& eingabe) {
   const QString start = TextLesen(eingabe[Start]);
   const QString ende = TextLesen(eingabe[Ende]);
   QStringList gründe;
@@ -101,9 +101,9 @@ QString optionPruefen(const Optionseingabe& eingabe) {
   return gründe.isEmpty() ? QString() : Verwaltung::ablehnung(gründe) + CRLF;
 }
 
-QString optionsnamePruefen(Database& db, const QString& arbeitsart, qint64 id) {
+QString optionsnamePrüfen(Database& db, const QString& arbeitsart, qint64 id) {
   const QString name = TextLesen(arbeitsart);
-  if (!Verwaltung::vorhanden(db, "Arbeitsplanoptionen", "Arbeitsart", name,
+  if (!Verwaltung::vorhanden(db, "Arbeitsplanoptionen", optionsfelder()[Arbeitsart], name,
                              id == 0 ? std::nullopt : std::optional(id)))
     return {};
   return QString("Es existiert bereits ein Arbeitsplan mit dem Namen ") + name + u'.';
@@ -113,7 +113,7 @@ qint64 optionAnlegen(Database& db, const Optionseingabe& eingabe) {
   qint64 id = 0;
   db.Sammelschreiben([&] {
     id = zeileAnlegen(db, eingabe);
-    termineBerechnen(db, id, eingabe[Volkabhaengig]);
+    termineBerechnen(db, id, eingabe[Volkabhängig]);
   });
   return id;
 }

@@ -29,11 +29,11 @@ const QStringList& erledigtBuchungen();
 QStringList erledigtArbeitsarten(Database& db);
 
 // The whole text that tells why the inputs can't be saved; empty when they can.
-QString optionPruefen(const Optionseingabe& eingabe);
+QString optionPrüfen(const Optionseingabe& eingabe);
 
 // Why the name can't be taken; empty when it can. id 0 is a new option, any other the one that is
 // renamed: its own name is free for it.
-QString optionsnamePruefen(Database& db, const QString& arbeitsart, qint64 id);
+QString optionsnamePrüfen(Database& db, const QString& arbeitsart, qint64 id);
 
 // Adds an option that passed the checks, and its appointments: of each colony in stock, or of none
 // when slot 4 is "N". Returns its ID. One commit. Throws Datenbankfehler.

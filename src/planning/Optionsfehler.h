@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <functional>
 
-#include "platform/database/Datenbankfehler.h"
+#include "platform/database/werte/Datenbankfehler.h"
 
 // What failed for single options in a run over many: an option that can't be computed (a 29th of
 // February in a year without one) doesn't take the others' appointments with it. The run leaves it

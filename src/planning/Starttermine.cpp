@@ -1,13 +1,13 @@
 #include "planning/Starttermine.h"
 
-#include <algorithm>
 #include <numeric>
 
 #include "core/globals.h"
 #include "data/Pickliste.h"
 #include "data/helpers.h"
-#include "platform/database/Kollation.h"
 #include "platform/database/Recordset.h"
+#include "platform/database/werte/Kollation.h"
+#include "platform/database/werte/Zeilenordnung.h"
 #include "platform/locale/Deutsch.h"
 
 using TZ_Variablen::EinstellungenZahl;
@@ -33,50 +33,26 @@ int vergleiche(QByteArrayView links, QByteArrayView rechts) {
   return links == rechts ? 0 : Kollation::vergleicheUtf8(links, rechts);
 }
 
-// The rows of both blocks, sorted by the list's three keys; rows equal in them keep their order.
-class Mischung {
- public:
-  Mischung(const Datenblock& voelker, const Datenblock& allgemein)
-      : m_voelker(voelker), m_allgemein(allgemein) {}
-
-  std::vector<int> folge() const {
-    std::vector<int> zeilen(static_cast<size_t>(m_voelker.zeilen() + m_allgemein.zeilen()));
-    std::iota(zeilen.begin(), zeilen.end(), 0);
-    std::stable_sort(zeilen.begin(), zeilen.end(), [this](int a, int b) { return vor(a, b); });
-    return zeilen;
-  }
-  void schreibe(Datenblock::Bauer& bauer, int zeile) const {
-    if (zeile < m_voelker.zeilen()) {
-      for (const int spalte : {Datum, Termin, Volknr, Volkname, Standort, ID})
-        zelle(bauer, m_voelker, zeile, spalte);
-      return;
-    }
-    zeile -= m_voelker.zeilen();
-    zelle(bauer, m_allgemein, zeile, Datum);
-    zelle(bauer, m_allgemein, zeile, Termin);
+// The rows of both blocks, one behind the other; general ones have no colony.
+Daten zusammen(const Datenblock& völker, const Datenblock& allgemein) {
+  std::vector<Spalte> spalten;
+  spalten.reserve(static_cast<size_t>(völker.spalten()));
+  for (int i = 0; i < völker.spalten(); ++i) spalten.push_back(völker.spalte(i));
+  const size_t breite = spalten.size();
+  Datenblock::Bauer bauer(std::move(spalten));
+  bauer.reserviere(static_cast<size_t>(völker.zeilen() + allgemein.zeilen()) * breite,
+                   völker.textbytes() + allgemein.textbytes());
+  for (int zeile = 0; zeile < völker.zeilen(); ++zeile)
+    for (const int spalte : {Datum, Termin, Volknr, Volkname, Standort, ID})
+      zelle(bauer, völker, zeile, spalte);
+  for (int zeile = 0; zeile < allgemein.zeilen(); ++zeile) {
+    zelle(bauer, allgemein, zeile, Datum);
+    zelle(bauer, allgemein, zeile, Termin);
     for (int leer = 0; leer < 3; ++leer) bauer.null();
-    zelle(bauer, m_allgemein, zeile, 2);
+    zelle(bauer, allgemein, zeile, 2);
   }
-
- private:
-  QByteArrayView text(int zeile, int spalte) const {
-    if (zeile < m_voelker.zeilen()) return m_voelker.rohtext(zeile, spalte);
-    if (spalte == Volknr) return {};
-    return m_allgemein.rohtext(zeile - m_voelker.zeilen(), spalte);
-  }
-  bool vor(int a, int b) const {
-    // Dates lie as "yyyy-mm-dd" and need no collation.
-    if (const int ergebnis = text(a, Datum).compare(text(b, Datum)); ergebnis != 0)
-      return ergebnis < 0;
-    for (const int spalte : {Termin, Volknr})
-      if (const int ergebnis = vergleiche(text(a, spalte), text(b, spalte)); ergebnis != 0)
-        return ergebnis < 0;
-    return false;
-  }
-
-  const Datenblock& m_voelker;
-  const Datenblock& m_allgemein;
-};
+  return bauer.fertig();
+}
 
 // The rest of the series from the day of the work on.
 void reiheEintragen(Database& db, const QString& termin, qint64 volkId, QDate tag) {
@@ -89,8 +65,8 @@ void reiheEintragen(Database& db, const QString& termin, qint64 volkId, QDate ta
   const QString ende = DatumSortiert(TextLesen(option.Wert("Endzeitraum")) + HeuteText.mid(5, 5));
 
   Recordset termine = db.OpenRecordset("select * from Termine where Volk_ID = -1");
-  const auto schluessel = [](QDate lauf) { return DatumSortiert(Deutsch::datumText(lauf)); };
-  for (QDate lauf = tag; schluessel(lauf) <= ende; lauf = lauf.addDays(frist)) {
+  const auto schlüssel = [](QDate lauf) { return DatumSortiert(Deutsch::datumText(lauf)); };
+  for (QDate lauf = tag; schlüssel(lauf) <= ende; lauf = lauf.addDays(frist)) {
     if (lauf <= tag) continue;
     termine.AddNew();
     termine["Datum"] = lauf;
@@ -104,13 +80,14 @@ void reiheEintragen(Database& db, const QString& termin, qint64 volkId, QDate ta
 }  // namespace
 
 QString titel() {
-  return QString("Aktuelle offene Termine (bis %1 Tage ab heute)").arg(EinstellungenZahl[17]);
+  return QString("Aktuelle offene Termine (bis %1 Tage ab heute)")
+      .arg(EinstellungenZahl[Zahlslots.termintage]);
 }
 
-QDate grenze() { return DatumLesen(HeuteText).addDays(EinstellungenZahl[17]); }
+QDate grenze() { return DatumLesen(HeuteText).addDays(EinstellungenZahl[Zahlslots.termintage]); }
 
 Daten liste(Database& db) {
-  const Daten voelker = db.Lesen(
+  const Daten völker = db.Lesen(
       "select Datum, Termin, Volknr, Volkname, Standort, Termine.ID from Termine, Bienenvolk where "
       "Datum <= ? and Bienenvolk.ID = Volk_ID and Erledigt = 'N'",
       {grenze()});
@@ -118,15 +95,12 @@ Daten liste(Database& db) {
       "select Datum, Termin, ID from Termine where Datum <= ? and Volk_ID = 0 and Erledigt = 'N' "
       "order by Datum",
       {grenze()});
-  std::vector<Spalte> spalten;
-  spalten.reserve(static_cast<size_t>(voelker->spalten()));
-  for (int i = 0; i < voelker->spalten(); ++i) spalten.push_back(voelker->spalte(i));
-  const Mischung mischung(*voelker, *allgemein);
-  Datenblock::Bauer bauer(spalten);
-  bauer.reserviere(static_cast<size_t>(voelker->zeilen() + allgemein->zeilen()) * spalten.size(),
-                   voelker->textbytes() + allgemein->textbytes());
-  for (const int zeile : mischung.folge()) mischung.schreibe(bauer, zeile);
-  return bauer.fertig();
+  const Daten alle = zusammen(*völker, *allgemein);
+  std::vector<int> folge(static_cast<size_t>(alle->zeilen()));
+  std::iota(folge.begin(), folge.end(), 0);
+  for (const int spalte : {Volknr, Termin, Datum})
+    Zeilenordnung::sortiere(folge, Zeilenordnung::schlüssel(*alle, spalte));
+  return alle->geordnet(folge);
 }
 
 Daten gruppiert(Database& db) {
@@ -177,7 +151,7 @@ void bisHeuteErledigen(Database& db) {
   db.Execute("UPDATE Termine SET Erledigt = 'J' where Datum <= ?", {DatumLesen(HeuteText)});
 }
 
-bool unvollstaendig(const Standortauftrag& auftrag) {
+bool unvollständig(const Standortauftrag& auftrag) {
   return TextLesen(auftrag.termin).isEmpty() || TextLesen(auftrag.standort).isEmpty() ||
          !IstDatum(auftrag.bis);
 }
@@ -218,7 +192,7 @@ QString bisHeuteFrage() {
          " als erledigt markiert werden?";
 }
 
-QString unvollstaendigText() {
+QString unvollständigText() {
   return QString(
       "Die Terminart, der betroffene Standort und der Zeitraum (bis wann eine Erledigung "
       "gewünscht wird) muss angegeben werden!");

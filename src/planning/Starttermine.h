@@ -53,7 +53,7 @@ struct Standortauftrag {
   QString bis;
 };
 // Whether something is missing; a bis that is no date is.
-bool unvollstaendig(const Standortauftrag& auftrag);
+bool unvollständig(const Standortauftrag& auftrag);
 // How many rows the order concerns.
 int gefunden(Database& db, const Standortauftrag& auftrag);
 // Closes the rows of the list that the order concerns, in the order given (row numbers of the
@@ -63,7 +63,7 @@ void amStandortErledigen(Database& db, const Standortauftrag& auftrag, const Dat
 
 QString markierteFrage(qsizetype anzahl);
 QString bisHeuteFrage();
-QString unvollstaendigText();
+QString unvollständigText();
 QString standortFrage(int anzahl);
 
 }  // namespace Starttermine

@@ -15,13 +15,13 @@ namespace Terminverwaltung {
 
 namespace {
 
-constexpr int TageZurueck = 7;
+constexpr int TageZurück = 7;
 constexpr int TageVoraus = 14;
 constexpr qint64 MeisteTage = 9999;
 
 QString heutePlus(qint64 tage) { return Deutsch::datumText(DatumLesen(HeuteText).addDays(tage)); }
 
-void fuellen(Recordset& termine, const Eingabe& eingabe, qint64 volkId) {
+void füllen(Recordset& termine, const Eingabe& eingabe, qint64 volkId) {
   termine["Datum"] = DatumLesen(eingabe.datum);
   termine["Termin"] = TextLesen(eingabe.termin);
   termine["Erledigt"] = TextLesen(eingabe.erledigt);
@@ -39,13 +39,13 @@ QString teilText(const QString& standort, int eingetragen, int anzahl) {
 }  // namespace
 
 void vorgaben(Filter& filter) {
-  if (!IstDatum(filter.von)) filter.von = heutePlus(-TageZurueck);
+  if (!IstDatum(filter.von)) filter.von = heutePlus(-TageZurück);
   if (!IstDatum(filter.bis)) filter.bis = heutePlus(TageVoraus);
 }
 
 Daten liste(Database& db, const Filter& filter) {
   QString anweisung =
-      filter.ansicht == Ansicht::Volkabhaengig
+      filter.ansicht == Ansicht::Volkabhängig
           ? QString(
                 "select Datum, Termin, Erledigt, Volknr, Volkname, Standort, Volk_ID, "
                 "Termine.ID from Bienenvolk, Termine where Volk_ID = Bienenvolk.ID")
@@ -72,12 +72,11 @@ Daten liste(Database& db, const Filter& filter) {
   return db.Lesen(anweisung + " order by Datum", werte);
 }
 
-Pruefung pruefen(Database& db, const Eingabe& eingabe) {
-  Pruefung ergebnis;
-  if (!IstDatum(eingabe.datum))
-    ergebnis.gruende << "...das Datum des Termins angegeben werden muß.";
+Prüfung prüfen(Database& db, const Eingabe& eingabe) {
+  Prüfung ergebnis;
+  if (!IstDatum(eingabe.datum)) ergebnis.gründe << "...das Datum des Termins angegeben werden muß.";
   if (TextLesen(eingabe.termin).isEmpty())
-    ergebnis.gruende << "...die Terminart angegeben werden muß.";
+    ergebnis.gründe << "...die Terminart angegeben werden muß.";
   const QString volknr = TextLesen(eingabe.volknr);
   if (volknr.isEmpty()) return ergebnis;
   const Daten volk =
@@ -85,7 +84,7 @@ Pruefung pruefen(Database& db, const Eingabe& eingabe) {
   if (volk->zeilen() > 0)
     ergebnis.volkId = volk->ganzzahl(0, 0);
   else
-    ergebnis.gruende << "...das angegebene Volk nicht existiert (aktuell im Bestand ist).";
+    ergebnis.gründe << "...das angegebene Volk nicht existiert (aktuell im Bestand ist).";
   return ergebnis;
 }
 
@@ -94,12 +93,12 @@ QString standortFrage(const QString& standort) {
          "' eingetragen werden?";
 }
 
-bool existiert(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 ausser) {
+bool existiert(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 außer) {
   QString anweisung = "select Termin from Termine where Datum = ? and Termin = ? and Volk_ID = ?";
   QVariantList werte = {DatumLesen(eingabe.datum), TextLesen(eingabe.termin), volkId};
-  if (ausser != 0) {
+  if (außer != 0) {
     anweisung += " and ID <> ?";
-    werte << ausser;
+    werte << außer;
   }
   return db.Lesen(anweisung, werte)->zeilen() > 0;
 }
@@ -108,13 +107,13 @@ qint64 speichern(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 id)
   if (id == 0) {
     Recordset termine = db.OpenRecordset("select top 1 * from Termine");
     termine.AddNew();
-    fuellen(termine, eingabe, volkId);
+    füllen(termine, eingabe, volkId);
     termine.Update();
     return db.LetzteID();
   }
   Recordset termine = db.OpenRecordset("select top 1 * from Termine where ID = ?", {id});
   termine.Edit();
-  fuellen(termine, eingabe, volkId);
+  füllen(termine, eingabe, volkId);
   termine.Update();
   return id;
 }
@@ -126,11 +125,11 @@ qint64 amStandortEintragen(Database& db, const Eingabe& eingabe) {
   try {
     db.Sammelschreiben([&] {
       Recordset termine = db.OpenRecordset("select top 1 * from Termine");
-      const Daten voelker =
+      const Daten völker =
           db.Lesen("select ID from Bienenvolk where Standort = ?", {eingabe.standort});
-      for (anzahl = voelker->zeilen(); eingetragen < anzahl; ++eingetragen) {
+      for (anzahl = völker->zeilen(); eingetragen < anzahl; ++eingetragen) {
         termine.AddNew();
-        fuellen(termine, eingabe, voelker->ganzzahl(eingetragen, 0));
+        füllen(termine, eingabe, völker->ganzzahl(eingetragen, 0));
         termine.Update();
         letzte = db.LetzteID();
       }
@@ -144,7 +143,7 @@ qint64 amStandortEintragen(Database& db, const Eingabe& eingabe) {
   return letzte;
 }
 
-void erledigteLoeschen(Database& db) { db.Execute("delete from Termine where Erledigt = 'J'"); }
+void erledigteLöschen(Database& db) { db.Execute("delete from Termine where Erledigt = 'J'"); }
 
 QString volknummer(Database& db, qint64 volkId) {
   if (volkId == 0) return {};

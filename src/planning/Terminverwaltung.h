@@ -9,7 +9,7 @@
 // hand. Everything throws Datenbankfehler when a statement fails.
 namespace Terminverwaltung {
 
-enum class Ansicht { Allgemein, Volkabhaengig };  // Volk_ID 0, and the colonies' appointments
+enum class Ansicht { Allgemein, Volkabhängig };  // Volk_ID 0, and the colonies' appointments
 
 // What the list is to show; texts as the user typed them (they are compared as they are stored,
 // trimmed and with backticks), empty for "all".
@@ -39,16 +39,16 @@ struct Eingabe {
   bool operator==(const Eingabe&) const = default;
 };
 
-struct Pruefung {
-  QStringList gruende;  // for not saving
-  qint64 volkId = 0;    // the colony in stock of that number
+struct Prüfung {
+  QStringList gründe;  // for not saving
+  qint64 volkId = 0;   // the colony in stock of that number
 };
-Pruefung pruefen(Database& db, const Eingabe& eingabe);
+Prüfung prüfen(Database& db, const Eingabe& eingabe);
 QString standortFrage(const QString& standort);
 
 // Whether the colony (0 for none) has this appointment on that day already, in another row than
-// ausser (0: any row).
-bool existiert(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 ausser = 0);
+// außer (0: any row).
+bool existiert(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 außer = 0);
 
 // Writes one row, a new one for id 0, and gives its ID.
 qint64 speichern(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 id = 0);
@@ -57,7 +57,7 @@ qint64 speichern(Database& db, const Eingabe& eingabe, qint64 volkId, qint64 id 
 qint64 amStandortEintragen(Database& db, const Eingabe& eingabe);
 
 // Deletes what is done, of all years and of both views.
-void erledigteLoeschen(Database& db);
+void erledigteLöschen(Database& db);
 
 // The number of a colony; empty for 0 and for a colony that is gone from the table.
 QString volknummer(Database& db, qint64 volkId);

@@ -47,7 +47,7 @@ const Felder& trachtfelder() {
   static const Felder felder = {
       pflanzenfelder().first(),  // the plant by name, from the same pick list
       ganzzahl("Entfernung_m", "Entfernung m", 9999),
-      ganzzahl("Proz_Anteil", "Anteil in %", 100).ohneNull(),
+      ganzzahl("Proz_Anteil", "Anteil in %", 100).ab(1),
   };
   return felder;
 }
@@ -64,30 +64,30 @@ Daten standortnamen(Database& datenbank) {
   return datenbank.Lesen("select Standort from Standorte order by Standort");
 }
 
-QStringList standortGruende(const Texte& texte) {
+QStringList standortGründe(const Texte& texte) {
   if (!TextLesen(texte["Standort"]).isEmpty()) return {};
   return {"...der Standort angegeben werden muß."};
 }
 
-QStringList pflanzenGruende(const Texte& texte) {
-  QStringList gruende;
-  if (TextLesen(texte["Pflanze"]).isEmpty()) gruende << "...die Pflanze angegeben werden muß.";
+QStringList pflanzenGründe(const Texte& texte) {
+  QStringList gründe;
+  if (TextLesen(texte["Pflanze"]).isEmpty()) gründe << "...die Pflanze angegeben werden muß.";
   if (!IstDatum(texte["Weidezeit_von"]) || !IstDatum(texte["Weidezeit_bis"]))
-    gruende << "...die Weidezeit von...bis korrekt angegeben werden muß.";
-  return gruende;
+    gründe << "...die Weidezeit von...bis korrekt angegeben werden muß.";
+  return gründe;
 }
 
 // Read with their signs: a row from elsewhere may have numbers below 0.
-QStringList trachtGruende(const Texte& texte, qint64 anteilSonst) {
+QStringList trachtGründe(const Texte& texte, qint64 anteilSonst) {
   const qint64 anteil = GanzLesen(texte["Proz_Anteil"]);
-  QStringList gruende;
-  if (TextLesen(texte["Pflanze"]).isEmpty()) gruende << "...die Pflanze angegeben werden muß.";
+  QStringList gründe;
+  if (TextLesen(texte["Pflanze"]).isEmpty()) gründe << "...die Pflanze angegeben werden muß.";
   if (GanzLesen(texte["Entfernung_m"]) <= 0)
-    gruende << "...die Entfernung muß größer als 0 Meter sein.";
-  if (anteil <= 0) gruende << "...der prozentuale Anteil müß größer als 0 % sein.";
+    gründe << "...die Entfernung muß größer als 0 Meter sein.";
+  if (anteil <= 0) gründe << "...der prozentuale Anteil müß größer als 0 % sein.";
   if (anteilSonst + anteil > 100)
-    gruende << "...der prozentuale Anteil bei den Pflanzen am Standort nicht über 100 sein darf.";
-  return gruende;
+    gründe << "...der prozentuale Anteil bei den Pflanzen am Standort nicht über 100 sein darf.";
+  return gründe;
 }
 
 QVariantHash neuerPlatz() { return {{"PTop", 250}, {"PLeft", 250}}; }

@@ -20,9 +20,9 @@ Daten standortnamen(Database& datenbank);
 
 // Reasons for not saving, in their order; none when all is well. anteilSonst is the share in per
 // cent of the site's other plants.
-QStringList standortGruende(const Verwaltung::Texte& texte);
-QStringList pflanzenGruende(const Verwaltung::Texte& texte);
-QStringList trachtGruende(const Verwaltung::Texte& texte, qint64 anteilSonst);
+QStringList standortGründe(const Verwaltung::Texte& texte);
+QStringList pflanzenGründe(const Verwaltung::Texte& texte);
+QStringList trachtGründe(const Verwaltung::Texte& texte, qint64 anteilSonst);
 
 // Where the map shows a new site.
 QVariantHash neuerPlatz();

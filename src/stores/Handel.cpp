@@ -4,6 +4,7 @@
 #include "data/helpers.h"
 #include "platform/database/Recordset.h"
 #include "platform/locale/Deutsch.h"
+#include "platform/locale/Dezimalsumme.h"
 
 using namespace Verwaltung;
 
@@ -11,10 +12,10 @@ namespace Handel {
 
 namespace {
 
-constexpr int Zahllaenge = 10;
+constexpr int Zahllänge = 10;
 
 Feld menge(const QString& feld, const QString& beschriftung) {
-  return dezimal(feld, beschriftung, Zahllaenge, 3).knapp().vorgabe("0");
+  return dezimal(feld, beschriftung, Zahllänge, 3).knapp().vorgabe("0");
 }
 
 Feld tag(const QString& feld, const QString& beschriftung) {
@@ -27,10 +28,10 @@ Feld charge() {
 }
 
 QStringList datumUndProdukt(const Texte& texte) {
-  QStringList gruende;
-  if (!IstDatum(texte["Datum"])) gruende << "...das Datum korrekt angegeben werden muß.";
-  if (TextLesen(texte["Produkt"]).isEmpty()) gruende << "...das Produkt angegeben werden muß.";
-  return gruende;
+  QStringList gründe;
+  if (!IstDatum(texte["Datum"])) gründe << "...das Datum korrekt angegeben werden muß.";
+  if (TextLesen(texte["Produkt"]).isEmpty()) gründe << "...das Produkt angegeben werden muß.";
+  return gründe;
 }
 
 }  // namespace
@@ -47,7 +48,7 @@ QString geldfeld(Seite seite) {
   return seite == Seite::Einkauf ? QStringLiteral("Ausgaben") : QStringLiteral("Einnahmen");
 }
 
-QString geschaeftsliste(Seite seite) {
+QString geschäftsliste(Seite seite) {
   return seite == Seite::Einkauf ? QStringLiteral("select * from Einkauf order by Datum")
                                  : QStringLiteral("select * from Verkauf order by Datum");
 }
@@ -56,7 +57,7 @@ QString lagerliste() { return QStringLiteral("select * from Honiglager order by 
 
 // ---- fields ----
 
-Felder geschaeftsfelder(Seite seite) {
+Felder geschäftsfelder(Seite seite) {
   const bool einkauf = seite == Seite::Einkauf;
   return {
       tag("Datum", "Datum"),
@@ -73,7 +74,7 @@ Felder geschaeftsfelder(Seite seite) {
                            "Kundenname"),
       menge("Menge", "Menge"),
       text("Einheit", "Mengeneinheit", 2).angebot({"kg", "g", "l", "ml", "St"}),
-      dezimal(geldfeld(seite), geldfeld(seite), Zahllaenge, 2)
+      dezimal(geldfeld(seite), geldfeld(seite), Zahllänge, 2)
           .vorgabe("0")
           .einheit(QStringLiteral("€")),
       charge(),
@@ -97,18 +98,18 @@ Felder lagerfelder() {
 // ---- reasons ----
 
 // A minus sign is what ZahlLesen drops, so it is looked at by itself.
-QStringList geschaeftsgruende(const Texte& texte) {
-  QStringList gruende = datumUndProdukt(texte);
+QStringList geschäftsgründe(const Texte& texte) {
+  QStringList gründe = datumUndProdukt(texte);
   const QString menge = texte["Menge"].trimmed();
-  if (menge.startsWith(u'-') || ZahlLesen(menge) <= 0) gruende << "...die Menge über 0 liegen muß.";
-  return gruende;
+  if (menge.startsWith(u'-') || ZahlLesen(menge) <= 0) gründe << "...die Menge über 0 liegen muß.";
+  return gründe;
 }
 
-QStringList lagergruende(const Texte& texte) {
-  QStringList gruende = datumUndProdukt(texte);
+QStringList lagergründe(const Texte& texte) {
+  QStringList gründe = datumUndProdukt(texte);
   if (ZahlLesen(texte["Zugang"]) == 0 && ZahlLesen(texte["Abgang"]) == 0)
-    gruende << "...entweder eine Zugangs- oder Abgangsmenge eingetragen werden muß.";
-  return gruende;
+    gründe << "...entweder eine Zugangs- oder Abgangsmenge eingetragen werden muß.";
+  return gründe;
 }
 
 // ---- saving and deleting ----
@@ -117,11 +118,11 @@ bool istHonig(const QString& produkt) {
   return TextLesen(produkt).toUpper().contains(QStringLiteral("HONIG"));
 }
 
-qint64 geschaeftSpeichern(Database& datenbank, Seite seite, const Texte& texte,
-                          std::optional<qint64> id) {
+qint64 geschäftSpeichern(Database& datenbank, Seite seite, const Texte& texte,
+                         std::optional<qint64> id) {
   qint64 gespeichert = 0;
   datenbank.Sammelschreiben([&] {
-    gespeichert = speichern(datenbank, tabelle(seite), geschaeftsfelder(seite), texte, id);
+    gespeichert = speichern(datenbank, tabelle(seite), geschäftsfelder(seite), texte, id);
     partnerSichern(datenbank, seite, texte[partnerfeld(seite)]);
     bewegungBuchen(datenbank, seite, texte, gespeichert);
   });
@@ -149,10 +150,10 @@ void bewegungBuchen(Database& datenbank, Seite seite, const Texte& texte, qint64
       datenbank.OpenRecordset(zu ? "select * from honiglager where evk_id = ? and Abgang = 0"
                                  : "select * from honiglager where evk_id = ? and Zugang = 0",
                               {id});
-  QVariant abgefuellt;
+  QVariant abgefüllt;
   if (lager.RecordCount() > 0) {
     lager.MoveFirst();
-    abgefuellt = lager.Wert("Abfülldatum");
+    abgefüllt = lager.Wert("Abfülldatum");
     lager.Delete();
   }
   lager.AddNew();
@@ -164,12 +165,12 @@ void bewegungBuchen(Database& datenbank, Seite seite, const Texte& texte, qint64
   lager["EVK_ID"] = id;
   lager["Bemerkung"] = QString("");
   lager["Charge"] = TextLesen(texte["Charge"]);
-  lager["Abfülldatum"] = abgefuellt;
+  lager["Abfülldatum"] = abgefüllt;
   lager.Update();
 }
 
-void bewegungLoeschen(Database& datenbank, Seite seite, const QString& datum,
-                      const QString& produkt, qint64 id) {
+void bewegungLöschen(Database& datenbank, Seite seite, const QString& datum, const QString& produkt,
+                     qint64 id) {
   if (!IstDatum(datum))
     throw Datenbankfehler(Datenbankfehler::Art::Allgemein,
                           "Der Datensatz wird nicht gelöscht, weil im Feld \"Datum\" kein gültiges "
@@ -197,8 +198,8 @@ QString summenzeile(Database& datenbank) {
   };
   const double einkauf = summe("select sum(Ausgaben) as summe from Einkauf");
   const double verkauf = summe("select sum(Einnahmen) as summe from Verkauf");
-  return "Einkauf: " + Deutsch::waehrung(einkauf) + "   Verkauf: " + Deutsch::waehrung(verkauf) +
-         "   Summe: " + Deutsch::waehrung(verkauf - einkauf);
+  return "Einkauf: " + Deutsch::währung(einkauf) + "   Verkauf: " + Deutsch::währung(verkauf) +
+         "   Summe: " + Deutsch::währung(Dezimalsumme::von({verkauf, -einkauf}));
 }
 
 }  // namespace Handel

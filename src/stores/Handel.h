@@ -16,24 +16,24 @@ QString partnerfeld(Seite seite);
 QString geldfeld(Seite seite);
 
 // The statements of the lists.
-QString geschaeftsliste(Seite seite);
+QString geschäftsliste(Seite seite);
 QString lagerliste();
 
 // The inputs, today (HeuteText) as the first date. Not kept, as today differs from start to start.
-Verwaltung::Felder geschaeftsfelder(Seite seite);
+Verwaltung::Felder geschäftsfelder(Seite seite);
 Verwaltung::Felder lagerfelder();
 
 // Reasons for not saving, in their order; none when all is well.
-QStringList geschaeftsgruende(const Verwaltung::Texte& texte);
-QStringList lagergruende(const Verwaltung::Texte& texte);
+QStringList geschäftsgründe(const Verwaltung::Texte& texte);
+QStringList lagergründe(const Verwaltung::Texte& texte);
 
 // Whether a product has the word honey in its name, in any case.
 bool istHonig(const QString& produkt);
 
 // Writes a deal (a new one without an ID), makes sure that its party is known and books its honey
 // movement, all as one commit. Gives the deal's ID.
-qint64 geschaeftSpeichern(Database& datenbank, Seite seite, const Verwaltung::Texte& texte,
-                          std::optional<qint64> id);
+qint64 geschäftSpeichern(Database& datenbank, Seite seite, const Verwaltung::Texte& texte,
+                         std::optional<qint64> id);
 
 // Adds a bare row for a party that no row of Kunden has by name, as supplier or as customer.
 void partnerSichern(Database& datenbank, Seite seite, const QString& name);
@@ -44,8 +44,8 @@ void bewegungBuchen(Database& datenbank, Seite seite, const Verwaltung::Texte& t
 
 // Deletes the movement of a deal if it bears this date and product; fails, with nothing deleted,
 // when the date is none.
-void bewegungLoeschen(Database& datenbank, Seite seite, const QString& datum,
-                      const QString& produkt, qint64 id);
+void bewegungLöschen(Database& datenbank, Seite seite, const QString& datum, const QString& produkt,
+                     qint64 id);
 
 // The store by product and batch: Summe (in minus out), Anzahl (movements), Zugänge, Abgänge. Rows
 // with an empty batch and rows without one are two groups.

@@ -3,6 +3,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 
 // The rooms' order of docs/architecture.md, read from the #include lines of the sources.
@@ -11,29 +12,32 @@ namespace {
 const QString quellen = QStringLiteral(TOVA_QUELLEN "/src");
 
 // From the bottom up. A room may include its own headers and those of rooms above it in this list.
-const QStringList raeume = {"platform/locale",
-                            "platform/database",
-                            "platform/files",
-                            "platform/controls",
-                            "core",
-                            "core/forms",
-                            "data",
-                            "data/forms",
-                            "output",
-                            "output/forms",
-                            "planning",
-                            "colonies",
-                            "bookings",
-                            "stores",
-                            "sites",
-                            "planning/forms",
-                            "colonies/forms",
-                            "bookings/forms",
-                            "stores/forms",
-                            "sites/forms",
-                            "core/mainform",
-                            "core/mainform/forms",
-                            "app"};
+const QStringList räume = {"platform/locale",
+                           "platform/database/werte",
+                           "platform/database/dialekt",
+                           "platform/database/verbindung",
+                           "platform/database",
+                           "platform/files",
+                           "platform/controls",
+                           "core",
+                           "core/forms",
+                           "data",
+                           "data/forms",
+                           "output",
+                           "output/forms",
+                           "planning",
+                           "colonies",
+                           "bookings",
+                           "stores",
+                           "sites",
+                           "planning/forms",
+                           "colonies/forms",
+                           "bookings/forms",
+                           "stores/forms",
+                           "sites/forms",
+                           "mainform",
+                           "mainform/forms",
+                           "app"};
 
 // Subsystems know each other only where one calls the other.
 const QMultiMap<QString, QString> untereinander = {{"colonies", "planning"}};
@@ -88,19 +92,34 @@ bool erlaubt(const QString& von, const QString& nach) {
   if (subsysteme.contains(subsystem(von)) && subsysteme.contains(subsystem(nach)) &&
       subsystem(von) != subsystem(nach))
     return untereinander.contains(subsystem(von), subsystem(nach));
-  return raeume.indexOf(nach) < raeume.indexOf(von);
+  return räume.indexOf(nach) < räume.indexOf(von);
 }
 
 TEST(Arrows, EverySourceLiesInAKnownRoom) {
   ASSERT_GT(dateien().size(), 20);
   for (const QString& name : dateien())
-    EXPECT_TRUE(raeume.contains(raum(name))) << name.toStdString();
+    EXPECT_TRUE(räume.contains(raum(name))) << name.toStdString();
 }
 
 TEST(Arrows, NoIncludePointsDown) {
   for (const Einbindung& e : einbindungen()) {
-    if (!e.eigene || !raeume.contains(raum(e.ziel))) continue;
+    if (!e.eigene || !räume.contains(raum(e.ziel))) continue;
     EXPECT_TRUE(erlaubt(raum(e.datei), raum(e.ziel))) << ort(e).toStdString();
+  }
+}
+
+// A source without a header of its name is a part of one: "Volkanzeige_Tabellen" of "Volkanzeige".
+TEST(Arrows, EverySourceHasItsHeader) {
+  const QStringList alle = dateien();
+  for (const QString& name : alle) {
+    if (!name.endsWith(".cpp") || name == "app/main.cpp") continue;
+    QString stamm = name.chopped(4);
+    bool gefunden = alle.contains(stamm + ".h");
+    while (!gefunden && stamm.lastIndexOf('_') > stamm.lastIndexOf('/')) {
+      stamm.truncate(stamm.lastIndexOf('_'));
+      gefunden = alle.contains(stamm + ".h");
+    }
+    EXPECT_TRUE(gefunden) << name.toStdString();
   }
 }
 
@@ -135,6 +154,32 @@ TEST(Arrows, MessageBoxesAndFileDialogsAreMadeInPlatformOnly) {
   }
 }
 
+// A slot has its number in one row of core/slots.h. The test of the file's lines counts them.
+TEST(Arrows, SettingsSlotsGoByTheirNames) {
+  static const QRegularExpression nummer(QStringLiteral(
+      "Einstellungen(Zahl|Wert|Text)\\s*(\\[|\\.at\\()[^\\])]*[0-9]+[^\\])]*[\\])]"));
+  int gelesen = 0;
+  for (const char* ordner : {"src", "tests", "bench", "examples", "tools"}) {
+    QDirIterator lauf(QStringLiteral(TOVA_QUELLEN "/") + ordner, {"*.h", "*.cpp"}, QDir::Files,
+                      QDirIterator::Subdirectories);
+    while (lauf.hasNext()) {
+      QFile datei(lauf.next());
+      if (datei.fileName().endsWith("Einstellungsdatei_test.cpp")) continue;
+      ASSERT_TRUE(datei.open(QIODevice::ReadOnly));
+      QString text = QString::fromUtf8(datei.readAll());
+      ++gelesen;
+      auto treffer = nummer.globalMatch(text);
+      while (treffer.hasNext()) {
+        const QString stelle = treffer.next().captured();
+        static const QRegularExpression name(QStringLiteral("slots\\.\\w+\\]$"));
+        EXPECT_TRUE(name.match(stelle).hasMatch())
+            << datei.fileName().toStdString() << ": " << stelle.toStdString();
+      }
+    }
+  }
+  EXPECT_GT(gelesen, 200);
+}
+
 TEST(Arrows, FormsHoldNoStatement) {
   static const QRegularExpression anweisung(
       QStringLiteral("\"(select .* from|insert into|update .* set|delete from) "),
@@ -143,6 +188,40 @@ TEST(Arrows, FormsHoldNoStatement) {
     if (!raum(name).endsWith("/forms")) continue;
     EXPECT_FALSE(anweisung.match(inhalt(name)).hasMatch()) << name.toStdString();
   }
+}
+
+// The names under which a source, or a header that it includes, has entry fields.
+QSet<QString> eingabefelder(const QString& datei, const QList<Einbindung>& alle) {
+  static const QRegularExpression muster(
+      QStringLiteral("\\bEingabefeld\\*(?:, *[\\w:]+)?>?\\s+(?:\\w+::)*(\\w+)"));
+  QString text = inhalt(datei);
+  for (const Einbindung& e : alle)
+    if (e.eigene && e.datei == datei) text += inhalt(e.ziel);
+  QSet<QString> namen;
+  for (auto lauf = muster.globalMatch(text); lauf.hasNext();) namen << lauf.next().captured(1);
+  return namen;
+}
+
+// A bare setFocus leaves the old content behind the cursor, and what is typed next is refused or
+// becomes another value: Eingabefeld::fokussieren selects it.
+TEST(Arrows, EntryFieldsAreFocusedInOneWay) {
+  static const QRegularExpression muster(
+      QStringLiteral("(\\w+)(?:\\((?:[^;()]|\\([^;()]*\\))*\\)|\\[[^;\\]]*\\]|\\.\\w+\\(\\))*\\s*(?"
+                     ":->|\\.)\\s*(setFocus|fokussieren)\\("));
+  const QList<Einbindung> alle = einbindungen();
+  int fokussiert = 0;
+  for (const QString& name : dateien()) {
+    if (name.startsWith("platform/controls/")) continue;
+    const QSet<QString> felder = eingabefelder(name, alle);
+    for (auto lauf = muster.globalMatch(inhalt(name)); lauf.hasNext();) {
+      const auto treffer = lauf.next();
+      const bool eines = felder.contains(treffer.captured(1));
+      fokussiert += eines ? 1 : 0;
+      EXPECT_EQ(eines, treffer.captured(2) == "fokussieren")
+          << name.toStdString() << ": " << treffer.captured(0).toStdString();
+    }
+  }
+  EXPECT_GT(fokussiert, 8);  // the fields are recognised
 }
 
 }  // namespace

@@ -2,22 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <ostream>
 
 #include "bookings/Buchung.h"
-#include "core/globals.h"
 #include "data/schema.h"
+#include "gemeinsam/Musterdatenbank.h"
 #include "platform/database/Recordset.h"
 
 inline void PrintTo(const QString& text, std::ostream* aus) { *aus << text.toStdString(); }
-inline void PrintTo(const Slotaenderung& a, std::ostream* aus) {
+inline void PrintTo(const Slotänderung& a, std::ostream* aus) {
   *aus << a.slot << ": \"" << a.text.toStdString() << '"';
 }
-inline void PrintTo(const QList<Slotaenderung>& liste, std::ostream* aus) {
+inline void PrintTo(const QList<Slotänderung>& liste, std::ostream* aus) {
   *aus << "{ ";
-  for (const Slotaenderung& a : liste) {
+  for (const Slotänderung& a : liste) {
     PrintTo(a, aus);
     *aus << ' ';
   }
@@ -25,20 +23,20 @@ inline void PrintTo(const QList<Slotaenderung>& liste, std::ostream* aus) {
 }
 
 // All slots empty but these.
-inline Slottexte slottexte(const QList<Slotaenderung>& texte) {
+inline Slottexte slottexte(const QList<Slotänderung>& texte) {
   Slottexte alle;
-  for (const Slotaenderung& a : texte) alle[static_cast<size_t>(a.slot)] = a.text;
+  for (const Slotänderung& a : texte) alle[static_cast<size_t>(a.slot)] = a.text;
   return alle;
 }
 
 // The slots as the form dresses them, then these texts in them.
-inline Buchung buchung(int art, const QString& datum, const QList<Slotaenderung>& texte) {
+inline Buchung buchung(int art, const QString& datum, const QList<Slotänderung>& texte) {
   Buchung neu;
   neu.art = art;
   neu.texte[0] = datum;
-  for (const Buchungsslot& slot : buchungstyp(art).plaetze)
+  for (const Buchungsslot& slot : buchungstyp(art).plätze)
     neu.texte[static_cast<size_t>(slot.nummer)] = slot.ersterText;
-  for (const Slotaenderung& a : texte) neu.texte[static_cast<size_t>(a.slot)] = a.text;
+  for (const Slotänderung& a : texte) neu.texte[static_cast<size_t>(a.slot)] = a.text;
   return neu;
 }
 
@@ -46,30 +44,12 @@ inline Buchung buchung(int art, const QString& datum, const QList<Slotaenderung>
 class Bestand : public testing::Test {
  protected:
   void SetUp() override {
-    TZ_Variablen::zuruecksetzen();
-    TZ_Variablen::AppPfad = m_ordner.path() + "/";
-    TZ_Variablen::DatenbankPfad = TZ_Variablen::AppPfad + "TOVA2.MDB";
-    TZ_Variablen::HeuteText = "20.06.2026";
-    // The tables are made once; each test gets a copy of its own.
-    static const QTemporaryDir vorlage;
-    const QString leer = vorlage.path() + "/leer.mdb";
-    if (QFile::exists(leer)) {
-      QFile::copy(leer, TZ_Variablen::DatenbankPfad);
-      db() = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
-      return;
-    }
-    DatenbankAnlegen();
-    db().Sammelschreiben([] {
+    static Musterdatenbank muster([] {
       schreibe("delete from Arbeitsplanoptionen");
       for (const QString nr : {"1", "2", "3"})
         schreibe("insert into Bienenvolk (Volknr, Akt_im_Bestand) values (?, 'X')", {nr});
     });
-    QFile::copy(TZ_Variablen::DatenbankPfad, leer);
-  }
-  void TearDown() override {
-    db().Close();
-    TZ_Variablen::Arbeitsbereich.Close();
-    TZ_Variablen::zuruecksetzen();
+    muster.kopieren();
   }
 
   static Database& db() { return TZ_Variablen::DB; }
@@ -112,6 +92,6 @@ class Bestand : public testing::Test {
     return b;
   }
 
-  QTemporaryDir m_ordner;
+  Programmordner m_ordner{"20.06.2026"};
   Buchungskontext m_kontext;
 };

@@ -8,26 +8,27 @@ namespace {
 QString zeile(const Buchungsslot& s) {
   QString form;
   switch (s.art) {
-    case Slotart::Text:
-      form = QString("T%1").arg(s.laenge);
+    case Verwaltung::Art::Text:
+      form = QString("T%1").arg(s.maxLänge);
       break;
-    case Slotart::Dezimal:
-      form = QString("D%1.%2").arg(s.laenge).arg(s.nachkommastellen);
+    case Verwaltung::Art::Dezimal:
+      form = QString("D%1.%2").arg(s.maxLänge).arg(s.nachkommastellen);
       break;
-    case Slotart::Ganzzahl:
-      form = QString("G%1<=%2").arg(s.laenge).arg(s.bis);
+    case Verwaltung::Art::Ganzzahl:
+      form = QString("G%1<=%2").arg(s.maxLänge).arg(s.bis);
       break;
-    case Slotart::Auswahl:
-      form = QString("A%1:%2").arg(s.laenge).arg(s.auswahl.join(","));
+    case Verwaltung::Art::Auswahl:
+      form = "A:" + s.texte.join(",");
       break;
-    case Slotart::Notiz:
+    default:
+      EXPECT_EQ(s.art, Verwaltung::Art::Notiz);
       form = "N";
-      break;
   }
   QString text =
       QString("%1 %2|%3|%4|%5").arg(s.nummer).arg(s.beschriftung, s.feld, form, s.ersterText);
-  if (s.geld) text += "|geld";
-  if (!s.listenTabelle.isEmpty()) text += "|" + s.listenTabelle + "." + s.listenFeld;
+  if (s.zeichen == "€") text += "|geld";
+  if (s.hatPickliste())
+    text += "|" + s.listenAnweisung.section(' ', 4, 4) + "." + s.listenAnweisung.section(' ', 2, 2);
   return text;
 }
 
@@ -37,8 +38,8 @@ void erwarte(int art, const QString& tabelle, const QString& beschriftung,
   EXPECT_EQ(typ.art, art);
   EXPECT_EQ(typ.tabelle, tabelle);
   EXPECT_EQ(typ.beschriftung, beschriftung);
-  ASSERT_EQ(typ.plaetze.size(), zeilen.size());
-  for (qsizetype i = 0; i < zeilen.size(); ++i) EXPECT_EQ(zeile(typ.plaetze[i]), zeilen[i]);
+  ASSERT_EQ(typ.plätze.size(), zeilen.size());
+  for (qsizetype i = 0; i < zeilen.size(); ++i) EXPECT_EQ(zeile(typ.plätze[i]), zeilen[i]);
 }
 
 const QString Zeit = " Zeit (h)|Zeit_h|D5.2|0,00";
@@ -58,7 +59,7 @@ TEST(Buchungstypen, Stockkarte) {
            "7 Winterfestigkeit|Winterfestigkeit|D4.1|0,0",
            "8 Varroabefall|Varroabefall|D4.1|0,0",
            "9 Belagert|Belagert|D4.1|0,0",
-           "10 Magazine|Magazine|G2<=9|0",
+           "10 Magazine|Magazine|G1<=9|0",
            "11 Waben|Waben|G2<=99|0",
            "12 Honigwaben|Honigwaben|G2<=99|0",
            "13 Brutwaben|Brutwaben|G2<=99|0",
@@ -116,7 +117,7 @@ TEST(Buchungstypen, Wanderung) {
   erwarte(6, "Wanderung", "Wanderung",
           {"1 Standort|Standort|T100||Standorte.Standort", "2" + Zeit, "3" + Kosten,
            "4 Standortprämie|Standortprämie|D8.2|0,00|geld",
-           "5 Prämie erhalten JN|Prämie_erhalten|A1:J,N|", "6" + Bem + "Wanderung.Bemerkung"});
+           "5 Prämie erhalten JN|Prämie_erhalten|A:J,N|", "6" + Bem + "Wanderung.Bemerkung"});
 }
 
 TEST(Buchungstypen, Gewichtsmessung) {
@@ -134,7 +135,7 @@ TEST(Buchungstypen, Behandlung) {
            "8" + Bem + "Behandlung.Bemerkung", "9 Anzahl Varroen|Anz_Varroen|G3<=999|0"});
 }
 
-TEST(Buchungstypen, Koeniginwechsel) {
+TEST(Buchungstypen, Königinwechsel) {
   erwarte(9, "Königinwechsel", "Königinwechsel",
           {"1 Herkunft|Herkunft|T30||Königinwechsel.Herkunft",
            "2 Zuchtindex|Zuchtindex|T10||Königinwechsel.Zuchtindex",
@@ -154,26 +155,29 @@ TEST(Buchungstypen, PlatzFindetDieNummer) {
 
 class Buchungslisten : public Bestand {};
 
-TEST_F(Buchungslisten, JedesFeldGehoertZurTabelleUndPasstInSie) {
+TEST_F(Buchungslisten, JedesFeldGehörtZurTabelleUndPasstInSie) {
   for (int art = 0; art <= 10; ++art) {
     const Buchungstyp& typ = buchungstyp(art);
     const auto felder = db().Felder(typ.tabelle);
     // Datum, Volk_ID and ID are the rest.
-    EXPECT_EQ(felder.size(), static_cast<size_t>(typ.plaetze.size() + 3)) << art;
-    for (const Buchungsslot& slot : typ.plaetze) {
+    EXPECT_EQ(felder.size(), static_cast<size_t>(typ.plätze.size() + 3)) << art;
+    for (const Buchungsslot& slot : typ.plätze) {
       const auto gefunden = std::find_if(felder.begin(), felder.end(), [&](const Spalte& f) {
         return f.name.compare(slot.feld, Qt::CaseInsensitive) == 0;
       });
       ASSERT_NE(gefunden, felder.end()) << slot.feld.toStdString();
-      if (gefunden->typ == Feldtyp::Text) {
-        EXPECT_EQ(gefunden->laenge, slot.laenge);
-      }
+      if (gefunden->typ != Feldtyp::Text) continue;
+      int länge = slot.maxLänge;
+      for (const QString& wort : slot.texte)  // a choice is as long as its longest text
+        länge = std::max(länge, static_cast<int>(wort.size()));
+      EXPECT_EQ(gefunden->länge, länge) << slot.feld.toStdString();
     }
   }
 }
 
 TEST_F(Buchungslisten, ListenabfrageDerStockkarteKommtAusDenEinstellungen) {
-  TZ_Variablen::EinstellungenText[22] = "select Datum, Waben, ID from Stockkarte";
+  TZ_Variablen::EinstellungenText[Textslots.stockkartenfelder] =
+      "select Datum, Waben, ID from Stockkarte";
   EXPECT_EQ(listenAbfrage(0), "select Datum, Waben, ID from Stockkarte");
   EXPECT_EQ(listenAbfrage(1), "select * from Honigernte");
   EXPECT_EQ(listenAbfrage(4), "select * from Sonstigeernte");
@@ -182,23 +186,22 @@ TEST_F(Buchungslisten, ListenabfrageDerStockkarteKommtAusDenEinstellungen) {
 }
 
 TEST_F(Buchungslisten, OhneEingestellteAbfrageZeigtDieStockkarteAlleFelder) {
-  TZ_Variablen::EinstellungenText[22] = " ";
+  TZ_Variablen::EinstellungenText[Textslots.stockkartenfelder] = " ";
   EXPECT_EQ(listenAbfrage(0), "select * from Stockkarte");
 }
 
-TEST_F(Buchungslisten, PicklisteNenntFrueherEingegebenesSortiertUndEinmal) {
+TEST_F(Buchungslisten, PicklisteNenntFrüherEingegebenesSortiertUndEinmal) {
   for (const QString art : {"Schleudern", "abdecken", "Schleudern", ""})
     schreibe("insert into Arbeiten (Arbeitsart, Volk_ID) values (?, 1)", {art});
   schreibe("insert into Arbeiten (Volk_ID) values (1)");
   const Buchungsslot& slot = *buchungstyp(5).platz(1);
-  EXPECT_EQ(picklistenAbfrage(slot),
-            "select distinct Arbeitsart from Arbeiten order by Arbeitsart");
+  EXPECT_EQ(slot.listenAnweisung, "select distinct Arbeitsart from Arbeiten order by Arbeitsart");
   EXPECT_EQ(pickliste(db(), slot).join("|"), "abdecken|Schleudern");
 }
 
 TEST_F(Buchungslisten, PicklisteDesStandortsKommtAusDenStandorten) {
   schreibe("insert into Standorte (Standort) values ('Rapsfeld')");
   EXPECT_EQ(pickliste(db(), *buchungstyp(6).platz(1)).join("|"), "Rapsfeld");
-  EXPECT_TRUE(picklistenAbfrage(*buchungstyp(6).platz(2)).isEmpty());
+  EXPECT_FALSE(buchungstyp(6).platz(2)->hatPickliste());
   EXPECT_TRUE(pickliste(db(), *buchungstyp(6).platz(2)).isEmpty());
 }

@@ -9,12 +9,6 @@ namespace {
 
 class Masken : public testing::Test {
  protected:
-  void SetUp() override {
-    TZ_Variablen::zuruecksetzen();
-    TZ_Variablen::AppPfad = m_ordner.path() + "/";
-  }
-  void TearDown() override { TZ_Variablen::zuruecksetzen(); }
-
   static Slotarten nach(const QList<int>& typen) {
     Slotarten arten{};
     for (const int art : typen) einkleiden(arten, art);
@@ -31,7 +25,7 @@ class Masken : public testing::Test {
     return texte;
   }
 
-  QTemporaryDir m_ordner;
+  Programmordner m_ordner{"20.06.2026"};
 };
 
 }  // namespace
@@ -57,12 +51,12 @@ TEST_F(Masken, WanderungHatEineZeileWeniger) {
   EXPECT_TRUE(datei(6).startsWith("s1\r\ns2\r\ns3\r\ns4\r\ns6\r\n"));
 }
 
-TEST_F(Masken, VerborgenerSlotBehaeltSeineAuswahlVonDerWanderung) {
+TEST_F(Masken, VerborgenerSlotBehältSeineAuswahlVonDerWanderung) {
   maskeSichern(5, nummeriert(), nach({6, 5}));  // Arbeiten ends at slot 4
   EXPECT_EQ(datei(5).count("\r\n"), 25);
 }
 
-TEST_F(Masken, NeuEingekleideterSlotZaehltWiederMit) {
+TEST_F(Masken, NeuEingekleideterSlotZähltWiederMit) {
   maskeSichern(1, nummeriert(), nach({6, 1}));
   EXPECT_EQ(datei(1).count("\r\n"), 26);
 }
@@ -77,7 +71,7 @@ TEST_F(Masken, NotizWirdNieGesichertDieAnderenSlotsSchon) {
 
 TEST_F(Masken, OhneDateiGeschiehtNichts) { EXPECT_EQ(maskeEinlesen(3, nach({3})), std::nullopt); }
 
-TEST_F(Masken, GesichertesKommtInSeineSlotsZurueck) {
+TEST_F(Masken, GesichertesKommtInSeineSlotsZurück) {
   Slottexte texte = nummeriert();
   texte[1] = "1.234,50";
   texte[2] = "Löwenzahn €";
@@ -85,11 +79,11 @@ TEST_F(Masken, GesichertesKommtInSeineSlotsZurueck) {
   const auto gelesen = maskeEinlesen(1, nach({1}));
   ASSERT_TRUE(gelesen);
   ASSERT_EQ(gelesen->size(), 26);
-  EXPECT_EQ(gelesen->at(0), (Slotaenderung{1, "1.234,50"}));
-  EXPECT_EQ(gelesen->at(1), (Slotaenderung{2, "Löwenzahn €"}));
-  EXPECT_EQ(gelesen->at(13), (Slotaenderung{14, "s14"}));
-  EXPECT_EQ(gelesen->at(14), (Slotaenderung{16, "s16"}));
-  EXPECT_EQ(gelesen->at(25), (Slotaenderung{27, "s27"}));
+  EXPECT_EQ(gelesen->at(0), (Slotänderung{1, "1.234,50"}));
+  EXPECT_EQ(gelesen->at(1), (Slotänderung{2, "Löwenzahn €"}));
+  EXPECT_EQ(gelesen->at(13), (Slotänderung{14, "s14"}));
+  EXPECT_EQ(gelesen->at(14), (Slotänderung{16, "s16"}));
+  EXPECT_EQ(gelesen->at(25), (Slotänderung{27, "s27"}));
 }
 
 TEST_F(Masken, UmlauteStehenAlsEinByteInDerDatei) {
@@ -99,27 +93,27 @@ TEST_F(Masken, UmlauteStehenAlsEinByteInDerDatei) {
   EXPECT_TRUE(datei(5).startsWith("M\xFCll\x80\r\n"));
 }
 
-TEST_F(Masken, LesenUeberspringtDieselbenSlots) {
+TEST_F(Masken, LesenÜberspringtDieselbenSlots) {
   maskeSichern(6, nummeriert(), nach({6}));
   const auto gelesen = maskeEinlesen(6, nach({6}));
   ASSERT_EQ(gelesen->size(), 25);
-  EXPECT_EQ(gelesen->at(3), (Slotaenderung{4, "s4"}));
-  EXPECT_EQ(gelesen->at(4), (Slotaenderung{6, "s6"}));
+  EXPECT_EQ(gelesen->at(3), (Slotänderung{4, "s4"}));
+  EXPECT_EQ(gelesen->at(4), (Slotänderung{6, "s6"}));
 }
 
-TEST_F(Masken, KurzeDateiFuelltNurDieErstenSlots) {
+TEST_F(Masken, KurzeDateiFülltNurDieErstenSlots) {
   Textdatei::schreiben(maskenDatei(1), {"5,00", ""});
-  EXPECT_EQ(maskeEinlesen(1, nach({1})), (QList<Slotaenderung>{{1, "5,00"}, {2, ""}}));
+  EXPECT_EQ(maskeEinlesen(1, nach({1})), (QList<Slotänderung>{{1, "5,00"}, {2, ""}}));
 }
 
-TEST_F(Masken, LangeDateiLaesstDenRestLiegen) {
+TEST_F(Masken, LangeDateiLässtDenRestLiegen) {
   QStringList zeilen;
   for (int i = 0; i < 40; ++i) zeilen.append("x");
   Textdatei::schreiben(maskenDatei(1), zeilen);
   EXPECT_EQ(maskeEinlesen(1, nach({1}))->size(), 26);
 }
 
-TEST_F(Masken, LeereDateiFuelltNichts) {
+TEST_F(Masken, LeereDateiFülltNichts) {
   Textdatei::schreiben(maskenDatei(1), {});
   ASSERT_TRUE(maskeEinlesen(1, nach({1})));
   EXPECT_TRUE(maskeEinlesen(1, nach({1}))->isEmpty());

@@ -3,13 +3,13 @@
 #include "Bestand.h"
 
 using TZ_Variablen::EinstellungenWert;
-using Aenderungen = QList<Slotaenderung>;
+using Änderungen = QList<Slotänderung>;
 
 namespace {
 
 // Slots 12, 13, 14, 16, 17, 19 and the foundation sheets in slot 18.
 Slottexte waben(int honig, int brut, int pollen, int drohnen, int leer, int futter,
-                int mittelwaende) {
+                int mittelwände) {
   const auto zahl = [](int n) { return QString::number(n); };
   return slottexte({{12, zahl(honig)},
                     {13, zahl(brut)},
@@ -17,20 +17,20 @@ Slottexte waben(int honig, int brut, int pollen, int drohnen, int leer, int futt
                     {16, zahl(drohnen)},
                     {17, zahl(leer)},
                     {19, zahl(futter)},
-                    {18, zahl(mittelwaende)}});
+                    {18, zahl(mittelwände)}});
 }
 
 class Geld : public testing::Test {
  protected:
   void SetUp() override {
-    TZ_Variablen::zuruecksetzen();
-    EinstellungenWert[0] = 8.5F;   // honey per kg
-    EinstellungenWert[1] = 12.0F;  // wax per kg
-    EinstellungenWert[2] = 0.03F;  // pollen per g
-    EinstellungenWert[3] = 0.5F;   // others per g
-    EinstellungenWert[4] = 15.5F;  // rate per hour
+    TZ_Variablen::zurücksetzen();
+    EinstellungenWert[Wertslots.honigJeKg] = 8.5F;     // honey per kg
+    EinstellungenWert[Wertslots.wachsJeKg] = 12.0F;    // wax per kg
+    EinstellungenWert[Wertslots.pollenJeG] = 0.03F;    // pollen per g
+    EinstellungenWert[Wertslots.sonstigesJeG] = 0.5F;  // others per g
+    EinstellungenWert[Wertslots.stundensatz] = 15.5F;  // rate per hour
   }
-  void TearDown() override { TZ_Variablen::zuruecksetzen(); }
+  void TearDown() override { TZ_Variablen::zurücksetzen(); }
 
   // "6=85", or "-" when nothing follows.
   static QString folge(int art, int slot, const QString& text) {
@@ -41,13 +41,12 @@ class Geld : public testing::Test {
 
 }  // namespace
 
-TEST(Wabenrechnung, SummeOhneMittelwaendeUndMagazineAufgerundet) {
+TEST(Wabenrechnung, SummeOhneMittelwändeUndMagazineAufgerundet) {
   // 3+6+1+1+2+2 = 15 combs; with 4 foundation sheets 19, at ten a magazine 2.
-  EXPECT_EQ(wabenrechnung(12, waben(3, 6, 1, 1, 2, 2, 4), 10),
-            (Aenderungen{{11, "15"}, {10, "2"}}));
+  EXPECT_EQ(wabenrechnung(12, waben(3, 6, 1, 1, 2, 2, 4), 10), (Änderungen{{11, "15"}, {10, "2"}}));
 }
 
-TEST(Wabenrechnung, JederWabenslotLoestSieAusAndereNicht) {
+TEST(Wabenrechnung, JederWabenslotLöstSieAusAndereNicht) {
   const Slottexte texte = waben(1, 1, 1, 1, 1, 1, 1);
   for (int slot = 0; slot < AnzahlSlots; ++slot) {
     const bool soll = slot == 12 || slot == 13 || slot == 14 || (slot >= 16 && slot <= 19);
@@ -56,45 +55,45 @@ TEST(Wabenrechnung, JederWabenslotLoestSieAusAndereNicht) {
 }
 
 TEST(Wabenrechnung, SummeNullGibtNullWabenAberEinMagazin) {
-  EXPECT_EQ(wabenrechnung(12, waben(0, 0, 0, 0, 0, 0, 0), 10), (Aenderungen{{11, "0"}, {10, "1"}}));
+  EXPECT_EQ(wabenrechnung(12, waben(0, 0, 0, 0, 0, 0, 0), 10), (Änderungen{{11, "0"}, {10, "1"}}));
 }
 
-TEST(Wabenrechnung, FuenfundneunzigWabenGebenDieMagazineVonNeunzig) {
+TEST(Wabenrechnung, FünfundneunzigWabenGebenDieMagazineVonNeunzig) {
   EXPECT_EQ(wabenrechnung(13, waben(50, 45, 0, 0, 0, 0, 0), 10),
-            (Aenderungen{{11, "95"}, {10, "9"}}));
+            (Änderungen{{11, "95"}, {10, "9"}}));
 }
 
 TEST(Wabenrechnung, HundertWabenUndMehrBehaltenAlleZiffern) {
   EXPECT_EQ(wabenrechnung(13, waben(60, 60, 0, 0, 0, 0, 0), 10),
-            (Aenderungen{{11, "120"}, {10, "9"}}));
+            (Änderungen{{11, "120"}, {10, "9"}}));
 }
 
 TEST(Wabenrechnung, RiesigeZahlAusEinerMaskeSprengtNichts) {
   const Slottexte texte = slottexte({{12, "99999999999"}, {18, "99999999999"}});
-  EXPECT_EQ(wabenrechnung(12, texte, 10), (Aenderungen{{11, "999999999"}, {10, "9"}}));
+  EXPECT_EQ(wabenrechnung(12, texte, 10), (Änderungen{{11, "999999999"}, {10, "9"}}));
   EXPECT_EQ(wabenbilanz({}, texte), "MW: 0 (999999999)   WZ: 0 (0)");
 }
 
-TEST(Wabenrechnung, MittelwaendeZaehlenFuerMagazineNieFuerWaben) {
+TEST(Wabenrechnung, MittelwändeZählenFürMagazineNieFürWaben) {
   EXPECT_EQ(wabenrechnung(18, waben(10, 0, 0, 0, 0, 0, 0), 10),
-            (Aenderungen{{11, "10"}, {10, "1"}}));
+            (Änderungen{{11, "10"}, {10, "1"}}));
   EXPECT_EQ(wabenrechnung(18, waben(10, 0, 0, 0, 0, 0, 1), 10),
-            (Aenderungen{{11, "10"}, {10, "2"}}));
+            (Änderungen{{11, "10"}, {10, "2"}}));
 }
 
 TEST(Wabenrechnung, TeiltDurchDieWabenJeMagazinDesVolkes) {
   EXPECT_EQ(wabenrechnung(12, waben(22, 0, 0, 0, 0, 0, 0), 11),
-            (Aenderungen{{11, "22"}, {10, "2"}}));
+            (Änderungen{{11, "22"}, {10, "2"}}));
   EXPECT_EQ(wabenrechnung(12, waben(23, 0, 0, 0, 0, 0, 0), 11),
-            (Aenderungen{{11, "23"}, {10, "3"}}));
+            (Änderungen{{11, "23"}, {10, "3"}}));
 }
 
 TEST(Wabenrechnung, OhneWabenJeMagazinBleibenDieMagazine) {
-  EXPECT_EQ(wabenrechnung(12, waben(5, 0, 0, 0, 0, 0, 0), 0), (Aenderungen{{11, "5"}}));
+  EXPECT_EQ(wabenrechnung(12, waben(5, 0, 0, 0, 0, 0, 0), 0), (Änderungen{{11, "5"}}));
 }
 
-TEST(Wabenrechnung, LeereSlotsZaehlenNull) {
-  EXPECT_EQ(wabenrechnung(12, slottexte({{12, "7"}}), 10), (Aenderungen{{11, "7"}, {10, "1"}}));
+TEST(Wabenrechnung, LeereSlotsZählenNull) {
+  EXPECT_EQ(wabenrechnung(12, slottexte({{12, "7"}}), 10), (Änderungen{{11, "7"}, {10, "1"}}));
 }
 
 TEST(Wabenbilanz, NenntStandUndUnterschied) {
@@ -115,12 +114,12 @@ TEST_F(Geld, WertAusMenge) {
 TEST_F(Geld, WertIstSchlichteZahlOhneRundung) {
   EXPECT_EQ(folge(1, 1, "3,33"), "6=28,305");
   EXPECT_EQ(folge(1, 1, ""), "6=0");
-  EinstellungenWert[0] = 0.1F;
+  EinstellungenWert[Wertslots.honigJeKg] = 0.1F;
   EXPECT_EQ(folge(1, 1, "0,7"), "6=0,07");
 }
 
 TEST_F(Geld, WertMitFaktorNullWirdNull) {
-  EinstellungenWert[0] = 0;
+  EinstellungenWert[Wertslots.honigJeKg] = 0;
   EXPECT_EQ(folge(1, 1, "10"), "6=0");
 }
 
@@ -137,23 +136,23 @@ TEST_F(Geld, KostenAusZeitMitZweiNachkommastellen) {
 }
 
 TEST_F(Geld, OhneStundensatzBleibenGetippteKosten) {
-  EinstellungenWert[4] = 0;
+  EinstellungenWert[Wertslots.stundensatz] = 0;
   for (const auto& [art, slot] : {std::pair{1, 4}, {2, 3}, {5, 2}, {8, 6}, {9, 5}})
     EXPECT_EQ(folge(art, slot, "2,00"), "-") << art;
   EXPECT_EQ(folge(1, 1, "10,00"), "6=85");
 }
 
-TEST_F(Geld, AndereSlotsLoesenNichtsAus) {
-  const QList<QSet<int>> ausloeser{{}, {1, 4}, {1, 3}, {1, 3}, {2, 4}, {2}, {2}, {2}, {6}, {5}, {}};
+TEST_F(Geld, AndereSlotsLösenNichtsAus) {
+  const QList<QSet<int>> auslöser{{}, {1, 4}, {1, 3}, {1, 3}, {2, 4}, {2}, {2}, {2}, {6}, {5}, {}};
   for (int art = 0; art <= 10; ++art)
     for (int slot = 0; slot < AnzahlSlots; ++slot)
-      EXPECT_EQ(folge(art, slot, "1") != "-", ausloeser[art].contains(slot)) << art << " " << slot;
+      EXPECT_EQ(folge(art, slot, "1") != "-", auslöser[art].contains(slot)) << art << " " << slot;
 }
 
-TEST_F(Geld, FolgeaenderungenSindWabenBeiDerStockkarteSonstGeld) {
-  EXPECT_EQ(folgeaenderungen(0, 12, waben(1, 0, 0, 0, 0, 0, 0), 10),
-            (Aenderungen{{11, "1"}, {10, "1"}}));
-  EXPECT_EQ(folgeaenderungen(0, 1, slottexte({{1, "2"}}), 10), Aenderungen{});
-  EXPECT_EQ(folgeaenderungen(1, 1, slottexte({{1, "2"}}), 10), (Aenderungen{{6, "17"}}));
-  EXPECT_EQ(folgeaenderungen(1, 12, slottexte({{12, "2"}}), 10), Aenderungen{});
+TEST_F(Geld, FolgeänderungenSindWabenBeiDerStockkarteSonstGeld) {
+  EXPECT_EQ(folgeänderungen(0, 12, waben(1, 0, 0, 0, 0, 0, 0), 10),
+            (Änderungen{{11, "1"}, {10, "1"}}));
+  EXPECT_EQ(folgeänderungen(0, 1, slottexte({{1, "2"}}), 10), Änderungen{});
+  EXPECT_EQ(folgeänderungen(1, 1, slottexte({{1, "2"}}), 10), (Änderungen{{6, "17"}}));
+  EXPECT_EQ(folgeänderungen(1, 12, slottexte({{12, "2"}}), 10), Änderungen{});
 }

@@ -10,25 +10,25 @@ class Sammelbuchung : public Bestand {
  protected:
   void SetUp() override {
     Bestand::SetUp();
-    EinstellungenZahl[68] = 0;
-    EinstellungenZahl[72] = 0;
-    EinstellungenZahl[73] = 0;
+    EinstellungenZahl[Zahlslots.ernteInsHoniglager] = 0;
+    EinstellungenZahl[Zahlslots.sammelbuchungTeilen] = 0;
+    EinstellungenZahl[Zahlslots.honigInWaben] = 0;
     EinstellungenWert.fill(0);
   }
-  static void lagerAn() { EinstellungenZahl[68] = 1; }
-  static void teilenAn() { EinstellungenZahl[72] = 1; }
+  static void lagerAn() { EinstellungenZahl[Zahlslots.ernteInsHoniglager] = 1; }
+  static void teilenAn() { EinstellungenZahl[Zahlslots.sammelbuchungTeilen] = 1; }
   static void wabenAn(float kg) {
-    EinstellungenZahl[73] = 1;
-    EinstellungenWert[5] = kg;
+    EinstellungenZahl[Zahlslots.honigInWaben] = 1;
+    EinstellungenWert[Wertslots.kgJeHonigwabe] = kg;
   }
   // Every number slot holds "10", divided over three colonies; the row as "Feld=Wert" for what
   // isn't text.
   QString geteilt(int art) {
     teilenAn();
-    QList<Slotaenderung> texte;
+    QList<Slotänderung> texte;
     QStringList felder;
-    for (const Buchungsslot& slot : buchungstyp(art).plaetze)
-      if (slot.art == Slotart::Dezimal || slot.art == Slotart::Ganzzahl) {
+    for (const Buchungsslot& slot : buchungstyp(art).plätze)
+      if (slot.art == Verwaltung::Art::Dezimal || slot.art == Verwaltung::Art::Ganzzahl) {
         texte.append({slot.nummer, "10"});
         felder.append(slot.feld);
       }
@@ -68,7 +68,7 @@ TEST_F(Sammelbuchung, TeilungGewichtsmessungOhneGewicht) {
 TEST_F(Sammelbuchung, TeilungBehandlungOhneWartezeitUndVarroen) {
   EXPECT_EQ(geteilt(8), "Menge_g=3 Wartezeit=10 Zeit_h=3,33 Kosten=3,33 Anz_Varroen=10");
 }
-TEST_F(Sammelbuchung, TeilungKoeniginwechsel) { EXPECT_EQ(geteilt(9), "Zeit_h=3,33 Kosten=3,33"); }
+TEST_F(Sammelbuchung, TeilungKöniginwechsel) { EXPECT_EQ(geteilt(9), "Zeit_h=3,33 Kosten=3,33"); }
 TEST_F(Sammelbuchung, StockkarteTeiltNichts) {
   const QString zeile = geteilt(0);
   EXPECT_EQ(zeile.count("=10"), 25);
@@ -101,7 +101,7 @@ TEST_F(Sammelbuchung, EinVolkWirdNichtGeteiltUndNichtGerundet) {
   EXPECT_EQ(feld("Gewichtsmessung", "Zeit_h"), "3,123");
 }
 
-TEST_F(Sammelbuchung, AendernBeiMehrerenMarkiertenTeiltEbenfalls) {
+TEST_F(Sammelbuchung, ÄndernBeiMehrerenMarkiertenTeiltEbenfalls) {
   neu(buchung(5, "05.06.2026", {{1, "a"}, {2, "3,00"}}));
   teilenAn();
   m_kontext.anzahlMarkiert = 3;
@@ -111,7 +111,7 @@ TEST_F(Sammelbuchung, AendernBeiMehrerenMarkiertenTeiltEbenfalls) {
   EXPECT_EQ(b.texte[2], "3,00");
 }
 
-TEST_F(Sammelbuchung, ZehnKiloAufDreiVoelkerGibt3Komma33UndZugang10Einmal) {
+TEST_F(Sammelbuchung, ZehnKiloAufDreiVölkerGibt3Komma33UndZugang10Einmal) {
   teilenAn();
   lagerAn();
   lauf(honig("10,00"), {"1", "2", "3"});
@@ -161,7 +161,7 @@ TEST_F(Sammelbuchung, NurHonigKommtInsLager) {
   EXPECT_EQ(anzahl("Honiglager"), 0);
 }
 
-TEST_F(Sammelbuchung, AendernVon10Auf12LaesstDasLagerBei10) {
+TEST_F(Sammelbuchung, ÄndernVon10Auf12LässtDasLagerBei10) {
   lagerAn();
   neu(honig("10"));
   Buchung b = honig("12");
@@ -170,14 +170,14 @@ TEST_F(Sammelbuchung, AendernVon10Auf12LaesstDasLagerBei10) {
   EXPECT_EQ(spalte("select Zugang from Honiglager"), "10");
 }
 
-TEST_F(Sammelbuchung, ZweiLaeufeSindZweiLagerbewegungen) {
+TEST_F(Sammelbuchung, ZweiLäufeSindZweiLagerbewegungen) {
   lagerAn();
   lauf(honig("1"), {"1", "2"});
   lauf(honig("2"), {"1", "2"});
   EXPECT_EQ(spalte("select Zugang from Honiglager order by ID"), "2|4");
 }
 
-TEST_F(Sammelbuchung, ZugangOhneBinaerrest) {
+TEST_F(Sammelbuchung, ZugangOhneBinärrest) {
   lagerAn();
   lauf(honig("3,3"), {"1", "2", "3"});
   EXPECT_EQ(spalte("select Zugang from Honiglager"), "9,9");
@@ -185,7 +185,7 @@ TEST_F(Sammelbuchung, ZugangOhneBinaerrest) {
 
 TEST_F(Sammelbuchung, EineAndereStellungDesTeilensTeiltNichtUndNimmtDenZugangWieErSteht) {
   lagerAn();
-  EinstellungenZahl[72] = 2;
+  EinstellungenZahl[Zahlslots.sammelbuchungTeilen] = 2;
   lauf(honig("10"), {"1", "2"});
   EXPECT_EQ(spalte("select Menge_kg from Honigernte"), "10|10");
   EXPECT_EQ(spalte("select Zugang from Honiglager"), "10");
@@ -216,7 +216,7 @@ TEST_F(Sammelbuchung, WabenUndTeilung) {
   EXPECT_EQ(spalte("select Zugang from Honiglager"), "6");
 }
 
-TEST_F(Sammelbuchung, AendernMultipliziertNicht) {
+TEST_F(Sammelbuchung, ÄndernMultipliziertNicht) {
   neu(honig("3"));
   wabenAn(2);
   Buchung b = honig("4");
@@ -230,7 +230,7 @@ TEST_F(Sammelbuchung, OhneFaktorOderSchalterBleibenDieWaben) {
   neu(honig("3"));
   EXPECT_EQ(feld("Honigernte", "Menge_kg"), "3");
   wabenAn(2);
-  EinstellungenZahl[73] = 0;
+  EinstellungenZahl[Zahlslots.honigInWaben] = 0;
   neu(honig("3"));
   EXPECT_EQ(feld("Honigernte", "Menge_kg"), "3");
 }
@@ -243,7 +243,7 @@ TEST_F(Sammelbuchung, NurHonigRechnetWabenUm) {
 
 TEST_F(Sammelbuchung, HonigwertNachDemLetztenPreisFolgtDenKilo) {
   wabenAn(2);
-  EinstellungenWert[0] = 5;
+  EinstellungenWert[Wertslots.honigJeKg] = 5;
   schreibe(
       "insert into Honigernte (Honigsorte, Qualität, Menge_kg, Honig_Wert, Datum, Volk_ID) values "
       "('Ra`ps', '', 10, 80, ?, 3)",
@@ -257,7 +257,7 @@ TEST_F(Sammelbuchung, HonigwertNachDemLetztenPreisFolgtDenKilo) {
 
 TEST_F(Sammelbuchung, BerechneterHonigwertFolgtDenKiloGetippterBleibt) {
   wabenAn(2);
-  EinstellungenWert[0] = 5;
+  EinstellungenWert[Wertslots.honigJeKg] = 5;
   Buchung b = honig("3");
   b.texte[6] = "15";  // 3 x 5, as computed while typing
   const Buchung danach = lauf(b, {"1", "2"});

@@ -33,7 +33,7 @@ TEST_F(Terminschluss, NurBisZumTagDerBuchung) {
   EXPECT_EQ(erledigt(), "J|J|N");
 }
 
-TEST_F(Terminschluss, NurBeimGebuchtenVolkNieVolkunabhaengige) {
+TEST_F(Terminschluss, NurBeimGebuchtenVolkNieVolkunabhängige) {
   option("Varroa", "Behandlung");
   termin("Varroa", Juni5, 1);
   termin("Varroa", Juni5, 2);
@@ -61,7 +61,7 @@ TEST_F(Terminschluss, MehrereOptionenEinerBuchung) {
   EXPECT_EQ(erledigt(), "J|J");
 }
 
-TEST_F(Terminschluss, JederBuchungstypSchliesstDieSeinen) {
+TEST_F(Terminschluss, JederBuchungstypSchließtDieSeinen) {
   for (int art = 0; art <= 10; ++art) {
     const QString tabelle = buchungstyp(art).tabelle;
     schreibe("delete from Termine");
@@ -72,7 +72,7 @@ TEST_F(Terminschluss, JederBuchungstypSchliesstDieSeinen) {
   }
 }
 
-TEST_F(Terminschluss, ArbeitsartSchliesstDieOptionDieSieNennt) {
+TEST_F(Terminschluss, ArbeitsartSchließtDieOptionDieSieNennt) {
   option("Drohnenbrut", "", "Drohnen schneiden");
   option("Füttern", "", "Zuckerwasser geben");
   termin("Drohnenbrut", Juni5);
@@ -90,7 +90,7 @@ TEST_F(Terminschluss, TabelleUndArbeitsartZusammen) {
   EXPECT_EQ(erledigt(), "J|J");
 }
 
-TEST_F(Terminschluss, LeereArbeitsartSchliesstNichtDieOptionenOhneArbeitsart) {
+TEST_F(Terminschluss, LeereArbeitsartSchließtNichtDieOptionenOhneArbeitsart) {
   option("Varroa", "Behandlung", "");
   termin("Varroa", Juni5);
   neu(buchung(5, "05.06.2026", {{1, ""}}));
@@ -119,21 +119,21 @@ TEST_F(Terminschluss, OptionMitApostrophWirdWieGelesenVerglichen) {
   EXPECT_EQ(erledigt(), "J");
 }
 
-TEST_F(Terminschluss, AendernSchliesstZumNeuenDatumUndOeffnetNichts) {
+TEST_F(Terminschluss, ÄndernSchließtZumNeuenDatumUndÖffnetNichts) {
   option("Varroa", "Behandlung");
   termin("Varroa", Juni5);
   termin("Varroa", Juni5.addDays(10));
   neu(buchung(8, "05.06.2026", {}));
   ASSERT_EQ(erledigt(), "J|N");
-  Buchung spaeter = buchung(8, "20.06.2026", {});
-  BuchungSpeichern(db(), spaeter, "1", "1", m_kontext);
+  Buchung später = buchung(8, "20.06.2026", {});
+  BuchungSpeichern(db(), später, "1", "1", m_kontext);
   EXPECT_EQ(erledigt(), "J|J");
-  Buchung frueher = buchung(8, "01.01.2026", {});
-  BuchungSpeichern(db(), frueher, "1", "1", m_kontext);
+  Buchung früher = buchung(8, "01.01.2026", {});
+  BuchungSpeichern(db(), früher, "1", "1", m_kontext);
   EXPECT_EQ(erledigt(), "J|J");
 }
 
-TEST_F(Terminschluss, LoeschenLaesstSieErledigt) {
+TEST_F(Terminschluss, LöschenLässtSieErledigt) {
   option("Varroa", "Behandlung");
   termin("Varroa", Juni5);
   neu(buchung(8, "05.06.2026", {}));
@@ -141,7 +141,7 @@ TEST_F(Terminschluss, LoeschenLaesstSieErledigt) {
   EXPECT_EQ(erledigt(), "J");
 }
 
-TEST_F(Terminschluss, LaufSchliesstBeiJedemVolk) {
+TEST_F(Terminschluss, LaufSchließtBeiJedemVolk) {
   option("Varroa", "Behandlung");
   for (const int volk : {1, 2, 3}) termin("Varroa", Juni5, volk);
   lauf(buchung(8, "05.06.2026", {}), {"1", "3"});

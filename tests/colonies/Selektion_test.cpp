@@ -82,14 +82,14 @@ TEST_F(Selektieren, BeschriftungenDerNeunRegelnInIhrerReihenfolge) {
                                 "Völker wo..."}));
 }
 
-TEST_F(Selektieren, DieSiebzehnFelderFuerVoelkerWo) {
+TEST_F(Selektieren, DieSiebzehnFelderFürVölkerWo) {
   EXPECT_EQ(Selektion::zahlfelder().join(' ').toStdString(),
             "Volkstärke Mittelwände Magazine Wabenanzahl Honigwaben Brutwaben Pollenwaben "
             "Drohnenwaben Leerwaben Futterwaben Brutstand Wabensitz Sanftmut Schwarmtrieb "
             "Frühjahrsentw Winterfestigkeit Varroabefall");
 }
 
-TEST_F(Selektieren, AnweisungenDerFuenfAuswahllisten) {
+TEST_F(Selektieren, AnweisungenDerFünfAuswahllisten) {
   const QStringList felder{"Standort", "Beuteart", "Bienenrasse", "Volk_Herkunft", "Abnehmer"};
   for (int i = 0; i < 5; ++i)
     EXPECT_EQ(Selektion::listenAnweisung(i),
@@ -98,7 +98,7 @@ TEST_F(Selektieren, AnweisungenDerFuenfAuswahllisten) {
   EXPECT_EQ(Selektion::listenAnweisung(6), "");
 }
 
-TEST_F(Selektieren, AlleVoelkerAuchDieAbgegangenen) {
+TEST_F(Selektieren, AlleVölkerAuchDieAbgegangenen) {
   neuesVolk("1");
   neuesVolk("2", "");
   EXPECT_EQ(nach(auftrag(Alle)), "1 2");
@@ -179,7 +179,7 @@ TEST_F(Selektieren, WoFindetDreiKommaDreiWieEsGetipptIst) {
   EXPECT_EQ(nach(wo("Volkstärke", "3,3")), "1");
 }
 
-TEST_F(Selektieren, WoFindetJedesZehntelBisFuenf) {
+TEST_F(Selektieren, WoFindetJedesZehntelBisFünf) {
   db().Sammelschreiben([] {
     for (int i = 1; i <= 50; ++i) volk(QString::number(i), "Sanftmut", i / 10.0);
     for (int i = 1; i <= 50; ++i) {
@@ -196,14 +196,14 @@ TEST_F(Selektieren, WoMitLeererZahlVergleichtMitNull) {
   EXPECT_EQ(nach(wo("Honigwaben", "")), "1");
 }
 
-TEST_F(Selektieren, EinFeldOhneZahlZaehltAlsNull) {
+TEST_F(Selektieren, EinFeldOhneZahlZähltAlsNull) {
   volk("1", "Honigwaben", QVariant());
   volk("2", "Honigwaben", 1);
   EXPECT_EQ(nach(wo("Honigwaben", "0")), "1");
   EXPECT_EQ(nach(wo("Honigwaben", "1")), "1 2");
 }
 
-TEST_F(Selektieren, WoVergleichtNichtGroesserUndNichtKleiner) {
+TEST_F(Selektieren, WoVergleichtNichtGrößerUndNichtKleiner) {
   for (int i = 8; i <= 12; ++i) volk(QString::number(i), "Magazine", i);
   EXPECT_EQ(nach(wo("Magazine", "10")), "10");
 }
@@ -220,14 +220,14 @@ TEST_F(Selektieren, TextregelVergleichtDenGanzenWert) {
   EXPECT_EQ(nach(auftrag(NachStandort, "Hof")), "1");
 }
 
-TEST_F(Selektieren, EinLeeresFeldTrifftNieEinenGefuelltenText) {
+TEST_F(Selektieren, EinLeeresFeldTrifftNieEinenGefülltenText) {
   neuesVolk("1", "X", "");
   volk("2", "Standort", QVariant());
   neuesVolk("3", "X", "Hof");
   EXPECT_EQ(nach(auftrag(NachStandort, "Hof")), "3");
 }
 
-TEST_F(Selektieren, TextregelKenntKeineGrossKleinschreibungUndKeineEndblanks) {
+TEST_F(Selektieren, TextregelKenntKeineGroßKleinschreibungUndKeineEndblanks) {
   neuesVolk("1", "X", "Straße am Hof");
   neuesVolk("2", "X", "STRASSE AM HOF");
   neuesVolk("3", "X", "Strase am Hof");
@@ -252,7 +252,7 @@ TEST_F(Selektieren, EinGespeicherterApostrophPasstZumGezeigtenBacktick) {
 
 // --- the two check boxes ------------------------------------------------------------------------
 
-TEST_F(Selektieren, OhneLoeschenKommtEineSelektionZurAltenDazu) {
+TEST_F(Selektieren, OhneLöschenKommtEineSelektionZurAltenDazu) {
   neuesVolk("1", "X", "Hof");
   neuesVolk("2", "X", "Wald");
   neuesVolk("3", "X", "Heide");
@@ -260,7 +260,7 @@ TEST_F(Selektieren, OhneLoeschenKommtEineSelektionZurAltenDazu) {
   EXPECT_EQ(nach(auftrag(NachStandort, "Heide")), "1 3");
 }
 
-TEST_F(Selektieren, MitLoeschenErsetztEineSelektionDieAlte) {
+TEST_F(Selektieren, MitLöschenErsetztEineSelektionDieAlte) {
   neuesVolk("1", "X", "Hof");
   neuesVolk("2", "X", "Wald");
   nach(auftrag(NachStandort, "Hof"));
@@ -269,13 +269,13 @@ TEST_F(Selektieren, MitLoeschenErsetztEineSelektionDieAlte) {
   EXPECT_EQ(nach(a), "2");
 }
 
-TEST_F(Selektieren, AbgegangeneVoelkerSindOhneNurBestandWaehlbar) {
+TEST_F(Selektieren, AbgegangeneVölkerSindOhneNurBestandWählbar) {
   neuesVolk("1", "X", "Hof");
   neuesVolk("2", "", "Hof");
   EXPECT_EQ(nach(auftrag(NachStandort, "Hof")), "1 2");
 }
 
-TEST_F(Selektieren, NurBestandLaesstAbgegangeneBeiJederRegelAus) {
+TEST_F(Selektieren, NurBestandLässtAbgegangeneBeiJederRegelAus) {
   for (const char* akt : {"X", ""}) {
     const qint64 id = neuesVolk(akt[0] != 0 ? "1" : "2", akt, "Hof");
     db().Execute(
@@ -294,7 +294,7 @@ TEST_F(Selektieren, NurBestandLaesstAbgegangeneBeiJederRegelAus) {
   }
 }
 
-TEST_F(Selektieren, NurBestandLaesstDieFlaggeEinesAbgegangenenStehen) {
+TEST_F(Selektieren, NurBestandLässtDieFlaggeEinesAbgegangenenStehen) {
   neuesVolk("1", "X", "Hof");
   neuesVolk("2", "", "Hof");
   merke("2");
@@ -303,7 +303,7 @@ TEST_F(Selektieren, NurBestandLaesstDieFlaggeEinesAbgegangenenStehen) {
   EXPECT_EQ(nach(a), "1 2");
 }
 
-TEST_F(Selektieren, WasNichtPasstBehaeltSeineFlagge) {
+TEST_F(Selektieren, WasNichtPasstBehältSeineFlagge) {
   neuesVolk("1", "X", "Hof");
   neuesVolk("2", "X", "Wald");
   merke("2");
@@ -331,7 +331,7 @@ TEST_F(Selektieren, RegelnOhneEingabeBrauchenKeine) {
   EXPECT_EQ(grund(Wo, "Magazine"), "");
 }
 
-TEST_F(Selektieren, EinFeldAusserhalbDerListeGiltAlsNichtAusgewaehlt) {
+TEST_F(Selektieren, EinFeldAußerhalbDerListeGiltAlsNichtAusgewählt) {
   EXPECT_NE(grund(Wo, "Volkname"), "");
 }
 
@@ -351,7 +351,7 @@ TEST_F(Selektieren, DieListeWirdNeuGelesen) {
   EXPECT_EQ(TZ_Variablen::ListeNeuLesen, 1);
 }
 
-TEST_F(Selektieren, ZehntausendVoelkerInEinemZug) {
+TEST_F(Selektieren, ZehntausendVölkerInEinemZug) {
   db().Sammelschreiben([] {
     for (int i = 0; i < 10000; ++i) {
       db().Execute(
@@ -377,7 +377,7 @@ TEST_F(Selektieren, ZehntausendVoelkerInEinemZug) {
   EXPECT_EQ(einZug(auftrag(Keine)), 0);
 }
 
-TEST_F(Selektieren, EinScheiternAufHalbemWegBehaeltDasGeschriebene) {
+TEST_F(Selektieren, EinScheiternAufHalbemWegBehältDasGeschriebene) {
   neuesVolk("1", "X", "Hof");
   merke("1");
   Auftrag a = wo("Magazine", "1");
@@ -393,7 +393,7 @@ TEST_F(Selektieren, EinScheiternAufHalbemWegBehaeltDasGeschriebene) {
 
 // --- by ID --------------------------------------------------------------------------------------
 
-TEST_F(Selektieren, NurDieseLoeschtErstAlleAuchVerborgene) {
+TEST_F(Selektieren, NurDieseLöschtErstAlleAuchVerborgene) {
   const qint64 eins = neuesVolk("1");
   neuesVolk("2");
   neuesVolk("3", "");
@@ -403,14 +403,14 @@ TEST_F(Selektieren, NurDieseLoeschtErstAlleAuchVerborgene) {
   EXPECT_EQ(selektiert(), "1");
 }
 
-TEST_F(Selektieren, NurDieseOhneVoelkerLeertDieSelektion) {
+TEST_F(Selektieren, NurDieseOhneVölkerLeertDieSelektion) {
   neuesVolk("1");
   merke("1");
   Selektion::nurDiese(db(), {});
   EXPECT_EQ(selektiert(), "");
 }
 
-TEST_F(Selektieren, NurDieseUebergehtEinVolkDasEsNichtGibt) {
+TEST_F(Selektieren, NurDieseÜbergehtEinVolkDasEsNichtGibt) {
   const qint64 eins = neuesVolk("1");
   const qint64 zwei = neuesVolk("2");
   Selektion::nurDiese(db(), {eins, 4711, zwei});

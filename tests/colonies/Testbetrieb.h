@@ -2,34 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QTemporaryDir>
-
-#include "core/globals.h"
 #include "data/schema.h"
+#include "gemeinsam/Musterdatenbank.h"
 #include "platform/database/Recordset.h"
 
-// A program folder of its own for each test, with an empty database on a fixed day. The database is
-// made once and copied.
+// A program folder of its own for each test, with an empty database on the 20th of June 2006.
 class Testbetrieb : public ::testing::Test {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(m_ordner.isValid());
-    const QString leer = vorlage();
-    TZ_Variablen::zuruecksetzen();
-    TZ_Variablen::AppPfad = m_ordner.path() + "/";
-    TZ_Variablen::DatenbankPfad = TZ_Variablen::AppPfad + "TOVA2.MDB";
-    TZ_Variablen::HeuteText = "20.06.2006";
-    ASSERT_TRUE(QFile::copy(leer, TZ_Variablen::DatenbankPfad));
-    TZ_Variablen::DB = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
-    TZ_Variablen::EinstellungenZahl[56] = 10;
-    TZ_Variablen::EinstellungenZahl[57] = 1;
-  }
-
-  void TearDown() override {
-    TZ_Variablen::DB.Close();
-    TZ_Variablen::Arbeitsbereich.Close();
-    TZ_Variablen::zuruecksetzen();
+    leereDatenbank();
+    TZ_Variablen::EinstellungenZahl[Zahlslots.wabenJeMagazin] = 10;
+    TZ_Variablen::EinstellungenZahl[Zahlslots.volknummerHochzählen] = 1;
   }
 
   static Database& db() { return TZ_Variablen::DB; }
@@ -60,29 +43,15 @@ class Testbetrieb : public ::testing::Test {
   }
 
   static qint64 option(const QString& arbeit, const QString& von, int frist, const QString& bis,
-                       const QString& volkabhaengig = "J", const QString& buchung = "",
+                       const QString& volkabhängig = "J", const QString& buchung = "",
                        const QString& arbeitsart = "") {
     db().Execute(QString("insert into Arbeitsplanoptionen(Arbeitsart, Startzeitraum, "
                          "Wiederholungsfrist_Tage, Endzeitraum, Volkabhängig, "
                          "Auto_erledigt_Buchung, Auto_erledigt_Arbeitsart) values "
                          "(?, ?, ?, ?, ?, ?, ?)"),
-                 {arbeit, von, frist, bis, volkabhaengig, buchung, arbeitsart});
+                 {arbeit, von, frist, bis, volkabhängig, buchung, arbeitsart});
     return db().LetzteID();
   }
 
-  QTemporaryDir m_ordner;
-
- private:
-  static QString vorlage() {
-    static QTemporaryDir ordner;
-    static const QString pfad = [] {
-      TZ_Variablen::AppPfad = ordner.path() + "/";
-      TZ_Variablen::DatenbankPfad = ordner.path() + "/TOVA2.MDB";
-      DatenbankAnlegen();
-      TZ_Variablen::DB.Close();
-      TZ_Variablen::Arbeitsbereich.Close();
-      return ordner.path() + "/TOVA2.MDB";
-    }();
-    return pfad;
-  }
+  Programmordner m_ordner{"20.06.2006"};
 };

@@ -42,11 +42,11 @@ class Volk : public Testbetrieb {
   qint64 speichereNeu(const Volkeingabe& e) { return volkSpeichern(db(), 0, e, e, fragen({})); }
 
   // Changes a colony: loads it, lets the test change the inputs, saves.
-  template <typename Aendern>
-  void aendere(qint64 id, Aendern aendern, const QList<bool>& antworten = {}) {
+  template <typename Ändern>
+  void ändere(qint64 id, Ändern ändern, const QList<bool>& antworten = {}) {
     const Volkeingabe geladen = *volkLaden(db(), id);
     Volkeingabe e = geladen;
-    aendern(e);
+    ändern(e);
     volkSpeichern(db(), id, e, geladen, fragen(antworten));
     EXPECT_EQ(m_gefragt, antworten.size());
   }
@@ -103,81 +103,79 @@ class Volk : public Testbetrieb {
   qsizetype m_gefragt = 0;
 };
 
-class Volkpruefung : public Volk {};
+class Volkprüfung : public Volk {};
 class Volkspeicherung : public Volk {};
 class Standortfrage : public Volk {};
 class Bestandswechsel : public Volk {};
 
-TEST_F(Volkpruefung, GuteEingabeHatKeinenGrund) {
-  EXPECT_EQ(volkPruefen(db(), 0, eingabe("1")), "");
+TEST_F(Volkprüfung, GuteEingabeHatKeinenGrund) { EXPECT_EQ(volkPrüfen(db(), 0, eingabe("1")), ""); }
+
+TEST_F(Volkprüfung, LeereNummer) {
+  EXPECT_EQ(volkPrüfen(db(), 0, eingabe("")), WeilZeile + OhneNummer);
+  EXPECT_EQ(volkPrüfen(db(), 0, eingabe("   ")), WeilZeile + OhneNummer);
 }
 
-TEST_F(Volkpruefung, LeereNummer) {
-  EXPECT_EQ(volkPruefen(db(), 0, eingabe("")), WeilZeile + OhneNummer);
-  EXPECT_EQ(volkPruefen(db(), 0, eingabe("   ")), WeilZeile + OhneNummer);
-}
-
-TEST_F(Volkpruefung, NummerGibtEsSchon) {
+TEST_F(Volkprüfung, NummerGibtEsSchon) {
   neuesVolk("7");
-  EXPECT_EQ(volkPruefen(db(), 0, eingabe("7")), WeilZeile + NummerDoppelt);
-  EXPECT_EQ(volkPruefen(db(), 0, eingabe(" 7 ")), WeilZeile + NummerDoppelt);
+  EXPECT_EQ(volkPrüfen(db(), 0, eingabe("7")), WeilZeile + NummerDoppelt);
+  EXPECT_EQ(volkPrüfen(db(), 0, eingabe(" 7 ")), WeilZeile + NummerDoppelt);
 }
 
-TEST_F(Volkpruefung, NummerEinesAbgegangenenVolkesIstVergeben) {
+TEST_F(Volkprüfung, NummerEinesAbgegangenenVolkesIstVergeben) {
   neuesVolk("7", "");
-  EXPECT_EQ(volkPruefen(db(), 0, eingabe("7")), WeilZeile + NummerDoppelt);
+  EXPECT_EQ(volkPrüfen(db(), 0, eingabe("7")), WeilZeile + NummerDoppelt);
 }
 
-TEST_F(Volkpruefung, GrossUndKleinschreibungUnterscheidetNummernNicht) {
+TEST_F(Volkprüfung, GroßUndKleinschreibungUnterscheidetNummernNicht) {
   neuesVolk("a1");
-  EXPECT_EQ(volkPruefen(db(), 0, eingabe("A1")), WeilZeile + NummerDoppelt);
+  EXPECT_EQ(volkPrüfen(db(), 0, eingabe("A1")), WeilZeile + NummerDoppelt);
 }
 
-TEST_F(Volkpruefung, ApostrophZaehltAlsBacktick) {
+TEST_F(Volkprüfung, ApostrophZähltAlsBacktick) {
   neuesVolk("7`a");
-  EXPECT_EQ(volkPruefen(db(), 0, eingabe("7'a")), WeilZeile + NummerDoppelt);
+  EXPECT_EQ(volkPrüfen(db(), 0, eingabe("7'a")), WeilZeile + NummerDoppelt);
 }
 
-TEST_F(Volkpruefung, EigeneNummerBeimAendernIstErlaubt) {
+TEST_F(Volkprüfung, EigeneNummerBeimÄndernIstErlaubt) {
   const qint64 id = neuesVolk("7");
-  EXPECT_EQ(volkPruefen(db(), id, eingabe("7")), "");
+  EXPECT_EQ(volkPrüfen(db(), id, eingabe("7")), "");
 }
 
-TEST_F(Volkpruefung, FremdeNummerBeimAendernIstVergeben) {
+TEST_F(Volkprüfung, FremdeNummerBeimÄndernIstVergeben) {
   neuesVolk("7");
   const qint64 id = neuesVolk("8");
-  EXPECT_EQ(volkPruefen(db(), id, eingabe("7")), WeilZeile + NummerDoppelt);
+  EXPECT_EQ(volkPrüfen(db(), id, eingabe("7")), WeilZeile + NummerDoppelt);
 }
 
-TEST_F(Volkpruefung, AbgangsdatumBeiVolkImBestand) {
+TEST_F(Volkprüfung, AbgangsdatumBeiVolkImBestand) {
   Volkeingabe e = eingabe("1");
   e.sevt[13] = "01.06.2006";
-  EXPECT_EQ(volkPruefen(db(), 0, e), WeilZeile + AbgangImBestand);
+  EXPECT_EQ(volkPrüfen(db(), 0, e), WeilZeile + AbgangImBestand);
   e.kon = false;
-  EXPECT_EQ(volkPruefen(db(), 0, e), "");
+  EXPECT_EQ(volkPrüfen(db(), 0, e), "");
 }
 
-TEST_F(Volkpruefung, AlleGruendeStehenUntereinander) {
+TEST_F(Volkprüfung, AlleGründeStehenUntereinander) {
   Volkeingabe e = eingabe("");
   e.sevt[13] = "01.06.2006";
-  EXPECT_EQ(volkPruefen(db(), 0, e), WeilZeile + OhneNummer + "\r\n" + AbgangImBestand);
+  EXPECT_EQ(volkPrüfen(db(), 0, e), WeilZeile + OhneNummer + "\r\n" + AbgangImBestand);
 }
 
 TEST_F(Volkspeicherung, NeuesVolkSchreibtAlleFelder) {
   Volkeingabe e;
   for (const Volkfeld& f : volkfelder()) {
     switch (f.art) {
-      case Volkfeld::Art::Text:
+      case Verwaltung::Art::Text:
         e[f] = "T" + QString::number(f.index);
         break;
-      case Volkfeld::Art::Ganzzahl:
+      case Verwaltung::Art::Ganzzahl:
         e[f] = QString::number(f.index + 1);
         break;
-      case Volkfeld::Art::Dezimal:
-      case Volkfeld::Art::Waehrung:
+      case Verwaltung::Art::Dezimal:
         e[f] = QString::number(f.index) + ",25";
         break;
-      case Volkfeld::Art::Datum:
+      default:
+        ASSERT_EQ(f.art, Verwaltung::Art::Datum);
         e[f] = QString::number(f.index + 1) + ".05.2006";
         break;
     }
@@ -187,17 +185,17 @@ TEST_F(Volkspeicherung, NeuesVolkSchreibtAlleFelder) {
   for (const Volkfeld& f : volkfelder()) {
     const QVariant w = wert("select " + f.feld + " from Bienenvolk where ID = ?", {id});
     switch (f.art) {
-      case Volkfeld::Art::Text:
+      case Verwaltung::Art::Text:
         EXPECT_EQ(w.toString(), "T" + QString::number(f.index)) << f.feld.toStdString();
         break;
-      case Volkfeld::Art::Ganzzahl:
+      case Verwaltung::Art::Ganzzahl:
         EXPECT_EQ(w.toLongLong(), f.index + 1) << f.feld.toStdString();
         break;
-      case Volkfeld::Art::Dezimal:
-      case Volkfeld::Art::Waehrung:
+      case Verwaltung::Art::Dezimal:
         EXPECT_EQ(w.toDouble(), f.index + 0.25) << f.feld.toStdString();
         break;
-      case Volkfeld::Art::Datum:
+      default:
+        ASSERT_EQ(f.art, Verwaltung::Art::Datum);
         EXPECT_EQ(w.toDate(), QDate(2006, 5, f.index + 1)) << f.feld.toStdString();
         break;
     }
@@ -212,7 +210,7 @@ TEST_F(Volkspeicherung, NeuesVolkSchreibtAlleFelder) {
   EXPECT_EQ(TZ_Variablen::ListeNeuLesen, 1);
 }
 
-TEST_F(Volkspeicherung, NeueVoelkerBekommenVerschiedeneNummern) {
+TEST_F(Volkspeicherung, NeueVölkerBekommenVerschiedeneNummern) {
   const qint64 erstes = speichereNeu(eingabe("1"));
   const qint64 zweites = speichereNeu(eingabe("2"));
   EXPECT_NE(erstes, zweites);
@@ -264,11 +262,11 @@ TEST_F(Volkspeicherung, TexteWerdenGetrimmtUndApostropheErsetzt) {
   EXPECT_EQ(wert("select Volkname from Bienenvolk").toString(), "Maja`s Volk");
 }
 
-TEST_F(Volkspeicherung, UnveraendertGespeichertBleibtAllesGleichUndOhneMeldung) {
+TEST_F(Volkspeicherung, UnverändertGespeichertBleibtAllesGleichUndOhneMeldung) {
   const qint64 id = speichereNeu(eingabe("1"));
   const Volkeingabe vorher = *volkLaden(db(), id);
   db().Execute("update Bienenvolk set Selektiert = 'X', STop = 5");
-  aendere(id, [](Volkeingabe&) {});
+  ändere(id, [](Volkeingabe&) {});
   EXPECT_TRUE(boxen.isEmpty());
   EXPECT_EQ(volkLaden(db(), id)->sevt, vorher.sevt);
   EXPECT_EQ(volkLaden(db(), id)->sevtx, vorher.sevtx);
@@ -281,14 +279,14 @@ TEST_F(Volkspeicherung, JederDerSechsWerteBringtDenHinweis) {
   const QList<QPair<size_t, QString>> sechs = {{3, "Wald"},       {4, "Q1"}, {5, "rot"},
                                                {6, "01.06.2006"}, {8, "2"},  {9, "11"}};
   for (const auto& [index, text] : sechs) {
-    aendere(id, [&](Volkeingabe& e) { e.sevt[index] = text; });
+    ändere(id, [&](Volkeingabe& e) { e.sevt[index] = text; });
     EXPECT_EQ(boxen, QStringList{SechsWerte}) << index;
   }
 }
 
 TEST_F(Volkspeicherung, AndereWerteBringenKeinenHinweis) {
   const qint64 id = neuesVolk("1");
-  aendere(id, [](Volkeingabe& e) {
+  ändere(id, [](Volkeingabe& e) {
     for (const size_t i : {1U, 2U, 7U, 11U, 15U, 18U, 19U}) e.sevt[i] = "neu";
     e.sevtx[0] = "4";
   });
@@ -296,10 +294,10 @@ TEST_F(Volkspeicherung, AndereWerteBringenKeinenHinweis) {
   EXPECT_EQ(wert("select Abnehmer from Bienenvolk").toString(), "neu");
 }
 
-TEST_F(Volkspeicherung, AendernTrifftNurDasEineVolk) {
+TEST_F(Volkspeicherung, ÄndernTrifftNurDasEineVolk) {
   const qint64 id = neuesVolk("1");
   neuesVolk("2");
-  aendere(id, [](Volkeingabe& e) { e.sevt[1] = "Maja"; });
+  ändere(id, [](Volkeingabe& e) { e.sevt[1] = "Maja"; });
   EXPECT_EQ(anzahl("Bienenvolk", "Volkname = 'Maja'"), 1);
   EXPECT_EQ(anzahl("Bienenvolk"), 2);
 }
@@ -319,7 +317,7 @@ TEST_F(Standortfrage, JaBuchtEineWanderungHeute) {
   const qint64 id = neuesVolk("1", "X", "Wald");
   wanderung(id, QDate(2006, 4, 1), "Garten");
   wanderung(id, QDate(2006, 5, 2), "Wald");
-  aendere(id, [](Volkeingabe& e) { e.sevt[3] = "Heide"; }, {true});
+  ändere(id, [](Volkeingabe& e) { e.sevt[3] = "Heide"; }, {true});
   EXPECT_EQ(boxen, QStringList({SechsWerte, StandortFrage}));
   EXPECT_EQ(wert("select Standort from Bienenvolk").toString(), "Heide");
   ASSERT_EQ(anzahl("Wanderung"), 3);
@@ -338,12 +336,12 @@ TEST_F(Standortfrage, JaBuchtEineWanderungHeute) {
 TEST_F(Standortfrage, NeinStelltDenAltenStandortWiederHer) {
   const qint64 id = neuesVolk("1", "X", "Wald");
   wanderung(id, QDate(2006, 5, 2), "Wald");
-  aendere(id,
-          [](Volkeingabe& e) {
-            e.sevt[3] = "Heide";
-            e.sevt[1] = "Maja";
-          },
-          {false});
+  ändere(id,
+         [](Volkeingabe& e) {
+           e.sevt[3] = "Heide";
+           e.sevt[1] = "Maja";
+         },
+         {false});
   EXPECT_EQ(boxen, QStringList({SechsWerte, StandortFrage}));
   EXPECT_EQ(wert("select Standort from Bienenvolk").toString(), "Wald");
   EXPECT_EQ(wert("select Volkname from Bienenvolk").toString(), "Maja");
@@ -353,7 +351,7 @@ TEST_F(Standortfrage, NeinStelltDenAltenStandortWiederHer) {
 TEST_F(Standortfrage, KommtAuchWennSchonDerGeladeneStandortAbwich) {
   const qint64 id = neuesVolk("1", "X", "Heide");
   wanderung(id, QDate(2006, 5, 2), "Wald");
-  aendere(id, [](Volkeingabe&) {}, {false});
+  ändere(id, [](Volkeingabe&) {}, {false});
   EXPECT_EQ(boxen, QStringList({StandortFrage}));
   EXPECT_EQ(wert("select Standort from Bienenvolk").toString(), "Wald");
 }
@@ -361,7 +359,7 @@ TEST_F(Standortfrage, KommtAuchWennSchonDerGeladeneStandortAbwich) {
 TEST_F(Standortfrage, GeleerterStandortFragtNicht) {
   const qint64 id = neuesVolk("1", "X", "Wald");
   wanderung(id, QDate(2006, 5, 2), "Wald");
-  aendere(id, [](Volkeingabe& e) { e.sevt[3] = ""; });
+  ändere(id, [](Volkeingabe& e) { e.sevt[3] = ""; });
   EXPECT_EQ(boxen, QStringList({SechsWerte}));
   EXPECT_EQ(wert("select Standort from Bienenvolk").toString(), "");
   EXPECT_EQ(anzahl("Wanderung"), 1);
@@ -371,7 +369,7 @@ TEST_F(Standortfrage, OhneWanderungKommtDerStandortOhneFrage) {
   const qint64 id = neuesVolk("1", "X", "Wald");
   const qint64 anderes = neuesVolk("2");
   wanderung(anderes, QDate(2006, 5, 2), "Garten");
-  aendere(id, [](Volkeingabe& e) { e.sevt[3] = "Heide"; });
+  ändere(id, [](Volkeingabe& e) { e.sevt[3] = "Heide"; });
   EXPECT_EQ(boxen, QStringList({SechsWerte}));
   EXPECT_EQ(wert("select Standort from Bienenvolk where ID = ?", {id}).toString(), "Heide");
   EXPECT_EQ(anzahl("Wanderung"), 1);
@@ -380,7 +378,7 @@ TEST_F(Standortfrage, OhneWanderungKommtDerStandortOhneFrage) {
 TEST_F(Standortfrage, GleicherStandortFragtNicht) {
   const qint64 id = neuesVolk("1", "X", "Wald");
   wanderung(id, QDate(2006, 5, 2), "Wald");
-  aendere(id, [](Volkeingabe&) {});
+  ändere(id, [](Volkeingabe&) {});
   EXPECT_TRUE(boxen.isEmpty());
 }
 
@@ -412,7 +410,7 @@ TEST_F(Bestandswechsel, NeuesVolkOhneBestandBekommtKeineTermine) {
   EXPECT_FALSE(wert("select Akt_im_Bestand from Bienenvolk").isNull());
 }
 
-TEST_F(Bestandswechsel, AbgangLoeschtAlleTermineAuchErledigte) {
+TEST_F(Bestandswechsel, AbgangLöschtAlleTermineAuchErledigte) {
   dreiOptionen();
   const qint64 id = neuesVolk("1");
   const qint64 anderes = neuesVolk("2");
@@ -420,7 +418,7 @@ TEST_F(Bestandswechsel, AbgangLoeschtAlleTermineAuchErledigte) {
   termin(id, "J");
   termin(anderes, "N");
   alleBuchungen(id);
-  aendere(id, [](Volkeingabe& e) {
+  ändere(id, [](Volkeingabe& e) {
     e.kon = false;
     e.sevt[13] = "19.06.2006";
   });
@@ -436,41 +434,41 @@ TEST_F(Bestandswechsel, BleibtImBestandBekommtKeineNeuenTermine) {
   dreiOptionen();
   const qint64 id = neuesVolk("1");
   termin(id, "J");
-  aendere(id, [](Volkeingabe& e) { e.sevt[1] = "Maja"; });
+  ändere(id, [](Volkeingabe& e) { e.sevt[1] = "Maja"; });
   EXPECT_EQ(zahlDerTermine(id), 1);
   EXPECT_TRUE(boxen.isEmpty());
 }
 
-TEST_F(Bestandswechsel, BleibtAbgegangenUndBehaeltSeineBuchungen) {
+TEST_F(Bestandswechsel, BleibtAbgegangenUndBehältSeineBuchungen) {
   dreiOptionen();
   const qint64 id = neuesVolk("1", "");
   alleBuchungen(id);
   db().Execute("delete from Termine");
-  aendere(id, [](Volkeingabe& e) { e.sevt[1] = "Maja"; });
+  ändere(id, [](Volkeingabe& e) { e.sevt[1] = "Maja"; });
   EXPECT_EQ(zahlDerTermine(id), 0);
   EXPECT_EQ(zahlDerBuchungen(id), 11);
   EXPECT_TRUE(boxen.isEmpty());
 }
 
-TEST_F(Bestandswechsel, RueckkehrMitNeinBehaeltDieBuchungen) {
+TEST_F(Bestandswechsel, RückkehrMitNeinBehältDieBuchungen) {
   dreiOptionen();
   const qint64 id = neuesVolk("1", "");
   alleBuchungen(id);
   db().Execute("delete from Termine");
-  aendere(id, [](Volkeingabe& e) { e.kon = true; }, {false});
+  ändere(id, [](Volkeingabe& e) { e.kon = true; }, {false});
   EXPECT_EQ(boxen, QStringList({AlteBuchungen, TermineNeu}));
   EXPECT_EQ(zahlDerBuchungen(id), 11);
   EXPECT_EQ(zahlDerTermine(id), 3);
   EXPECT_EQ(wert("select Akt_im_Bestand from Bienenvolk").toString(), "X");
 }
 
-TEST_F(Bestandswechsel, RueckkehrMitJaLoeschtDieAltenBuchungen) {
+TEST_F(Bestandswechsel, RückkehrMitJaLöschtDieAltenBuchungen) {
   dreiOptionen();
   const qint64 id = neuesVolk("1", "");
   const qint64 anderes = neuesVolk("2");
   alleBuchungen(id);
   alleBuchungen(anderes);
-  aendere(id, [](Volkeingabe& e) { e.kon = true; }, {true});
+  ändere(id, [](Volkeingabe& e) { e.kon = true; }, {true});
   EXPECT_EQ(boxen, QStringList({AlteBuchungen, NochSichtbar, TermineNeu}));
   EXPECT_EQ(zahlDerBuchungen(id), 0);
   EXPECT_EQ(zahlDerBuchungen(anderes), 11);
@@ -478,26 +476,26 @@ TEST_F(Bestandswechsel, RueckkehrMitJaLoeschtDieAltenBuchungen) {
   EXPECT_EQ(anzahl("Bienenvolk"), 2);
 }
 
-TEST_F(Bestandswechsel, NullKennzeichenZaehltAlsAbgegangen) {
+TEST_F(Bestandswechsel, NullKennzeichenZähltAlsAbgegangen) {
   dreiOptionen();
   db().Execute("insert into Bienenvolk(Volknr) values ('1')");
   const qint64 id = db().LetzteID();
-  aendere(id, [](Volkeingabe& e) { e.kon = true; }, {false});
+  ändere(id, [](Volkeingabe& e) { e.kon = true; }, {false});
   EXPECT_EQ(boxen, QStringList({AlteBuchungen, TermineNeu}));
   EXPECT_EQ(zahlDerTermine(id), 3);
 }
 
 // A new migration is booked before the old bookings go, so it goes with them.
-TEST_F(Bestandswechsel, RueckkehrMitNeuemStandortFragtErstNachDemStandort) {
+TEST_F(Bestandswechsel, RückkehrMitNeuemStandortFragtErstNachDemStandort) {
   dreiOptionen();
   const qint64 id = neuesVolk("1", "", "Wald");
   wanderung(id, QDate(2006, 5, 2), "Wald");
-  aendere(id,
-          [](Volkeingabe& e) {
-            e.kon = true;
-            e.sevt[3] = "Heide";
-          },
-          {true, true});
+  ändere(id,
+         [](Volkeingabe& e) {
+           e.kon = true;
+           e.sevt[3] = "Heide";
+         },
+         {true, true});
   EXPECT_EQ(boxen,
             QStringList({SechsWerte, StandortFrage, AlteBuchungen, NochSichtbar, TermineNeu}));
   EXPECT_EQ(anzahl("Wanderung"), 0);
@@ -508,7 +506,7 @@ TEST_F(Bestandswechsel, GescheiterteTermineLassenDasVolkGespeichert) {
   dreiOptionen();
   option("Schalttag", "29.02", 0, "29.02");
   const qint64 id = neuesVolk("1", "");
-  aendere(id, [](Volkeingabe& e) { e.kon = true; }, {false});
+  ändere(id, [](Volkeingabe& e) { e.kon = true; }, {false});
   ASSERT_EQ(boxen.size(), 3);
   EXPECT_EQ(boxen.mid(0, 2), QStringList({AlteBuchungen, TermineNeu}));
   EXPECT_TRUE(boxen[2].contains("'Schalttag'")) << boxen[2].toStdString();
@@ -518,7 +516,7 @@ TEST_F(Bestandswechsel, GescheiterteTermineLassenDasVolkGespeichert) {
 }
 
 // The option that can't be computed stands in front of the others.
-TEST_F(Bestandswechsel, EineUngueltigeOptionNimmtEinemNeuenVolkDieAnderenTermineNicht) {
+TEST_F(Bestandswechsel, EineUngültigeOptionNimmtEinemNeuenVolkDieAnderenTermineNicht) {
   db().Execute("delete from Arbeitsplanoptionen");
   option("Schalttag", "29.02", 0, "29.02");
   option("Seltsam", "01.07", 0, "01.07", "J", "Gibtesnicht");
@@ -539,18 +537,18 @@ TEST_F(Bestandswechsel, EineUngueltigeOptionNimmtEinemNeuenVolkDieAnderenTermine
   EXPECT_EQ(anzahl("Termine"), 2);
 }
 
-TEST_F(Bestandswechsel, EineUngueltigeOptionNimmtEinemZurueckgekehrtenVolkDieAnderenTermineNicht) {
+TEST_F(Bestandswechsel, EineUngültigeOptionNimmtEinemZurückgekehrtenVolkDieAnderenTermineNicht) {
   db().Execute("delete from Arbeitsplanoptionen");
   option("Schalttag", "29.02", 0, "29.02");
   option("Kontrolle", "21.06", 9, "30.06");
   const qint64 id = neuesVolk("1", "");
-  aendere(id, [](Volkeingabe& e) { e.kon = true; }, {false});
+  ändere(id, [](Volkeingabe& e) { e.kon = true; }, {false});
   EXPECT_EQ(boxen.size(), 3);
   EXPECT_EQ(zahlDerTermine(id), 2);
 }
 
 // Nobody reads that the colony is saved when nothing was.
-TEST_F(Bestandswechsel, OhnePlatzAufDemDatentraegerWirdKeineOptionGenannt) {
+TEST_F(Bestandswechsel, OhnePlatzAufDemDatenträgerWirdKeineOptionGenannt) {
   db().Execute("delete from Arbeitsplanoptionen");
   option("Schalttag", "29.02", 0, "29.02");
   option("Taeglich", "21.06", 1, "31.12");
@@ -564,14 +562,14 @@ TEST_F(Bestandswechsel, OhnePlatzAufDemDatentraegerWirdKeineOptionGenannt) {
   EXPECT_EQ(anzahl("Termine"), 0);
 }
 
-TEST_F(Bestandswechsel, EineUngueltigeOptionOhneVolkStoertEinNeuesVolkNicht) {
+TEST_F(Bestandswechsel, EineUngültigeOptionOhneVolkStörtEinNeuesVolkNicht) {
   db().Execute("delete from Arbeitsplanoptionen");
   option("Schalttag", "29.02", 0, "29.02", "N");
   option("Kontrolle", "21.06", 9, "30.06");
   EXPECT_EQ(zahlDerTermine(speichereNeu(eingabe("1"))), 2);
 }
 
-TEST_F(Volk, LoeschenNimmtAlleBuchungenUndTermineDesEinenVolkes) {
+TEST_F(Volk, LöschenNimmtAlleBuchungenUndTermineDesEinenVolkes) {
   const qint64 id = neuesVolk("1");
   const qint64 anderes = neuesVolk("2");
   alleBuchungen(id);
@@ -584,7 +582,7 @@ TEST_F(Volk, LoeschenNimmtAlleBuchungenUndTermineDesEinenVolkes) {
   EXPECT_EQ(anzahl("Bienenvolk"), 2);
 }
 
-TEST_F(Volk, LoeschenOhneBuchungenTutNichts) {
+TEST_F(Volk, LöschenOhneBuchungenTutNichts) {
   EXPECT_NO_THROW(VolkLoeschen(db(), 99));
   EXPECT_EQ(anzahl("Arbeitsplanoptionen"), 18);
 }

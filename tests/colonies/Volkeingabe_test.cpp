@@ -19,7 +19,7 @@ const Volkfeld& feld(const QString& name) {
 
 TEST_F(NeuesVolk, LeeresFeldGibtNummerEins) { EXPECT_EQ(volkNeu("").sevt[0], "1"); }
 
-TEST_F(NeuesVolk, ZiffernZaehlenWeiter) {
+TEST_F(NeuesVolk, ZiffernZählenWeiter) {
   EXPECT_EQ(volkFolgenummer("1"), "2");
   EXPECT_EQ(volkFolgenummer("9"), "10");
   EXPECT_EQ(volkFolgenummer("007"), "8");
@@ -33,7 +33,7 @@ TEST_F(NeuesVolk, TextLeertDieNummer) {
 }
 
 TEST_F(NeuesVolk, OhneSlot57WirdDieNummerGeleert) {
-  TZ_Variablen::EinstellungenZahl[57] = 0;
+  TZ_Variablen::EinstellungenZahl[Zahlslots.volknummerHochzählen] = 0;
   EXPECT_EQ(volkFolgenummer("5"), "");
   EXPECT_EQ(volkFolgenummer(""), "");
 }
@@ -56,7 +56,7 @@ TEST_F(NeuesVolk, OhneDateiSindAlleFelderLeerUndDasVolkImBestand) {
 }
 
 TEST_F(NeuesVolk, WabenJeMagazinKommenAusSlot56) {
-  TZ_Variablen::EinstellungenZahl[56] = 12;
+  TZ_Variablen::EinstellungenZahl[Zahlslots.wabenJeMagazin] = 12;
   EXPECT_EQ(volkNeu("").sevt[17], "12");
 }
 
@@ -90,7 +90,7 @@ TEST_F(Standardwerte, VolkImBestandStehtAlsEinsInZeileSiebzehn) {
   EXPECT_TRUE(volkNeu("").kon);
 }
 
-TEST_F(Standardwerte, GeschriebenesKommtZurueck) {
+TEST_F(Standardwerte, GeschriebenesKommtZurück) {
   volkStandardSchreiben(beispiel());
   const Volkeingabe neu = volkNeu("");
   EXPECT_EQ(neu.sevt[0], "1");
@@ -106,12 +106,12 @@ TEST_F(Standardwerte, GeschriebenesKommtZurueck) {
 
 TEST_F(Standardwerte, SchreibenSetztSlot56) {
   volkStandardSchreiben(beispiel());
-  EXPECT_EQ(TZ_Variablen::EinstellungenZahl[56], 11);
+  EXPECT_EQ(TZ_Variablen::EinstellungenZahl[Zahlslots.wabenJeMagazin], 11);
 }
 
-TEST_F(Standardwerte, ZeileZwanzigWirdNichtZurueckgelesen) {
+TEST_F(Standardwerte, ZeileZwanzigWirdNichtZurückgelesen) {
   volkStandardSchreiben(beispiel());
-  TZ_Variablen::EinstellungenZahl[56] = 9;
+  TZ_Variablen::EinstellungenZahl[Zahlslots.wabenJeMagazin] = 9;
   EXPECT_EQ(volkNeu("").sevt[17], "9");
 }
 
@@ -138,15 +138,15 @@ TEST_F(Standardwerte, AbgeschnitteneDateiGibtWasSieHat) {
   EXPECT_TRUE(neu.kon);
 }
 
-TEST_F(Standardwerte, ZuLangerTextWirdAufDasFeldGekuerzt) {
+TEST_F(Standardwerte, ZuLangerTextWirdAufDasFeldGekürzt) {
   Textdatei::schreiben(volkStandardDatei(), {"123456789012345678901234"});
   EXPECT_EQ(volkNeu("").sevt[1], "12345678901234567890");
 }
 
-TEST_F(Standardwerte, NichtSchreibbareDateiLaesstDenSlotStehen) {
+TEST_F(Standardwerte, NichtSchreibbareDateiLässtDenSlotStehen) {
   TZ_Variablen::AppPfad = m_ordner.path() + "/gibtsnicht/";
   EXPECT_THROW(volkStandardSchreiben(beispiel()), Dateifehler);
-  EXPECT_EQ(TZ_Variablen::EinstellungenZahl[56], 10);
+  EXPECT_EQ(TZ_Variablen::EinstellungenZahl[Zahlslots.wabenJeMagazin], 10);
 }
 
 TEST_F(VolkLaden, WerteErscheinenInDeutscherForm) {

@@ -59,7 +59,7 @@ TEST_F(Volkfelder, SevtxHatSeineSiebenundzwanzigFelderInDerReihe) {
                                                       "BW_verdeckelt"}));
 }
 
-TEST_F(Volkfelder, IndizesZaehlenJeFeldgruppeVonNull) {
+TEST_F(Volkfelder, IndizesZählenJeFeldgruppeVonNull) {
   int sevt = 0;
   int sevtx = 0;
   for (const Volkfeld& f : volkfelder())
@@ -68,25 +68,24 @@ TEST_F(Volkfelder, IndizesZaehlenJeFeldgruppeVonNull) {
   EXPECT_EQ(sevtx, SevtxAnzahl);
 }
 
-TEST_F(Volkfelder, ArtUndLaengePassenZurTabelle) {
+TEST_F(Volkfelder, ArtUndLängePassenZurTabelle) {
   for (const Volkfeld& f : volkfelder()) {
     const Spalte s = spalte(f.feld);
     ASSERT_EQ(s.name, f.feld);
     switch (f.art) {
-      case Volkfeld::Art::Text:
+      case Verwaltung::Art::Text:
         EXPECT_EQ(s.typ, Feldtyp::Text) << f.feld.toStdString();
-        EXPECT_EQ(s.laenge, f.maxLaenge) << f.feld.toStdString();
+        EXPECT_EQ(s.länge, f.maxLänge) << f.feld.toStdString();
         break;
-      case Volkfeld::Art::Ganzzahl:
+      case Verwaltung::Art::Ganzzahl:
         EXPECT_EQ(s.typ, Feldtyp::Lang) << f.feld.toStdString();
         break;
-      case Volkfeld::Art::Dezimal:
-        EXPECT_EQ(s.typ, Feldtyp::Einfach) << f.feld.toStdString();
+      case Verwaltung::Art::Dezimal:
+        EXPECT_EQ(s.typ, f.zeichen == "€" ? Feldtyp::Währung : Feldtyp::Einfach)
+            << f.feld.toStdString();
         break;
-      case Volkfeld::Art::Waehrung:
-        EXPECT_EQ(s.typ, Feldtyp::Waehrung) << f.feld.toStdString();
-        break;
-      case Volkfeld::Art::Datum:
+      default:
+        ASSERT_EQ(f.art, Verwaltung::Art::Datum);
         EXPECT_EQ(s.typ, Feldtyp::Datum) << f.feld.toStdString();
         break;
     }
@@ -96,7 +95,7 @@ TEST_F(Volkfelder, ArtUndLaengePassenZurTabelle) {
 TEST_F(Volkfelder, AuswahllistenKommenAusIhrerTabelle) {
   QStringList listen;
   for (const Volkfeld& f : volkfelder())
-    if (!f.listenAnweisung().isEmpty()) listen << f.listenAnweisung();
+    if (!f.listenAnweisung.isEmpty()) listen << f.listenAnweisung;
   EXPECT_EQ(listen,
             QStringList({"select distinct Volkname from Bienenvolk order by Volkname",
                          "select distinct Bienenrasse from Bienenvolk order by Bienenrasse",
@@ -119,7 +118,7 @@ TEST_F(Volkfelder, BeschriftungenUndEinheiten) {
       EXPECT_EQ(f.beschriftung, QString("Varroaschäden"));
     }
     if (f.feld == QString("Futtervorrat_flüssig")) {
-      EXPECT_EQ(f.einheit, "Liter");
+      EXPECT_EQ(f.zeichen, "Liter");
     }
   }
   for (const Volkgruppe& g : volkgruppen()) EXPECT_LT(g.reiter, volkreiter().size());

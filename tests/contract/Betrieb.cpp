@@ -4,14 +4,16 @@
 #include <QFile>
 
 #include "bookings/Buchung.h"
-#include "bookings/Volkfelder.h"
+#include "bookings/Zusammenfassung.h"
 #include "colonies/Volk.h"
-#include "core/mainform/Liste.h"
-#include "core/mainform/Start.h"
-#include "core/mainform/forms/Verdrahtung.h"
 #include "core/settings.h"
 #include "data/schema.h"
+#include "gemeinsam/Musterdatenbank.h"
+#include "mainform/Start.h"
+#include "mainform/Volkliste.h"
+#include "mainform/forms/Verdrahtung.h"
 #include "platform/controls/Formular.h"
+#include "platform/locale/Deutsch.h"
 
 using namespace TZ_Variablen;
 
@@ -19,26 +21,21 @@ namespace {
 
 const QDate Heute(2026, 6, 15);
 
-void trennen() {
-  DB.Close();
-  Arbeitsbereich.Close();
-}
-
 // A believable text for each kind of slot.
 QString slottext(const Buchungsslot& slot) {
   switch (slot.art) {
-    case Slotart::Dezimal:
+    case Verwaltung::Art::Dezimal:
       return slot.nachkommastellen == 1 ? QStringLiteral("6,5") : QStringLiteral("4,25");
-    case Slotart::Ganzzahl:
+    case Verwaltung::Art::Ganzzahl:
       return QStringLiteral("8");
-    case Slotart::Auswahl:
-      return slot.auswahl.first();
-    case Slotart::Notiz:
+    case Verwaltung::Art::Auswahl:
+      return slot.texte.first();
+    case Verwaltung::Art::Notiz:
       return QStringLiteral("Weiselrichtig.\r\nBaut gut.");
-    case Slotart::Text:
+    default:
       break;
   }
-  return slot.feld == u"Standort" ? QStringLiteral("Waldrand") : slot.feld.left(slot.laenge);
+  return slot.feld == u"Standort" ? QStringLiteral("Waldrand") : slot.feld.left(slot.maxLänge);
 }
 
 void volk(const QString& nummer, const QString& name) {
@@ -57,51 +54,40 @@ void buchungen(const QString& volkId) {
   for (int art = 0; art < 11; ++art)
     for (const char* tag : {"10.03.2026", "20.03.2026"}) {
       Buchung buchung{art, {}};
-      for (const Buchungsslot& slot : buchungstyp(art).plaetze)
+      for (const Buchungsslot& slot : buchungstyp(art).plätze)
         buchung.texte[static_cast<size_t>(slot.nummer)] = slottext(slot);
       buchung.texte[0] = QString::fromLatin1(tag);
       BuchungSpeichern(DB, buchung, volkId, QStringLiteral("-1"), kontext);
     }
-  VolkfelderNachziehen(DB, kontext.geaenderteVoelker);
+  VolkfelderNachziehen(DB, kontext.geänderteVölker);
 }
 
-void einrichten(const QString& ordner) {
-  zuruecksetzen();
-  Start::pfadeSetzen(ordner);
-  Start::datenbankOeffnen();
+void einrichten() {
   Start::einstellungenLaden(Heute);
-  MehrwertsteuerPruefen();
-  WabenJeMagazinPruefen();
-  listenfelderPruefen();
-  stockkartenfelderPruefen();
+  EinstellungenPrüfen();
+  listenfelderPrüfen();
+  stockkartenfelderPrüfen();
 }
 
-// The sample's database, made once.
-QString vorlage() {
-  static QTemporaryDir ordner;
-  static const QString pfad = [] {
-    einrichten(ordner.path());
-    volk(QStringLiteral("1"), QStringLiteral("Anna"));
-    volk(QStringLiteral("2"), QStringLiteral("Berta"));
-    volk(QStringLiteral("3"), QStringLiteral("Carla"));
-    const Daten ids = DB.Lesen(QStringLiteral("select ID from Bienenvolk order by ID"));
-    for (int i = 0; i < ids->zeilen(); ++i) buchungen(ids->anzeige(i, 0));
-    const QString datei = DatenbankPfad;
-    trennen();
-    return datei;
-  }();
-  return pfad;
+void füllen() {
+  einrichten();
+  volk(QStringLiteral("1"), QStringLiteral("Anna"));
+  volk(QStringLiteral("2"), QStringLiteral("Berta"));
+  volk(QStringLiteral("3"), QStringLiteral("Carla"));
+  const Daten ids = DB.Lesen(QStringLiteral("select ID from Bienenvolk order by ID"));
+  for (int i = 0; i < ids->zeilen(); ++i) buchungen(ids->anzeige(i, 0));
 }
 
 }  // namespace
 
-Betrieb::Betrieb() {
-  const QString muster = vorlage();
-  QFile::copy(muster, m_ordner.filePath(QStringLiteral("TOVA2.MDB")));
+Betrieb::Betrieb() : m_ordner(Deutsch::datumText(Heute)) {
+  static Musterdatenbank muster(füllen);
+  muster.kopieren();
+  Start::pfadeSetzen(m_ordner.path());
   QFile::copy(QStringLiteral(TOVA_QUELLEN "/src/app/HILFETOVA.HLP"),
               m_ordner.filePath(QStringLiteral("HILFETOVA.HLP")));
   QDir::setCurrent(m_ordner.path());  // printing leaves a file there
-  einrichten(m_ordner.path());
+  einrichten();
   Verdrahtung::herstellen();
   Formular::setHilfe([this](QWidget*, const QString& thema) { hilfen << thema; });
 }
@@ -110,8 +96,6 @@ Betrieb::~Betrieb() {
   m_liste.reset();
   Formular::setHilfe({});
   Fensterablage::setDatei({});
-  trennen();
-  zuruecksetzen();
   QDir::setCurrent(m_vorher);
 }
 
@@ -120,9 +104,9 @@ Testliste& Betrieb::liste() {
   return *m_liste;
 }
 
-void Betrieb::uebergeben() {
+void Betrieb::übergeben() {
   m_liste.reset();
-  trennen();
+  Programmordner::trenne();
 }
 
 QString Betrieb::abbild() {

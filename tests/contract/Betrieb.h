@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QDir>
-#include <QTemporaryDir>
 #include <memory>
 
+#include "gemeinsam/Programmordner.h"
 #include "gemeinsam/Testliste.h"
 #include "platform/controls/Meldungen.h"
 
@@ -21,7 +21,7 @@ class Betrieb {
   // The main list as a plain table; made on first use.
   Testliste& liste();
   // The main form opens the database itself and is the main list.
-  void uebergeben();
+  void übergeben();
 
   // All rows of all tables, to compare before and after.
   static QString abbild();
@@ -32,6 +32,6 @@ class Betrieb {
 
  private:
   const QString m_vorher = QDir::currentPath();
-  QTemporaryDir m_ordner;
+  Programmordner m_ordner;
   std::unique_ptr<Testliste> m_liste;
 };

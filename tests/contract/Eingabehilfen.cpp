@@ -13,26 +13,13 @@
 
 #include "Formregeln.h"
 #include "data/helpers.h"
-#include "platform/controls/Eingabefeld.h"
+#include "gemeinsam/Beschriftet.h"
 #include "platform/controls/Grid.h"
 
 namespace {
 
-void nachVorn(QWidget* form, QWidget* widget) {
-  for (auto* reiter : form->findChildren<QTabWidget*>())
-    for (int i = 0; i < reiter->count(); ++i)
-      if (reiter->widget(i)->isAncestorOf(widget)) reiter->setCurrentIndex(i);
-}
-
 bool istZahl(const Eingabefeld* feld) {
   return feld->art() == Eingabefeld::Art::Dezimal || feld->art() == Eingabefeld::Art::Ganzzahl;
-}
-
-void tippeIn(QWidget* ziel, const QString& text) {
-  ziel->setFocus();
-  QTest::keyClick(ziel, Qt::Key_A, Qt::ControlModifier);
-  QTest::keyClick(ziel, Qt::Key_Delete);
-  QTest::keyClicks(ziel, text);
 }
 
 QString listeninhalt(const QListWidget* liste) {
@@ -45,7 +32,21 @@ QString listeninhalt(const QListWidget* liste) {
   return zeilen.join(u'|');
 }
 
-// No two neighbours get the same.
+}  // namespace
+
+void nachVorn(QWidget* form, QWidget* widget) {
+  for (auto* reiter : form->findChildren<QTabWidget*>())
+    for (int i = 0; i < reiter->count(); ++i)
+      if (reiter->widget(i)->isAncestorOf(widget)) reiter->setCurrentIndex(i);
+}
+
+void tippeIn(QWidget* ziel, const QString& text) {
+  ziel->setFocus();
+  QTest::keyClick(ziel, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(ziel, Qt::Key_Delete);
+  QTest::keyClicks(ziel, text);
+}
+
 QString probetext(const Eingabefeld::Beschreibung& feld, int nummer) {
   using Art = Eingabefeld::Art;
   const int ziffer = 2 + nummer % 7;
@@ -64,18 +65,17 @@ QString probetext(const Eingabefeld::Beschreibung& feld, int nummer) {
       break;
   }
   const QString text = QStringLiteral("Wert") + QString::number(nummer);
-  return feld.maxLaenge > 0 ? text.right(feld.maxLaenge) : text;
+  return feld.maxLänge > 0 ? text.right(feld.maxLänge) : text;
 }
-
-}  // namespace
 
 void tippe(QWidget* form, const QString& name, const QString& text) {
   auto* ziel = form->findChild<QWidget*>(name);
+  if (ziel == nullptr) ziel = Beschriftet::finde<QLineEdit>(form, name);
   nachVorn(form, ziel);
   tippeIn(ziel, text);
 }
 
-void druecke(QWidget* form, const QString& knopf) {
+void drücke(QWidget* form, const QString& knopf) {
   auto* ziel = form->findChild<QAbstractButton*>(knopf);
   QTest::mouseClick(ziel, Qt::LeftButton);
 }
@@ -86,11 +86,11 @@ void klickeZeile(Grid* grid, int zeile) {
   QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(index).center());
 }
 
-void fuelle(QWidget* form, const QStringList& ausser, const QHash<QString, QString>& werte) {
+void fülle(QWidget* form, const QStringList& außer, const QHash<QString, QString>& werte) {
   int nummer = 0;
   Formregeln::jedeSeite(form, [&] {
     for (QWidget* eingabe : Formregeln::eingaben(form)) {
-      if (!eingabe->isEnabled() || ausser.contains(eingabe->objectName())) continue;
+      if (!eingabe->isEnabled() || außer.contains(eingabe->objectName())) continue;
       if (werte.contains(eingabe->objectName()))
         tippeIn(eingabe, werte[eingabe->objectName()]);
       else if (auto* feld = qobject_cast<Eingabefeld*>(eingabe))

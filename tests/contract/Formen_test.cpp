@@ -15,14 +15,14 @@
 
 namespace {
 
-constexpr QSize KleinerSchirm(1366, 768);
+constexpr QSize KleinerSchirm(1366, 728);
 
 struct Fall {
   size_t nummer;
   int prozent;  // of the ordinary font
 };
 
-std::vector<Fall> faelle() {
+std::vector<Fall> fälle() {
   std::vector<Fall> alle;
   for (size_t i = 0; i < formenliste().size(); ++i)
     for (const int prozent : {100, 150}) alle.push_back({i, prozent});
@@ -50,18 +50,18 @@ class Formvertrag : public testing::TestWithParam<Fall> {
     betrieb = std::make_unique<Betrieb>();
   }
   void TearDown() override {
-    schliessen();
+    schließen();
     betrieb.reset();
     QApplication::setFont(m_schrift);
   }
 
   const Formfall& fall() const { return formenliste()[GetParam().nummer]; }
-  void oeffnen() {
-    schliessen();  // a second main form in the folder wouldn't start
+  void öffnen() {
+    schließen();  // a second main form in the folder wouldn't start
     zeigen(fall().machen(*betrieb));
   }
   void zeigen(Form neu) {
-    schliessen();
+    schließen();
     form = std::move(neu);
     ASSERT_NE(form, nullptr);
     form->show();
@@ -69,15 +69,15 @@ class Formvertrag : public testing::TestWithParam<Fall> {
     ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
     QApplication::processEvents();
   }
-  void schliessen() {
+  void schließen() {
     if (form && form->isVisible()) form->close();
     form.reset();
   }
   void neuerBetrieb() {
-    schliessen();
+    schließen();
     betrieb.reset();
     betrieb = std::make_unique<Betrieb>();
-    oeffnen();
+    öffnen();
   }
 
   // The first stop of the Tab key of each kind of control, by name.
@@ -125,34 +125,37 @@ QPushButton* standardknopf(QWidget* form) {
 
 }  // namespace
 
-TEST_P(Formvertrag, TraegtIhrenNamen) {
-  oeffnen();
+TEST_P(Formvertrag, TrägtIhrenNamen) {
+  öffnen();
   EXPECT_EQ(form->objectName().toStdString(), fall().objekt.toStdString());
   EXPECT_FALSE(form->windowTitle().isEmpty());
 }
 
 TEST_P(Formvertrag, JedeEingabeHatNamenUndBeschriftung) {
-  oeffnen();
-  Formregeln::jedeSeite(form.get(), [&] { EXPECT_EQ(text(Formregeln::namen(form.get())), ""); });
+  öffnen();
+  Formregeln::jedeSeite(form.get(), [&] {
+    EXPECT_EQ(text(Formregeln::namen(form.get())), "");
+    EXPECT_EQ(text(Formregeln::gleichnamig(form.get())), "");
+  });
 }
 
 TEST_P(Formvertrag, MnemonicsTreffenSichNicht) {
-  oeffnen();
+  öffnen();
   QStringList doppelt;
   Formregeln::jedeSeite(form.get(), [&] { doppelt << Formregeln::mnemonics(form.get()); });
   doppelt.removeDuplicates();  // what stands outside of the pages
   EXPECT_EQ(text(doppelt), text(fall().doppelt));
-  EXPECT_EQ(text(Formregeln::doppeltImMenue(form.get())), text(fall().doppeltImMenue));
+  EXPECT_EQ(text(Formregeln::doppeltImMenü(form.get())), text(fall().doppeltImMenü));
 }
 
 TEST_P(Formvertrag, TabulatorGehtDurchAlleEingaben) {
-  oeffnen();
+  öffnen();
   Formregeln::jedeSeite(form.get(),
                         [&] { EXPECT_EQ(text(Formregeln::tabregeln(form.get())), ""); });
 }
 
-TEST_P(Formvertrag, KleinsteGroesseZeigtAllesUndPasstAufDenSchirm) {
-  oeffnen();
+TEST_P(Formvertrag, KleinsteGrößeZeigtAllesUndPasstAufDenSchirm) {
+  öffnen();
   Formregeln::jedeSeite(form.get(), [&] {
     EXPECT_EQ(text(Formregeln::beschnitten(form.get())), "");
     EXPECT_LE(form->width(), KleinerSchirm.width());
@@ -160,12 +163,12 @@ TEST_P(Formvertrag, KleinsteGroesseZeigtAllesUndPasstAufDenSchirm) {
   });
 }
 
-TEST_P(Formvertrag, EscSchliesstUndSchreibtNichts) {
-  oeffnen();
+TEST_P(Formvertrag, EscSchließtUndSchreibtNichts) {
+  öffnen();
   const QStringList halte = jeArt();
   ASSERT_FALSE(halte.isEmpty());
   for (const QString& halt : halte) {
-    oeffnen();
+    öffnen();
     const QString vorher = Betrieb::abbild();
     kind(halt)->setFocus();
     QTest::keyClick(kind(halt), Qt::Key_Escape);
@@ -181,7 +184,7 @@ TEST_P(Formvertrag, F1FragtNachDerEigenenHilfe) {
     ASSERT_TRUE(abschnitt.has_value()) << qPrintable(fall().hilfethema);
     EXPECT_GE(abschnitt->size(), 3);
   }
-  oeffnen();
+  öffnen();
   // The main form shows its help itself, as a window over it.
   const Nebenfenster zu([&](QWidget*) { betrieb->hilfen << TZ_Variablen::HilfeThema; });
   for (const QString& halt : jeArt()) {
@@ -197,50 +200,52 @@ TEST_P(Formvertrag, F1FragtNachDerEigenenHilfe) {
 
 // From a button Enter presses that button, in a text of many lines it begins a new one; from all
 // else it presses the default button or at least writes nothing.
-TEST_P(Formvertrag, EingabetasteDruecktDenStandardknopfOderSchadetNicht) {
-  oeffnen();
+TEST_P(Formvertrag, EingabetasteDrücktDenStandardknopfOderSchadetNicht) {
+  öffnen();
   // Before the Tab key gets to a button: that one is the default as long as it has the keyboard.
   QString standard;
   if (const QPushButton* knopf = standardknopf(form.get())) standard = knopf->objectName();
-  EXPECT_EQ(standard.toStdString(), fall().standardknopf.toStdString());
+  if (!fall().schlicht) {
+    EXPECT_EQ(standard.toStdString(), fall().standardknopf.toStdString());
+  }
   const QStringList halte = jeArt();
   const Nebenfenster zu;  // as a print dialog
   for (const QString& halt : halte) {
     neuerBetrieb();
     if (qobject_cast<QAbstractButton*>(kind(halt))) continue;
     const QString vorher = Betrieb::abbild();
-    int gedrueckt = 0;
+    int gedrückt = 0;
     const bool eingabe = qobject_cast<QLineEdit*>(kind(halt)) != nullptr;
     QPushButton* knopf = eingabe && !fall().eingabeknopf.isEmpty()
                              ? form->findChild<QPushButton*>(fall().eingabeknopf)
                              : standardknopf(form.get());
     if (knopf != nullptr)
-      QObject::connect(knopf, &QPushButton::clicked, form.get(), [&] { ++gedrueckt; });
+      QObject::connect(knopf, &QPushButton::clicked, form.get(), [&] { ++gedrückt; });
     kind(halt)->setFocus();
     QTest::keyClick(kind(halt), Qt::Key_Return);
     if (eingabe && !standard.isEmpty()) {
-      EXPECT_EQ(gedrueckt, 1) << qPrintable(halt);
+      EXPECT_EQ(gedrückt, 1) << qPrintable(halt);
     }
-    if (gedrueckt == 0) {
+    if (gedrückt == 0) {
       EXPECT_TRUE(vorher == Betrieb::abbild()) << qPrintable(halt);
     }
     betrieb->boxen.fehler();  // whatever the default button had to say
   }
 }
 
-TEST_P(Formvertrag, GespeichertesKommtBeimWiederoeffnenGleich) {
+TEST_P(Formvertrag, GespeichertesKommtBeimWiederöffnenGleich) {
   if (!fall().sichern || !fall().sichern->wieder) return;
   const Sichern& sichern = *fall().sichern;
-  oeffnen();
-  fuelle(form.get(), sichern.unberuehrt, sichern.werte);
+  öffnen();
+  fülle(form.get(), sichern.unberührt, sichern.werte);
   const auto vorher = inhalte(form.get());
   ASSERT_FALSE(vorher.isEmpty());
   if (sichern.boxen) sichern.boxen(betrieb->boxen);
-  druecke(form.get(), sichern.knopf);
+  drücke(form.get(), sichern.knopf);
   EXPECT_EQ(betrieb->boxen.fehler().toStdString(), "");
 
   zeigen(sichern.wieder(*betrieb));
-  if (sichern.auswaehlen) sichern.auswaehlen(form.get());
+  if (sichern.auswählen) sichern.auswählen(form.get());
   const auto nachher = inhalte(form.get());
   for (auto feld = vorher.begin(); feld != vorher.end(); ++feld)
     EXPECT_EQ(nachher.value(feld.key()).toStdString(), feld.value().toStdString())
@@ -249,32 +254,32 @@ TEST_P(Formvertrag, GespeichertesKommtBeimWiederoeffnenGleich) {
 
 TEST_P(Formvertrag, AbgelehntesSpeichernSchreibtNichts) {
   if (!fall().sichern || !fall().sichern->verderben) return;
-  oeffnen();
-  fuelle(form.get(), fall().sichern->unberuehrt, fall().sichern->werte);
+  öffnen();
+  fülle(form.get(), fall().sichern->unberührt, fall().sichern->werte);
   fall().sichern->verderben(form.get(), betrieb->boxen);
   const QString vorher = Betrieb::abbild();
   const Sichern& sichern = *fall().sichern;
-  druecke(form.get(), sichern.abgelehnt.isEmpty() ? sichern.knopf : sichern.abgelehnt);
+  drücke(form.get(), sichern.abgelehnt.isEmpty() ? sichern.knopf : sichern.abgelehnt);
   EXPECT_EQ(betrieb->boxen.fehler().toStdString(), "");
   EXPECT_TRUE(vorher == Betrieb::abbild());
   EXPECT_TRUE(form->isVisible());
 }
 
-TEST_P(Formvertrag, LoeschenFragtErst) {
-  if (!fall().loeschen) return;
-  const Loeschen& loeschen = *fall().loeschen;
-  oeffnen();
+TEST_P(Formvertrag, LöschenFragtErst) {
+  if (!fall().löschen) return;
+  const Löschen& löschen = *fall().löschen;
+  öffnen();
   const QString vorher = Betrieb::abbild();
-  const qint64 anzahl = Betrieb::anzahl(loeschen.tabelle);
-  betrieb->boxen.frageMit(loeschen.frage, false);
-  loeschen.ausloesen(form.get());
+  const qint64 anzahl = Betrieb::anzahl(löschen.tabelle);
+  betrieb->boxen.frageMit(löschen.frage, false);
+  löschen.auslösen(form.get());
   EXPECT_EQ(betrieb->boxen.fehler().toStdString(), "");
   EXPECT_TRUE(vorher == Betrieb::abbild());
 
-  betrieb->boxen.frageMit(loeschen.frage, true);
-  loeschen.ausloesen(form.get());
+  betrieb->boxen.frageMit(löschen.frage, true);
+  löschen.auslösen(form.get());
   EXPECT_EQ(betrieb->boxen.fehler().toStdString(), "");
-  EXPECT_EQ(Betrieb::anzahl(loeschen.tabelle), anzahl - 1);
+  EXPECT_EQ(Betrieb::anzahl(löschen.tabelle), anzahl - 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Alle, Formvertrag, testing::ValuesIn(faelle()), fallname);
+INSTANTIATE_TEST_SUITE_P(Alle, Formvertrag, testing::ValuesIn(fälle()), fallname);

@@ -5,80 +5,84 @@
 #include <QFile>
 #include <QTabWidget>
 #include <QTest>
+#include <algorithm>
 
 #include "Eingabehilfen.h"
 #include "bookings/Buchungstypen.h"
-#include "bookings/forms/TE_Eingabe.h"
-#include "colonies/forms/TV_Neues_Volk.h"
 #include "colonies/forms/TV_Selektieren.h"
 #include "core/forms/TH_Hilfe.h"
-#include "core/mainform/forms/TA_TOVA.h"
-#include "core/mainform/forms/TH_Hilfe_Wieanfangen.h"
-#include "core/mainform/forms/TO_Einstellungen.h"
 #include "data/forms/TS_Dateiauswahl.h"
 #include "data/forms/TS_Dateispeichern.h"
+#include "mainform/Menue.h"
+#include "mainform/forms/Formen.h"
+#include "mainform/forms/TA_TOVA.h"
 #include "output/Textausgabe.h"
 #include "output/Uebergabe.h"
 #include "output/forms/TA_Textausgabe.h"
 #include "output/forms/TA_Zwischenliste.h"
-#include "planning/forms/TV_Arplanoptionen.h"
-#include "planning/forms/TV_Starttermine.h"
-#include "planning/forms/TV_Terminverwaltung.h"
+#include "platform/controls/Formular.h"
 #include "platform/controls/Grid.h"
-#include "sites/forms/TV_Pflanzen_Standorte.h"
 #include "stores/Handel.h"
-#include "stores/forms/TV_EinVerkauf_Lager.h"
 
 using namespace TZ_Variablen;
 
 namespace {
 
-const QString Loeschfrage =
+const QString Löschfrage =
     "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
 
 Formfall hauptformular() {
   Formfall f{"TA_TOVA", "TA_TOVA", "TA_TOVA", {}, {}};
   f.machen = [](Betrieb& betrieb) -> Form {
-    betrieb.uebergeben();
+    betrieb.übergeben();
     auto form = std::make_unique<TA_TOVA>();
     if (!form->laden({betrieb.ordner(), QDate(2026, 6, 15), [] { return true; }})) return nullptr;
     form->datenvölkerlesen();
-    EinstellungenZahl[13] = 0;  // the open appointments would stand in front of it
+    EinstellungenZahl[Zahlslots.terminlisteBeimStart] =
+        0;  // the open appointments would stand in front of it
     return form;
   };
   f.hauptformular = true;
-  f.loeschen = Loeschen{
+  f.löschen = Löschen{
       "Bienenvolk", "Das Löschen eines Volkes entfernt das markierte Volk",
       [](QWidget* form) { form->findChild<QAction*>(QString("XV_volklöschen"))->trigger(); }};
   f.doppelt = QStringList{QString("Alt+V: &Völker und &Verwaltung")};
-  f.doppeltImMenue = QStringList{"V_Verwaltung:A", "XE_Eingabe:S", "XE_Eingabe:W", "popupliste:V"};
+  f.doppeltImMenü = QStringList{"V_Verwaltung:A", "XE_Eingabe:S", "XE_Eingabe:W", "popupliste:V"};
   return f;
 }
 
-Formfall ersteSchritte() {
-  return {"TH_Hilfe_Wieanfangen", "TH_Hilfe_Wieanfangen", "TH_Hilfe_Wieanfangen", "schritt_2",
-          [](Betrieb&) -> Form {
-            return std::make_unique<TH_Hilfe_Wieanfangen>(
-                nullptr, TH_Hilfe_Wieanfangen::Schritte{nullptr, nullptr, [] {}});
-          }};
-}
-
-Form volkform(Betrieb& betrieb, const QString& modus, int zeile) {
-  betrieb.liste().datenvölkerlesen();
-  betrieb.liste().setAktuelleZeile(zeile);
-  VolkModus = modus;
-  auto form = std::make_unique<TV_Neues_Volk>();
+// The form of a menu entry, as the program makes it.
+Form ausEintrag(const QString& name) {
+  const auto& alle = Formen::liste();
+  const auto eintrag = std::ranges::find(alle, name, &Formen::Eintrag::eintrag);
+  if (eintrag == alle.end()) return nullptr;
+  if (eintrag->einstellen) eintrag->einstellen(Menü::eintrag(name).wert);
+  std::unique_ptr<Formular> form(eintrag->machen(nullptr));
   form->laden();
   return form;
 }
 
+Formfall ersteSchritte() {
+  Formfall f{"TH_Hilfe_Wieanfangen", "TH_Hilfe_Wieanfangen", "TH_Hilfe_Wieanfangen", "schritt_2",
+             [](Betrieb&) { return ausEintrag("hilfewieanfangen"); }};
+  f.einträge = QStringList{"hilfewieanfangen"};
+  return f;
+}
+
+Form volkform(Betrieb& betrieb, const QString& eintrag, int zeile) {
+  betrieb.liste().datenvölkerlesen();
+  betrieb.liste().setAktuelleZeile(zeile);
+  return ausEintrag(eintrag);
+}
+
 Formfall neuesVolk() {
   Formfall f{"TV_Neues_Volk_Neu", "TV_Neues_Volk", "TV_Neues_Volk", "ok", {}};
-  f.machen = [](Betrieb& betrieb) { return volkform(betrieb, "Neu", 0); };
+  f.machen = [](Betrieb& betrieb) { return volkform(betrieb, "XV_neuevölker", 0); };
+  f.einträge = QStringList{"XV_neuevölker"};
   f.sichern = Sichern{"ok",
                       {"kon", "sevt_13"},  // a colony in stock hasn't gone
                       {},
-                      [](Betrieb& betrieb) { return volkform(betrieb, QString("Ändern"), 3); },
+                      [](Betrieb& betrieb) { return volkform(betrieb, "XV_volkändern", 3); },
                       {},
                       [](QWidget* form, Meldungen::Probe& boxen) {
                         tippe(form, "sevt_0", {});
@@ -87,9 +91,10 @@ Formfall neuesVolk() {
   return f;
 }
 
-Formfall volkAendern() {
+Formfall volkÄndern() {
   Formfall f{"TV_Neues_Volk_Aendern", "TV_Neues_Volk", "TV_Neues_Volk", "ok", {}};
-  f.machen = [](Betrieb& betrieb) { return volkform(betrieb, QString("Ändern"), 1); };
+  f.machen = [](Betrieb& betrieb) { return volkform(betrieb, "XV_volkändern", 1); };
+  f.einträge = QStringList{"XV_volkändern"};
   f.sichern = Sichern{"ok",
                       {"kon", "sevt_13"},
                       [](Meldungen::Probe& boxen) {
@@ -106,19 +111,26 @@ Formfall volkAendern() {
 }
 
 // The type's name in plain letters.
-QString schlicht(QString text) { return text.replace(QString("ö"), QString("oe")).remove(u' '); }
+QString schlicht(QString text) {
+  for (const auto& [umlaut, ersatz] : {std::pair{"ä", "ae"}, {"ö", "oe"}, {"ü", "ue"}, {"ß", "ss"}})
+    text.replace(QString(umlaut), QString(ersatz));
+  return text.remove(u' ');
+}
 
 Formfall eingabe(int art) {
+  QString eintrag;
+  for (const Menü::Eintrag& e : Menü::menüs()[1].einträge)
+    if (e.wert == QString::number(art)) eintrag = e.name;
   Formfall f{"TE_Eingabe_" + schlicht(buchungstyp(art).beschriftung),
              "TE_Eingabe",
              "TE_Eingabe",
              "neu_0",
              {}};
-  f.machen = [art](Betrieb& betrieb) -> Form {
+  f.machen = [eintrag](Betrieb& betrieb) -> Form {
     betrieb.liste();
-    BuchungsArt = art;
-    return std::make_unique<TE_Eingabe>(nullptr);
+    return ausEintrag(eintrag);
   };
+  f.einträge = QStringList{eintrag};
   f.sichern = Sichern{
       "neu_0",
       {"kom"},
@@ -133,8 +145,8 @@ Formfall eingabe(int art) {
         tippe(form, "sevt_0", "31.02.2026");
         boxen.hinweis("Die Buchung wird nicht ausgeführt, weil das Datum nicht korrekt ist.");
       }};
-  f.loeschen = Loeschen{buchungstyp(art).tabelle, Loeschfrage,
-                        [](QWidget* form) { druecke(form, QString("löschen")); }};
+  f.löschen = Löschen{buchungstyp(art).tabelle, Löschfrage,
+                      [](QWidget* form) { drücke(form, QString("löschen")); }};
   return f;
 }
 
@@ -142,7 +154,8 @@ Formfall hilfe() {
   return {"TH_Hilfe", "TH_Hilfe", {}, "schliessen", [](Betrieb&) -> Form {
             HilfeThema = "TE_Eingabe";
             auto form = std::make_unique<TH_Hilfe>(nullptr);
-            return form->lesen() ? std::move(form) : nullptr;
+            form->laden();
+            return form;
           }};
 }
 
@@ -190,7 +203,7 @@ Formfall selektieren() {
 }
 
 // A site with a plant, so that every tab can be opened; a new database has plants, but no site.
-Form standortform(const QString& modus) {
+Form standortform(const QString& eintrag) {
   if (DB.Lesen("select ID from Standorte")->zeilen() == 0) {
     DB.Execute("insert into Standorte(Standort) values (?)", {QString("Hausgarten")});
     DB.Execute(
@@ -198,10 +211,7 @@ Form standortform(const QString& modus) {
         "values (?, ?, ?, ?)",
         {QString("Krokus"), 500, 60, DB.LetzteID()});
   }
-  FormModus = modus;
-  auto form = std::make_unique<TV_Pflanzen_Standorte>();
-  form->laden();
-  return form;
+  return ausEintrag(eintrag);
 }
 
 // Clicks the first row for which the condition holds.
@@ -212,7 +222,7 @@ void zeileAufReiter(QWidget* form, int reiter, const QString& liste, const QStri
 }
 
 // The given captions; the first of the two can't be chosen.
-QStringList alleSDesFusses() {
+QStringList alleSDesFußes() {
   return {
       "Alt+S: QPushButton comstandortlisten \"&Standorte / Pflanzen auswerten\" und QPushButton "
       "beenden \"&Schließen\""};
@@ -220,11 +230,8 @@ QStringList alleSDesFusses() {
 
 Formfall arbeitsplanoptionen() {
   Formfall f{"TV_Arplanoptionen", "TV_Arplanoptionen", "TV_Arplanoptionen", "neu_0", {}};
-  f.machen = [](Betrieb&) -> Form {
-    auto form = std::make_unique<TV_Arplanoptionen>();
-    form->laden();
-    return form;
-  };
+  f.machen = [](Betrieb&) { return ausEintrag("XV_Arbeitsplanoptionen"); };
+  f.einträge = QStringList{"XV_Arbeitsplanoptionen"};
   f.sichern = Sichern{"neu_0",
                       {},
                       {},
@@ -236,10 +243,10 @@ Formfall arbeitsplanoptionen() {
                       }};
   // The first of the list; a period that ends behind its start.
   f.sichern->werte = {{"sevt_0", "1. Durchsicht"}, {"sevt_1", "01.05"}, {"sevt_2", "30.06"}};
-  f.loeschen = Loeschen{"Arbeitsplanoptionen", Loeschfrage, [](QWidget* form) {
-                          klickeZeile(form->findChild<Grid*>("liarplan"), 0);
-                          druecke(form, QString("löschen"));
-                        }};
+  f.löschen = Löschen{"Arbeitsplanoptionen", Löschfrage, [](QWidget* form) {
+                        klickeZeile(form->findChild<Grid*>("liarplan"), 0);
+                        drücke(form, QString("löschen"));
+                      }};
   return f;
 }
 
@@ -253,10 +260,10 @@ void termineEintragen() {
   };
   eintragen("2026-06-12", "Imkerstammtisch", "J", 0);
   eintragen("2026-06-26", "Imkerstammtisch", "N", 0);
-  const Daten voelker = DB.Lesen("select ID from Bienenvolk order by ID");
-  for (int i = 0; i < voelker->zeilen(); ++i) {
-    eintragen("2026-06-10", "Honigraum aufsetzen", "N", voelker->ganzzahl(i, 0));
-    eintragen("2026-06-20", "Schwarmkontrolle", "N", voelker->ganzzahl(i, 0));
+  const Daten völker = DB.Lesen("select ID from Bienenvolk order by ID");
+  for (int i = 0; i < völker->zeilen(); ++i) {
+    eintragen("2026-06-10", "Honigraum aufsetzen", "N", völker->ganzzahl(i, 0));
+    eintragen("2026-06-20", "Schwarmkontrolle", "N", völker->ganzzahl(i, 0));
   }
 }
 
@@ -265,11 +272,11 @@ Formfall terminverwaltung() {
   Formfall f{"TV_Terminverwaltung", "TV_Terminverwaltung", "TV_Terminverwaltung", "neu_0", {}};
   f.machen = [](Betrieb&) -> Form {
     termineEintragen();
-    auto form = std::make_unique<TV_Terminverwaltung>();
-    form->laden();
+    Form form = ausEintrag("XV_Termine");
     form->findChild<QAbstractButton*>("opti_1")->click();
     return form;
   };
+  f.einträge = QStringList{"XV_Termine"};
   f.sichern = Sichern{"neu_0",
                       {"opti_0", "opti_1", "sevt_3", "sevt_4", "sevt_5", "sevt_6", "sevt_7",
                        "sevt_9", "sevt_10"},  // view and filters; the days follow the date
@@ -284,11 +291,11 @@ Formfall terminverwaltung() {
                         boxen.hinweisMit("...die Terminart angegeben werden muß.");
                       }};
   f.sichern->werte = {{"sevt_0", "18.06.2026"}, {"sevt_1", "Futter nachsehen"}, {"sevt_8", "2"}};
-  f.loeschen = Loeschen{"Termine", Loeschfrage, [](QWidget* form) {
-                          auto* grid = form->findChild<Grid*>("litermine");
-                          klickeZeile(grid, grid->findeZeile("Termin = 'Schwarmkontrolle'"));
-                          druecke(form, QString("löschen"));
-                        }};
+  f.löschen = Löschen{"Termine", Löschfrage, [](QWidget* form) {
+                        auto* grid = form->findChild<Grid*>("litermine");
+                        klickeZeile(grid, grid->findeZeile("Termin = 'Schwarmkontrolle'"));
+                        drücke(form, QString("löschen"));
+                      }};
   return f;
 }
 
@@ -297,10 +304,9 @@ Formfall starttermine() {
   Formfall f{"TV_Starttermine", "TV_Starttermine", "TV_Starttermine", QString("schließen"), {}};
   f.machen = [](Betrieb&) -> Form {
     termineEintragen();
-    auto form = std::make_unique<TV_Starttermine>();
-    form->laden();
-    return form;
+    return ausEintrag("XV_Aktuelle_Termine");
   };
+  f.einträge = QStringList{"XV_Aktuelle_Termine"};
   f.sichern = Sichern{QString("schließen"),
                       {"sevt_0", "sevt_1", "sevt_2", "sevt_3", "konterminreihe"},
                       {},
@@ -326,14 +332,15 @@ Sichern abgelehntOhne(const QString& knopf, const QString& pflichtfeld, const QS
 
 Formfall standorte() {
   Formfall f{"TV_Pflanzen_Standorte_Standorte", "TV_Pflanzen_Standorte", "TV_Pflanzen_Standorte",
-             "neustandort_0", [](Betrieb&) { return standortform("0"); }};
-  f.loeschen = Loeschen{"Standorte", Loeschfrage, [](QWidget* form) {
-                          zeileAufReiter(form, 0, "listandorte", "Standort = 'Hausgarten'");
-                          druecke(form, "lschstandort");
-                        }};
+             "neustandort_0", [](Betrieb&) { return standortform("XV_standorte"); }};
+  f.einträge = QStringList{"XV_standorte"};
+  f.löschen = Löschen{"Standorte", Löschfrage, [](QWidget* form) {
+                        zeileAufReiter(form, 0, "listandorte", "Standort = 'Hausgarten'");
+                        drücke(form, "lschstandort");
+                      }};
   f.sichern =
       abgelehntOhne("neustandort_0", "sevtstandort_0", "...der Standort angegeben werden muß.");
-  f.doppelt = alleSDesFusses();
+  f.doppelt = alleSDesFußes();
   return f;
 }
 
@@ -344,22 +351,23 @@ Formfall pflanzenJeStandort() {
              "neuje_0",
              {}};
   f.machen = [](Betrieb&) {
-    Form form = standortform("0");
+    Form form = standortform("XV_standorte");
     form->findChild<QTabWidget*>("reiter")->setCurrentIndex(1);
     return form;
   };
-  f.loeschen = Loeschen{"Standorte_Pflanzen", Loeschfrage, [](QWidget* form) {
-                          zeileAufReiter(form, 1, "lijepflanze", "Pflanze = 'Krokus'");
-                          druecke(form, "lschje");
-                        }};
+  f.löschen = Löschen{"Standorte_Pflanzen", Löschfrage, [](QWidget* form) {
+                        zeileAufReiter(form, 1, "lijepflanze", "Pflanze = 'Krokus'");
+                        drücke(form, "lschje");
+                      }};
   f.sichern = abgelehntOhne("neuje_0", "sevtje_0", "...die Pflanze angegeben werden muß.");
-  f.doppelt = alleSDesFusses();
+  f.doppelt = alleSDesFußes();
   return f;
 }
 
 Formfall pflanzen() {
   Formfall f{"TV_Pflanzen_Standorte_Pflanzen", "TV_Pflanzen_Standorte", "TV_Pflanzen_Standorte",
-             "neu_0", [](Betrieb&) { return standortform("2"); }};
+             "neu_0", [](Betrieb&) { return standortform("XV_pflanzen"); }};
+  f.einträge = QStringList{"XV_pflanzen"};
   QStringList andere{"sevtje_0", "sevtje_1", "sevtje_2"};
   for (int i = 0; i < 11; ++i) andere << QString("sevtstandort_%1").arg(i);
   f.sichern = Sichern{"neu_0",
@@ -374,49 +382,46 @@ Formfall pflanzen() {
                         tippe(form, "sevt_0", {});
                         boxen.hinweisMit("...die Pflanze angegeben werden muß.");
                       }};
-  f.loeschen = Loeschen{"Pflanzen", Loeschfrage, [](QWidget* form) {
-                          zeileAufReiter(form, 2, "lipflanzen", "Pflanze = 'Krokus'");
-                          druecke(form, QString("löschen"));
-                        }};
-  f.doppelt = alleSDesFusses();
+  f.löschen = Löschen{"Pflanzen", Löschfrage, [](QWidget* form) {
+                        zeileAufReiter(form, 2, "lipflanzen", "Pflanze = 'Krokus'");
+                        drücke(form, QString("löschen"));
+                      }};
+  f.doppelt = alleSDesFußes();
   return f;
 }
 
 void bucheHonig(Handel::Seite seite, const QString& produkt, const QString& menge) {
-  Verwaltung::Texte texte = Verwaltung::vorgaben(Handel::geschaeftsfelder(seite));
+  Verwaltung::Texte texte = Verwaltung::vorgaben(Handel::geschäftsfelder(seite));
   texte["Produkt"] = produkt;
   texte["Menge"] = menge;
   texte[Handel::partnerfeld(seite)] = QString("Bäckerei Grünäcker");
   texte["Charge"] = "A1";
-  Handel::geschaeftSpeichern(DB, seite, texte, {});
+  Handel::geschäftSpeichern(DB, seite, texte, {});
 }
 
 // A purchase and a sale, so that no list is empty.
-Form handelsform(const QString& modus) {
+Form handelsform(const QString& eintrag) {
   if (DB.Lesen("select ID from Einkauf")->zeilen() == 0) {
     bucheHonig(Handel::Seite::Einkauf, "Rapshonig", "40");
     bucheHonig(Handel::Seite::Verkauf, "Waldhonig", "12,5");
   }
-  FormModus = modus;
-  auto form = std::make_unique<TV_EinVerkauf_Lager>();
-  form->laden();
-  return form;
+  return ausEintrag(eintrag);
 }
 
 // One case for each tab; the inputs of the other two stay as they are.
 Formfall handel(int reiter) {
   struct Tab {
-    QString name, tabelle, produkt;
+    QString eintrag, name, tabelle, produkt;
     int eingaben;
   };
-  static const QList<Tab> tabs = {{"einkauf", "Einkauf", "Rapshonig", 8},
-                                  {"verkauf", "Verkauf", "Waldhonig", 8},
-                                  {"honig", "Honiglager", "Waldhonig", 7}};
+  static const QList<Tab> tabs = {{"XV_einkauf", "einkauf", "Einkauf", "Rapshonig", 8},
+                                  {"XV_verkauf", "verkauf", "Verkauf", "Waldhonig", 8},
+                                  {"XV_honiglager", "honig", "Honiglager", "Waldhonig", 7}};
   const Tab& tab = tabs[reiter];
   const QString liste = "li" + tab.name;
   Formfall f{"TV_EinVerkauf_Lager_" + tab.tabelle, "TV_EinVerkauf_Lager", "TV_EinVerkauf_Lager",
-             "neu" + tab.name + "_0",
-             [reiter](Betrieb&) { return handelsform(QString::number(reiter)); }};
+             "neu" + tab.name + "_0", [tab](Betrieb&) { return handelsform(tab.eintrag); }};
+  f.einträge = QStringList{tab.eintrag};
   QStringList andere;
   for (const Tab& anderer : tabs)
     for (int i = 0; anderer.name != tab.name && i < anderer.eingaben; ++i)
@@ -434,10 +439,10 @@ Formfall handel(int reiter) {
                         boxen.hinweisMit("...das Produkt angegeben werden muß.");
                       }};
   f.sichern->werte = {{produkt, "Sommerhonig"}};
-  f.loeschen = Loeschen{tab.tabelle, Loeschfrage, [reiter, liste, tab](QWidget* form) {
-                          zeileAufReiter(form, reiter, liste, "Produkt = '" + tab.produkt + "'");
-                          druecke(form, "lsch" + tab.name);
-                        }};
+  f.löschen = Löschen{tab.tabelle, Löschfrage, [reiter, liste, tab](QWidget* form) {
+                        zeileAufReiter(form, reiter, liste, "Produkt = '" + tab.produkt + "'");
+                        drücke(form, "lsch" + tab.name);
+                      }};
   for (const Tab& jeder : tabs)  // the given captions; the second can't be chosen
     f.doppelt << "Alt+L: QPushButton lsch" + jeder.name +
                      " \"&Löschen\" und QPushButton comlisten \"&Listen\"";
@@ -448,10 +453,9 @@ Formfall einstellungen() {
   Formfall f{"TO_Einstellungen", "TO_Einstellungen", "TO_Einstellungen", "ok", {}};
   f.machen = [](Betrieb& betrieb) -> Form {
     betrieb.liste();
-    auto form = std::make_unique<TO_Einstellungen>();
-    form->laden();
-    return form;
+    return ausEintrag("O_Einstellungen");
   };
+  f.einträge = QStringList{"O_Einstellungen"};
   f.sichern = Sichern{"ok", {}, {}, f.machen, {}, {}};
   // Lines of a page from 30 on, combs of a magazine from 8 to 16, two fields to sort by.
   f.sichern->werte = {{"sevt_4", "45"}, {"sevt_15", "12"}, {"sevt_14", "V"}};
@@ -475,13 +479,26 @@ Formfall zwischenliste() {
   Formfall f{"TA_Zwischenliste", "TA_Zwischenliste", "TA_Zwischenliste", {}, {}};
   f.machen = [](Betrieb&) -> Form {
     const Daten daten = DB.Lesen("select Volknr, Volkname, Standort from Bienenvolk");
-    Uebergabe::schreiben(Uebergabe::datei(), Ausgabeliste(daten));
+    Übergabe::schreiben(Übergabe::datei(), Ausgabeliste(daten));
     auto form = std::make_unique<TA_Zwischenliste>();
     form->laden();
     return form;
   };
-  f.doppeltImMenue = QStringList{"popzeile:S"};
+  f.doppeltImMenü = QStringList{"popzeile:S"};
   f.sichern = Sichern{QString("cmdschließen"), {}, {}, f.machen, {}, {}};
+  return f;
+}
+
+// A form of which the list of forms is all that is known.
+Formfall schlichterFall(const Formen::Eintrag& eintrag) {
+  const QString name = std::unique_ptr<Formular>(eintrag.machen(nullptr))->objectName();
+  Formfall f{name + u'_' + schlicht(eintrag.eintrag), name, name, {}, {}};
+  f.machen = [gemeint = eintrag.eintrag](Betrieb& betrieb) {
+    betrieb.liste();
+    return ausEintrag(gemeint);
+  };
+  f.einträge = QStringList{eintrag.eintrag};
+  f.schlicht = true;
   return f;
 }
 
@@ -489,12 +506,16 @@ Formfall zwischenliste() {
 
 const std::vector<Formfall>& formenliste() {
   static const std::vector<Formfall> liste = [] {
-    std::vector<Formfall> alle{hauptformular(), ersteSchritte(), neuesVolk(), volkAendern()};
+    std::vector<Formfall> alle{hauptformular(), ersteSchritte(), neuesVolk(), volkÄndern()};
     for (int art = 0; art < 11; ++art) alle.push_back(eingabe(art));
     alle.insert(alle.end(), {hilfe(), dateiauswahl(), dateispeichern(), selektieren(), standorte(),
                              pflanzenJeStandort(), pflanzen(), handel(0), handel(1), handel(2),
                              arbeitsplanoptionen(), terminverwaltung(), starttermine(),
                              einstellungen(), textausgabe(), zwischenliste()});
+    for (const Formen::Eintrag& eintrag : Formen::liste())
+      if (std::ranges::none_of(
+              alle, [&](const Formfall& fall) { return fall.einträge.contains(eintrag.eintrag); }))
+        alle.push_back(schlichterFall(eintrag));
     return alle;
   }();
   return liste;

@@ -10,27 +10,28 @@
 
 class QWidget;
 
-// The registry of all forms: a form that is in the program stands here, with what its contract
-// needs to know of it.
+// All forms with what their contract needs to know of them. Those that a menu entry opens come from
+// the program's own list (mainform/forms/Formen), whether something more is said of them here or
+// not.
 
 using Form = std::unique_ptr<QWidget>;
 
 // How a form saves its inputs. Without wieder it keeps none; without verderben it refuses none.
 struct Sichern {
   QString knopf;                                               // saves
-  QStringList unberuehrt;                                      // inputs that stay as they are
+  QStringList unberührt;                                       // inputs that stay as they are
   std::function<void(Meldungen::Probe&)> boxen;                // what saving shows; may be empty
   std::function<Form(Betrieb&)> wieder;                        // the form anew, on what was saved
-  std::function<void(QWidget*)> auswaehlen;                    // brings it up in the shown form
+  std::function<void(QWidget*)> auswählen;                     // brings it up in the shown form
   std::function<void(QWidget*, Meldungen::Probe&)> verderben;  // an entry that is refused
   QHash<QString, QString> werte = {};  // texts for inputs that not every text is right for
   QString abgelehnt = {};              // the button that refuses; empty: the one that saves
 };
 
-struct Loeschen {
+struct Löschen {
   QString tabelle;
   QString frage;  // its first words
-  std::function<void(QWidget*)> ausloesen;
+  std::function<void(QWidget*)> auslösen;
 };
 
 struct Formfall {
@@ -41,10 +42,14 @@ struct Formfall {
   std::function<Form(Betrieb&)> machen;  // made and filled, not yet shown
   bool hauptformular = false;
   std::optional<Sichern> sichern = {};
-  std::optional<Loeschen> loeschen = {};
+  std::optional<Löschen> löschen = {};
   // Mnemonics that the given captions have more than once: of the window, of its menus.
   QStringList doppelt = {};
-  QStringList doppeltImMenue = {};
+  QStringList doppeltImMenü = {};
+  // The menu entries that it stands for. One that no case names gets a plain one, which knows
+  // nothing of its form but what holds for all.
+  QStringList einträge = {};
+  bool schlicht = false;
   // What Enter presses in the first input of its kind, where that isn't the standardknopf.
   QString eingabeknopf = {};
 };

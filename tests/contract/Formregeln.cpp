@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QSizeGrip>
@@ -127,11 +128,11 @@ int textplatz(const QLineEdit* feld) {
   rahmen.lineWidth = feld->hasFrame()
                          ? feld->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &rahmen, feld)
                          : 0;
-  QRect flaeche = feld->style()->subElementRect(QStyle::SE_LineEditContents, &rahmen, feld);
-  flaeche = flaeche.marginsRemoved(feld->textMargins());
+  QRect fläche = feld->style()->subElementRect(QStyle::SE_LineEditContents, &rahmen, feld);
+  fläche = fläche.marginsRemoved(feld->textMargins());
   for (const auto* knopf : feld->findChildren<QAbstractButton*>())
-    if (knopf->isVisible()) flaeche.setRight(std::min(flaeche.right(), knopf->x() - 1));
-  return flaeche.width() - 2;
+    if (knopf->isVisible()) fläche.setRight(std::min(fläche.right(), knopf->x() - 1));
+  return fläche.width() - 2;
 }
 
 // What the control shows doesn't fit into it.
@@ -168,7 +169,7 @@ bool zuEng(const QWidget* w) {
   return false;
 }
 
-bool zaehltFuerLage(const QWidget* w) {
+bool zähltFürLage(const QWidget* w) {
   return !w->isWindow() && !istTeil(w) && !rollt(w) && !ist<QSizeGrip, QSplitterHandle>(w) &&
          !ist<QStackedWidget, QTabWidget>(w->parentWidget());
 }
@@ -227,6 +228,20 @@ QStringList namen(QWidget* form) {
   return fehler;
 }
 
+QStringList gleichnamig(QWidget* form) {
+  QStringList fehler;
+  QHash<QString, QString> gesehen;
+  for (const QWidget* eingabe : eingaben(form)) {
+    if (!ist<QLineEdit, QPlainTextEdit>(eingabe)) continue;
+    const QString name = vorlesename(eingabe).remove(u'&');
+    if (gesehen.contains(name))
+      fehler << QStringLiteral("zweimal \"%1\": %2 und %3")
+                    .arg(name, gesehen[name], bezeichnung(eingabe));
+    gesehen[name] = bezeichnung(eingabe);
+  }
+  return fehler;
+}
+
 QStringList mnemonics(QWidget* form) {
   Buchstaben buchstaben;
   for (QWidget* w : sichtbare(form)) {
@@ -247,13 +262,13 @@ QStringList mnemonics(QWidget* form) {
   return buchstaben.fehler;
 }
 
-QStringList doppeltImMenue(QWidget* form) {
+QStringList doppeltImMenü(QWidget* form) {
   QStringList doppelt;
-  for (const auto* menue : form->findChildren<QMenu*>()) {
+  for (const auto* menü : form->findChildren<QMenu*>()) {
     QHash<QChar, int> anzahl;
-    for (const QAction* aktion : menue->actions())
+    for (const QAction* aktion : menü->actions())
       if (const QChar buchstabe = mnemonic(aktion->text()); buchstabe.isLetterOrNumber())
-        if (++anzahl[buchstabe] == 2) doppelt << menue->objectName() + u':' + buchstabe;
+        if (++anzahl[buchstabe] == 2) doppelt << menü->objectName() + u':' + buchstabe;
   }
   doppelt.sort();
   return doppelt;
@@ -261,9 +276,9 @@ QStringList doppeltImMenue(QWidget* form) {
 
 QList<QWidget*> tabfolge(QWidget* form) {
   QList<QWidget*> folge;
-  constexpr int Hoechstens = 300;
+  constexpr int Höchstens = 300;
   QWidget* hier = form->focusWidget();
-  for (int i = 0; i < Hoechstens && hier != nullptr && !folge.contains(hier); ++i) {
+  for (int i = 0; i < Höchstens && hier != nullptr && !folge.contains(hier); ++i) {
     folge << hier;
     QTest::keyClick(hier, Qt::Key_Tab);
     hier = QApplication::focusWidget();
@@ -326,15 +341,42 @@ QStringList beschnitten(QWidget* form) {
                     .arg(w->height())
                     .arg(w->sizeHint().width())
                     .arg(w->sizeHint().height());
-    if (!zaehltFuerLage(w)) continue;
+    if (!zähltFürLage(w)) continue;
     if (!w->parentWidget()->rect().contains(w->geometry()))
       fehler << QStringLiteral("ragt hinaus: ") + bezeichnung(w);
     for (const QWidget* anderes : alle)
-      if (anderes > w && anderes->parentWidget() == w->parentWidget() && zaehltFuerLage(anderes) &&
+      if (anderes > w && anderes->parentWidget() == w->parentWidget() && zähltFürLage(anderes) &&
           anderes->geometry().intersects(w->geometry()))
         fehler << QStringLiteral("übereinander: ") + bezeichnung(w) + QStringLiteral(" und ") +
                       bezeichnung(anderes);
   }
+  return fehler;
+}
+
+QStringList unerreichbar(QWidget* form) {
+  QStringList fehler;
+  QWidget* vorher = form->focusWidget();
+  for (QWidget* w : eingaben(form)) {
+    if (liegtIn<QToolBar>(w) || !w->isEnabled()) continue;
+    w->clearFocus();
+    w->setFocus();
+    QApplication::processEvents();
+    // A list or a long text needs no more than a few rows in sight.
+    const QRect sichtbar = w->visibleRegion().boundingRect();
+    if (sichtbar.size() != w->size() &&
+        !(ist<QAbstractScrollArea>(w) && sichtbar.height() >= 2 * w->fontMetrics().height()))
+      fehler << QStringLiteral("nicht zu erreichen: ") + bezeichnung(w);
+  }
+  if (vorher != nullptr) vorher->setFocus();
+  return fehler;
+}
+
+QStringList verborgeneKnöpfe(QWidget* form, bool außerRollend) {
+  QStringList fehler;
+  for (const QWidget* w : eingaben(form))
+    if (ist<QPushButton>(w) && w->visibleRegion().boundingRect().size() != w->size() &&
+        !(außerRollend && liegtIn<QScrollArea>(w)))
+      fehler << QStringLiteral("Knopf nicht zu sehen: ") + bezeichnung(w);
   return fehler;
 }
 

@@ -18,11 +18,13 @@ void jedeSeite(QWidget* form, const std::function<void()>& aktion);
 
 // Every input has an objectName of its own and is read out with a name.
 QStringList namen(QWidget* form);
+// No two inputs that are seen at once and typed into are read out alike.
+QStringList gleichnamig(QWidget* form);
 // No two mnemonics of what is visible at once are the same; nor two of one menu bar.
 QStringList mnemonics(QWidget* form);
 // Letters that a menu has more than once, as "menu:letter". The menu then goes from one to the
 // next.
-QStringList doppeltImMenue(QWidget* form);
+QStringList doppeltImMenü(QWidget* form);
 // The stops of the Tab key from where the keyboard is, in their order. Ends before the first stop
 // that comes again.
 QList<QWidget*> tabfolge(QWidget* form);
@@ -32,5 +34,10 @@ QStringList tabregeln(QWidget* form);
 // Makes the form as small as it can be, then: every text has its room, nothing lies outside its
 // parent or over its neighbour.
 QStringList beschnitten(QWidget* form);
+// What the user can't get at in the window as it is: a control that neither stands in it nor is
+// scrolled into sight by the keyboard.
+QStringList unerreichbar(QWidget* form);
+// Buttons that aren't in sight without scrolling. außerRollend: those that scroll with inputs may.
+QStringList verborgeneKnöpfe(QWidget* form, bool außerRollend);
 
 }  // namespace Formregeln

@@ -87,14 +87,14 @@ TEST_F(Formregel, ZweimalDieselbeTasteNurWoSieZugleichZuSehenIst) {
   EXPECT_EQ(fehler, 1);
 }
 
-TEST_F(Formregel, DoppelteBuchstabenImMenue) {
-  auto* menue = new QMenu(&form);
-  menue->setObjectName("menue");
-  for (const char* text : {"&Honig", "&Wachs", "&Wandern"}) menue->addAction(text);
-  EXPECT_EQ(Formregeln::doppeltImMenue(&form), QStringList{"menue:W"});
+TEST_F(Formregel, DoppelteBuchstabenImMenü) {
+  auto* menü = new QMenu(&form);
+  menü->setObjectName("menue");
+  for (const char* text : {"&Honig", "&Wachs", "&Wandern"}) menü->addAction(text);
+  EXPECT_EQ(Formregeln::doppeltImMenü(&form), QStringList{"menue:W"});
 }
 
-TEST_F(Formregel, TabulatorDerEinFeldAuslaesst) {
+TEST_F(Formregel, TabulatorDerEinFeldAuslässt) {
   feld("eins", "Eins")->setFocus();
   feld("zwei", "Zwei")->setFocusPolicy(Qt::ClickFocus);
   feld("drei", "Drei");
@@ -102,7 +102,7 @@ TEST_F(Formregel, TabulatorDerEinFeldAuslaesst) {
   EXPECT_EQ(Formregeln::tabregeln(&form), QStringList{"0 Halte bei QLineEdit zwei"});
 }
 
-TEST_F(Formregel, TabulatorDerZurueckspringt) {
+TEST_F(Formregel, TabulatorDerZurückspringt) {
   QLineEdit* eins = feld("eins", "Eins");
   QLineEdit* zwei = feld("zwei", "Zwei");
   QLineEdit* drei = feld("drei", "Drei");
@@ -130,7 +130,7 @@ TEST_F(Formregel, ZuSchmalesSchildZuSchmalesFeldUndZuSchmalerKnopf) {
   for (const QString& zeile : fehler) EXPECT_TRUE(zeile.startsWith("zu eng: "));
 }
 
-TEST_F(Formregel, WasHinausragtUndWasUebereinanderliegt) {
+TEST_F(Formregel, WasHinausragtUndWasÜbereinanderliegt) {
   feld("eins", "Eins");
   auto* zwei = new QPushButton("Zwei", &form);
   zwei->setGeometry(0, 0, 60, 40);
@@ -140,4 +140,14 @@ TEST_F(Formregel, WasHinausragtUndWasUebereinanderliegt) {
   const QString fehler = Formregeln::beschnitten(&form).join(u'\n');
   EXPECT_TRUE(fehler.contains("ragt hinaus: QPushButton  \"Drei\"")) << qPrintable(fehler);
   EXPECT_TRUE(fehler.contains("übereinander: ")) << qPrintable(fehler);
+}
+
+TEST_F(Formregel, ZweiEingabenDieGleichHeißen) {
+  feld("eins", "Betrag");
+  feld("zwei", "Betrag");
+  feld("drei", "Menge");
+  zeigen();
+  const QStringList fehler = Formregeln::gleichnamig(&form);
+  ASSERT_EQ(fehler.size(), 1);
+  EXPECT_TRUE(fehler[0].startsWith("zweimal \"Betrag\": ")) << qPrintable(fehler[0]);
 }

@@ -2,7 +2,7 @@
 #include <QMenu>
 
 #include "Eingabehilfen.h"
-#include "core/mainform/forms/Hauptumfeld.h"
+#include "mainform/forms/Hauptumfeld.h"
 
 using namespace TZ_Variablen;
 
@@ -35,29 +35,29 @@ class Kurs : public Hauptumfeld {
     taste(Qt::Key_Tab);
   }
   // The button goes down for a moment before it acts.
-  static void naechstes(QWidget* neu, const QString& nummer) {
+  static void nächstes(QWidget* neu, const QString& nummer) {
     taste(Qt::Key_N, Qt::AltModifier);
     const auto* feld = neu->findChild<QLineEdit*>("sevt_0");
     ASSERT_TRUE(QTest::qWaitFor([&] { return feld->text() == nummer && feld->hasFocus(); }));
   }
-  static void dreiVoelker(QWidget* neu) {
+  static void dreiVölker(QWidget* neu) {
     ASSERT_TRUE(vorn(neu));
     schreibe("1");
     volkdaten("Anna");
-    naechstes(neu, "2");
+    nächstes(neu, "2");
     volkdaten("Berta");
-    naechstes(neu, "3");
+    nächstes(neu, "3");
     volkdaten("Carla");
     taste(Qt::Key_Return);
   }
 
-  void voelkerEingeben() {
+  void völkerEingeben() {
     ASSERT_TRUE(laden());
     // The work plan has made appointments for the new colonies; some are due soon.
     Formbesuch termine("TV_Starttermine");
     Formbesuch schritte("TH_Hilfe_Wieanfangen", [](QWidget* hilfe) {
       ASSERT_TRUE(vorn(hilfe));
-      Formbesuch volk("TV_Neues_Volk", dreiVoelker);
+      Formbesuch volk("TV_Neues_Volk", dreiVölker);
       taste(Qt::Key_Return);
       EXPECT_TRUE(volk.war());
       QTest::keyClick(hilfe, Qt::Key_Escape);
@@ -69,7 +69,7 @@ class Kurs : public Hauptumfeld {
   }
 
   // Through the menu, by keyboard; acts on the booking form and leaves it with Esc.
-  void buche(Qt::Key imMenue, const std::function<void(QWidget*)>& eintragen) {
+  void buche(Qt::Key imMenü, const std::function<void(QWidget*)>& eintragen) {
     Formbesuch besuch("TE_Eingabe", [&](QWidget* eingabe) {
       ASSERT_TRUE(vorn(eingabe));
       eintragen(eingabe);
@@ -77,9 +77,9 @@ class Kurs : public Hauptumfeld {
       EXPECT_FALSE(eingabe->isVisible());
     });
     QTest::keyClick(form.get(), Qt::Key_E, Qt::AltModifier);
-    auto* menue = finde<QMenu>("XE_Eingabe");
-    ASSERT_TRUE(menue->isVisible());
-    QTest::keyClick(menue, imMenue);
+    auto* menü = finde<QMenu>("XE_Eingabe");
+    ASSERT_TRUE(menü->isVisible());
+    QTest::keyClick(menü, imMenü);
     EXPECT_TRUE(besuch.war());
     ASSERT_TRUE(vorn(form.get()));
     QApplication::processEvents();
@@ -90,11 +90,11 @@ class Kurs : public Hauptumfeld {
     taste(Qt::Key_Home);
     buche(Qt::Key_Return, [](QWidget* eingabe) {
       EXPECT_EQ(BuchungsArt, 0);
-      tippe(eingabe, "sevt_1", "8,5");
-      tippe(eingabe, "sevt_12", "3");
-      tippe(eingabe, "sevt_13", "6");
-      tippe(eingabe, "sevt_19", "1");
-      tippe(eingabe, "sevt_27", "Weisel gesehen");
+      tippe(eingabe, "Volksstärke", "8,5");
+      tippe(eingabe, "Honigwaben", "3");
+      tippe(eingabe, "Brutwaben", "6");
+      tippe(eingabe, "Futterwaben", "1");
+      tippe(eingabe, "Bemerkung", "Weisel gesehen");
       taste(Qt::Key_Tab);
       taste(Qt::Key_Return);
       EXPECT_EQ(eingabe->findChild<Grid*>("li")->zeilen(), 1);
@@ -102,8 +102,8 @@ class Kurs : public Hauptumfeld {
   }
   // Ten kilograms of three colonies, divided, and into the store.
   void ernte() {
-    EinstellungenZahl[72] = 1;
-    EinstellungenZahl[68] = 1;
+    EinstellungenZahl[Zahlslots.sammelbuchungTeilen] = 1;
+    EinstellungenZahl[Zahlslots.ernteInsHoniglager] = 1;
     datali()->setFocus();
     taste(Qt::Key_A, Qt::ControlModifier);
     ASSERT_EQ(form->markierteZeilen().size(), 3);
@@ -113,9 +113,9 @@ class Kurs : public Hauptumfeld {
         true);
     buche(Qt::Key_H, [](QWidget* eingabe) {
       EXPECT_EQ(BuchungsArt, 1);
-      tippe(eingabe, "sevt_1", "10");
-      tippe(eingabe, "sevt_2", "Raps");
-      tippe(eingabe, "sevt_7", "24-1");
+      tippe(eingabe, "Menge (kg)", "10");
+      tippe(eingabe, "Honigsorte", "Raps");
+      tippe(eingabe, "Charge", "24-1");
       taste(Qt::Key_Return);
     });
     EXPECT_EQ(probe.fehler().toStdString(), "");
@@ -126,7 +126,7 @@ class Kurs : public Hauptumfeld {
     datali()->setFocus();
     taste(Qt::Key_Return);
   }
-  void enthaelt(const QString& zeile) const {
+  void enthält(const QString& zeile) const {
     EXPECT_TRUE(panel().split(u'\n').contains(zeile)) << qPrintable(zeile) << "\nfehlt in\n"
                                                       << qPrintable(panel());
   }
@@ -136,7 +136,7 @@ class Kurs : public Hauptumfeld {
                                 : std::to_string(daten->zeilen()) + " Zeilen";
   }
 
-  void pruefeDatenbank() {
+  void prüfeDatenbank() {
     const Daten ernten = DB.Lesen("select Menge_kg, Volk_ID from Honigernte order by Volk_ID");
     ASSERT_EQ(ernten->zeilen(), 3);
     for (int i = 0; i < 3; ++i) EXPECT_EQ(ernten->anzeige(i, 0).toStdString(), "3,33");
@@ -145,7 +145,7 @@ class Kurs : public Hauptumfeld {
     EXPECT_EQ(feld("select Charge from Honiglager"), "24-1");
     EXPECT_EQ(feld("select Waben from Stockkarte"), "10");
   }
-  void pruefePanelDesErsten() {
+  void prüfePanelDesErsten() {
     zeigeVolk(0);
     EXPECT_TRUE(
         panel().startsWith("VOLKDATEN\nVolknummer:        1\nVolkname:          Anna\n"
@@ -156,18 +156,18 @@ class Kurs : public Hauptumfeld {
           "Brutwaben:         6", "Futterwaben:       1", "L_Honigernte:      15.06.2024",
           "L_Honigmenge kg:   3,33", "Honigmenge Ges.:   3,33", "Standort:          Hausgarten",
           "Bienenrasse:       Carnica"})
-      enthaelt(QString::fromUtf8(zeile));
-    enthaelt(
+      enthält(QString::fromUtf8(zeile));
+    enthält(
         "15.06.2024  8,5  0,0  0,0  0,0  0,0  0,0  0,0  0,0  0,0   1  10       3   6   0   0   0   "
         "0      10    0,00   0,00   0,00  Weisel gesehen");
-    enthaelt(Ernte);
+    enthält(Ernte);
   }
-  void pruefePanelDesDritten() {
+  void prüfePanelDesDritten() {
     zeigeVolk(2);
     EXPECT_TRUE(panel().startsWith("VOLKDATEN\nVolknummer:        3\nVolkname:          Carla\n"))
         << qPrintable(panel());
     EXPECT_FALSE(panel().contains("Weisel gesehen"));
-    enthaelt(Ernte);
+    enthält(Ernte);
   }
 
   const QString Ernte =
@@ -177,28 +177,28 @@ class Kurs : public Hauptumfeld {
 
 }  // namespace
 
-TEST_F(Kurs, VomLeerenOrdnerUeberDreiVoelkerDurchsichtUndErnteBisZumNaechstenStart) {
-  voelkerEingeben();
+TEST_F(Kurs, VomLeerenOrdnerÜberDreiVölkerDurchsichtUndErnteBisZumNächstenStart) {
+  völkerEingeben();
   EXPECT_EQ(nummern(), QStringList({"1", "2", "3"}));
   EXPECT_EQ(filtertexte()[0], QStringLiteral("Bestand (3 Völker)"));
   durchsicht();
   ernte();
-  pruefeDatenbank();
-  pruefePanelDesErsten();
+  prüfeDatenbank();
+  prüfePanelDesErsten();
   const QString panelVorher = panel();
-  pruefePanelDesDritten();
+  prüfePanelDesDritten();
 
-  schliessen();
-  zuruecksetzen();
+  schließen();
+  zurücksetzen();
   Formbesuch termine("TV_Starttermine");
   starten();
   EXPECT_TRUE(termine.war());
   ASSERT_TRUE(vorn(form.get()));
   EXPECT_EQ(nummern(), QStringList({"1", "2", "3"}));
-  EXPECT_EQ(EinstellungenZahl[72], 1);
-  EXPECT_EQ(EinstellungenZahl[68], 1);
-  pruefeDatenbank();
-  pruefePanelDesErsten();
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.sammelbuchungTeilen], 1);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.ernteInsHoniglager], 1);
+  prüfeDatenbank();
+  prüfePanelDesErsten();
   EXPECT_EQ(panel().toStdString(), panelVorher.toStdString());
-  pruefePanelDesDritten();
+  prüfePanelDesDritten();
 }

@@ -11,7 +11,7 @@ namespace {
 const QString quellen = QStringLiteral(TOVA_QUELLEN "/src");
 
 // The forms by their headers: forms/TV_Neues_Volk.h. Names of files are written without umlauts.
-QStringList koepfe() {
+QStringList köpfe() {
   QStringList namen;
   QDirIterator lauf(quellen, {QStringLiteral("T?_*.h")}, QDir::Files, QDirIterator::Subdirectories);
   while (lauf.hasNext()) {
@@ -39,7 +39,7 @@ QStringList verzeichnis() {
 }  // namespace
 
 TEST(Formenliste, JedesFormularDesProgrammsStehtImVerzeichnis) {
-  const QStringList alle = koepfe();
+  const QStringList alle = köpfe();
   ASSERT_GE(alle.size(), 15) << quellen.toStdString();
   const QStringList bekannt = verzeichnis();
   for (const QString& form : alle)
@@ -47,13 +47,13 @@ TEST(Formenliste, JedesFormularDesProgrammsStehtImVerzeichnis) {
 }
 
 TEST(Formenliste, JederEintragHatSeinFormularImProgramm) {
-  const QStringList alle = koepfe();
+  const QStringList alle = köpfe();
   for (const Formfall& fall : formenliste())
     EXPECT_TRUE(alle.contains(dateiname(fall.objekt))) << fall.objekt.toStdString();
 }
 
 TEST(Formenliste, JederFallHatSeinenEigenenNamen) {
-  QStringList faelle;
-  for (const Formfall& fall : formenliste()) faelle << fall.fall;
-  EXPECT_EQ(faelle.removeDuplicates(), 0);
+  QStringList fälle;
+  for (const Formfall& fall : formenliste()) fälle << fall.fall;
+  EXPECT_EQ(fälle.removeDuplicates(), 0);
 }

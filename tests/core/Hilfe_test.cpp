@@ -2,19 +2,17 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
-#include "core/globals.h"
 #include "core/help.h"
 #include "core/main_list.h"
+#include "gemeinsam/Programmordner.h"
 #include "platform/files/Textdatei.h"
 
 namespace {
 
 class HilfeTest : public testing::Test {
  protected:
-  HilfeTest() { TZ_Variablen::AppPfad = m_ordner.path() + u'/'; }
-  ~HilfeTest() override { TZ_Variablen::zuruecksetzen(); }
+  ~HilfeTest() override { TZ_Variablen::zurücksetzen(); }
 
   void leg(const QString& text) const { Textdatei::schreibenGanz(Hilfe::datei(), text); }
 
@@ -23,7 +21,7 @@ class HilfeTest : public testing::Test {
     return zeilen ? zeilen->join(u'/').toStdString() : "(keiner)";
   }
 
-  QTemporaryDir m_ordner;
+  Programmordner m_ordner{"20.06.2026"};
 };
 
 TEST_F(HilfeTest, AbschnittVomThemaBisEnde) {
@@ -67,7 +65,7 @@ TEST_F(HilfeTest, FehlendeDatei) {
                                        QStringLiteral("HILFETOVA.HLP existiert nicht!"));
 }
 
-TEST(HilfeHtml, TitelUeberschriftListeUndAbsatz) {
+TEST(HilfeHtml, TitelÜberschriftListeUndAbsatz) {
   EXPECT_EQ(Hilfe::alsHtml({QStringLiteral("Titel"), QStringLiteral("====="), QString(),
                             QStringLiteral("Ein Absatz"), QStringLiteral("auf zwei Zeilen."),
                             QString(), QStringLiteral("Unter"), QStringLiteral("-----"),
@@ -89,7 +87,7 @@ TEST(HilfeHtml, KeinTextKeinHtml) { EXPECT_EQ(Hilfe::alsHtml({}), QString()); }
 class Hilfedatei : public testing::Test {
  protected:
   Hilfedatei() { TZ_Variablen::AppPfad = QStringLiteral(TOVA_QUELLEN "/src/app/"); }
-  ~Hilfedatei() override { TZ_Variablen::zuruecksetzen(); }
+  ~Hilfedatei() override { TZ_Variablen::zurücksetzen(); }
 };
 
 TEST_F(Hilfedatei, HatAlleThemen) {
@@ -114,9 +112,9 @@ TEST_F(Hilfedatei, JederAbschnittHatSeinEnde) {
   bool offen = false;
   int abschnitte = 0;
   for (const QString& zeile : Textdatei::lesen(Hilfe::datei())) {
-    static const QRegularExpression schluessel(QStringLiteral("\\A(Hilfe|T[A-Z])_\\w+\\z"),
-                                               QRegularExpression::UseUnicodePropertiesOption);
-    if (schluessel.match(zeile).hasMatch()) {
+    static const QRegularExpression schlüssel(QStringLiteral("\\A(Hilfe|T[A-Z])_\\w+\\z"),
+                                              QRegularExpression::UseUnicodePropertiesOption);
+    if (schlüssel.match(zeile).hasMatch()) {
       EXPECT_FALSE(offen) << zeile.toStdString();
       offen = true;
       ++abschnitte;
@@ -147,21 +145,21 @@ TEST(Hauptlistenplatz, OhneHauptformularEineLeereListe) {
   EXPECT_EQ(hauptliste()->zelle(0, QStringLiteral("ID")), QString());
 }
 
-TEST(Globale, ZuruecksetzenMachtAllesWieVorDemStart) {
+TEST(Globale, ZurücksetzenMachtAllesWieVorDemStart) {
   using namespace TZ_Variablen;
   AktVolkID = HeuteText = FormModus = QStringLiteral("x");
   BuchungsArt = ListeNeuLesen = BildAnhalten = 1;
   SammelFolgevolk = true;
-  EinstellungenZahl[100] = 5;
-  EinstellungenWert[10] = 5;
-  EinstellungenText[60] = QStringLiteral("x");
-  zuruecksetzen();
+  EinstellungenZahl.back() = 5;
+  EinstellungenWert.back() = 5;
+  EinstellungenText.back() = QStringLiteral("x");
+  zurücksetzen();
   EXPECT_EQ(AktVolkID + HeuteText + FormModus, QString());
   EXPECT_EQ(BuchungsArt + ListeNeuLesen + BildAnhalten, 0);
   EXPECT_FALSE(SammelFolgevolk);
-  EXPECT_EQ(EinstellungenZahl[100], 0);
-  EXPECT_EQ(EinstellungenWert[10], 0);
-  EXPECT_EQ(EinstellungenText[60], QString());
+  EXPECT_EQ(EinstellungenZahl.back(), 0);
+  EXPECT_EQ(EinstellungenWert.back(), 0);
+  EXPECT_EQ(EinstellungenText.back(), QString());
 }
 
 }  // namespace

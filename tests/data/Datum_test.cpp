@@ -10,10 +10,10 @@ namespace {
 class DatumHeute : public testing::Test {
  protected:
   DatumHeute() { heute("17.03.2026"); }
-  ~DatumHeute() override { TZ_Variablen::zuruecksetzen(); }
+  ~DatumHeute() override { TZ_Variablen::zurücksetzen(); }
 
   static void heute(const char* text) { TZ_Variablen::HeuteText = QString::fromLatin1(text); }
-  static std::string ergaenzt(const char* text) {
+  static std::string ergänzt(const char* text) {
     return DatumErgaenzen(QString::fromUtf8(text)).toStdString();
   }
   static std::string jahr(const char* text) {
@@ -48,114 +48,114 @@ TEST(SqlDatumTest, WasKeinDatumIstWirdTrotzdemZerlegt) {
 }
 
 TEST_F(DatumHeute, LeerBleibtLeer) {
-  EXPECT_EQ(ergaenzt(""), "");
-  EXPECT_EQ(ergaenzt("   "), "");
+  EXPECT_EQ(ergänzt(""), "");
+  EXPECT_EQ(ergänzt("   "), "");
 }
 
-TEST_F(DatumHeute, EinGueltigesDatumWirdAusgeschrieben) {
-  EXPECT_EQ(ergaenzt("05.02.2006"), "05.02.2006");
-  EXPECT_EQ(ergaenzt(" 5.2.2006 "), "05.02.2006");
-  EXPECT_EQ(ergaenzt("1.5.26"), "01.05.2026");
-  EXPECT_EQ(ergaenzt("1.5.99"), "01.05.1999");
+TEST_F(DatumHeute, EinGültigesDatumWirdAusgeschrieben) {
+  EXPECT_EQ(ergänzt("05.02.2006"), "05.02.2006");
+  EXPECT_EQ(ergänzt(" 5.2.2006 "), "05.02.2006");
+  EXPECT_EQ(ergänzt("1.5.26"), "01.05.2026");
+  EXPECT_EQ(ergänzt("1.5.99"), "01.05.1999");
 }
 
 TEST_F(DatumHeute, EineZifferIstEinTagDiesesMonats) {
-  EXPECT_EQ(ergaenzt("5"), "05.03.2026");
-  EXPECT_EQ(ergaenzt("9"), "09.03.2026");
-  EXPECT_EQ(ergaenzt("0"), "");
-  EXPECT_EQ(ergaenzt("5."), "05.03.2026");
+  EXPECT_EQ(ergänzt("5"), "05.03.2026");
+  EXPECT_EQ(ergänzt("9"), "09.03.2026");
+  EXPECT_EQ(ergänzt("0"), "");
+  EXPECT_EQ(ergänzt("5."), "05.03.2026");
 }
 
-TEST_F(DatumHeute, ZweiZiffernBisEinunddreissigSindEinTagDiesesMonats) {
-  EXPECT_EQ(ergaenzt("05"), "05.03.2026");
-  EXPECT_EQ(ergaenzt("17"), "17.03.2026");
-  EXPECT_EQ(ergaenzt("31"), "31.03.2026");
-  EXPECT_EQ(ergaenzt("17."), "17.03.2026");
-  EXPECT_EQ(ergaenzt("00"), "");
+TEST_F(DatumHeute, ZweiZiffernBisEinunddreißigSindEinTagDiesesMonats) {
+  EXPECT_EQ(ergänzt("05"), "05.03.2026");
+  EXPECT_EQ(ergänzt("17"), "17.03.2026");
+  EXPECT_EQ(ergänzt("31"), "31.03.2026");
+  EXPECT_EQ(ergänzt("17."), "17.03.2026");
+  EXPECT_EQ(ergänzt("00"), "");
 }
 
-TEST_F(DatumHeute, DerEinunddreissigsteNurInEinemMonatDerIhnHat) {
+TEST_F(DatumHeute, DerEinunddreißigsteNurInEinemMonatDerIhnHat) {
   heute("10.04.2026");
-  EXPECT_EQ(ergaenzt("31"), "");
-  EXPECT_EQ(ergaenzt("30"), "30.04.2026");
+  EXPECT_EQ(ergänzt("31"), "");
+  EXPECT_EQ(ergänzt("30"), "30.04.2026");
 }
 
-TEST_F(DatumHeute, ZweiZiffernUeberEinunddreissigSindTagUndMonat) {
-  EXPECT_EQ(ergaenzt("32"), "03.02.2026");
-  EXPECT_EQ(ergaenzt("45"), "04.05.2026");
-  EXPECT_EQ(ergaenzt("99"), "09.09.2026");
-  EXPECT_EQ(ergaenzt("40"), "");
+TEST_F(DatumHeute, ZweiZiffernÜberEinunddreißigSindTagUndMonat) {
+  EXPECT_EQ(ergänzt("32"), "03.02.2026");
+  EXPECT_EQ(ergänzt("45"), "04.05.2026");
+  EXPECT_EQ(ergänzt("99"), "09.09.2026");
+  EXPECT_EQ(ergänzt("40"), "");
 }
 
 TEST_F(DatumHeute, VierZiffernSindTagUndMonat) {
-  EXPECT_EQ(ergaenzt("0105"), "01.05.2026");
-  EXPECT_EQ(ergaenzt("3112"), "31.12.2026");
-  EXPECT_EQ(ergaenzt("3113"), "");
-  EXPECT_EQ(ergaenzt("2902"), "");
+  EXPECT_EQ(ergänzt("0105"), "01.05.2026");
+  EXPECT_EQ(ergänzt("3112"), "31.12.2026");
+  EXPECT_EQ(ergänzt("3113"), "");
+  EXPECT_EQ(ergänzt("2902"), "");
 }
 
 TEST_F(DatumHeute, DerSchalttagNurImSchaltjahr) {
   heute("17.03.2028");
-  EXPECT_EQ(ergaenzt("2902"), "29.02.2028");
+  EXPECT_EQ(ergänzt("2902"), "29.02.2028");
 }
 
 TEST_F(DatumHeute, SechsZiffernMitDemJahrhundertVonHeute) {
-  EXPECT_EQ(ergaenzt("010524"), "01.05.2024");
-  EXPECT_EQ(ergaenzt("010599"), "01.05.2099");
+  EXPECT_EQ(ergänzt("010524"), "01.05.2024");
+  EXPECT_EQ(ergänzt("010599"), "01.05.2099");
   heute("17.03.1999");
-  EXPECT_EQ(ergaenzt("010524"), "01.05.1924");
+  EXPECT_EQ(ergänzt("010524"), "01.05.1924");
 }
 
 TEST_F(DatumHeute, AchtZiffernMitVierstelligemJahr) {
-  EXPECT_EQ(ergaenzt("01051999"), "01.05.1999");
-  EXPECT_EQ(ergaenzt("31022026"), "");
+  EXPECT_EQ(ergänzt("01051999"), "01.05.1999");
+  EXPECT_EQ(ergänzt("31022026"), "");
 }
 
 TEST_F(DatumHeute, AndereAnzahlenVonZiffernSindKeinDatum) {
   for (const char* text : {"123", "12345", "1234567", "123456789", "1234567890", "12345678901"})
-    EXPECT_EQ(ergaenzt(text), "") << text;
+    EXPECT_EQ(ergänzt(text), "") << text;
 }
 
 TEST_F(DatumHeute, EinPunktTrenntTagUndMonat) {
-  EXPECT_EQ(ergaenzt("1.5"), "01.05.2026");
-  EXPECT_EQ(ergaenzt("01.05"), "01.05.2026");
-  EXPECT_EQ(ergaenzt("31.12"), "31.12.2026");
-  EXPECT_EQ(ergaenzt("1.5."), "01.05.2026");
-  EXPECT_EQ(ergaenzt("1.13"), "");
-  EXPECT_EQ(ergaenzt(".5"), "");
-  EXPECT_EQ(ergaenzt("123.5"), "");
-  EXPECT_EQ(ergaenzt("1.x"), "");
+  EXPECT_EQ(ergänzt("1.5"), "01.05.2026");
+  EXPECT_EQ(ergänzt("01.05"), "01.05.2026");
+  EXPECT_EQ(ergänzt("31.12"), "31.12.2026");
+  EXPECT_EQ(ergänzt("1.5."), "01.05.2026");
+  EXPECT_EQ(ergänzt("1.13"), "");
+  EXPECT_EQ(ergänzt(".5"), "");
+  EXPECT_EQ(ergänzt("123.5"), "");
+  EXPECT_EQ(ergänzt("1.x"), "");
 }
 
 TEST_F(DatumHeute, ZweiPunkteMitZweistelligemJahrBekommenDasJahrhundertVonHeute) {
   // Complete dates are read by their year; with a point behind them this century counts.
-  EXPECT_EQ(ergaenzt("1.5.99."), "01.05.2099");
-  EXPECT_EQ(ergaenzt("01.5.99."), "01.05.2099");
-  EXPECT_EQ(ergaenzt("1.05.99."), "01.05.2099");
-  EXPECT_EQ(ergaenzt("1.5.2024."), "01.05.2024");
+  EXPECT_EQ(ergänzt("1.5.99."), "01.05.2099");
+  EXPECT_EQ(ergänzt("01.5.99."), "01.05.2099");
+  EXPECT_EQ(ergänzt("1.05.99."), "01.05.2099");
+  EXPECT_EQ(ergänzt("1.5.2024."), "01.05.2024");
 }
 
 TEST_F(DatumHeute, ZweiPunkteOhneRichtigesJahrSindKeinDatum) {
   for (const char* text : {"1.5.6", "1.5..", "..", "1..26", "1.5.126", "1.5.20266", "1.2.3.4"})
-    EXPECT_EQ(ergaenzt(text), "") << text;
+    EXPECT_EQ(ergänzt(text), "") << text;
 }
 
 TEST_F(DatumHeute, ZehnZeichenBleibenWieSieSind) {
-  EXPECT_EQ(ergaenzt("31.02.2026"), "");
-  EXPECT_EQ(ergaenzt("1.5.200000"), "");
+  EXPECT_EQ(ergänzt("31.02.2026"), "");
+  EXPECT_EQ(ergänzt("1.5.200000"), "");
 }
 
 TEST_F(DatumHeute, AndererTextIstKeinDatum) {
   for (const char* text : {"heute", "a", "ab", "1a", "12a4", "1-5", "1/5/26", "-5", "+5", "1,5",
                            "1 5", "2026-05-01", "٥"})
-    EXPECT_EQ(ergaenzt(text), "") << text;
+    EXPECT_EQ(ergänzt(text), "") << text;
 }
 
-TEST_F(DatumHeute, OhneHeuteGibtEsNichtsZuErgaenzen) {
+TEST_F(DatumHeute, OhneHeuteGibtEsNichtsZuErgänzen) {
   heute("");
-  EXPECT_EQ(ergaenzt("5"), "");
-  EXPECT_EQ(ergaenzt("1.5"), "");
-  EXPECT_EQ(ergaenzt("01052026"), "01.05.2026");
+  EXPECT_EQ(ergänzt("5"), "");
+  EXPECT_EQ(ergänzt("1.5"), "");
+  EXPECT_EQ(ergänzt("01052026"), "01.05.2026");
 }
 
 TEST(DatumSortiertTest, JahrMonatTag) {
@@ -179,7 +179,7 @@ TEST_F(DatumHeute, JahrMitEinerZiffer) {
   EXPECT_EQ(jahr("7"), "2007");
 }
 
-TEST_F(DatumHeute, JahrMitZweiZiffernAbFuenfzigIstNeunzehnhundert) {
+TEST_F(DatumHeute, JahrMitZweiZiffernAbFünfzigIstNeunzehnhundert) {
   EXPECT_EQ(jahr("49"), "2049");
   EXPECT_EQ(jahr("50"), "1950");
   EXPECT_EQ(jahr("00"), "2000");

@@ -17,7 +17,7 @@ class Zufallstexte {
  public:
   explicit Zufallstexte(unsigned saat) : m_zufall(saat) {}
 
-  QString naechster() {
+  QString nächster() {
     switch (m_zufall() % 5) {
       case 0:
         return aus(QStringLiteral("0123456789.,"), 14);
@@ -38,15 +38,15 @@ class Zufallstexte {
   }
 
  private:
-  QString aus(const QString& zeichen, unsigned hoechstens) {
+  QString aus(const QString& zeichen, unsigned höchstens) {
     QString text;
-    for (auto n = m_zufall() % (hoechstens + 1); n > 0; --n)
+    for (auto n = m_zufall() % (höchstens + 1); n > 0; --n)
       text += zeichen[static_cast<qsizetype>(m_zufall() % static_cast<unsigned>(zeichen.size()))];
     return text;
   }
-  QString bereich(unsigned von, unsigned bis, unsigned hoechstens) {
+  QString bereich(unsigned von, unsigned bis, unsigned höchstens) {
     QString text;
-    for (auto n = m_zufall() % (hoechstens + 1); n > 0; --n)
+    for (auto n = m_zufall() % (höchstens + 1); n > 0; --n)
       text += QChar(static_cast<char16_t>(von + m_zufall() % (bis - von)));
     return text;
   }
@@ -57,21 +57,21 @@ class Zufallstexte {
 class Eigenschaften : public testing::TestWithParam<unsigned> {
  protected:
   Eigenschaften() { TZ_Variablen::HeuteText = QStringLiteral("17.03.2026"); }
-  ~Eigenschaften() override { TZ_Variablen::zuruecksetzen(); }
+  ~Eigenschaften() override { TZ_Variablen::zurücksetzen(); }
 
-  template <typename Pruefung>
-  void fuerAlle(Pruefung pruefung) {
+  template <typename Prüfung>
+  void fürAlle(Prüfung prüfung) {
     Zufallstexte texte(GetParam());
     for (int i = 0; i < 3000 && !HasFatalFailure(); ++i) {
-      const QString text = texte.naechster();
+      const QString text = texte.nächster();
       SCOPED_TRACE(text.toStdString());
-      pruefung(text, texte);
+      prüfung(text, texte);
     }
   }
 };
 
 TEST_P(Eigenschaften, GeleseneZahlenSindEndlichUndNieNegativ) {
-  fuerAlle([](const QString& text, Zufallstexte&) {
+  fürAlle([](const QString& text, Zufallstexte&) {
     const double einfach = ZahlLesen(text);
     const double doppelt = ZahlLesenDoppelt(text);
     ASSERT_TRUE(std::isfinite(einfach) && std::isfinite(doppelt));
@@ -83,7 +83,7 @@ TEST_P(Eigenschaften, GeleseneZahlenSindEndlichUndNieNegativ) {
 
 TEST_P(Eigenschaften, FormatierteZahlenHabenImmerDieForm) {
   static const QRegularExpression form(QStringLiteral("\\A-?[0-9]+(,[0-9]+)?\\z"));
-  fuerAlle([](const QString& text, Zufallstexte& texte) {
+  fürAlle([](const QString& text, Zufallstexte& texte) {
     const int stellen = texte.zahl(0, 6);
     const QString zahl = ZahlFormat(text, stellen);
     ASSERT_TRUE(form.match(zahl).hasMatch()) << zahl.toStdString();
@@ -93,7 +93,7 @@ TEST_P(Eigenschaften, FormatierteZahlenHabenImmerDieForm) {
 }
 
 TEST_P(Eigenschaften, FormatierenIstNachEinmalFertig) {
-  fuerAlle([](const QString& text, Zufallstexte&) {
+  fürAlle([](const QString& text, Zufallstexte&) {
     const QString einmal = ZahlFormat(text, 2);
     if (einmal.size() > 15) return;  // beyond a double's digits
     ASSERT_EQ(ZahlFormat(einmal, 2), einmal);
@@ -101,7 +101,7 @@ TEST_P(Eigenschaften, FormatierenIstNachEinmalFertig) {
 }
 
 TEST_P(Eigenschaften, AusgerichteteTexteHabenImmerDieBreite) {
-  fuerAlle([](const QString& text, Zufallstexte& texte) {
+  fürAlle([](const QString& text, Zufallstexte& texte) {
     const int breite = texte.zahl(-3, 60);
     const int erwartet = std::max(breite, 0);
     ASSERT_EQ(TextRechts(text, breite).size(), erwartet);
@@ -112,7 +112,7 @@ TEST_P(Eigenschaften, AusgerichteteTexteHabenImmerDieBreite) {
 }
 
 TEST_P(Eigenschaften, GeleseneTexteSindBeschnittenUndOhneHochkomma) {
-  fuerAlle([](const QString& text, Zufallstexte&) {
+  fürAlle([](const QString& text, Zufallstexte&) {
     const QString gelesen = TextLesen(text);
     ASSERT_FALSE(gelesen.contains(u'\''));
     ASSERT_EQ(gelesen, gelesen.trimmed());
@@ -121,8 +121,8 @@ TEST_P(Eigenschaften, GeleseneTexteSindBeschnittenUndOhneHochkomma) {
   });
 }
 
-TEST_P(Eigenschaften, ErgaenztesDatumIstLeerOderEinVollesGueltigesDatum) {
-  fuerAlle([](const QString& text, Zufallstexte&) {
+TEST_P(Eigenschaften, ErgänztesDatumIstLeerOderEinVollesGültigesDatum) {
+  fürAlle([](const QString& text, Zufallstexte&) {
     const QString datum = DatumErgaenzen(text);
     if (datum.isEmpty()) return;
     ASSERT_EQ(datum.size(), 10);
@@ -132,8 +132,8 @@ TEST_P(Eigenschaften, ErgaenztesDatumIstLeerOderEinVollesGueltigesDatum) {
   });
 }
 
-TEST_P(Eigenschaften, EinGueltigesDatumBleibtDasselbeDatum) {
-  fuerAlle([](const QString& text, Zufallstexte&) {
+TEST_P(Eigenschaften, EinGültigesDatumBleibtDasselbeDatum) {
+  fürAlle([](const QString& text, Zufallstexte&) {
     if (IstDatum(text)) {
       ASSERT_EQ(DatumLesen(DatumErgaenzen(text)), DatumLesen(text));
     }
@@ -141,7 +141,7 @@ TEST_P(Eigenschaften, EinGueltigesDatumBleibtDasselbeDatum) {
 }
 
 TEST_P(Eigenschaften, DatumsliteralStehtZwischenRauten) {
-  fuerAlle([](const QString& text, Zufallstexte&) {
+  fürAlle([](const QString& text, Zufallstexte&) {
     QString datum = text;
     const QString literal = SqlDatum(datum);
     ASSERT_TRUE(literal.startsWith(u'#') && literal.endsWith(u'#'));
@@ -154,7 +154,7 @@ TEST_P(Eigenschaften, DatumsliteralStehtZwischenRauten) {
 }
 
 TEST_P(Eigenschaften, KeinHelferScheitert) {
-  fuerAlle([](const QString& text, Zufallstexte& texte) {
+  fürAlle([](const QString& text, Zufallstexte& texte) {
     ASSERT_LE(DatumSortiert(text).size(), 8);
     const QString jahr = JahrErgaenzen(text);
     ASSERT_TRUE(jahr.isEmpty() || jahr.size() >= 4 || jahr == text.trimmed());
@@ -170,7 +170,7 @@ TEST_P(Eigenschaften, KeinHelferScheitert) {
 }
 
 TEST_P(Eigenschaften, FesteZahlenHabenImmerDieBreite) {
-  fuerAlle([](const QString& text, Zufallstexte& texte) {
+  fürAlle([](const QString& text, Zufallstexte& texte) {
     const int breite = texte.zahl(0, 40);
     ASSERT_EQ(ZahlFest(breite, ZahlLesenDoppelt(text)).size(), breite);
   });

@@ -17,7 +17,7 @@ TEST(TextLesenTest, BlanksAmRandFallenWeg) {
   EXPECT_EQ(TextLesen(QStringLiteral("   ")), QString());
 }
 
-TEST(TextLesenTest, JedesHochkommaWirdEinRueckwaertsstrich) {
+TEST(TextLesenTest, JedesHochkommaWirdEinRückwärtsstrich) {
   EXPECT_EQ(TextLesen(QStringLiteral("O'Neill's 'Hof'")), QStringLiteral("O`Neill`s `Hof`"));
 }
 
@@ -38,7 +38,7 @@ TEST(TextLinksTest, MitBlanksRechtsAufDieBreite) {
   EXPECT_EQ(TextLinks(QString(), 3), QStringLiteral("   "));
 }
 
-TEST(TextLinksTest, ZuLangBehaeltDenLinkenTeil) {
+TEST(TextLinksTest, ZuLangBehältDenLinkenTeil) {
   EXPECT_EQ(TextLinks(QStringLiteral("abcdef"), 3), QStringLiteral("abc"));
 }
 
@@ -47,7 +47,7 @@ TEST(TextRechtsTest, MitBlanksLinksAufDieBreite) {
   EXPECT_EQ(TextRechts(QStringLiteral(" ab  "), 5), QStringLiteral("   ab"));
 }
 
-TEST(TextRechtsTest, ZuLangBehaeltDenLinkenTeil) {
+TEST(TextRechtsTest, ZuLangBehältDenLinkenTeil) {
   EXPECT_EQ(TextRechts(QStringLiteral("abcdef"), 3), QStringLiteral("abc"));
 }
 

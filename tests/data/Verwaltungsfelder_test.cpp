@@ -40,7 +40,7 @@ TEST_F(Verwaltungsfelder, NurGezeigtesWirdNichtGeschrieben) {
   EXPECT_TRUE(wert("select Trachtzeit_bis from Standorte").isNull());
 }
 
-TEST_F(Verwaltungsfelder, AendernTrifftNurDieEineZeile) {
+TEST_F(Verwaltungsfelder, ÄndernTrifftNurDieEineZeile) {
   const qint64 erste = speichern(db(), "Standorte", felder, texte, std::nullopt, {{"PTop", 7}});
   speichern(db(), "Standorte", felder, {{"Standort", "Heide"}}, std::nullopt);
   Texte neu = texte;
@@ -51,7 +51,7 @@ TEST_F(Verwaltungsfelder, AendernTrifftNurDieEineZeile) {
   EXPECT_EQ(anzahl("Standorte", "Standort = 'Heide'"), 1);
 }
 
-TEST_F(Verwaltungsfelder, AendernEinerVerschwundenenZeileSchlaegtFehl) {
+TEST_F(Verwaltungsfelder, ÄndernEinerVerschwundenenZeileSchlägtFehl) {
   EXPECT_THROW(speichern(db(), "Standorte", felder, texte, 4711), Datenbankfehler);
   EXPECT_EQ(anzahl("Standorte"), 0);
 }
@@ -79,7 +79,7 @@ TEST_F(Verwaltungsfelder, EineDezimalzahlWirdInEinfacherGenauigkeitGelesen) {
   EXPECT_EQ(feldwert(felder[2], "").toDouble(), 0);
 }
 
-TEST_F(Verwaltungsfelder, EineGanzzahlBehaeltIhrVorzeichen) {
+TEST_F(Verwaltungsfelder, EineGanzzahlBehältIhrVorzeichen) {
   EXPECT_EQ(feldwert(felder[1], "-12").toLongLong(), -12);
   EXPECT_EQ(feldwert(felder[1], "").toLongLong(), 0);
 }
@@ -107,26 +107,55 @@ TEST_F(Verwaltungsfelder, EinTagImJahrIstEinText) {
   EXPECT_FALSE(start.hatPickliste());
 }
 
-TEST(OhneNull, VerbietetNurDieNull) {
-  const Feld anteil = ganzzahl("Proz_Anteil", "Anteil in %", 100).ohneNull();
-  EXPECT_TRUE(anteil.nullVerboten);
+TEST(Ganzzahl, HatEineUntereUndEineObereGrenze) {
+  const Feld anteil = ganzzahl("Proz_Anteil", "Anteil in %", 100).ab(1);
+  EXPECT_EQ(anteil.von, 1);
   EXPECT_EQ(anteil.bis, 100);
-  EXPECT_FALSE(ganzzahl("Max_Völker", "Max. Anzahl Völker", 999).nullVerboten);
+  EXPECT_EQ(anteil.maxLänge, 3);
+  EXPECT_EQ(ganzzahl("Max_Völker", "Max. Anzahl Völker", 999).von, 0);
+}
+
+TEST(Ganzzahl, UnterNullBehältIhrVorzeichen) {
+  const Feld grad = ganzzahl("Temp_1", "Temperatur", 60).ab(-40);
+  EXPECT_EQ(grad.maxLänge, 3);
+  EXPECT_EQ(feldwert(grad, "-40"), QVariant(qint64{-40}));
+  EXPECT_EQ(feldtext(grad, -40), "-40");
+  EXPECT_EQ(feldwert(grad, "-"), QVariant(qint64{0}));
 }
 
 TEST_F(Verwaltungsfelder, NamenDieSichNurInDerSchreibungUnterscheidenSindVorhanden) {
   const qint64 id =
       speichern(db(), "Standorte", felder, {{"Standort", "Müllers Hof"}}, std::nullopt);
-  EXPECT_TRUE(vorhanden(db(), "Standorte", "Standort", "MÜLLERS HOF", std::nullopt));
-  EXPECT_FALSE(vorhanden(db(), "Standorte", "Standort", "MÜLLERS HOF", id));
-  EXPECT_FALSE(vorhanden(db(), "Standorte", "Standort", "Mullers Hof", std::nullopt));
+  EXPECT_TRUE(vorhanden(db(), "Standorte", felder.first(), "MÜLLERS HOF", std::nullopt));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", felder.first(), "MÜLLERS HOF", id));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", felder.first(), "Mullers Hof", std::nullopt));
 }
 
-TEST_F(Verwaltungsfelder, VorhandenZaehltDieEigeneZeileNicht) {
+TEST_F(Verwaltungsfelder, EinDatumWirdAlsDatumGesucht) {
   const qint64 id = speichern(db(), "Standorte", felder, texte, std::nullopt);
-  EXPECT_TRUE(vorhanden(db(), "Standorte", "Standort", "O'Hof", std::nullopt));
-  EXPECT_FALSE(vorhanden(db(), "Standorte", "Standort", "O'Hof", id));
-  EXPECT_FALSE(vorhanden(db(), "Standorte", "Standort", "Hof", std::nullopt));
+  EXPECT_TRUE(vorhanden(db(), "Standorte", felder[3], "01.05.2006", std::nullopt));
+  EXPECT_TRUE(vorhanden(db(), "Standorte", felder[3], "1.5.06", std::nullopt));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", felder[3], "01.05.2006", id));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", felder[3], "05.01.2006", std::nullopt));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", felder[3], "", std::nullopt));
+  EXPECT_TRUE(vorhanden(db(), "Standorte", felder[1], "12", std::nullopt));
+  EXPECT_TRUE(vorhanden(db(), "Standorte", felder[2], "3,5", std::nullopt));
+}
+
+TEST(Daneben, StehtOhneBeschriftungUnterDerDesFeldesDavor) {
+  const Feld feld = dezimal("Futter_Teig_kg", "Teig", 5, 2).daneben("Futter Teig");
+  EXPECT_TRUE(feld.stehtDaneben());
+  EXPECT_EQ(feld.name(), "Futter Teig");
+  EXPECT_FALSE(notiz("Notiz", "Notiz").stehtDaneben());
+  EXPECT_FALSE(datum("Datum", "Datum").stehtDaneben());
+  EXPECT_EQ(datum("Datum", "Datum").name(), "Datum");
+}
+
+TEST_F(Verwaltungsfelder, VorhandenZähltDieEigeneZeileNicht) {
+  const qint64 id = speichern(db(), "Standorte", felder, texte, std::nullopt);
+  EXPECT_TRUE(vorhanden(db(), "Standorte", felder.first(), "O'Hof", std::nullopt));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", felder.first(), "O'Hof", id));
+  EXPECT_FALSE(vorhanden(db(), "Standorte", felder.first(), "Hof", std::nullopt));
 }
 
 TEST_F(Verwaltungsfelder, PicklisteOhneLeereTexte) {
@@ -138,7 +167,7 @@ TEST_F(Verwaltungsfelder, PicklisteOhneLeereTexte) {
   EXPECT_EQ(pickliste(db(), felder[0]), QStringList());
 }
 
-TEST(Ablehnung, EineMeldungMitAllenGruenden) {
+TEST(Ablehnung, EineMeldungMitAllenGründen) {
   EXPECT_EQ(ablehnung({"...a.", "...b."}).toStdString(),
             "Die Daten werden nicht gespeichert, weil...\r\n\r\n...a.\r\n...b.");
 }

@@ -7,7 +7,7 @@ namespace {
 
 class Volkwechsel : public testing::Test {
  protected:
-  static QList<QHash<QString, QString>> voelker(int anzahl) {
+  static QList<QHash<QString, QString>> völker(int anzahl) {
     QList<QHash<QString, QString>> zeilen;
     for (int i = 1; i <= anzahl; ++i)
       zeilen += QHash<QString, QString>{{QStringLiteral("ID"), QString::number(i)}};
@@ -15,8 +15,8 @@ class Volkwechsel : public testing::Test {
   }
 };
 
-TEST_F(Volkwechsel, VorwaertsUndZurueckUmEineZeile) {
-  Testliste liste(voelker(3));
+TEST_F(Volkwechsel, VorwärtsUndZurückUmEineZeile) {
+  Testliste liste(völker(3));
   VolkWechseln(1);
   EXPECT_EQ(liste.aktuelleZeile(), 1);
   VolkWechseln(0);
@@ -24,20 +24,20 @@ TEST_F(Volkwechsel, VorwaertsUndZurueckUmEineZeile) {
 }
 
 TEST_F(Volkwechsel, VorDerErstenKommtDieLetzte) {
-  Testliste liste(voelker(3));
+  Testliste liste(völker(3));
   VolkWechseln(0);
   EXPECT_EQ(liste.aktuelleZeile(), 2);
 }
 
 TEST_F(Volkwechsel, HinterDerLetztenKommtDieErste) {
-  Testliste liste(voelker(3));
+  Testliste liste(völker(3));
   liste.setAktuelleZeile(2);
   VolkWechseln(1);
   EXPECT_EQ(liste.aktuelleZeile(), 0);
 }
 
 TEST_F(Volkwechsel, EinEinzigesVolkBleibt) {
-  Testliste liste(voelker(1));
+  Testliste liste(völker(1));
   VolkWechseln(1);
   EXPECT_EQ(liste.aktuelleZeile(), 0);
   VolkWechseln(0);
@@ -45,14 +45,14 @@ TEST_F(Volkwechsel, EinEinzigesVolkBleibt) {
 }
 
 TEST_F(Volkwechsel, LeereListeBleibtOhneZeile) {
-  Testliste liste(voelker(0));
+  Testliste liste(völker(0));
   VolkWechseln(1);
   VolkWechseln(0);
   EXPECT_EQ(liste.aktuelleZeile(), -1);
 }
 
 TEST_F(Volkwechsel, OhneAktuelleZeileBeginntEsAmEnde) {
-  Testliste liste(voelker(3));
+  Testliste liste(völker(3));
   liste.setAktuelleZeile(-1);
   VolkWechseln(1);
   EXPECT_EQ(liste.aktuelleZeile(), 0);

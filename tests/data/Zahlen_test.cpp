@@ -3,8 +3,10 @@
 #include <QDate>
 #include <cmath>
 #include <limits>
+#include <random>
 
 #include "data/helpers.h"
+#include "platform/locale/Deutsch.h"
 
 namespace {
 
@@ -19,6 +21,34 @@ TEST(ZahlLesenTest, NullUndLeerGebenNull) {
   EXPECT_EQ(ZahlLesen(QVariant(QMetaType::fromType<double>())), 0);
   EXPECT_EQ(lies(""), 0);
   EXPECT_EQ(lies("   "), 0);
+}
+
+// A number reads as its text on the screen does.
+TEST(ZahlLesenTest, EineZahlLiestSichWieIhrText) {
+  std::mt19937_64 zufall(3);
+  std::vector<double> zahlen = {0.0,
+                                -0.0,
+                                1e15,
+                                1.5e20,
+                                -1e-7,
+                                3.4028236e38,
+                                1e39,
+                                1e308,
+                                std::numeric_limits<double>::max(),
+                                std::numeric_limits<double>::infinity(),
+                                std::numeric_limits<double>::quiet_NaN()};
+  for (int i = 0; i < 20000; ++i) {
+    const auto ganz = static_cast<double>(static_cast<qint64>(zufall() % 20000000) - 10000000);
+    zahlen.push_back(ganz / std::pow(10, i % 8));
+    zahlen.push_back(std::ldexp(ganz + 0.1, i % 120 - 60));
+  }
+  for (const double zahl : zahlen) {
+    const QString text = Deutsch::schlicht(zahl);
+    ASSERT_EQ(ZahlLesenDoppelt(zahl), ZahlLesenDoppelt(text)) << zahl;
+    ASSERT_EQ(ZahlLesen(zahl), ZahlLesen(text)) << zahl;
+  }
+  EXPECT_EQ(ZahlLesen(QVariant::fromValue<qint64>(-123456789012)), lies("123456789012"));
+  EXPECT_EQ(ZahlLesen(QVariant::fromValue(3.33F)), 3.33);
 }
 
 TEST(ZahlLesenTest, DasKommaIstDasDezimalzeichen) {
@@ -37,7 +67,7 @@ TEST(ZahlLesenTest, TausenderpunkteVorEinemKommaFallenWeg) {
   EXPECT_EQ(lies("1.234.567,8"), 1234567.8);
 }
 
-TEST(ZahlLesenTest, EinPunktAmEndeFaelltWeg) {
+TEST(ZahlLesenTest, EinPunktAmEndeFälltWeg) {
   EXPECT_EQ(lies("12."), 12);
   EXPECT_EQ(lies("1.234."), 1.234);
   EXPECT_EQ(lies("."), 0);
@@ -52,7 +82,7 @@ TEST(ZahlLesenTest, KommaVorPunktWirdWieEinTausenderpunktVerworfen) {
   EXPECT_EQ(lies("1,234.5"), 1234.5);
 }
 
-TEST(ZahlLesenTest, DasMinusFaelltWeg) {
+TEST(ZahlLesenTest, DasMinusFälltWeg) {
   EXPECT_EQ(lies("-3,5"), 3.5);
   EXPECT_EQ(ZahlLesen(-3.5), 3.5);
   EXPECT_EQ(ZahlLesen(-4), 4);
@@ -66,7 +96,7 @@ TEST(ZahlLesenTest, BuchstabenFallenWeg) {
   EXPECT_EQ(lies("1 000"), 1000);
 }
 
-TEST(ZahlLesenTest, DasGrosseEIstDerExponentDasKleineNicht) {
+TEST(ZahlLesenTest, DasGroßeEIstDerExponentDasKleineNicht) {
   EXPECT_EQ(lies("3E2"), 300);
   EXPECT_EQ(lies("1,5E3"), 1500);
   EXPECT_EQ(lies("3e2"), 32);
@@ -84,7 +114,7 @@ TEST(ZahlLesenTest, FeldwerteVomTypZahl) {
   EXPECT_EQ(ZahlLesenDoppelt(QVariant::fromValue<qint64>(1234567890123)), 1234567890123);
 }
 
-TEST(ZahlLesenTest, EinfacheGenauigkeitAlsKuerzesteDezimalzahl) {
+TEST(ZahlLesenTest, EinfacheGenauigkeitAlsKürzesteDezimalzahl) {
   EXPECT_EQ(lies("3,33"), 3.33);
   EXPECT_EQ(lies("16777217"), 16777216);
   EXPECT_EQ(doppelt("16777217"), 16777217);
@@ -92,7 +122,7 @@ TEST(ZahlLesenTest, EinfacheGenauigkeitAlsKuerzesteDezimalzahl) {
   EXPECT_EQ(doppelt("3,33333333333"), 3.33333333333);
 }
 
-TEST(ZahlLesenTest, ZuGrosseZahlenGebenNull) {
+TEST(ZahlLesenTest, ZuGroßeZahlenGebenNull) {
   EXPECT_EQ(lies("9E99"), 0);
   EXPECT_EQ(doppelt("9E99"), 9e99);
   EXPECT_EQ(doppelt("9E999"), 0);
@@ -134,7 +164,7 @@ TEST(ZahlFormatTest, DasVorzeichenBleibt) {
   EXPECT_EQ(format(QStringLiteral("+3"), 0), "3");
 }
 
-TEST(ZahlFormatTest, WasKeineZahlIstZaehltAlsNull) {
+TEST(ZahlFormatTest, WasKeineZahlIstZähltAlsNull) {
   for (const char* text :
        {"abc", "3 kg", "1,2,3", "1.2.3", "1.234,56", "-", "e5", "1e", "--1", "1,2.3", ",", "12 €"})
     EXPECT_EQ(format(QString::fromUtf8(text), 2), "0,00") << text;
@@ -143,21 +173,21 @@ TEST(ZahlFormatTest, WasKeineZahlIstZaehltAlsNull) {
   EXPECT_EQ(format(std::numeric_limits<double>::infinity(), 2), "0,00");
 }
 
-TEST(ZahlFormatBreiteTest, RechtsbuendigInDerBreite) {
+TEST(ZahlFormatBreiteTest, RechtsbündigInDerBreite) {
   EXPECT_EQ(ZahlFormatBreite(3.5, 2, 8, 0), QStringLiteral("    3,50"));
   EXPECT_EQ(ZahlFormatBreite(QStringLiteral("3.5"), 1, 5, 0), QStringLiteral("  3,5"));
   EXPECT_EQ(ZahlFormatBreite(QStringLiteral("abc"), 1, 5, 0), QStringLiteral("  0,0"));
   EXPECT_EQ(ZahlFormatBreite(QVariant(), 0, 3, 0), QStringLiteral("  0"));
 }
 
-TEST(ZahlFormatBreiteTest, PlusNurVorWertenUeberNull) {
+TEST(ZahlFormatBreiteTest, PlusNurVorWertenÜberNull) {
   EXPECT_EQ(ZahlFormatBreite(3.5, 1, 6, 1), QStringLiteral("  +3,5"));
   EXPECT_EQ(ZahlFormatBreite(0, 1, 6, 1), QStringLiteral("   0,0"));
   EXPECT_EQ(ZahlFormatBreite(-3.5, 1, 6, 1), QStringLiteral("  -3,5"));
   EXPECT_EQ(ZahlFormatBreite(3.5, 1, 6, 2), QStringLiteral("   3,5"));
 }
 
-TEST(ZahlFormatBreiteTest, ZuSchmalBehaeltDenLinkenTeil) {
+TEST(ZahlFormatBreiteTest, ZuSchmalBehältDenLinkenTeil) {
   EXPECT_EQ(ZahlFormatBreite(12345.67, 2, 4, 0), QStringLiteral("1234"));
 }
 
@@ -166,7 +196,7 @@ TEST(ZahlFestTest, PunktUndZweiStellen) {
   EXPECT_EQ(ZahlFest(3, 12.34), QStringLiteral("12."));
 }
 
-TEST(GanzLesenTest, FuehrendeZahlHalbeZurGeraden) {
+TEST(GanzLesenTest, FührendeZahlHalbeZurGeraden) {
   EXPECT_EQ(GanzLesen(QStringLiteral("12")), 12);
   EXPECT_EQ(GanzLesen(QStringLiteral("2.5")), 2);
   EXPECT_EQ(GanzLesen(QStringLiteral("3.5")), 4);
@@ -176,7 +206,7 @@ TEST(GanzLesenTest, FuehrendeZahlHalbeZurGeraden) {
   EXPECT_EQ(GanzLesen(QString()), 0);
 }
 
-TEST(GanzLesenTest, AufZweiunddreissigBitsBegrenzt) {
+TEST(GanzLesenTest, AufZweiunddreißigBitsBegrenzt) {
   EXPECT_EQ(GanzLesen(QStringLiteral("9999999999")), 2147483647);
   EXPECT_EQ(GanzLesen(QStringLiteral("-9999999999")), -2147483648LL);
   EXPECT_EQ(GanzLesen(QStringLiteral("1e999")), 2147483647);

@@ -51,7 +51,7 @@ TEST_F(Kalender, JedeOptionHatEinenZeitraumInnerhalbDesJahres) {
 TEST_F(Kalender, KeinTerminLiegtVorDemZeitraumSeinerOption) {
   standard();
   const QMap<QString, Zeitraum> alle = optionen();
-  int geprueft = 0;
+  int geprüft = 0;
   for (const Termin& termin : termine()) {
     if (!alle.contains(termin.text)) continue;
     const Zeitraum zeitraum = alle[termin.text];
@@ -60,29 +60,29 @@ TEST_F(Kalender, KeinTerminLiegtVorDemZeitraumSeinerOption) {
       EXPECT_LE(termin.tag.toString("MMdd"), zeitraum.bis) << termin.text.toStdString();
     }
     EXPECT_EQ(termin.volk != 0, zeitraum.jeVolk) << termin.text.toStdString();
-    ++geprueft;
+    ++geprüft;
   }
-  EXPECT_GT(geprueft, 1000);
+  EXPECT_GT(geprüft, 1000);
 }
 
-TEST_F(Kalender, JedesVolkImBestandHatAlleVolkabhaengigenArbeiten) {
+TEST_F(Kalender, JedesVolkImBestandHatAlleVolkabhängigenArbeiten) {
   standard();
   const QMap<QString, Zeitraum> alle = optionen();
   for (auto option = alle.begin(); option != alle.end(); ++option) {
     if (!option->jeVolk) continue;
-    const Daten voelker =
+    const Daten völker =
         DB.Lesen("select distinct Volk_ID from Termine where Termin = ?", {option.key()});
-    EXPECT_EQ(voelker->zeilen(), 21) << option.key().toStdString();
+    EXPECT_EQ(völker->zeilen(), 21) << option.key().toStdString();
   }
 }
 
-TEST_F(Kalender, AbgegangeneVoelkerUndVoelkerVorDemZugangHabenKeineTermine) {
+TEST_F(Kalender, AbgegangeneVölkerUndVölkerVorDemZugangHabenKeineTermine) {
   standard();
   EXPECT_EQ(DB.Lesen("select Termine.ID from Termine, Bienenvolk where Volk_ID = Bienenvolk.ID and "
                      "Akt_im_Bestand <> 'X'")
                 ->zeilen(),
             0);
-  Betriebsgroesse eineSaison = klein(3);
+  Betriebsgröße eineSaison = klein(3);
   eineSaison.jahre = 1;
   anlegen(eineSaison);
   EXPECT_GT(anzahl("Termine", "Volk_ID > 0"), 0);
@@ -92,10 +92,10 @@ TEST_F(Kalender, AbgegangeneVoelkerUndVoelkerVorDemZugangHabenKeineTermine) {
             0);
 }
 
-TEST_F(Kalender, DasVergangeneIstMeistErledigtUndEinRestIstFaellig) {
+TEST_F(Kalender, DasVergangeneIstMeistErledigtUndEinRestIstFällig) {
   standard();
   int erledigt = 0;
-  int faellig = 0;
+  int fällig = 0;
   for (const Termin& termin : termine()) {
     if (termin.tag >= Heute) {
       EXPECT_FALSE(termin.erledigt && termin.tag > Heute) << termin.text.toStdString();
@@ -105,15 +105,15 @@ TEST_F(Kalender, DasVergangeneIstMeistErledigtUndEinRestIstFaellig) {
       ++erledigt;
       continue;
     }
-    ++faellig;
+    ++fällig;
     EXPECT_GE(termin.tag, Heute.addDays(-9)) << termin.text.toStdString();
   }
-  EXPECT_GE(faellig, 5);
-  EXPECT_LE(faellig, 60);
-  EXPECT_GT(erledigt, 10 * faellig);
+  EXPECT_GE(fällig, 5);
+  EXPECT_LE(fällig, 60);
+  EXPECT_GT(erledigt, 10 * fällig);
 }
 
-TEST_F(Kalender, DieNaechstenVierzehnTageBringenTermineMitUndOhneVolk) {
+TEST_F(Kalender, DieNächstenVierzehnTageBringenTermineMitUndOhneVolk) {
   standard();
   int mitVolk = 0;
   int ohneVolk = 0;
@@ -124,7 +124,7 @@ TEST_F(Kalender, DieNaechstenVierzehnTageBringenTermineMitUndOhneVolk) {
   EXPECT_GE(ohneVolk, 3);
 }
 
-TEST_F(Kalender, AmStandortEingetragenesGiltFuerAlleVoelkerDort) {
+TEST_F(Kalender, AmStandortEingetragenesGiltFürAlleVölkerDort) {
   standard();
   const Daten orte = DB.Lesen(
       "select distinct Standort from Termine, Bienenvolk where Volk_ID = Bienenvolk.ID and Termin "
@@ -137,35 +137,34 @@ TEST_F(Kalender, AmStandortEingetragenesGiltFuerAlleVoelkerDort) {
 
 TEST_F(Kalender, GleicherTerminAmGleichenTagStehtBeiEinemVolkNurEinmal) {
   standard();
-  EXPECT_EQ(DB.Lesen("select Datum, Termin, Volk_ID, count(*) as n from Termine group by Datum, "
-                     "Termin, Volk_ID having count(*) > 1")
-                ->zeilen(),
-            0);
+  const Daten tage =
+      DB.Lesen("select count(*) as n from Termine group by Datum, Termin, Volk_ID order by n desc");
+  ASSERT_GT(tage->zeilen(), 0);
+  EXPECT_EQ(tage->ganzzahl(0, 0), 1);
 }
 
 // A booking settles what was due until its day.
 TEST_F(Kalender, EineGebuchteErnteHatDieErntetermineBisDahinErledigt) {
-  Betriebsgroesse groesse;
-  groesse.heute = QDate(2026, 8, 31);
-  anlegen(groesse);
+  Betriebsgröße größe;
+  größe.heute = QDate(2026, 8, 31);
+  anlegen(größe);
   const Daten offen = DB.Lesen(
-      "select Termine.ID from Termine where Termin = 'Honigernte' and Erledigt = 'N' and exists "
-      "(select * from Honigernte where Honigernte.Volk_ID = Termine.Volk_ID and Honigernte.Datum "
-      ">= Termine.Datum)");
+      "select Termine.ID from Termine, Honigernte where Termin = 'Honigernte' and Erledigt = 'N' "
+      "and Honigernte.Volk_ID = Termine.Volk_ID and Honigernte.Datum >= Termine.Datum");
   EXPECT_EQ(offen->zeilen(), 0);
   EXPECT_GT(anzahl("Termine", "Termin = 'Honigernte' and Erledigt = 'J'"), 20);
 }
 
 TEST_F(Kalender, ZumJahreswechselKommtKeineFrageMehr) {
   standard();
-  EXPECT_EQ(TZ_Variablen::EinstellungenZahl[28], 2026);
+  EXPECT_EQ(TZ_Variablen::EinstellungenZahl[Zahlslots.terminjahr], 2026);
   EXPECT_EQ(TZ_Variablen::HeuteText, "15.06.2026");
 }
 
 TEST_F(Kalender, ImWinterStehtKeineSommerarbeitAn) {
-  Betriebsgroesse groesse = klein(4);
-  groesse.heute = QDate(2026, 1, 20);
-  anlegen(groesse);
+  Betriebsgröße größe = klein(4);
+  größe.heute = QDate(2026, 1, 20);
+  anlegen(größe);
   EXPECT_EQ(anzahl("Termine",
                    "Erledigt = 'N' and Datum <= #02/03/2026# and Termin = 'Ableger "
                    "bilden'"),
@@ -180,9 +179,9 @@ TEST_F(Kalender, ImWinterStehtKeineSommerarbeitAn) {
 TEST_F(Kalender, JederTagDesJahresGeht) {
   for (const QDate tag :
        {QDate(2026, 1, 1), QDate(2026, 2, 3), QDate(2024, 2, 29), QDate(2026, 12, 31)}) {
-    Betriebsgroesse groesse = klein(5);
-    groesse.heute = tag;
-    anlegen(groesse);
+    Betriebsgröße größe = klein(5);
+    größe.heute = tag;
+    anlegen(größe);
     EXPECT_EQ(anzahl("Bienenvolk"), 6) << tag.toString().toStdString();
     EXPECT_GT(anzahl("Termine", "Erledigt = 'N'"), 0) << tag.toString().toStdString();
   }

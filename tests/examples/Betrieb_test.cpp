@@ -31,13 +31,13 @@ class Beispielbetrieb : public Betriebsfall {
   }
 };
 
-TEST_F(Beispielbetrieb, GleicheGroesseSaatUndTagGebenInAllenTabellenDasselbe) {
+TEST_F(Beispielbetrieb, GleicheGrößeSaatUndTagGebenInAllenTabellenDasselbe) {
   anlegen(klein(7));
   const Bestand erster = bestand();
   const QByteArray ersteEinstellungen = einstellungen();
   anlegen(klein(7));
   const Bestand zweiter = bestand();
-  ASSERT_EQ(erster.size(), 27);
+  ASSERT_EQ(erster.size(), 28);
   for (const QString& tabelle : erster.keys())
     EXPECT_EQ(erster[tabelle], zweiter[tabelle]) << tabelle.toStdString();
   EXPECT_FALSE(ersteEinstellungen.isEmpty());
@@ -53,12 +53,12 @@ TEST_F(Beispielbetrieb, EineAndereSaatGibtAndereDaten) {
     EXPECT_NE(erster[tabelle], zweiter[tabelle]) << tabelle;
 }
 
-TEST_F(Beispielbetrieb, VierundzwanzigVoelkerAnSechsStandorten) {
+TEST_F(Beispielbetrieb, VierundzwanzigVölkerAnSechsStandorten) {
   standard();
   EXPECT_EQ(anzahl("Bienenvolk"), 24);
   EXPECT_EQ(anzahl("Standorte"), 6);
   // Colonies 5, 13 and 21 don't come through a winter.
-  EXPECT_EQ(voelker("Akt_im_Bestand = 'X'").size(), 21);
+  EXPECT_EQ(völker("Akt_im_Bestand = 'X'").size(), 21);
   EXPECT_EQ(anzahl("Bienenvolk", "Akt_im_Bestand <> 'X' and Abgangsgrund = 'Winterverlust'"), 3);
 }
 
@@ -73,7 +73,7 @@ TEST_F(Beispielbetrieb, JedeDerElfBuchungstabellenHatZeilen) {
 // seasons and one before mid June, three treatments a year.
 TEST_F(Beispielbetrieb, DieMengenSindGlaubhaft) {
   standard();
-  for (const qint64 volk : voelker("Akt_im_Bestand = 'X'")) {
+  for (const qint64 volk : völker("Akt_im_Bestand = 'X'")) {
     const QString bedingung = "Volk_ID = " + QString::number(volk);
     EXPECT_GE(anzahl("Stockkarte", bedingung), 15) << volk;
     EXPECT_LE(anzahl("Stockkarte", bedingung), 45) << volk;
@@ -102,7 +102,7 @@ TEST_F(Beispielbetrieb, NichtsIstMorgenOderVorDemZugangGebucht) {
   }
 }
 
-TEST_F(Beispielbetrieb, DieHonigsummenDerVoelkerStimmenMitDenErntenUeberein) {
+TEST_F(Beispielbetrieb, DieHonigsummenDerVölkerStimmenMitDenErntenÜberein) {
   standard();
   const Daten volk = DB.Lesen("select ID, Honigmenge_Gesamt from Bienenvolk");
   for (int i = 0; i < volk->zeilen(); ++i) {
@@ -113,31 +113,31 @@ TEST_F(Beispielbetrieb, DieHonigsummenDerVoelkerStimmenMitDenErntenUeberein) {
 }
 
 TEST_F(Beispielbetrieb, ZweihundertBuchungenJeVolkSindGenauZweihundert) {
-  Betriebsgroesse groesse;
-  groesse.voelker = 8;
-  groesse.buchungenJeVolk = 200;
-  groesse.heute = Heute;
-  anlegen(groesse);
-  const QList<qint64> gehalten = voelker("Akt_im_Bestand = 'X'");
+  Betriebsgröße größe;
+  größe.völker = 8;
+  größe.buchungenJeVolk = 200;
+  größe.heute = Heute;
+  anlegen(größe);
+  const QList<qint64> gehalten = völker("Akt_im_Bestand = 'X'");
   EXPECT_EQ(gehalten.size(), 7);
   for (const qint64 volk : gehalten) EXPECT_EQ(buchungen(volk), 200) << volk;
 }
 
 TEST_F(Beispielbetrieb, EineSaisonHatKeinenWinterverlust) {
-  Betriebsgroesse groesse = klein(1);
-  groesse.jahre = 1;
-  anlegen(groesse);
-  EXPECT_EQ(voelker("Akt_im_Bestand = 'X'").size(), 6);
+  Betriebsgröße größe = klein(1);
+  größe.jahre = 1;
+  anlegen(größe);
+  EXPECT_EQ(völker("Akt_im_Bestand = 'X'").size(), 6);
 }
 
-TEST_F(Beispielbetrieb, DerFortschrittNenntDieFertigenVoelker) {
-  Betriebsgroesse groesse = klein(1);
-  groesse.voelker = 101;
-  groesse.jahre = 1;
+TEST_F(Beispielbetrieb, DerFortschrittNenntDieFertigenVölker) {
+  Betriebsgröße größe = klein(1);
+  größe.völker = 101;
+  größe.jahre = 1;
   QList<int> fertig;
-  schliessen();
+  schließen();
   m_ordner = std::make_unique<QTemporaryDir>();
-  betriebAnlegen(m_ordner->path(), groesse, [&](int voelker) { fertig << voelker; });
+  betriebAnlegen(m_ordner->path(), größe, [&](int völker) { fertig << völker; });
   EXPECT_EQ(fertig, QList<int>({100, 101}));
 }
 

@@ -2,13 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
 #include <memory>
 
 #include "Betrieb.h"
-#include "core/globals.h"
 #include "core/settings.h"
 #include "data/schema.h"
+#include "gemeinsam/Programmordner.h"
 #include "platform/locale/Deutsch.h"
 
 using TZ_Variablen::DB;
@@ -18,30 +17,29 @@ const QDate Heute(2026, 6, 15);
 // Makes sample operations and counts in them.
 class Betriebsfall : public ::testing::Test {
  protected:
-  static void TearDownTestSuite() { schliessen(); }
+  static void TearDownTestSuite() { schließen(); }
 
-  static void schliessen() {
+  static void schließen() {
     standardOffen = false;
-    DB.Close();
-    TZ_Variablen::Arbeitsbereich.Close();
-    TZ_Variablen::zuruecksetzen();
+    Programmordner::trenne();
+    TZ_Variablen::zurücksetzen();
   }
 
-  static Betriebsgroesse klein(quint32 saat) {
-    Betriebsgroesse groesse;
-    groesse.voelker = 6;
-    groesse.jahre = 2;
-    groesse.saat = saat;
-    groesse.heute = Heute;
-    return groesse;
+  static Betriebsgröße klein(quint32 saat) {
+    Betriebsgröße größe;
+    größe.völker = 6;
+    größe.jahre = 2;
+    größe.saat = saat;
+    größe.heute = Heute;
+    return größe;
   }
 
   // Makes the operation in a folder of its own and leaves it open.
-  void anlegen(const Betriebsgroesse& groesse) {
-    schliessen();
+  void anlegen(const Betriebsgröße& größe) {
+    schließen();
     m_ordner = std::make_unique<QTemporaryDir>();
     ASSERT_TRUE(m_ordner->isValid());
-    betriebAnlegen(m_ordner->path(), groesse);
+    betriebAnlegen(m_ordner->path(), größe);
   }
   // The operation of the tour, for tests that only read. It is made once for all of them and opened
   // again when another one was open in between.
@@ -50,13 +48,13 @@ class Betriebsfall : public ::testing::Test {
     static QTemporaryDir ordner;
     static bool angelegt = false;
     ASSERT_TRUE(ordner.isValid());
-    schliessen();
+    schließen();
     if (angelegt) {
-      oeffnen(ordner.path());
+      öffnen(ordner.path());
     } else {
-      Betriebsgroesse groesse;
-      groesse.heute = Heute;
-      betriebAnlegen(ordner.path(), groesse);
+      Betriebsgröße größe;
+      größe.heute = Heute;
+      betriebAnlegen(ordner.path(), größe);
     }
     angelegt = true;
     standardOffen = true;
@@ -68,7 +66,7 @@ class Betriebsfall : public ::testing::Test {
                (bedingung.isEmpty() ? QString() : " where " + bedingung))
         ->ganzzahl(0, 0);
   }
-  static QList<qint64> voelker(const QString& bedingung) {
+  static QList<qint64> völker(const QString& bedingung) {
     const Daten daten = DB.Lesen("select ID from Bienenvolk where " + bedingung + " order by ID");
     QList<qint64> ids;
     for (int i = 0; i < daten->zeilen(); ++i) ids << daten->ganzzahl(i, 0);
@@ -84,12 +82,10 @@ class Betriebsfall : public ::testing::Test {
   std::unique_ptr<QTemporaryDir> m_ordner;
 
  private:
-  static void oeffnen(const QString& ordner) {
-    TZ_Variablen::AppPfad = ordner + "/";
-    TZ_Variablen::DatenbankPfad = TZ_Variablen::AppPfad + "TOVA2.MDB";
-    TZ_Variablen::HeuteText = Deutsch::datumText(Heute);
+  static void öffnen(const QString& ordner) {
+    Programmordner::betrete(ordner, Deutsch::datumText(Heute));
     EinstellungenLesen();
-    DB = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
+    Programmordner::verbinde();
   }
 
   static inline bool standardOffen = false;

@@ -40,51 +40,51 @@ TEST_F(Handelsbuch, DerBestandWirdAnKeinemTagNegativ) {
 }
 
 TEST_F(Handelsbuch, AuchBeiEinemEinzigenVolkWirdDerBestandNichtNegativ) {
-  Betriebsgroesse groesse = klein(2);
-  groesse.voelker = 1;
-  anlegen(groesse);
+  Betriebsgröße größe = klein(2);
+  größe.völker = 1;
+  anlegen(größe);
   EXPECT_GT(anzahl("Honiglager", "Abgang > 0"), 0);
   erwarteNieNegativ();
 }
 
 TEST_F(Handelsbuch, JederHonigverkaufHatGenauEineBewegung) {
   standard();
-  const Daten verkaeufe = DB.Lesen("select ID, Datum, Produkt, Menge, Charge from Verkauf");
+  const Daten verkäufe = DB.Lesen("select ID, Datum, Produkt, Menge, Charge from Verkauf");
   int honig = 0;
-  for (int i = 0; i < verkaeufe->zeilen(); ++i) {
-    const bool istHonig = verkaeufe->anzeige(i, 2).contains("honig", Qt::CaseInsensitive);
+  for (int i = 0; i < verkäufe->zeilen(); ++i) {
+    const bool istHonig = verkäufe->anzeige(i, 2).contains("honig", Qt::CaseInsensitive);
     const Daten bewegung = DB.Lesen(
         "select Datum, Produkt, Abgang, Charge, Abfülldatum from Honiglager where EVK_ID = ? and "
         "Zugang = 0",
-        {verkaeufe->ganzzahl(i, 0)});
+        {verkäufe->ganzzahl(i, 0)});
     ASSERT_EQ(bewegung->zeilen(), istHonig ? 1 : 0) << i;
     if (!istHonig) continue;
     ++honig;
-    EXPECT_EQ(bewegung->wert(0, 0), verkaeufe->wert(i, 1)) << i;
-    EXPECT_EQ(bewegung->anzeige(0, 1), verkaeufe->anzeige(i, 2)) << i;
-    EXPECT_NEAR(bewegung->zahl(0, 2), verkaeufe->zahl(i, 3), 0.005) << i;
-    EXPECT_EQ(bewegung->anzeige(0, 3), verkaeufe->anzeige(i, 4)) << i;
+    EXPECT_EQ(bewegung->wert(0, 0), verkäufe->wert(i, 1)) << i;
+    EXPECT_EQ(bewegung->anzeige(0, 1), verkäufe->anzeige(i, 2)) << i;
+    EXPECT_NEAR(bewegung->zahl(0, 2), verkäufe->zahl(i, 3), 0.005) << i;
+    EXPECT_EQ(bewegung->anzeige(0, 3), verkäufe->anzeige(i, 4)) << i;
   }
   EXPECT_GT(honig, 60);
 }
 
 TEST_F(Handelsbuch, JederHonigeinkaufHatGenauEineBewegung) {
   standard();
-  const Daten einkaeufe = DB.Lesen("select ID, Produkt, Menge from Einkauf");
+  const Daten einkäufe = DB.Lesen("select ID, Produkt, Menge from Einkauf");
   int honig = 0;
-  for (int i = 0; i < einkaeufe->zeilen(); ++i) {
-    const bool istHonig = einkaeufe->anzeige(i, 1).contains("honig", Qt::CaseInsensitive);
+  for (int i = 0; i < einkäufe->zeilen(); ++i) {
+    const bool istHonig = einkäufe->anzeige(i, 1).contains("honig", Qt::CaseInsensitive);
     const Daten bewegung = DB.Lesen("select Zugang from Honiglager where EVK_ID = ? and Abgang = 0",
-                                    {einkaeufe->ganzzahl(i, 0)});
+                                    {einkäufe->ganzzahl(i, 0)});
     ASSERT_EQ(bewegung->zeilen(), istHonig ? 1 : 0) << i;
     if (!istHonig) continue;
     ++honig;
-    EXPECT_NEAR(bewegung->zahl(0, 0), einkaeufe->zahl(i, 2), 0.005) << i;
+    EXPECT_NEAR(bewegung->zahl(0, 0), einkäufe->zahl(i, 2), 0.005) << i;
   }
   EXPECT_EQ(honig, 2);  // in October 2024 and 2025
 }
 
-TEST_F(Handelsbuch, DieErntenLiegenAlsZugaengeImLager) {
+TEST_F(Handelsbuch, DieErntenLiegenAlsZugängeImLager) {
   standard();
   const Daten ernten = DB.Lesen(
       "select Honigsorte, Charge, sum(Menge_kg) as kg from Honigernte group by Honigsorte, Charge");
@@ -97,16 +97,15 @@ TEST_F(Handelsbuch, DieErntenLiegenAlsZugaengeImLager) {
   }
 }
 
-TEST_F(Handelsbuch, AbgefuelltWirdNachDerErnteUndVorDemVerkauf) {
+TEST_F(Handelsbuch, AbgefülltWirdNachDerErnteUndVorDemVerkauf) {
   standard();
   EXPECT_GT(anzahl("Honiglager", QString("Abfülldatum is not null")), 60);
   EXPECT_EQ(anzahl("Honiglager", QString("Abfülldatum > Datum")), 0);
   EXPECT_EQ(anzahl("Honiglager", QString("Abgang > 0 and EVK_ID > 0 and Abfülldatum is null")), 0);
-  const Daten zuFrueh = DB.Lesen(
-      QString("select Ab.ID from Honiglager as Ab where Ab.Abfülldatum <= (select max(Datum) from "
-              "Honiglager as Zu where Zu.Zugang > 0 and Zu.Produkt = Ab.Produkt and Zu.Charge = "
-              "Ab.Charge)"));
-  EXPECT_EQ(zuFrueh->zeilen(), 0);
+  const Daten zuFrüh = DB.Lesen(
+      "select Ab.ID from Honiglager as Ab, Honiglager as Zu where Zu.Zugang > 0 and Zu.Produkt = "
+      "Ab.Produkt and Zu.Charge = Ab.Charge and Ab.Abfülldatum <= Zu.Datum");
+  EXPECT_EQ(zuFrüh->zeilen(), 0);
 }
 
 TEST_F(Handelsbuch, NichtsIstMorgenGehandelt) {
@@ -121,22 +120,25 @@ TEST_F(Handelsbuch, JederPartnerStehtEinmalUnterDenKunden) {
   standard();
   EXPECT_GE(anzahl("Kunden", "Lieferant = 'N'"), 12);
   EXPECT_GE(anzahl("Kunden", "Lieferant = 'J'"), 5);
-  EXPECT_EQ(
-      DB.Lesen("select Kundenname from Kunden group by Kundenname having count(*) > 1")->zeilen(),
-      0);
-  EXPECT_EQ(
-      DB.Lesen("select ID from Verkauf where not exists (select * from Kunden where Kundenname "
-               "= Verkauf.Abnehmer)")
-          ->zeilen(),
-      0);
-  EXPECT_EQ(
-      DB.Lesen("select ID from Einkauf where not exists (select * from Kunden where Kundenname "
-               "= Einkauf.Lieferant)")
-          ->zeilen(),
-      0);
+  const Daten namen =
+      DB.Lesen("select count(*) as n from Kunden group by Kundenname order by n desc");
+  EXPECT_EQ(namen->ganzzahl(0, 0), 1);
+  const auto ohneKunden = [](const QString& tabelle, const QString& feld) {
+    const Daten partner = DB.Lesen("select distinct " + feld + " from " + tabelle);
+    int fehlende = 0;
+    for (int i = 0; i < partner->zeilen(); ++i)
+      fehlende +=
+          DB.Lesen("select ID from Kunden where Kundenname = ?", {partner->wert(i, 0)})->zeilen() ==
+                  0
+              ? 1
+              : 0;
+    return fehlende;
+  };
+  EXPECT_EQ(ohneKunden("Verkauf", "Abnehmer"), 0);
+  EXPECT_EQ(ohneKunden("Einkauf", "Lieferant"), 0);
 }
 
-TEST_F(Handelsbuch, ZuckerGlaeserMittelwaendeUndHonigSindEingekauft) {
+TEST_F(Handelsbuch, ZuckerGläserMittelwändeUndHonigSindEingekauft) {
   standard();
   for (const char* produkt :
        {"Zucker", "Gläser 500 g", "Mittelwände Zander", "Futterteig", "Waldhonig"})
@@ -145,13 +147,13 @@ TEST_F(Handelsbuch, ZuckerGlaeserMittelwaendeUndHonigSindEingekauft) {
 }
 
 // The number of deals belongs to the years, not to the colonies.
-TEST_F(Handelsbuch, EinDreimalSoGrosserBetriebHatNichtMehrGeschaefte) {
+TEST_F(Handelsbuch, EinDreimalSoGroßerBetriebHatNichtMehrGeschäfte) {
   standard();
   const qint64 vierundzwanzig = anzahl("Verkauf");
-  Betriebsgroesse groesse;
-  groesse.voelker = 72;
-  groesse.heute = Heute;
-  anlegen(groesse);
+  Betriebsgröße größe;
+  größe.völker = 72;
+  größe.heute = Heute;
+  anlegen(größe);
   EXPECT_LT(anzahl("Verkauf"), 2 * vierundzwanzig);
   EXPECT_GT(anzahl("Verkauf"), vierundzwanzig / 2);
   erwarteNieNegativ();

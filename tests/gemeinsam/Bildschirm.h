@@ -9,16 +9,16 @@
 // How a form stands on the screen.
 
 // The program's font in so many per cent of its size, for as long as it lives.
-class Schriftgroesse {
+class Schriftgröße {
  public:
-  explicit Schriftgroesse(int prozent) : m_vorher(QApplication::font()) {
+  explicit Schriftgröße(int prozent) : m_vorher(QApplication::font()) {
     QFont schrift = m_vorher;
     schrift.setPointSizeF(m_vorher.pointSizeF() * prozent / 100);
     QApplication::setFont(schrift);
   }
-  ~Schriftgroesse() { QApplication::setFont(m_vorher); }
-  Schriftgroesse(const Schriftgroesse&) = delete;
-  Schriftgroesse& operator=(const Schriftgroesse&) = delete;
+  ~Schriftgröße() { QApplication::setFont(m_vorher); }
+  Schriftgröße(const Schriftgröße&) = delete;
+  Schriftgröße& operator=(const Schriftgröße&) = delete;
 
  private:
   QFont m_vorher;
@@ -31,7 +31,7 @@ inline void passtAufKleinenSchirm(const QWidget& form) {
 }
 
 // No visible button's words are cut off.
-inline void knoepfeSindLesbar(const QWidget& form) {
+inline void knöpfeSindLesbar(const QWidget& form) {
   for (const auto* knopf : form.findChildren<QPushButton*>()) {
     if (!knopf->isVisible()) continue;
     EXPECT_GE(knopf->width(), knopf->minimumSizeHint().width()) << qPrintable(knopf->text());

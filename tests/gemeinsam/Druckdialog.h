@@ -22,7 +22,7 @@ class Druckdialog {
   explicit Druckdialog(QString pfad, std::function<void(QPrintDialog*)> aktion = {})
       : m_pfad(std::move(pfad)), m_aktion(std::move(aktion)) {
     m_uhr.start();
-    QObject::connect(&m_takt, &QTimer::timeout, &m_takt, [this] { pruefen(); });
+    QObject::connect(&m_takt, &QTimer::timeout, &m_takt, [this] { prüfen(); });
     m_takt.start(5);
   }
   ~Druckdialog() { EXPECT_TRUE(m_war) << "no print dialog came"; }
@@ -38,7 +38,7 @@ class Druckdialog {
   }
 
  private:
-  void pruefen() {
+  void prüfen() {
     QWidget* fenster = QApplication::activeModalWidget();
     auto* dialog = qobject_cast<QPrintDialog*>(fenster);
     if (dialog == nullptr || !dialog->isVisible()) {
@@ -54,8 +54,8 @@ class Druckdialog {
     }
     const int eintrag = pdfEintrag(dialog);
     auto* datei = dialog->findChild<QLineEdit*>("filename");
-    auto* knoepfe = dialog->findChild<QDialogButtonBox*>();
-    if (eintrag < 0 || datei == nullptr || knoepfe == nullptr) {
+    auto* knöpfe = dialog->findChild<QDialogButtonBox*>();
+    if (eintrag < 0 || datei == nullptr || knöpfe == nullptr) {
       ADD_FAILURE() << "the print dialog offers no PDF file";
       dialog->reject();
       return;
@@ -64,7 +64,7 @@ class Druckdialog {
     drucker->setCurrentIndex(eintrag);
     QFile::remove(m_pfad);  // the dialog would ask before it replaces a file
     datei->setText(m_pfad);
-    knoepfe->button(QDialogButtonBox::Ok)->click();
+    knöpfe->button(QDialogButtonBox::Ok)->click();
   }
 
   QString m_pfad;

@@ -9,13 +9,14 @@
 #include <type_traits>
 
 #include "data/helpers.h"
+#include "gemeinsam/Beschriftet.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
 
 // What forms say and ask alike.
 inline const QString Weil = "Die Daten werden nicht gespeichert, weil...\r\n\r\n";
-inline const QString Loeschfrage =
+inline const QString Löschfrage =
     "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?";
 
 // A form in a program folder of its own (Basis), driven by key and mouse on its named controls.
@@ -33,7 +34,7 @@ class Formularprobe : public Basis {
     Basis::TearDown();
   }
 
-  void oeffne() {
+  void öffne() {
     form = neueForm();
     form->laden();
     form->show();
@@ -48,9 +49,20 @@ class Formularprobe : public Basis {
     EXPECT_NE(k, nullptr) << name.toStdString();
     return k;
   }
-  Eingabefeld* feld(const QString& name) { return kind<Eingabefeld>(name); }
-  Eingabefeld* feld(int index) { return feld(QString("sevt_%1").arg(index)); }
+  // An input by its caption; by its objectName where that is the matter. Where captions stand in
+  // several tabs or frames at once, the one that is meant can be named.
+  Eingabefeld* feld(const QString& name) {
+    if (auto* benanntes = form->template findChild<Eingabefeld*>(name)) return benanntes;
+    return Beschriftet::finde(form.get(), name);
+  }
+  Eingabefeld* feld(const QString& bereich, const QString& beschriftung) {
+    return Beschriftet::finde(form.get(), beschriftung, bereich);
+  }
+  Eingabefeld* feld(int index) { return kind<Eingabefeld>(QString("sevt_%1").arg(index)); }
   std::string inhalt(const QString& name) { return feld(name)->inhalt().toStdString(); }
+  std::string inhalt(const QString& bereich, const QString& beschriftung) {
+    return feld(bereich, beschriftung)->inhalt().toStdString();
+  }
   std::string inhalt(int index) { return feld(index)->inhalt().toStdString(); }
   Grid* liste(const QString& name) { return kind<Grid>(name); }
 
@@ -68,7 +80,13 @@ class Formularprobe : public Basis {
       QTest::keyClick(eingabe, Qt::Key_Delete);
     tasten(eingabe, text);
   }
-  void tippe(const QString& name, const QString& text) { tippe(kind<QLineEdit>(name), text); }
+  void tippe(const QString& name, const QString& text) {
+    auto* benanntes = form->template findChild<QLineEdit*>(name);
+    tippe(benanntes ? benanntes : Beschriftet::finde<QLineEdit>(form.get(), name), text);
+  }
+  void tippe(const QString& bereich, const QString& beschriftung, const QString& text) {
+    tippe(feld(bereich, beschriftung), text);
+  }
   void tippe(int index, const QString& text) { tippe(feld(index), text); }
 
   // At its left end, where a check box has its mark.
@@ -81,7 +99,7 @@ class Formularprobe : public Basis {
     grid->scrollTo(index);
     return grid->visualRect(index).center();
   }
-  void waehle(const QString& grid, int zeile) {
+  void wähle(const QString& grid, int zeile) {
     QTest::mouseClick(liste(grid)->viewport(), Qt::LeftButton, {}, mitte(liste(grid), zeile));
   }
 

@@ -44,7 +44,7 @@ class Pdf {
   }
 
   // The words of a page with their places.
-  QList<Wort> woerter(int seite) const {
+  QList<Wort> wörter(int seite) const {
     const QString nummer = QString::number(seite);
     static const QRegularExpression muster(
         "<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\"[^>]*>([^<]*)</word>");

@@ -6,7 +6,7 @@
 
 #include "core/globals.h"
 #include "core/main_list.h"
-#include "platform/database/Datenblock.h"
+#include "platform/database/werte/Datenblock.h"
 
 // The main list as a plain table, for tests. While it lives it is the list in use.
 class Testliste : public Hauptliste {
@@ -47,7 +47,7 @@ class Testliste : public Hauptliste {
     if (nummer < 0 || zeile < 0 || zeile >= zeilen()) return {};
     return m_daten->anzeige(zeile, nummer);
   }
-  void loescheZeile(int zeile) override {
+  void löscheZeile(int zeile) override {
     TZ_Variablen::DB.Execute(QStringLiteral("delete from Bienenvolk where ID = ?"),
                              {zelle(zeile, QStringLiteral("ID")).toLongLong()});
     const int danach = std::min(zeile, zeilen() - 2);

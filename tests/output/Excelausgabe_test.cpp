@@ -4,6 +4,7 @@
 
 #include <QDir>
 
+#include "gemeinsam/Programmordner.h"
 #include "output/Listen.h"
 #include "platform/files/Textdatei.h"
 #include "platform/files/Xlsx.h"
@@ -22,14 +23,14 @@ class ExcelausgabeTest : public testing::Test {
     return Ausgabeliste(Listen::block({{"Wert", typ, 0}}, zeilen));
   }
 
-  Programmordner ordner;
+  Programmordner ordner{"20.11.2026"};
 };
 
-TEST_F(ExcelausgabeTest, DieDateiHeisstTovaListeUndLiegtImProgrammordner) {
-  EXPECT_EQ(Excelausgabe::datei(), ordner.pfad("tova_liste.xlsx"));
+TEST_F(ExcelausgabeTest, DieDateiHeißtTovaListeUndLiegtImProgrammordner) {
+  EXPECT_EQ(Excelausgabe::datei(), ordner.filePath("tova_liste.xlsx"));
 }
 
-TEST_F(ExcelausgabeTest, DieUeberschriftenStehenFettInDerErstenZeile) {
+TEST_F(ExcelausgabeTest, DieÜberschriftenStehenFettInDerErstenZeile) {
   const Xlsx x = blatt(Ausgabeliste(Listen::ernte(), {"Volk", "Ernten"}));
   EXPECT_EQ(x.text("A1"), "Volk");
   EXPECT_EQ(x.text("B1"), "Ernten");
@@ -101,7 +102,7 @@ TEST_F(ExcelausgabeTest, EineSpalteMitEinemTextHatKeinZahlenformat) {
   EXPECT_EQ(x.spaltenformat(1), "");
 }
 
-TEST_F(ExcelausgabeTest, LeereZellenUndTrennzeilenStoerenDieZahlenspalteNicht) {
+TEST_F(ExcelausgabeTest, LeereZellenUndTrennzeilenStörenDieZahlenspalteNicht) {
   const Xlsx x = blatt(eineSpalte({7, QVariant(), ".", "", 8}, Feldtyp::Ausdruck));
   EXPECT_EQ(x.spaltenformat(1), "#,##0.00");
   EXPECT_EQ(x.text("A4"), ".");
@@ -113,7 +114,7 @@ TEST_F(ExcelausgabeTest, EineSpalteOhneWerteHatKeinZahlenformat) {
   EXPECT_EQ(blatt(eineSpalte({QVariant(), QVariant()}, Feldtyp::Lang)).spaltenformat(1), "");
 }
 
-TEST_F(ExcelausgabeTest, HinterDerZweiundfuenfzigstenSpalteStehenZahlenOhneFormat) {
+TEST_F(ExcelausgabeTest, HinterDerZweiundfünfzigstenSpalteStehenZahlenOhneFormat) {
   std::vector<Spalte> spalten;
   QVariantList zeile;
   for (int i = 1; i <= 54; ++i) {
@@ -130,7 +131,7 @@ TEST_F(ExcelausgabeTest, HinterDerZweiundfuenfzigstenSpalteStehenZahlenOhneForma
   EXPECT_EQ(x.text("BB1"), "S54");
 }
 
-TEST_F(ExcelausgabeTest, KopftextAlleinGibtZweiZeilenDarueber) {
+TEST_F(ExcelausgabeTest, KopftextAlleinGibtZweiZeilenDarüber) {
   const Xlsx x = blatt(eineSpalte({"x"}), {"", "Imkerei Königsblüte"});
   EXPECT_EQ(x.text("A1"), QString("Imkerei Königsblüte"));
   EXPECT_FALSE(x.gibtEs("A2"));
@@ -139,7 +140,7 @@ TEST_F(ExcelausgabeTest, KopftextAlleinGibtZweiZeilenDarueber) {
   EXPECT_EQ(x.text("A4"), "x");
 }
 
-TEST_F(ExcelausgabeTest, DatumAlleinGibtEineZeileDarueber) {
+TEST_F(ExcelausgabeTest, DatumAlleinGibtEineZeileDarüber) {
   const Xlsx x = blatt(eineSpalte({7}), {"20.11.2026", ""});
   EXPECT_EQ(x.text("A1"), "20.11.2026");
   EXPECT_FALSE(x.istZahl("A1"));
@@ -149,7 +150,7 @@ TEST_F(ExcelausgabeTest, DatumAlleinGibtEineZeileDarueber) {
   EXPECT_EQ(x.text("A3"), "7");
 }
 
-TEST_F(ExcelausgabeTest, DatumUndKopftextGebenVierZeilenDarueber) {
+TEST_F(ExcelausgabeTest, DatumUndKopftextGebenVierZeilenDarüber) {
   const Xlsx x = blatt(eineSpalte({"x"}), {"20.11.2026", "Kopf"});
   EXPECT_EQ(x.text("A1"), "20.11.2026");
   EXPECT_FALSE(x.gibtEs("A2"));
@@ -182,7 +183,7 @@ TEST_F(ExcelausgabeTest, KannNichtGeschriebenWerdenNenntDieMeldungDieDatei) {
   }
 }
 
-TEST_F(ExcelausgabeTest, EineListeLaengerAlsEinBlattWirdAbgelehnt) {
+TEST_F(ExcelausgabeTest, EineListeLängerAlsEinBlattWirdAbgelehnt) {
   const Daten d = Listen::block({{"a", Feldtyp::Text, 1}}, {{"x"}});
   const Ausgabeliste liste(d, {}, std::vector<int>(1048576, 0));
   EXPECT_THROW(Excelausgabe::schreiben(Excelausgabe::datei(), liste, {}), Dateifehler);

@@ -2,12 +2,10 @@
 
 #include <QDate>
 #include <QFile>
-#include <QTemporaryDir>
 
-#include "core/globals.h"
 #include "output/Ausgabeliste.h"
 
-// Lists made by hand, and a program folder of its own for each test.
+// Lists made by hand.
 namespace Listen {
 
 // Rows of values: null as QVariant(), numbers, texts, dates.
@@ -23,7 +21,7 @@ inline Daten ernte() {
   return block({{"Volkname", Feldtyp::Text, 30},
                 {"Anz_Ernten", Feldtyp::Lang, 0},
                 {"Menge_kg", Feldtyp::Einfach, 0},
-                {"Erlös", Feldtyp::Waehrung, 0},
+                {"Erlös", Feldtyp::Währung, 0},
                 {"Datum", Feldtyp::Datum, 0}},
                {{"Anna", 2, 12.5, 87.5, QDate(2026, 5, 4)},
                 {"Bärbel", 10, 7, 1049.0, QDate(2026, 7, 21)},
@@ -36,19 +34,3 @@ inline QByteArray bytes(const QString& pfad) {
 }
 
 }  // namespace Listen
-
-class Programmordner {
- public:
-  Programmordner() {
-    TZ_Variablen::zuruecksetzen();
-    TZ_Variablen::AppPfad = m_ordner.path() + "/";
-    TZ_Variablen::HeuteText = "20.11.2026";
-  }
-  ~Programmordner() { TZ_Variablen::zuruecksetzen(); }
-  Programmordner(const Programmordner&) = delete;
-  Programmordner& operator=(const Programmordner&) = delete;
-  QString pfad(const QString& name) const { return m_ordner.path() + "/" + name; }
-
- private:
-  QTemporaryDir m_ordner;
-};

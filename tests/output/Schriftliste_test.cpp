@@ -32,7 +32,7 @@ TEST(Schriftliste, EineAndereCourierTrittAnDieStelleVonCourierNew) {
   EXPECT_EQ(schriftIndex(liste, "Courier New"), 1);
 }
 
-TEST(Schriftliste, OhneCourierStehtDieAehnlichsteAlsErsatzVorn) {
+TEST(Schriftliste, OhneCourierStehtDieÄhnlichsteAlsErsatzVorn) {
   const auto liste = schriftliste({"DejaVu Sans Mono", "Nimbus Mono PS", "Zierschrift"}, {"Arial"});
   EXPECT_EQ(namen(liste), QStringList({"Courier New (Ersatz: Nimbus Mono PS)", "DejaVu Sans Mono",
                                        "Zierschrift", "Arial"}));

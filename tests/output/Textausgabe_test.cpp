@@ -6,8 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "core/globals.h"
 #include "gemeinsam/AndererBenutzer.h"
+#include "gemeinsam/Programmordner.h"
 #include "platform/files/Textdatei.h"
 
 using namespace TZ_Variablen;
@@ -17,15 +17,8 @@ namespace {
 
 class Textausgabetest : public testing::Test {
  protected:
-  Textausgabetest() : m_vorher(QDir::currentPath()) {
-    zuruecksetzen();
-    AppPfad = m_ordner.path() + '/';
-    AusgabeDatei = AppPfad + "LISTE.TXT";
-  }
-  ~Textausgabetest() override {
-    QDir::setCurrent(m_vorher);
-    zuruecksetzen();
-  }
+  Textausgabetest() : m_vorher(QDir::currentPath()) { AusgabeDatei = AppPfad + "LISTE.TXT"; }
+  ~Textausgabetest() override { QDir::setCurrent(m_vorher); }
 
   void schreibe(const QByteArray& bytes) {
     QFile datei(AusgabeDatei);
@@ -35,7 +28,7 @@ class Textausgabetest : public testing::Test {
   // 320 lines of 98 characters and CR LF: 32000 characters.
   static QByteArray genau32000() { return (QByteArray(98, 'a') + "\r\n").repeated(320); }
 
-  QTemporaryDir m_ordner;
+  Programmordner m_ordner{"15.06.2024"};
   QString m_vorher;
 };
 
@@ -50,7 +43,7 @@ QList<QStringList> seiten(const QStringList& zeilen, Druckweg weg, int rand = 0,
 
 // Reading
 
-TEST_F(Textausgabetest, JedeZeileErhaeltIhrenUmbruchAuchDieLetzte) {
+TEST_F(Textausgabetest, JedeZeileErhältIhrenUmbruchAuchDieLetzte) {
   schreibe("eins\r\nzwei\r\n\r\ndrei");
   EXPECT_EQ(Textausgabe::lesen(AusgabeDatei).text, QString("eins\r\nzwei\r\n\r\ndrei\r\n"));
 }
@@ -64,20 +57,20 @@ TEST_F(Textausgabetest, Genau32000ZeichenGebenKeineWarnung) {
   schreibe(genau32000());
   const auto anzeige = Textausgabe::lesen(AusgabeDatei);
   EXPECT_EQ(anzeige.text.size(), 32000);
-  EXPECT_FALSE(anzeige.zuGross);
+  EXPECT_FALSE(anzeige.zuGroß);
 }
 
 TEST_F(Textausgabetest, EineZeileMehrAls32000ZeichenBeendetDasLesen) {
   schreibe(genau32000() + "mehr\r\nnicht mehr gelesen\r\n");
   const auto anzeige = Textausgabe::lesen(AusgabeDatei);
-  EXPECT_TRUE(anzeige.zuGross);
+  EXPECT_TRUE(anzeige.zuGroß);
   EXPECT_TRUE(anzeige.text.endsWith("a\r\nmehr\r\n"));
   EXPECT_EQ(anzeige.text.size(), 32006);
 }
 
 TEST_F(Textausgabetest, EineLeereZeileMehrAls32000ZeichenWarntAuch) {
   schreibe(genau32000() + "\r\n");
-  EXPECT_TRUE(Textausgabe::lesen(AusgabeDatei).zuGross);
+  EXPECT_TRUE(Textausgabe::lesen(AusgabeDatei).zuGroß);
 }
 
 TEST_F(Textausgabetest, EineLeereDateiGibtLeerenText) {
@@ -92,7 +85,7 @@ TEST_F(Textausgabetest, EineFehlendeDateiWirdGenannt) {
 }
 
 TEST_F(Textausgabetest, TexteDerHinweise) {
-  EXPECT_EQ(Textausgabe::zuGrossText(),
+  EXPECT_EQ(Textausgabe::zuGroßText(),
             QString("ACHTUNG:\r\n\r\nDer Text ist über 32 kB groß. Es ist deshalb u.U. nicht alles "
                     "im Textfeld enthalten. Beim Ausdruck mit 'Datei drucken' werden trotzdem alle "
                     "Daten ausgedruckt!"));
@@ -156,52 +149,52 @@ TEST_F(Textausgabetest, IstDerAktuelleOrdnerGesperrtNenntDieMeldungDieDatei) {
 
 // Settings
 
-TEST_F(Textausgabetest, EinstellungenStehenInIhrenFuenfPlaetzen) {
+TEST_F(Textausgabetest, EinstellungenStehenInIhrenFünfPlätzen) {
   Textausgabe::sichern({true, false, true, 12, 7});
-  EXPECT_EQ(EinstellungenZahl[18], 1);
-  EXPECT_EQ(EinstellungenZahl[19], 0);
-  EXPECT_EQ(EinstellungenZahl[20], 1);
-  EXPECT_EQ(EinstellungenZahl[22], 12);
-  EXPECT_EQ(EinstellungenZahl[23], 7);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.textQuer], 1);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.textFett], 0);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.textKursiv], 1);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.textGröße], 12);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.textRand], 7);
   const auto e = Textausgabe::laden();
   EXPECT_TRUE(e.quer);
   EXPECT_FALSE(e.fett);
   EXPECT_TRUE(e.kursiv);
-  EXPECT_EQ(e.groesse, 12);
+  EXPECT_EQ(e.größe, 12);
   EXPECT_EQ(e.rand, 7);
 }
 
 TEST_F(Textausgabetest, NullIstHochformatAllesAndereQuerformat) {
   EXPECT_FALSE(Textausgabe::laden().quer);
-  EinstellungenZahl[18] = 2;
+  EinstellungenZahl[Zahlslots.textQuer] = 2;
   EXPECT_TRUE(Textausgabe::laden().quer);
 }
 
-TEST_F(Textausgabetest, BeimLadenGeltenNurGroessenVon8Bis48) {
-  for (const auto& [platz, groesse] : QList<std::pair<qint16, int>>{
+TEST_F(Textausgabetest, BeimLadenGeltenNurGrößenVon8Bis48) {
+  for (const auto& [platz, größe] : QList<std::pair<qint16, int>>{
            {0, 10}, {4, 10}, {7, 10}, {8, 8}, {30, 30}, {48, 48}, {49, 10}, {-3, 10}}) {
-    EinstellungenZahl[22] = platz;
-    EXPECT_EQ(Textausgabe::laden().groesse, groesse) << platz;
+    EinstellungenZahl[Zahlslots.textGröße] = platz;
+    EXPECT_EQ(Textausgabe::laden().größe, größe) << platz;
   }
 }
 
-TEST_F(Textausgabetest, EinRandUeber20WirdBeimLaden20) {
+TEST_F(Textausgabetest, EinRandÜber20WirdBeimLaden20) {
   for (const auto& [platz, rand] :
        QList<std::pair<qint16, int>>{{0, 0}, {20, 20}, {21, 20}, {30, 20}, {-1, 0}}) {
-    EinstellungenZahl[23] = platz;
+    EinstellungenZahl[Zahlslots.textRand] = platz;
     EXPECT_EQ(Textausgabe::laden().rand, rand) << platz;
   }
 }
 
-TEST_F(Textausgabetest, DieKnoepfeGehenVon4Bis30) {
-  EXPECT_EQ(Textausgabe::groesseNach(10, 5), 15);
-  EXPECT_EQ(Textausgabe::groesseNach(10, -1), 9);
-  EXPECT_EQ(Textausgabe::groesseNach(8, -5), 4);
-  EXPECT_EQ(Textausgabe::groesseNach(4, -1), 4);
-  EXPECT_EQ(Textausgabe::groesseNach(28, 5), 30);
-  EXPECT_EQ(Textausgabe::groesseNach(30, 1), 30);
-  EXPECT_EQ(Textausgabe::groesseNach(48, 1), 30);
-  EXPECT_EQ(Textausgabe::groesseNach(48, -1), 30);
+TEST_F(Textausgabetest, DieKnöpfeGehenVon4Bis30) {
+  EXPECT_EQ(Textausgabe::größeNach(10, 5), 15);
+  EXPECT_EQ(Textausgabe::größeNach(10, -1), 9);
+  EXPECT_EQ(Textausgabe::größeNach(8, -5), 4);
+  EXPECT_EQ(Textausgabe::größeNach(4, -1), 4);
+  EXPECT_EQ(Textausgabe::größeNach(28, 5), 30);
+  EXPECT_EQ(Textausgabe::größeNach(30, 1), 30);
+  EXPECT_EQ(Textausgabe::größeNach(48, 1), 30);
+  EXPECT_EQ(Textausgabe::größeNach(48, -1), 30);
 }
 
 TEST_F(Textausgabetest, DerRandWirdBeimTippenAuf0Bis30Begrenzt) {
@@ -244,7 +237,7 @@ TEST_F(Textausgabetest, RauteImTextIstKeinSeitenwechsel) {
     EXPECT_EQ(seiten({"## ", "#1"}, weg).size(), 1);
 }
 
-TEST_F(Textausgabetest, EinRandVon0DrucktDieZeilenUnveraendert) {
+TEST_F(Textausgabetest, EinRandVon0DrucktDieZeilenUnverändert) {
   EXPECT_EQ(seiten({"  a  b "}, Druckweg::Text, 0)[0][1], QString("  a  b "));
 }
 
@@ -275,7 +268,7 @@ TEST_F(Textausgabetest, EinLeererTextGibtEineSeite) {
   EXPECT_EQ(seiten({}, Druckweg::Text), QList<QStringList>({{""}}));
 }
 
-TEST_F(Textausgabetest, UmgebrocheneZeilenZaehlenFuerDieSeite) {
+TEST_F(Textausgabetest, UmgebrocheneZeilenZählenFürDieSeite) {
   EXPECT_EQ(seiten({"aaa bbb ccc"}, Druckweg::Text, 0, 3, 7),
             QList<QStringList>({{"", "aaa bbb", "  ccc"}}));
   EXPECT_EQ(seiten({"aaa bbb ccc"}, Druckweg::Text, 0, 2, 7),
@@ -288,7 +281,7 @@ TEST_F(Textausgabetest, EineZeileDieGenauPasstBleibtGanz) {
   EXPECT_EQ(Textausgabe::umbrechen("1234567890", 0, breit(10)), QStringList({"1234567890"}));
 }
 
-TEST_F(Textausgabetest, EineZuBreiteZeileGehtEingeruecktWeiterUndVerliertNichts) {
+TEST_F(Textausgabetest, EineZuBreiteZeileGehtEingerücktWeiterUndVerliertNichts) {
   EXPECT_EQ(Textausgabe::umbrechen("Königin gezeichnet und umgesetzt", 0, breit(20)),
             QStringList({"Königin gezeichnet ", "  und umgesetzt"}));
   EXPECT_EQ(Textausgabe::umbrechen("abcdefghijklmnop", 0, breit(10)),
@@ -309,7 +302,7 @@ TEST_F(Textausgabetest, EinRandBreiterAlsDieSeiteVerschlucktDenTextNicht) {
   EXPECT_EQ(Textausgabe::umbrechen("abc", 0, breit(0)), QStringList({"a", "b", "c", ""}));
 }
 
-TEST_F(Textausgabetest, TabulatorenGehenZurNaechstenAchtenSpalte) {
+TEST_F(Textausgabetest, TabulatorenGehenZurNächstenAchtenSpalte) {
   EXPECT_EQ(Textausgabe::umbrechen("a\tb", 2, breit(80)), QStringList({"  a       b"}));
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "gemeinsam/Programmordner.h"
 #include "output/Listen.h"
 #include "platform/files/Textdatei.h"
 
@@ -29,7 +30,7 @@ class TextlisteTest : public testing::Test {
     return Listen::bytes(QStringLiteral(TOVA_TESTDATEN "/") + name).toStdString();
   }
 
-  Programmordner ordner;
+  Programmordner ordner{"20.11.2026"};
 };
 
 const std::string Ernte =
@@ -39,15 +40,15 @@ const std::string Ernte =
     "Bärbel   |         10 |        7 | 1049,00 | 21.07.2026\n"
     "Cäsar    |            |          |         |           \n";
 
-TEST_F(TextlisteTest, DieDateiHeisstListeUndLiegtImProgrammordner) {
-  EXPECT_EQ(Textliste::datei(), ordner.pfad("LISTE.TXT"));
+TEST_F(TextlisteTest, DieDateiHeißtListeUndLiegtImProgrammordner) {
+  EXPECT_EQ(Textliste::datei(), ordner.filePath("LISTE.TXT"));
 }
 
 TEST_F(TextlisteTest, ZahlenStehenRechtsAllesAndereLinks) {
   EXPECT_EQ(text(Ausgabeliste(Listen::ernte())), Ernte);
 }
 
-TEST_F(TextlisteTest, DieBreiteIstDerLaengsteTextVonKopfUndZellen) {
+TEST_F(TextlisteTest, DieBreiteIstDerLängsteTextVonKopfUndZellen) {
   EXPECT_EQ(text(Ausgabeliste(Listen::block({{"a", Feldtyp::Text, 9}, {"lang", Feldtyp::Text, 9}},
                                             {{"xyz", "b"}}))),
             "a   | lang\n"
@@ -55,7 +56,7 @@ TEST_F(TextlisteTest, DieBreiteIstDerLaengsteTextVonKopfUndZellen) {
             "xyz | b   \n");
 }
 
-TEST_F(TextlisteTest, UeberschriftenTretenAnDieStelleDerNamen) {
+TEST_F(TextlisteTest, ÜberschriftenTretenAnDieStelleDerNamen) {
   EXPECT_EQ(text(Ausgabeliste(Listen::block({{"a", Feldtyp::Text, 9}}, {{"x"}}), {"Volk"})),
             "Volk\n----\nx   \n");
 }
@@ -81,11 +82,11 @@ TEST_F(TextlisteTest, DatumUndKopftextMitEinerLeerzeileDarunter) {
             "Datum: 20.11.2026\nImkerei Königsblüte\n\n" + Ernte);
 }
 
-TEST_F(TextlisteTest, OhneDatumUndKopftextBeginntDieListeMitDenUeberschriften) {
+TEST_F(TextlisteTest, OhneDatumUndKopftextBeginntDieListeMitDenÜberschriften) {
   EXPECT_EQ(text(Ausgabeliste(Listen::ernte()), {"", ""}).substr(0, 8), "Volkname");
 }
 
-TEST_F(TextlisteTest, EineTrennzeileGibtLeerzeilenUndDieUeberschriftenNocheinmal) {
+TEST_F(TextlisteTest, EineTrennzeileGibtLeerzeilenUndDieÜberschriftenNocheinmal) {
   const Daten d = Listen::block({{"Ort", Feldtyp::Text, 9}, {"kg", Feldtyp::Einfach, 0}},
                                 {{"Wald", 7.5}, {".", QVariant()}, {"Wiese", 12}, {".x", 1}});
   EXPECT_EQ(text(Ausgabeliste(d)),
@@ -104,7 +105,7 @@ TEST_F(TextlisteTest, TrennzeileAlsErsteUndAlsLetzteZeile) {
   EXPECT_EQ(text(Ausgabeliste(d)), "Ort \n----\n\n\nOrt \nWald\n\n\nOrt \n");
 }
 
-TEST_F(TextlisteTest, EigenesTrennzeichenZaehltInDerStrichzeileMit) {
+TEST_F(TextlisteTest, EigenesTrennzeichenZähltInDerStrichzeileMit) {
   EXPECT_EQ(text(Ausgabeliste(Listen::block({{"a", Feldtyp::Text, 9}, {"b", Feldtyp::Text, 9}},
                                             {{"x", "y"}})),
                  {}, " §§ "),
@@ -112,13 +113,13 @@ TEST_F(TextlisteTest, EigenesTrennzeichenZaehltInDerStrichzeileMit) {
 }
 
 TEST_F(TextlisteTest, EinLeeresTrennzeichenWirdDerSenkrechteStrich) {
-  EinstellungenText[4] = "";
+  EinstellungenText[Textslots.trennzeichen] = "";
   EXPECT_EQ(Textliste::trennzeichen(), " | ");
-  EinstellungenText[4] = ";";
+  EinstellungenText[Textslots.trennzeichen] = ";";
   EXPECT_EQ(Textliste::trennzeichen(), ";");
 }
 
-TEST_F(TextlisteTest, NurDieErstenZweiundfuenfzigSpaltenWerdenGelistet) {
+TEST_F(TextlisteTest, NurDieErstenZweiundfünfzigSpaltenWerdenGelistet) {
   std::vector<Spalte> spalten;
   QVariantList zeile;
   for (int i = 1; i <= 54; ++i) {
@@ -132,15 +133,15 @@ TEST_F(TextlisteTest, NurDieErstenZweiundfuenfzigSpaltenWerdenGelistet) {
 }
 
 TEST_F(TextlisteTest, EineGanzeAuswertungMitGruppen) {
-  EinstellungenZahl[46] = 1;
-  EinstellungenText[0] = "Imkerei Königsblüte";
-  EinstellungenText[4] = "";
+  EinstellungenZahl[Zahlslots.datumAlsListenkopf] = 1;
+  EinstellungenText[Textslots.kopftext] = "Imkerei Königsblüte";
+  EinstellungenText[Textslots.trennzeichen] = "";
   const Daten d =
       Listen::block({{"Standort", Feldtyp::Text, 30},
                      {"Volknr", Feldtyp::Text, 10},
                      {"Datum", Feldtyp::Datum, 0},
                      {"Menge_kg", Feldtyp::Einfach, 0},
-                     {"Erlös", Feldtyp::Waehrung, 0},
+                     {"Erlös", Feldtyp::Währung, 0},
                      {"Bemerkung", Feldtyp::Memo, 0}},
                     {{"Obstgarten", "7", QDate(2026, 5, 30), 12.5, 87.5, "1. Ernte"},
                      {"Obstgarten", "11a", QDate(2026, 6, 2), 9.25, 64.75, QVariant()},
@@ -168,18 +169,18 @@ TEST_F(TextlisteTest, DieDateiStehtInDerCodepageUndFremdeZeichenWerdenFragezeich
 }
 
 TEST_F(TextlisteTest, ListenkopfNachDenEinstellungen) {
-  EinstellungenZahl[46] = 0;
-  EinstellungenText[0] = "Kopf";
+  EinstellungenZahl[Zahlslots.datumAlsListenkopf] = 0;
+  EinstellungenText[Textslots.kopftext] = "Kopf";
   EXPECT_EQ(listenkopf().datum, "");
   EXPECT_EQ(listenkopf().kopftext, "Kopf");
-  EinstellungenZahl[46] = 1;
+  EinstellungenZahl[Zahlslots.datumAlsListenkopf] = 1;
   EXPECT_EQ(listenkopf().datum, "20.11.2026");
 }
 
 TEST_F(TextlisteTest, WennDieDateiNichtGeschriebenWerdenKannWirdEsGemeldet) {
-  EXPECT_THROW(
-      Textliste::schreiben(ordner.pfad("fehlt/LISTE.TXT"), Ausgabeliste(Listen::ernte()), {}, "|"),
-      Dateifehler);
+  EXPECT_THROW(Textliste::schreiben(ordner.filePath("fehlt/LISTE.TXT"),
+                                    Ausgabeliste(Listen::ernte()), {}, "|"),
+               Dateifehler);
 }
 
 }  // namespace

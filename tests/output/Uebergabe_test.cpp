@@ -6,37 +6,38 @@
 #include <limits>
 
 #include "gemeinsam/AndererBenutzer.h"
+#include "gemeinsam/Programmordner.h"
 #include "output/Listen.h"
 #include "platform/files/Textdatei.h"
 
 namespace {
 
-class UebergabeTest : public testing::Test {
+class ÜbergabeTest : public testing::Test {
  protected:
   Ausgabeliste hinUndHer(const Ausgabeliste& liste) const {
-    Uebergabe::schreiben(Uebergabe::datei(), liste);
-    return Uebergabe::lesen(Uebergabe::datei());
+    Übergabe::schreiben(Übergabe::datei(), liste);
+    return Übergabe::lesen(Übergabe::datei());
   }
   void lege(const QByteArray& inhalt) const {
-    QFile datei(Uebergabe::datei());
+    QFile datei(Übergabe::datei());
     ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
     datei.write(inhalt);
   }
 
-  Programmordner ordner;
+  Programmordner ordner{"20.11.2026"};
 };
 
-TEST_F(UebergabeTest, DieDateiHeisstGridliUndLiegtImProgrammordner) {
-  EXPECT_EQ(Uebergabe::datei(), ordner.pfad("gridli.txt"));
+TEST_F(ÜbergabeTest, DieDateiHeißtGridliUndLiegtImProgrammordner) {
+  EXPECT_EQ(Übergabe::datei(), ordner.filePath("gridli.txt"));
 }
 
-TEST_F(UebergabeTest, SpaltenUeberschriftenUndWerteKommenWiederAn) {
-  const QStringList ueberschriften{"Volk", "Ernten", "Menge\tin kg", "Erlös \\ €", "Tag 🐝"};
+TEST_F(ÜbergabeTest, SpaltenÜberschriftenUndWerteKommenWiederAn) {
+  const QStringList überschriften{"Volk", "Ernten", "Menge\tin kg", "Erlös \\ €", "Tag 🐝"};
   const Daten alt = Listen::ernte();
-  const Ausgabeliste liste = hinUndHer(Ausgabeliste(alt, ueberschriften));
+  const Ausgabeliste liste = hinUndHer(Ausgabeliste(alt, überschriften));
   ASSERT_EQ(liste.spalten(), 5);
   ASSERT_EQ(liste.zeilen(), 3);
-  EXPECT_EQ(liste.ueberschriften(), ueberschriften);
+  EXPECT_EQ(liste.überschriften(), überschriften);
   for (int s = 0; s < 5; ++s) {
     EXPECT_EQ(liste.daten()->spalte(s).name, alt->spalte(s).name);
     EXPECT_EQ(liste.daten()->spalte(s).typ, alt->spalte(s).typ);
@@ -48,7 +49,7 @@ TEST_F(UebergabeTest, SpaltenUeberschriftenUndWerteKommenWiederAn) {
   }
 }
 
-TEST_F(UebergabeTest, TabsZeilenwechselAnfuehrungszeichenUndEmojiBleiben) {
+TEST_F(ÜbergabeTest, TabsZeilenwechselAnführungszeichenUndEmojiBleiben) {
   const QStringList texte{"a\tb",
                           "eins\r\nzwei\nnur LF\rnur CR",
                           "sagt \"summ\"",
@@ -75,14 +76,14 @@ TEST_F(UebergabeTest, TabsZeilenwechselAnfuehrungszeichenUndEmojiBleiben) {
   }
 }
 
-TEST_F(UebergabeTest, LeererTextUndNullBleibenVerschieden) {
+TEST_F(ÜbergabeTest, LeererTextUndNullBleibenVerschieden) {
   const Ausgabeliste liste = hinUndHer(
       Ausgabeliste(Listen::block({{"t", Feldtyp::Text, 9}}, {{QString("")}, {QVariant()}})));
   EXPECT_FALSE(liste.daten()->istNull(0, 0));
   EXPECT_TRUE(liste.daten()->istNull(1, 0));
 }
 
-TEST_F(UebergabeTest, ZahlenKommenOhneVerlustAn) {
+TEST_F(ÜbergabeTest, ZahlenKommenOhneVerlustAn) {
   const QVariantList werte{0.1 + 0.2,
                            3.33,
                            -1e300,
@@ -105,7 +106,7 @@ TEST_F(UebergabeTest, ZahlenKommenOhneVerlustAn) {
     }
 }
 
-TEST_F(UebergabeTest, EinTextInEinerZahlenspalteBleibtText) {
+TEST_F(ÜbergabeTest, EinTextInEinerZahlenspalteBleibtText) {
   const Ausgabeliste liste = hinUndHer(Ausgabeliste(
       Listen::block({{"n", Feldtyp::Lang, 0}, {"t", Feldtyp::Text, 9}}, {{".", 7}, {"12", "12"}})));
   EXPECT_TRUE(liste.istTrennzeile(0));
@@ -114,32 +115,32 @@ TEST_F(UebergabeTest, EinTextInEinerZahlenspalteBleibtText) {
   EXPECT_EQ(liste.daten()->wert(0, 1).toInt(), 7);
 }
 
-TEST_F(UebergabeTest, DieZeilenKommenInDerGezeigtenReihenfolge) {
+TEST_F(ÜbergabeTest, DieZeilenKommenInDerGezeigtenReihenfolge) {
   const Ausgabeliste liste = hinUndHer(Ausgabeliste(Listen::ernte(), {}, {2, 0}));
   ASSERT_EQ(liste.zeilen(), 2);
   EXPECT_EQ(liste.daten()->anzeige(0, 0), QString("Cäsar"));
   EXPECT_EQ(liste.daten()->anzeige(1, 0), "Anna");
 }
 
-TEST_F(UebergabeTest, EineListeOhneZeilenBehaeltIhreSpalten) {
+TEST_F(ÜbergabeTest, EineListeOhneZeilenBehältIhreSpalten) {
   const Ausgabeliste liste = hinUndHer(Ausgabeliste(Listen::ernte(), {}, {}));
   EXPECT_EQ(liste.zeilen(), 0);
   EXPECT_EQ(liste.spalten(), 5);
 }
 
-TEST_F(UebergabeTest, EineListeOhneSpaltenBleibtLeer) {
+TEST_F(ÜbergabeTest, EineListeOhneSpaltenBleibtLeer) {
   const Ausgabeliste liste = hinUndHer(Ausgabeliste());
   EXPECT_EQ(liste.zeilen(), 0);
   EXPECT_EQ(liste.spalten(), 0);
 }
 
-TEST_F(UebergabeTest, OhneDateiIstDieListeLeer) {
-  const Ausgabeliste liste = Uebergabe::lesen(Uebergabe::datei());
+TEST_F(ÜbergabeTest, OhneDateiIstDieListeLeer) {
+  const Ausgabeliste liste = Übergabe::lesen(Übergabe::datei());
   EXPECT_EQ(liste.zeilen(), 0);
   EXPECT_EQ(liste.spalten(), 0);
 }
 
-TEST_F(UebergabeTest, DieNaechsteUebergabeErsetztDieVorige) {
+TEST_F(ÜbergabeTest, DieNächsteÜbergabeErsetztDieVorige) {
   hinUndHer(Ausgabeliste(Listen::ernte()));
   const Ausgabeliste liste =
       hinUndHer(Ausgabeliste(Listen::block({{"nur", Feldtyp::Text, 9}}, {{"eine"}})));
@@ -147,41 +148,41 @@ TEST_F(UebergabeTest, DieNaechsteUebergabeErsetztDieVorige) {
   EXPECT_EQ(liste.zeilen(), 1);
 }
 
-TEST_F(UebergabeTest, EineAbgeschnitteneDateiWirdGemeldetUndNichtHalbGelesen) {
-  Uebergabe::schreiben(Uebergabe::datei(), Ausgabeliste(Listen::ernte()));
-  const QByteArray ganz = Listen::bytes(Uebergabe::datei());
-  for (qsizetype laenge = 1; laenge < ganz.size(); ++laenge) {
-    lege(ganz.left(laenge));
-    const bool zeilenende = ganz[laenge - 1] == '\n' && ganz.left(laenge).count('\n') >= 4;
+TEST_F(ÜbergabeTest, EineAbgeschnitteneDateiWirdGemeldetUndNichtHalbGelesen) {
+  Übergabe::schreiben(Übergabe::datei(), Ausgabeliste(Listen::ernte()));
+  const QByteArray ganz = Listen::bytes(Übergabe::datei());
+  for (qsizetype länge = 1; länge < ganz.size(); ++länge) {
+    lege(ganz.left(länge));
+    const bool zeilenende = ganz[länge - 1] == '\n' && ganz.left(länge).count('\n') >= 4;
     if (zeilenende) continue;  // whole rows are missing: that can't be seen
-    EXPECT_THROW(Uebergabe::lesen(Uebergabe::datei()), Dateifehler) << laenge;
+    EXPECT_THROW(Übergabe::lesen(Übergabe::datei()), Dateifehler) << länge;
   }
 }
 
-TEST_F(UebergabeTest, EineFremdeDateiWirdGemeldet) {
+TEST_F(ÜbergabeTest, EineFremdeDateiWirdGemeldet) {
   for (const QByteArray& inhalt :
        {QByteArray("Name;Ort\r\nAnna;Berlin\r\n"), QByteArray(""), QByteArray("\n\n\n\n"),
         QByteArray("TOVA-Liste 1\na\nX\na\n1\n"), QByteArray("TOVA-Liste 1\na\nL\na\nzwölf\n"),
         QByteArray("TOVA-Liste 1\na\tb\nTT\na\tb\nnur eine\n")}) {
     lege(inhalt);
-    EXPECT_THROW(Uebergabe::lesen(Uebergabe::datei()), Dateifehler) << inhalt.toStdString();
+    EXPECT_THROW(Übergabe::lesen(Übergabe::datei()), Dateifehler) << inhalt.toStdString();
   }
 }
 
-TEST_F(UebergabeTest, WennNichtGeschriebenWerdenKannBleibtDieAlteDatei) {
-  Uebergabe::schreiben(Uebergabe::datei(), Ausgabeliste(Listen::ernte()));
-  const QByteArray alt = Listen::bytes(Uebergabe::datei());
+TEST_F(ÜbergabeTest, WennNichtGeschriebenWerdenKannBleibtDieAlteDatei) {
+  Übergabe::schreiben(Übergabe::datei(), Ausgabeliste(Listen::ernte()));
+  const QByteArray alt = Listen::bytes(Übergabe::datei());
   ASSERT_TRUE(QFile::setPermissions(
-      ordner.pfad(""), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther));
+      ordner.path(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther));
   {
     const AndererBenutzer anderer;
     if (anderer.darfAlles()) GTEST_SKIP() << "write protections don't hold here";
-    EXPECT_THROW(Uebergabe::schreiben(Uebergabe::datei(), Ausgabeliste()), Dateifehler);
+    EXPECT_THROW(Übergabe::schreiben(Übergabe::datei(), Ausgabeliste()), Dateifehler);
   }
-  EXPECT_EQ(Listen::bytes(Uebergabe::datei()), alt);
+  EXPECT_EQ(Listen::bytes(Übergabe::datei()), alt);
 }
 
-TEST_F(UebergabeTest, EineLangeListeMeldetIhrenFortschritt) {
+TEST_F(ÜbergabeTest, EineLangeListeMeldetIhrenFortschritt) {
   QList<QVariantList> zeilen;
   for (int i = 0; i < 5000; ++i) zeilen += QVariantList{i};
   int rufe = 0;
@@ -193,11 +194,11 @@ TEST_F(UebergabeTest, EineLangeListeMeldetIhrenFortschritt) {
     EXPECT_EQ(gesamt, 5000);
     zuletzt = fertig;
   };
-  Uebergabe::schreiben(Uebergabe::datei(),
-                       Ausgabeliste(Listen::block({{"n", Feldtyp::Lang, 0}}, zeilen)), fortschritt);
+  Übergabe::schreiben(Übergabe::datei(),
+                      Ausgabeliste(Listen::block({{"n", Feldtyp::Lang, 0}}, zeilen)), fortschritt);
   EXPECT_GE(rufe, 2);
   zuletzt = -1;
-  EXPECT_EQ(Uebergabe::lesen(Uebergabe::datei(), fortschritt).zeilen(), 5000);
+  EXPECT_EQ(Übergabe::lesen(Übergabe::datei(), fortschritt).zeilen(), 5000);
 }
 
 }  // namespace

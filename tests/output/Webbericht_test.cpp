@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
+#include "gemeinsam/Programmordner.h"
 #include "output/Listen.h"
 #include "platform/files/Textdatei.h"
 
@@ -61,11 +62,11 @@ class WebberichtTest : public testing::Test {
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
   }
 
-  Programmordner ordner;
+  Programmordner ordner{"20.11.2026"};
 };
 
 TEST_F(WebberichtTest, DieErsteSeiteIstReportHtmImProgrammordner) {
-  EXPECT_EQ(schreibe(reihen(3)), ordner.pfad("report.htm"));
+  EXPECT_EQ(schreibe(reihen(3)), ordner.filePath("report.htm"));
   EXPECT_EQ(seiten(), QStringList{"report.htm"});
 }
 
@@ -81,7 +82,7 @@ TEST_F(WebberichtTest, EsIstEineDeutscheHtmlSeiteInUtf8) {
   wohlgeformt(html);
 }
 
-TEST_F(WebberichtTest, UeberschriftenUndZellenStehenInIhrerReihenfolge) {
+TEST_F(WebberichtTest, ÜberschriftenUndZellenStehenInIhrerReihenfolge) {
   schreibe(Ausgabeliste(Listen::ernte(), {"Volk", "Ernten"}, {1, 0}));
   EXPECT_EQ(texte(seite(), "th"), (QStringList{"Volk", "Ernten", "Menge_kg", "Erlös", "Datum"}));
   EXPECT_EQ(texte(seite(), "td"), (QStringList{"Bärbel", "10", "7", "1049,00", "21.07.2026", "Anna",
@@ -118,7 +119,7 @@ TEST_F(WebberichtTest, BesondereZeichenWerdenMaskiert) {
   wohlgeformt(seite());
 }
 
-TEST_F(WebberichtTest, OhneTitelKeineUeberschrift) {
+TEST_F(WebberichtTest, OhneTitelKeineÜberschrift) {
   schreibe(reihen(1));
   EXPECT_TRUE(texte(seite(), "h1").isEmpty());
 }
@@ -194,7 +195,7 @@ TEST_F(WebberichtTest, SeitenzeileAbZweiSeiten) {
   EXPECT_TRUE(seite(2).contains("<p class=\"seite\">Seite 2 von 2</p>"));
 }
 
-TEST_F(WebberichtTest, EineSeiteHatKeineSeitenzeileAuchWennSieGewuenschtIst) {
+TEST_F(WebberichtTest, EineSeiteHatKeineSeitenzeileAuchWennSieGewünschtIst) {
   Vorgaben v;
   v.seitenzeile = true;
   schreibe(reihen(10), v);
@@ -223,7 +224,7 @@ TEST_F(WebberichtTest, OhneDenWunschKeineAnzahl) {
   EXPECT_FALSE(seite().contains("Anzahl"));
 }
 
-TEST_F(WebberichtTest, AlteSeitenEinesLaengerenBerichtsVerschwinden) {
+TEST_F(WebberichtTest, AlteSeitenEinesLängerenBerichtsVerschwinden) {
   Vorgaben v;
   v.zeilenJeSeite = 2;
   schreibe(reihen(10), v);
@@ -242,29 +243,29 @@ TEST_F(WebberichtTest, EineTrennzeileStehtOhneIhrenPunktUndOhneZuVerschwinden) {
 }
 
 TEST_F(WebberichtTest, VorgabenNachDenEinstellungen) {
-  EinstellungenZahl[21] = 25;
-  EinstellungenZahl[49] = 60;
-  EinstellungenZahl[46] = 1;
-  EinstellungenText[0] = "Imkerei Königsblüte";
+  EinstellungenZahl[Zahlslots.webzeilen] = 25;
+  EinstellungenZahl[Zahlslots.explorerzeilen] = 60;
+  EinstellungenZahl[Zahlslots.datumAlsListenkopf] = 1;
+  EinstellungenText[Textslots.kopftext] = "Imkerei Königsblüte";
   Vorgaben v = Webbericht::vorgaben();
   EXPECT_EQ(v.titel, QString("20.11.2026   Imkerei Königsblüte"));
   EXPECT_EQ(v.zeilenJeSeite, 25);
   EXPECT_FALSE(v.seitenzeile);
   EXPECT_FALSE(v.anzahlzeile);
-  EinstellungenZahl[46] = 0;
-  EinstellungenZahl[47] = 1;
-  EinstellungenZahl[48] = 1;
+  EinstellungenZahl[Zahlslots.datumAlsListenkopf] = 0;
+  EinstellungenZahl[Zahlslots.seitenzeile] = 1;
+  EinstellungenZahl[Zahlslots.anzahlzeile] = 1;
   v = Webbericht::vorgaben();
   EXPECT_EQ(v.titel, QString("Imkerei Königsblüte"));
   EXPECT_TRUE(v.seitenzeile);
   EXPECT_TRUE(v.anzahlzeile);
-  EinstellungenZahl[46] = 1;
-  EinstellungenText[0] = "";
+  EinstellungenZahl[Zahlslots.datumAlsListenkopf] = 1;
+  EinstellungenText[Textslots.kopftext] = "";
   EXPECT_EQ(Webbericht::vorgaben().titel, "20.11.2026   ");
 }
 
 TEST_F(WebberichtTest, KannNichtGeschriebenWerdenWirdEsGemeldet) {
-  ASSERT_TRUE(QDir().mkdir(ordner.pfad("report.htm")));
+  ASSERT_TRUE(QDir().mkdir(ordner.filePath("report.htm")));
   EXPECT_THROW(schreibe(reihen(1)), Dateifehler);
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 std::string text(const Daten& block, int zeile, int spalte) {
   std::string t;
-  Zelltext::anhaengen(t, *block, zeile, spalte);
+  Zelltext::anhängen(t, *block, zeile, spalte);
   return t;
 }
 
@@ -27,7 +27,7 @@ TEST(Zelltext, JedeZelleStehtDaWieAufDemBildschirm) {
 }
 
 // The quick way of writing a number must never differ from the one way there is otherwise.
-TEST(Zelltext, ZahlenGleichenDerAnzeigeZiffernFuerZiffer) {
+TEST(Zelltext, ZahlenGleichenDerAnzeigeZiffernFürZiffer) {
   QList<QVariantList> zeilen;
   for (const double wert :
        {0.0,     -0.0,  0.1,     0.1 + 0.2, 3.33,         3.3333333, -7.05,          99999.9999,
@@ -36,7 +36,7 @@ TEST(Zelltext, ZahlenGleichenDerAnzeigeZiffernFuerZiffer) {
     zeilen += QVariantList{wert, wert, wert};
   for (int i = -2000; i < 2000; ++i) zeilen += QVariantList{i / 7.0, i / 8.0, i * 0.01};
   const Daten d = Listen::block(
-      {{"a", Feldtyp::Ausdruck, 0}, {"b", Feldtyp::Einfach, 0}, {"c", Feldtyp::Waehrung, 0}},
+      {{"a", Feldtyp::Ausdruck, 0}, {"b", Feldtyp::Einfach, 0}, {"c", Feldtyp::Währung, 0}},
       zeilen);
   for (int zeile = 0; zeile < d->zeilen(); ++zeile)
     for (int spalte = 0; spalte < 3; ++spalte)
@@ -44,13 +44,13 @@ TEST(Zelltext, ZahlenGleichenDerAnzeigeZiffernFuerZiffer) {
 }
 
 TEST(Zelltext, EinGeldbetragZeigtKeinRauschen) {
-  const Daten d = Listen::block({{"Erlös", Feldtyp::Waehrung, 0}}, {{0.1 + 0.2}});
+  const Daten d = Listen::block({{"Erlös", Feldtyp::Währung, 0}}, {{0.1 + 0.2}});
   EXPECT_EQ(text(d, 0, 0), "0,30");
 }
 
-TEST(Zelltext, GrosseGanzeZahlenVerlierenKeineZiffer) {
-  const qint64 gross = std::numeric_limits<qint64>::max();
-  const Daten d = Listen::block({{"a", Feldtyp::Ausdruck, 0}}, {{QVariant(gross)}});
+TEST(Zelltext, GroßeGanzeZahlenVerlierenKeineZiffer) {
+  const qint64 groß = std::numeric_limits<qint64>::max();
+  const Daten d = Listen::block({{"a", Feldtyp::Ausdruck, 0}}, {{QVariant(groß)}});
   EXPECT_EQ(text(d, 0, 0), "9223372036854775807");
 }
 
@@ -82,7 +82,7 @@ TEST(Zelltext, AnderesIstKeineZahl) {
     EXPECT_FALSE(Zelltext::zahl(t)) << t;
 }
 
-TEST(Zelltext, MehrAlsFuenfzehnZiffernBleibenText) {
+TEST(Zelltext, MehrAlsFünfzehnZiffernBleibenText) {
   EXPECT_EQ(Zelltext::zahl("123456789012345"), 123456789012345.0);
   EXPECT_FALSE(Zelltext::zahl("1234567890123456"));
 }

@@ -11,17 +11,17 @@
 #include "planning/Jahreslauf.h"
 #include "planning/Optionen.h"
 #include "platform/database/Dateigrenze.h"
-#include "platform/database/Verbindung.h"
+#include "platform/database/verbindung/Verbindung.h"
 
 using namespace TZ_Variablen;
 
 namespace {
 
-constexpr int Voelker = 200;
+constexpr int Völker = 200;
 // Of each colony from the 20th of June 2006 on: 26.06. 10.07. 24.07. and so on to 25.12.
 constexpr int TageJeOption = 14;
 constexpr int Optionen = 3;
-constexpr qint64 Alle = qint64{Voelker} * Optionen * TageJeOption;
+constexpr qint64 Alle = qint64{Völker} * Optionen * TageJeOption;
 
 Verbindung& verbindung() { return *Verbindung::zu(DatenbankPfad); }
 
@@ -38,26 +38,24 @@ Terminfragen immerJa(std::function<void(qint64)> schritt = {},
   return fragen;
 }
 
-void toeten() { std::raise(SIGKILL); }
+void töten() { std::raise(SIGKILL); }
 
 // The same program again, as the one that is killed: at a colony of the run, when the message
 // comes, or behind it.
 const Nebenprogramm abbruch("--jahreslauf", [](const QStringList& argumente) {
   const QString stelle = argumente.value(1);
-  AppPfad = argumente.value(0) + "/";
-  DatenbankPfad = AppPfad + "TOVA2.MDB";
-  HeuteText = "20.06.2006";
+  Programmordner::betrete(argumente.value(0), "20.06.2006");
   EinstellungenLesen();
-  DB = Arbeitsbereich.OpenDatabase(DatenbankPfad);
+  Programmordner::verbinde();
   verbindung().steuere("pragma cache_size = 10");  // what is written reaches the file at once
   VolkTermineSetzen(DB, immerJa(
                             [&](qint64 fertig) {
-                              if (stelle == QString::number(fertig)) toeten();
+                              if (stelle == QString::number(fertig)) töten();
                             },
                             [&](const QString&) {
-                              if (stelle == "Meldung") toeten();
+                              if (stelle == "Meldung") töten();
                             }));
-  if (stelle == "Ende") toeten();
+  if (stelle == "Ende") töten();
   return 1;
 });
 
@@ -65,25 +63,22 @@ class Jahresabbruch : public Testbetrieb {
  protected:
   void SetUp() override {
     Testbetrieb::SetUp();
-    EinstellungenZahl[28] = 2005;
+    EinstellungenZahl[Zahlslots.terminjahr] = 2005;
     EinstellungenSchreiben();
     db().Sammelschreiben([] {
       db().Execute("delete from Arbeitsplanoptionen");
       for (int i = 0; i < Optionen; ++i)
         option("Option " + QString::number(i), "26.06", 14, "31.12");
-      for (int i = 1; i <= Voelker; ++i) neuesVolk(QString::number(i));
+      for (int i = 1; i <= Völker; ++i) neuesVolk(QString::number(i));
       db().Execute(
           "insert into Termine(Datum, Termin, Erledigt, Volk_ID) values (?, 'Alt', 'J', 1)",
           {QDate(2006, 5, 1)});
     });
   }
-  void trennen() {
-    DB.Close();
-    Arbeitsbereich.Close();
-  }
-  void neuOeffnen() {
-    DB = Arbeitsbereich.OpenDatabase(DatenbankPfad);
-    EinstellungenZahl[28] = 0;
+  void trennen() { Programmordner::trenne(); }
+  void neuÖffnen() {
+    Programmordner::verbinde();
+    EinstellungenZahl[Zahlslots.terminjahr] = 0;
     EinstellungenLesen();
   }
   static void nurDieAltenTermine() {
@@ -96,7 +91,7 @@ class Jahresabbruch : public Testbetrieb {
   }
   static void heil() { EXPECT_EQ(verbindung().steuere("pragma integrity_check"), "ok"); }
   // The next start asks, and the run comes to its end.
-  static void naechsterAnlauf() {
+  static void nächsterAnlauf() {
     EXPECT_TRUE(neuesJahr());
     QStringList hinweise;
     VolkTermineSetzen(db(), immerJa({}, [&](const QString& text) { hinweise << text; }));
@@ -110,7 +105,7 @@ class Jahresabbruch : public Testbetrieb {
 
 // --- full disk ---
 
-TEST_F(Jahresabbruch, BeiVollemDatentraegerBleibenDieAltenTermineUndDieFrageKommtWieder) {
+TEST_F(Jahresabbruch, BeiVollemDatenträgerBleibenDieAltenTermineUndDieFrageKommtWieder) {
   const int seiten = verbindung().steuere("pragma page_count").toInt();
   verbindung().steuere("pragma max_page_count = " + QByteArray::number(seiten + 2));
   int hinweise = 0;
@@ -125,12 +120,12 @@ TEST_F(Jahresabbruch, BeiVollemDatentraegerBleibenDieAltenTermineUndDieFrageKomm
     EXPECT_TRUE(fehler.text().contains("Von diesem Vorgang wurde nichts gespeichert."));
   }
   EXPECT_GT(weit, 0);  // in the middle
-  EXPECT_LT(weit, Voelker);
+  EXPECT_LT(weit, Völker);
   EXPECT_EQ(hinweise, 0);
   nurDieAltenTermine();
-  EXPECT_EQ(EinstellungenZahl[28], 2005);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2005);
   verbindung().steuere("pragma max_page_count = 1000000");
-  naechsterAnlauf();
+  nächsterAnlauf();
 }
 
 TEST_F(Jahresabbruch, WennErstDasFestschreibenKeinenPlatzFindetIstEsEbenso) {
@@ -139,11 +134,11 @@ TEST_F(Jahresabbruch, WennErstDasFestschreibenKeinenPlatzFindetIstEsEbenso) {
     EXPECT_THROW(VolkTermineSetzen(db(), immerJa()), Datenbankfehler);
   }
   nurDieAltenTermine();
-  EXPECT_EQ(EinstellungenZahl[28], 2005);
-  naechsterAnlauf();
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2005);
+  nächsterAnlauf();
 }
 
-TEST_F(Jahresabbruch, AlleNeuSetzenLaesstBeiVollemDatentraegerDieAltenTermineStehen) {
+TEST_F(Jahresabbruch, AlleNeuSetzenLässtBeiVollemDatenträgerDieAltenTermineStehen) {
   db().Execute("update Termine set Termin = 'Option 0'");
   QList<Optionszeile> optionen;
   const Daten zeilen = db().Lesen(optionenAnweisung());
@@ -159,7 +154,7 @@ TEST_F(Jahresabbruch, AlleNeuSetzenLaesstBeiVollemDatentraegerDieAltenTermineSte
   alleNeuenTermine();
 }
 
-TEST_F(Jahresabbruch, EineNeueOptionIstBeiVollemDatentraegerWederDaNochHatSieTermine) {
+TEST_F(Jahresabbruch, EineNeueOptionIstBeiVollemDatenträgerWederDaNochHatSieTermine) {
   const Optionseingabe neu = {"Neu", "26.06", "31.12", "14", "J", "", ""};
   const int seiten = verbindung().steuere("pragma page_count").toInt();
   verbindung().steuere("pragma max_page_count = " + QByteArray::number(seiten + 1));
@@ -168,14 +163,14 @@ TEST_F(Jahresabbruch, EineNeueOptionIstBeiVollemDatentraegerWederDaNochHatSieTer
   nurDieAltenTermine();
   verbindung().steuere("pragma max_page_count = 1000000");
   optionAnlegen(db(), neu);
-  EXPECT_EQ(anzahl("Termine"), 1 + Voelker * TageJeOption);
+  EXPECT_EQ(anzahl("Termine"), 1 + Völker * TageJeOption);
 }
 
 // --- killed ---
 
 class Jahresmord : public Jahresabbruch, public testing::WithParamInterface<const char*> {
  protected:
-  void toeteBei(const QString& stelle) {
+  void töteBei(const QString& stelle) {
     trennen();
     QProcess programm;
     programm.start(QCoreApplication::applicationFilePath(),
@@ -186,30 +181,30 @@ class Jahresmord : public Jahresabbruch, public testing::WithParamInterface<cons
 };
 
 TEST_P(Jahresmord, MittenImLaufBleibenDieAltenTermineUndDieFrageKommtWieder) {
-  toeteBei(GetParam());
+  töteBei(GetParam());
   // It was in the middle of writing: the journal lies there.
   EXPECT_GT(QFileInfo(DatenbankPfad + "-journal").size(), 0);
-  neuOeffnen();
+  neuÖffnen();
   heil();
   nurDieAltenTermine();
-  EXPECT_EQ(EinstellungenZahl[28], 2005);
-  naechsterAnlauf();
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2005);
+  nächsterAnlauf();
 }
 
 INSTANTIATE_TEST_SUITE_P(BeimVolk, Jahresmord, testing::Values("1", "100", "200"));
 
 TEST_F(Jahresmord, NachDemSchreibenSindAlleTermineDaUndDieFrageKommtNochEinmal) {
-  toeteBei("Meldung");
-  neuOeffnen();
+  töteBei("Meldung");
+  neuÖffnen();
   heil();
   alleNeuenTermine();
-  EXPECT_EQ(EinstellungenZahl[28], 2005);
-  naechsterAnlauf();
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2005);
+  nächsterAnlauf();
 }
 
 TEST_F(Jahresmord, NachDemEndeIstAllesDaUndKeineFrageKommt) {
-  toeteBei("Ende");
-  neuOeffnen();
+  töteBei("Ende");
+  neuÖffnen();
   heil();
   alleNeuenTermine();
   EXPECT_FALSE(neuesJahr());
@@ -217,14 +212,14 @@ TEST_F(Jahresmord, NachDemEndeIstAllesDaUndKeineFrageKommt) {
 
 // --- the tables of an earlier version: the start asks before it extends them ---
 
-bool fehlteFrueher(const QString& feld) {
+bool fehlteFrüher(const QString& feld) {
   static const QStringList neu = {"Futterwaben",      "HW_verdeckelt", "BW_Stift",    "BW_offen",
                                   "BW_verdeckelt",    "Belegstelle",   "Zuchtbuchnr", "Charge",
                                   "Waben_je_Magazin", "PTop",          "PLeft"};
   return neu.contains(feld.section(' ', 0, 0));
 }
 
-TEST_F(Jahresabbruch, MitDenTabellenEinerFrueherenVersionLaeuftDerJahreslaufEbenso) {
+TEST_F(Jahresabbruch, MitDenTabellenEinerFrüherenVersionLäuftDerJahreslaufEbenso) {
   for (const Tabelle& tabelle : schema()) {
     if (tabelle.name == "DIBVerschluss") db().Execute("drop table DIBVerschluss");
     if (!QStringList({"Bienenvolk", "Honigernte", "Stockkarte", "Standorte"})
@@ -233,7 +228,7 @@ TEST_F(Jahresabbruch, MitDenTabellenEinerFrueherenVersionLaeuftDerJahreslaufEben
     QStringList felder;
     const qsizetype klammer = tabelle.anlegen.indexOf('(');
     for (const QString& feld : tabelle.anlegen.mid(klammer + 1).chopped(1).split(", "))
-      if (!fehlteFrueher(feld)) felder << feld;
+      if (!fehlteFrüher(feld)) felder << feld;
     db().Execute("drop table " + tabelle.name);
     db().Execute("create table " + tabelle.name + "(" + felder.join(", ") + ")");
   }
@@ -245,7 +240,7 @@ TEST_F(Jahresabbruch, MitDenTabellenEinerFrueherenVersionLaeuftDerJahreslaufEben
   EXPECT_EQ(anzahl("Termine"), Optionen * TageJeOption + 2);
   EXPECT_EQ(anzahl("Termine", "Termin = 'Honig' and Datum >= #07/13/2006#"), 2);
   EXPECT_FALSE(neuesJahr());
-  EinstellungenText[24].clear();
+  EinstellungenText[Textslots.infofenster].clear();
   SchemaErweitern();  // and what the start does next finds its tables
   EXPECT_EQ(anzahl("Termine"), Optionen * TageJeOption + 2);
   EXPECT_EQ(wert("select count(*) as n from Bienenvolk where Futterwaben = 0").toInt(), 2);

@@ -18,7 +18,7 @@ const QString Startfrage =
     "befindlichen Völkern zugeordnet. Diese Aktion wird nur dann ausgeführt, wenn mindestens ein "
     "Volk und eine Arbeitsplanoption eingegeben wurde und im aktuellen Jahr noch keine variablen "
     "Termine gebucht sind.\r\n\r\nSoll die Aktion jetzt ausgeführt werden?";
-const QString Loeschfrage =
+const QString Löschfrage =
     "Es befinden sich im Jahr 2006 bereits volkabhängige Termine im Terminkalender. Die Termine "
     "für ein komplettes Jahr können nur dann eingetragen werden, wenn noch keine volkabhängigen "
     "Termine existieren. Sollen die existierenden Termine jetzt gelöscht werden?";
@@ -37,7 +37,7 @@ class Jahreslauf : public Testbetrieb {
   void SetUp() override {
     Testbetrieb::SetUp();
     db().Execute("delete from Arbeitsplanoptionen");
-    EinstellungenZahl[28] = 2005;
+    EinstellungenZahl[Zahlslots.terminjahr] = 2005;
   }
 
   // Runs with these answers, one for each question that must come.
@@ -108,7 +108,7 @@ class Jahreslauf : public Testbetrieb {
 
 }  // namespace
 
-TEST_F(Jahreslauf, NeinLaesstAllesWieEsIst) {
+TEST_F(Jahreslauf, NeinLässtAllesWieEsIst) {
   neuesVolk("1");
   option("Einwinterung", "15.09", 0, "15.09");
   laufe({false});
@@ -116,12 +116,12 @@ TEST_F(Jahreslauf, NeinLaesstAllesWieEsIst) {
   EXPECT_EQ(vorgaben, QList<bool>({false}));
   EXPECT_EQ(hinweise, QStringList());
   EXPECT_EQ(anzahl("Termine"), 0);
-  EXPECT_EQ(EinstellungenZahl[28], 2005);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2005);
   EXPECT_FALSE(gespeichert());
   EXPECT_TRUE(neuesJahr());
 }
 
-TEST_F(Jahreslauf, JaSchreibtVolkFuerVolkOptionFuerOption) {
+TEST_F(Jahreslauf, JaSchreibtVolkFürVolkOptionFürOption) {
   const qint64 a = neuesVolk("1");
   const qint64 b = neuesVolk("2");
   option("Einwinterung", "15.09", 0, "15.09");
@@ -134,12 +134,12 @@ TEST_F(Jahreslauf, JaSchreibtVolkFuerVolkOptionFuerOption) {
   };
   EXPECT_EQ(termine(), von(a) + von(b));
   EXPECT_EQ(hinweise, QStringList(Erfolg));
-  EXPECT_EQ(EinstellungenZahl[28], 2006);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2006);
   EXPECT_EQ(gespeichertesJahr(), "2006");
   EXPECT_FALSE(neuesJahr());
 }
 
-TEST_F(Jahreslauf, NurVoelkerImBestandBekommenTermine) {
+TEST_F(Jahreslauf, NurVölkerImBestandBekommenTermine) {
   const qint64 drin = neuesVolk("1");
   neuesVolk("2", "");
   db().Execute("insert into Bienenvolk(Volknr) values ('3')");
@@ -148,7 +148,7 @@ TEST_F(Jahreslauf, NurVoelkerImBestandBekommenTermine) {
   EXPECT_EQ(termine(), QStringList({QString("%1 Einwinterung 15.09. N").arg(drin)}));
 }
 
-TEST_F(Jahreslauf, VolkunabhaengigeOptionenBleibenUnberuehrt) {
+TEST_F(Jahreslauf, VolkunabhängigeOptionenBleibenUnberührt) {
   const qint64 volk = neuesVolk("1");
   option("Einwinterung", "15.09", 0, "15.09");
   option("Beuten bauen", "01.12", 0, "01.12", "N");
@@ -158,7 +158,7 @@ TEST_F(Jahreslauf, VolkunabhaengigeOptionenBleibenUnberuehrt) {
                                     QString("%1 Einwinterung 15.09. N").arg(volk)}));
 }
 
-TEST_F(Jahreslauf, NurJGiltAlsVolkabhaengig) {
+TEST_F(Jahreslauf, NurJGiltAlsVolkabhängig) {
   const qint64 volk = neuesVolk("1");
   option("Einwinterung", "15.09", 0, "15.09");
   option("Leer", "16.09", 0, "16.09", "");
@@ -174,28 +174,28 @@ TEST_F(Jahreslauf, OhneVolkKommtDerGrundUndDasJahrIstErledigt) {
   option("Einwinterung", "15.09", 0, "15.09");
   laufe({true});
   EXPECT_EQ(hinweise, QStringList(Nicht + KeinVolk));
-  EXPECT_EQ(EinstellungenZahl[28], 2006);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2006);
   EXPECT_EQ(gespeichertesJahr(), "2006");
 }
 
-TEST_F(Jahreslauf, OhneVolkabhaengigeOptionKommtDerGrund) {
+TEST_F(Jahreslauf, OhneVolkabhängigeOptionKommtDerGrund) {
   neuesVolk("1");
   option("Beuten bauen", "01.12", 0, "01.12", "N");
   laufe({true});
   EXPECT_EQ(hinweise, QStringList(Nicht + KeineOption));
   EXPECT_EQ(anzahl("Termine"), 0);
-  EXPECT_EQ(EinstellungenZahl[28], 2006);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2006);
 }
 
-TEST_F(Jahreslauf, AlleDreiGruendeStehenUntereinander) {
+TEST_F(Jahreslauf, AlleDreiGründeStehenUntereinander) {
   termin(QDate(2006, 1, 1), 4);
   laufe({true, false});
-  EXPECT_EQ(fragen, QStringList({Startfrage, Loeschfrage}));
+  EXPECT_EQ(fragen, QStringList({Startfrage, Löschfrage}));
   EXPECT_EQ(hinweise, QStringList(Nicht + KeinVolk + KeineOption + SchonGebucht));
   EXPECT_EQ(anzahl("Termine"), 1);
 }
 
-TEST_F(Jahreslauf, ZweimalImJahrOhneLoeschenWirdAbgelehnt) {
+TEST_F(Jahreslauf, ZweimalImJahrOhneLöschenWirdAbgelehnt) {
   neuesVolk("1");
   option("Einwinterung", "15.09", 0, "15.09");
   laufe({true});
@@ -206,7 +206,7 @@ TEST_F(Jahreslauf, ZweimalImJahrOhneLoeschenWirdAbgelehnt) {
   EXPECT_EQ(termine(), vorher);
 }
 
-TEST_F(Jahreslauf, ZweimalImJahrMitLoeschenGibtDieselbenTermine) {
+TEST_F(Jahreslauf, ZweimalImJahrMitLöschenGibtDieselbenTermine) {
   neuesVolk("1");
   neuesVolk("2");
   option("Honigernte", "01.06", 14, "31.08");
@@ -217,7 +217,7 @@ TEST_F(Jahreslauf, ZweimalImJahrMitLoeschenGibtDieselbenTermine) {
   EXPECT_EQ(termine(), vorher);
 }
 
-TEST_F(Jahreslauf, LoeschenNimmtOffeneUndErledigteNurDiesesJahresUndNurVonVoelkern) {
+TEST_F(Jahreslauf, LöschenNimmtOffeneUndErledigteNurDiesesJahresUndNurVonVölkern) {
   neuesVolk("1");
   option("Einwinterung", "15.01", 0, "15.01");  // gone by: gives none
   termin(QDate(2005, 12, 31), 7, "N", "Vorjahr");
@@ -232,7 +232,7 @@ TEST_F(Jahreslauf, LoeschenNimmtOffeneUndErledigteNurDiesesJahresUndNurVonVoelke
   EXPECT_EQ(hinweise, QStringList(Erfolg));
 }
 
-TEST_F(Jahreslauf, TermineAndererJahreUndOhneVolkFragenNichtNachDemLoeschen) {
+TEST_F(Jahreslauf, TermineAndererJahreUndOhneVolkFragenNichtNachDemLöschen) {
   neuesVolk("1");
   option("Einwinterung", "15.09", 0, "15.09");
   termin(QDate(2005, 12, 31), 1);
@@ -242,7 +242,7 @@ TEST_F(Jahreslauf, TermineAndererJahreUndOhneVolkFragenNichtNachDemLoeschen) {
   EXPECT_EQ(anzahl("Termine"), 4);
 }
 
-TEST_F(Jahreslauf, TermineMitLeererVolknummerGehoerenZuKeinemVolk) {
+TEST_F(Jahreslauf, TermineMitLeererVolknummerGehörenZuKeinemVolk) {
   neuesVolk("1");
   option("Einwinterung", "15.09", 0, "15.09");
   db().Execute("insert into Termine(Datum, Termin, Erledigt) values (?, 'Ohne', 'N')",
@@ -251,7 +251,7 @@ TEST_F(Jahreslauf, TermineMitLeererVolknummerGehoerenZuKeinemVolk) {
   EXPECT_EQ(anzahl("Termine"), 2);
 }
 
-TEST_F(Jahreslauf, LoeschfrageKommtAuchOhneVolkUndJaLoescht) {
+TEST_F(Jahreslauf, LöschfrageKommtAuchOhneVolkUndJaLöscht) {
   option("Einwinterung", "15.09", 0, "15.09");
   termin(QDate(2006, 6, 1), 7);
   laufe({true, true});
@@ -267,7 +267,7 @@ TEST_F(Jahreslauf, AlleFragenKommenVorDemErstenSchreiben) {
   EXPECT_EQ(termineBeiFrage, 1);
 }
 
-TEST_F(Jahreslauf, FortschrittZaehltDieVoelker) {
+TEST_F(Jahreslauf, FortschrittZähltDieVölker) {
   for (int i = 0; i < 3; ++i) neuesVolk(QString::number(i));
   option("Einwinterung", "15.09", 0, "15.09");
   laufe({true});
@@ -287,7 +287,7 @@ TEST_F(Jahreslauf, GebuchteHonigernteSchneidetNurDieSerieIhresVolkesAb) {
                  QString("%1 Honigernte 27.07. N").arg(b)}));
 }
 
-TEST_F(Jahreslauf, EineOptionUeberDenJahreswechselGibtKeineTermineUndStoertNicht) {
+TEST_F(Jahreslauf, EineOptionÜberDenJahreswechselGibtKeineTermineUndStörtNicht) {
   neuesVolk("1");
   option("Winterkontrolle", "01.11", 14, "15.05");
   laufe({true});
@@ -341,11 +341,11 @@ TEST_F(Jahreslauf, NachEinemFehlerBleibtDasJahrOffenUndKeinErfolgWirdGemeldet) {
   option("Schaltjahrarbeit", "29.02", 0, "29.02");
   EXPECT_NE(fehlertext({true}), "kein Fehler");
   EXPECT_EQ(hinweise, QStringList());
-  EXPECT_EQ(EinstellungenZahl[28], 2005);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2005);
   EXPECT_FALSE(gespeichert());
 }
 
-TEST_F(Jahreslauf, ZweiUngueltigeOptionenWerdenBeideGenannt) {
+TEST_F(Jahreslauf, ZweiUngültigeOptionenWerdenBeideGenannt) {
   neuesVolk("1");
   option("Eins", "29.02", 0, "29.02");
   option("Zwei", "01.05", 0, "31.06");
@@ -363,7 +363,7 @@ TEST_F(Jahreslauf, EineOptionMitUnbekannterBuchungWirdGenanntUndNimmtDieAnderenN
   EXPECT_TRUE(text.endsWith("Die Termine aller anderen Arbeitsplan-Optionen wurden eingetragen."));
   EXPECT_EQ(text.count("Seltsam"), 1);
   EXPECT_EQ(anzahl("Termine", "Termin = 'Einwinterung'"), 1);
-  EXPECT_EQ(EinstellungenZahl[28], 2005);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2005);
 }
 
 TEST_F(Jahreslauf, ImSchaltjahrHatDerNeunundzwanzigsteFebruarSeinenTermin) {
@@ -382,15 +382,15 @@ TEST_F(Jahreslauf, NichtGeschriebeneEinstellungenSindEinFehlerUndDieTermineBleib
   EXPECT_EQ(anzahl("Termine"), 1);
 }
 
-TEST_F(Jahreslauf, NeuesJahrIstJedesAndereJahrAuchEinFrueheres) {
+TEST_F(Jahreslauf, NeuesJahrIstJedesAndereJahrAuchEinFrüheres) {
   HeuteText = "31.12.2006";
-  EinstellungenZahl[28] = 2006;
+  EinstellungenZahl[Zahlslots.terminjahr] = 2006;
   EXPECT_FALSE(neuesJahr());
   HeuteText = "01.01.2007";
   EXPECT_TRUE(neuesJahr());
   HeuteText = "01.01.2005";
   EXPECT_TRUE(neuesJahr());
-  EinstellungenZahl[28] = 0;
+  EinstellungenZahl[Zahlslots.terminjahr] = 0;
   EXPECT_TRUE(neuesJahr());
 }
 
@@ -400,11 +400,11 @@ TEST_F(Jahreslauf, GibtDieselbenZeilenWieDieEinzelnenRechnungen) {
   for (int runde = 0; runde < 25; ++runde) {
     for (const char* tabelle : {"Bienenvolk", "Arbeitsplanoptionen", "Termine"})
       db().Execute(QString("delete from ") + tabelle);
-    QList<qint64> voelker;
+    QList<qint64> völker;
     for (int i = zufall.bounded(1, 5); i > 0; --i)
       if (const bool drin = zufall.bounded(3) > 0;
           const qint64 id = neuesVolk("1", drin ? "X" : ""))
-        if (drin) voelker << id;
+        if (drin) völker << id;
     QList<qint64> optionen;
     for (int i = zufall.bounded(1, 6); i > 0; --i) {
       const auto tag = [&] {
@@ -413,16 +413,15 @@ TEST_F(Jahreslauf, GibtDieselbenZeilenWieDieEinzelnenRechnungen) {
             .arg(zufall.bounded(1, 13), 2, 10, QChar('0'));
       };
       const QString start = tag();
-      const bool abhaengig = zufall.bounded(4) > 0;
-      const qint64 id =
-          option("Arbeit", start, zufall.bounded(0, 40), tag(), abhaengig ? "J" : "N");
-      if (abhaengig) optionen << id;
+      const bool abhängig = zufall.bounded(4) > 0;
+      const qint64 id = option("Arbeit", start, zufall.bounded(0, 40), tag(), abhängig ? "J" : "N");
+      if (abhängig) optionen << id;
     }
-    if (voelker.isEmpty() || optionen.isEmpty()) continue;
+    if (völker.isEmpty() || optionen.isEmpty()) continue;
     laufe({true});
     const QStringList ist = termine();
     db().Execute("delete from Termine");
-    for (const qint64 volk : voelker)
+    for (const qint64 volk : völker)
       for (const qint64 o : optionen) TermineBerechnen(db(), o, volk);
     EXPECT_EQ(ist, termine()) << runde;
   }

@@ -22,8 +22,8 @@ class Optionen : public Testbetrieb {
                                 const QString& buchung = {}, const QString& arbeit = {}) {
     return {name, start, ende, frist, volk, buchung, arbeit};
   }
-  static QString pruefe(const QString& name, const QString& start, const QString& ende) {
-    return optionPruefen(eingabe(name, start, ende));
+  static QString prüfe(const QString& name, const QString& start, const QString& ende) {
+    return optionPrüfen(eingabe(name, start, ende));
   }
   static void termin(const QString& text, QDate datum, const QString& erledigt = "N",
                      qint64 volk = 1) {
@@ -51,63 +51,63 @@ class Optionen : public Testbetrieb {
 
 }  // namespace
 
-TEST_F(Optionen, EineVollstaendigeEingabeIstGut) { EXPECT_EQ(pruefe("A", "01.05", "30.06"), ""); }
+TEST_F(Optionen, EineVollständigeEingabeIstGut) { EXPECT_EQ(prüfe("A", "01.05", "30.06"), ""); }
 
 TEST_F(Optionen, OhneArbeitsartKommtDerGrund) {
-  EXPECT_EQ(pruefe("", "01.05", "30.06"), Kopf + OhneName);
-  EXPECT_EQ(pruefe("   ", "01.05", "30.06"), Kopf + OhneName);
+  EXPECT_EQ(prüfe("", "01.05", "30.06"), Kopf + OhneName);
+  EXPECT_EQ(prüfe("   ", "01.05", "30.06"), Kopf + OhneName);
 }
 
 TEST_F(Optionen, OhneStartOderEndeKommtDerGrund) {
-  EXPECT_EQ(pruefe("A", "", "30.06"), Kopf + OhneZeit);
-  EXPECT_EQ(pruefe("A", "", ""), Kopf + OhneZeit);
-  EXPECT_EQ(pruefe("A", "31.06", "30.07"), Kopf + OhneZeit);
-  EXPECT_EQ(pruefe("A", "01.06", "31.06"), Kopf + OhneZeit);
+  EXPECT_EQ(prüfe("A", "", "30.06"), Kopf + OhneZeit);
+  EXPECT_EQ(prüfe("A", "", ""), Kopf + OhneZeit);
+  EXPECT_EQ(prüfe("A", "31.06", "30.07"), Kopf + OhneZeit);
+  EXPECT_EQ(prüfe("A", "01.06", "31.06"), Kopf + OhneZeit);
 }
 
 // The days are compared as texts, whether they are days or not: nothing comes before something.
-TEST_F(Optionen, StartOhneEndeNenntBeideGruende) {
-  EXPECT_EQ(pruefe("A", "01.05", ""), Kopf + OhneZeit + Verkehrt);
+TEST_F(Optionen, StartOhneEndeNenntBeideGründe) {
+  EXPECT_EQ(prüfe("A", "01.05", ""), Kopf + OhneZeit + Verkehrt);
 }
 
 TEST_F(Optionen, StartHinterEndeKommtDerGrund) {
-  EXPECT_EQ(pruefe("A", "01.11", "15.05"), Kopf + Verkehrt);
-  EXPECT_EQ(pruefe("A", "02.05", "01.05"), Kopf + Verkehrt);
+  EXPECT_EQ(prüfe("A", "01.11", "15.05"), Kopf + Verkehrt);
+  EXPECT_EQ(prüfe("A", "02.05", "01.05"), Kopf + Verkehrt);
 }
 
-TEST_F(Optionen, DerMonatZaehltVorDemTag) { EXPECT_EQ(pruefe("A", "31.01", "01.02"), ""); }
+TEST_F(Optionen, DerMonatZähltVorDemTag) { EXPECT_EQ(prüfe("A", "31.01", "01.02"), ""); }
 
-TEST_F(Optionen, StartGleichEndeIstGut) { EXPECT_EQ(pruefe("A", "15.09", "15.09"), ""); }
+TEST_F(Optionen, StartGleichEndeIstGut) { EXPECT_EQ(prüfe("A", "15.09", "15.09"), ""); }
 
-TEST_F(Optionen, AlleGruendeStehenInIhrerOrdnung) {
-  EXPECT_EQ(pruefe("", "31.12", "30.02"), Kopf + OhneName + OhneZeit + Verkehrt);
+TEST_F(Optionen, AlleGründeStehenInIhrerOrdnung) {
+  EXPECT_EQ(prüfe("", "31.12", "30.02"), Kopf + OhneName + OhneZeit + Verkehrt);
 }
 
 TEST_F(Optionen, NeunundzwanzigsterFebruarWirdOhneSchalttagAbgelehnt) {
   HeuteText = "20.06.2006";
-  EXPECT_EQ(pruefe("A", "29.02", "30.06"), Kopf + OhneZeit);
+  EXPECT_EQ(prüfe("A", "29.02", "30.06"), Kopf + OhneZeit);
   HeuteText = "20.06.2008";
-  EXPECT_EQ(pruefe("A", "29.02", "30.06"), "");
+  EXPECT_EQ(prüfe("A", "29.02", "30.06"), "");
 }
 
 TEST_F(Optionen, NameEinerAnderenOptionIstVergeben) {
   const qint64 a = option("Honigernte", "01.06", 14, "31.08");
   option("Fütterung", "01.09", 0, "01.09");
   const QString text = "Es existiert bereits ein Arbeitsplan mit dem Namen Fütterung.";
-  EXPECT_EQ(optionsnamePruefen(db(), "Fütterung", 0), text);
-  EXPECT_EQ(optionsnamePruefen(db(), "Fütterung", a), text);
-  EXPECT_EQ(optionsnamePruefen(db(), "Neu", 0), "");
+  EXPECT_EQ(optionsnamePrüfen(db(), "Fütterung", 0), text);
+  EXPECT_EQ(optionsnamePrüfen(db(), "Fütterung", a), text);
+  EXPECT_EQ(optionsnamePrüfen(db(), "Neu", 0), "");
 }
 
-TEST_F(Optionen, GrossUndKleinIstDerselbeName) {
+TEST_F(Optionen, GroßUndKleinIstDerselbeName) {
   option("Fütterung", "01.09", 0, "01.09");
-  EXPECT_EQ(optionsnamePruefen(db(), "fütterung", 0),
+  EXPECT_EQ(optionsnamePrüfen(db(), "fütterung", 0),
             "Es existiert bereits ein Arbeitsplan mit dem Namen fütterung.");
 }
 
 TEST_F(Optionen, EigenerNameIstBeimUmbenennenFrei) {
   const qint64 a = option("Honigernte", "01.06", 14, "31.08");
-  EXPECT_EQ(optionsnamePruefen(db(), "Honigernte", a), "");
+  EXPECT_EQ(optionsnamePrüfen(db(), "Honigernte", a), "");
 }
 
 TEST_F(Optionen, DieWahlDerBuchungHatIhreOrdnungUndKeineStockkarte) {
@@ -134,7 +134,7 @@ TEST_F(Optionen, ArbeitsartenDieGelesenGleichSindStehenEinmalDa) {
   EXPECT_EQ(arten.count("Rund um`s Volk"), 1);
 }
 
-TEST_F(Optionen, EineNeueOptionMitLeererVolkabhaengigkeitGibtJedemVolkIhreTermine) {
+TEST_F(Optionen, EineNeueOptionMitLeererVolkabhängigkeitGibtJedemVolkIhreTermine) {
   const qint64 a = neuesVolk("1");
   const qint64 b = neuesVolk("2");
   db().Execute("insert into Honigernte(Datum, Volk_ID) values (?, ?)", {QDate(2006, 7, 10), a});
@@ -148,7 +148,7 @@ TEST_F(Optionen, EineNeueOptionMitLeererVolkabhaengigkeitGibtJedemVolkIhreTermin
                                     QString("%1 Kontrolle 15.07.2006").arg(b)}));
 }
 
-TEST_F(Optionen, UmbenennenUndLoeschenNehmenDenNamenWieErInDerTabelleSteht) {
+TEST_F(Optionen, UmbenennenUndLöschenNehmenDenNamenWieErInDerTabelleSteht) {
   const qint64 id = option("Rund um's Volk", "01.06", 14, "31.08");
   termin("Rund um's Volk", QDate(2006, 7, 1));
   termin("Rund um`s Volk", QDate(2006, 7, 2));
@@ -188,13 +188,13 @@ TEST_F(Optionen, AnlegenSchreibtAlleSiebenFelder) {
             QStringList({"Honig`s", "01.06", "31.08", "14", "J", "Honigernte", "Schleudern"}));
 }
 
-TEST_F(Optionen, EinTagOhneFuehrendeNullWirdAufgefuellt) {
-  EXPECT_EQ(pruefe("A", "1.6", "15.10"), "");
+TEST_F(Optionen, EinTagOhneFührendeNullWirdAufgefüllt) {
+  EXPECT_EQ(prüfe("A", "1.6", "15.10"), "");
   const qint64 id = optionAnlegen(db(), eingabe("A", "1.6", "15.10"));
   EXPECT_EQ(wert("select Startzeitraum from Arbeitsplanoptionen where ID = ?", {id}), "01.06");
 }
 
-TEST_F(Optionen, EineNeueVolkabhaengigeOptionGibtJedemVolkImBestandSeineReihe) {
+TEST_F(Optionen, EineNeueVolkabhängigeOptionGibtJedemVolkImBestandSeineReihe) {
   const qint64 a = neuesVolk("1");
   neuesVolk("2", "");
   const qint64 c = neuesVolk("3");
@@ -205,7 +205,7 @@ TEST_F(Optionen, EineNeueVolkabhaengigeOptionGibtJedemVolkImBestandSeineReihe) {
                                     QString("%1 Kontrolle 15.07.2006").arg(c)}));
 }
 
-TEST_F(Optionen, EineNeueVolkunabhaengigeOptionGibtEineReiheOhneVolk) {
+TEST_F(Optionen, EineNeueVolkunabhängigeOptionGibtEineReiheOhneVolk) {
   neuesVolk("1");
   neuesVolk("2");
   optionAnlegen(db(), eingabe("Beuten bauen", "01.12", "01.12", "0", "N"));
@@ -219,7 +219,7 @@ TEST_F(Optionen, OhneVolkImBestandWirdNurDieOptionGespeichert) {
   EXPECT_EQ(anzahl("Termine"), 0);
 }
 
-TEST_F(Optionen, UmbenennenAendertNurDenNamenUndAlleSeineTermine) {
+TEST_F(Optionen, UmbenennenÄndertNurDenNamenUndAlleSeineTermine) {
   const qint64 id = option("Alt", "01.06", 14, "31.08", "J", "Honigernte", "Art");
   termin("Alt", QDate(1999, 5, 1), "J");
   termin("Alt", QDate(2006, 7, 1));
@@ -234,7 +234,7 @@ TEST_F(Optionen, UmbenennenAendertNurDenNamenUndAlleSeineTermine) {
   EXPECT_EQ(anzahl("Termine", "Erledigt = 'J'"), 1);
 }
 
-TEST_F(Optionen, UmbenennenEinerVerschwundenenOptionNenntSieUndAendertKeineTermine) {
+TEST_F(Optionen, UmbenennenEinerVerschwundenenOptionNenntSieUndÄndertKeineTermine) {
   const qint64 id = option("Alt", "01.06", 14, "31.08");
   termin("Alt", QDate(2006, 7, 1));
   db().Execute("delete from Arbeitsplanoptionen");
@@ -242,7 +242,7 @@ TEST_F(Optionen, UmbenennenEinerVerschwundenenOptionNenntSieUndAendertKeineTermi
   EXPECT_EQ(termine(), QStringList({"1 Alt 01.07.2006"}));
 }
 
-TEST_F(Optionen, LoeschenNimmtDieTermineAllerJahreUndDieVonHand) {
+TEST_F(Optionen, LöschenNimmtDieTermineAllerJahreUndDieVonHand) {
   const qint64 id = option("Alt", "01.06", 14, "31.08");
   termin("Alt", QDate(1999, 5, 1), "J");
   termin("Alt", QDate(2006, 7, 1));
@@ -254,7 +254,7 @@ TEST_F(Optionen, LoeschenNimmtDieTermineAllerJahreUndDieVonHand) {
   EXPECT_EQ(anzahl("Arbeitsplanoptionen"), 0);
 }
 
-TEST_F(Optionen, LoescheNichtsWennDieZeileNichtGeht) {
+TEST_F(Optionen, LöscheNichtsWennDieZeileNichtGeht) {
   option("Alt", "01.06", 14, "31.08");
   termin("Alt", QDate(2006, 7, 1));
   EXPECT_THROW(optionLöschen(db(), "Alt", [] { throw Datenbankfehler({}, "nein"); }),
@@ -262,7 +262,7 @@ TEST_F(Optionen, LoescheNichtsWennDieZeileNichtGeht) {
   EXPECT_EQ(anzahl("Termine"), 1);
 }
 
-TEST_F(Optionen, NeuSetzenLoeschtAuchFruehereJahreUndErledigte) {
+TEST_F(Optionen, NeuSetzenLöschtAuchFrühereJahreUndErledigte) {
   const qint64 volk = neuesVolk("1");
   option("Kontrolle", "01.07", 0, "01.07");
   option("Werkstatt", "01.12", 0, "01.12", "N");
@@ -290,7 +290,7 @@ TEST_F(Optionen, NeuSetzenZweimalGibtDieselbenTermine) {
   EXPECT_EQ(einmal.size(), 2 * 8);  // 28.06. (27 days on) to 30.08.
 }
 
-TEST_F(Optionen, NeuSetzenLaesstEineUngueltigeOptionAusUndNenntSie) {
+TEST_F(Optionen, NeuSetzenLässtEineUngültigeOptionAusUndNenntSie) {
   neuesVolk("1");
   option("Arbeit", "29.02", 0, "29.02");
   option("Kontrolle", "01.07", 0, "01.07");
@@ -306,7 +306,7 @@ TEST_F(Optionen, NeuSetzenLaesstEineUngueltigeOptionAusUndNenntSie) {
   EXPECT_EQ(anzahl("Termine"), 1);
 }
 
-TEST_F(Optionen, NeuSetzenNimmtAllesAusserNAlsVolkabhaengig) {
+TEST_F(Optionen, NeuSetzenNimmtAllesAußerNAlsVolkabhängig) {
   const qint64 volk = neuesVolk("1");
   const qint64 id = option("Kontrolle", "01.07", 0, "01.07");
   alleTermineBerechnen(db(), {{id, "Kontrolle", ""}});

@@ -44,7 +44,7 @@ TEST(Optionsfehler, WennKeineGelangWirdDasAuchNichtBehauptet) {
   EXPECT_EQ(gemeldet(fehler), "eins\r\n\r\nzwei");
 }
 
-TEST(Optionsfehler, EineOptionDieBeimZweitenVolkScheitertZaehltNichtAlsAndere) {
+TEST(Optionsfehler, EineOptionDieBeimZweitenVolkScheitertZähltNichtAlsAndere) {
   Optionsfehler fehler;
   fehler.versuche(1, [] {});
   fehler.versuche(1, scheitert(Art::Wertebereich, "eins"));
@@ -62,10 +62,10 @@ TEST(Optionsfehler, DerNachsatzStehtAmEndeUndNurNachEinemFehler) {
 
 TEST(Optionsfehler, EineGescheiterteOptionWirdNichtNocheinmalGerechnet) {
   Optionsfehler fehler;
-  int laeufe = 0;
+  int läufe = 0;
   fehler.versuche(1, scheitert(Art::Wertebereich));
-  fehler.versuche(1, [&] { ++laeufe; });
-  EXPECT_EQ(laeufe, 0);
+  fehler.versuche(1, [&] { ++läufe; });
+  EXPECT_EQ(läufe, 0);
 }
 
 TEST(Optionsfehler, WasNichtAnDerOptionLiegtGehtSofortWeiter) {

@@ -24,19 +24,19 @@ class StarttermineTest : public Terminbestand {
 
 TEST_F(StarttermineTest, TitelNenntDieTageMitEinemBlankDavor) {
   EXPECT_EQ(titel(), "Aktuelle offene Termine (bis 14 Tage ab heute)");
-  TZ_Variablen::EinstellungenZahl[17] = 3;
+  TZ_Variablen::EinstellungenZahl[Zahlslots.termintage] = 3;
   EXPECT_EQ(titel(), "Aktuelle offene Termine (bis 3 Tage ab heute)");
 }
 
-TEST_F(StarttermineTest, GrenzeIstHeutePlusTageUndGehoertDazu) {
+TEST_F(StarttermineTest, GrenzeIstHeutePlusTageUndGehörtDazu) {
   EXPECT_EQ(grenze(), tag(7, 4));
   termin(tag(7, 4), "am Grenztag");
   termin(tag(7, 5), "danach");
   EXPECT_EQ(zeilen(liste(db())), "04.07.2006|am Grenztag|||");
 }
 
-TEST_F(StarttermineTest, NullTageZeigenVersaeumtesUndHeute) {
-  TZ_Variablen::EinstellungenZahl[17] = 0;
+TEST_F(StarttermineTest, NullTageZeigenVersäumtesUndHeute) {
+  TZ_Variablen::EinstellungenZahl[Zahlslots.termintage] = 0;
   termin(QDate(2003, 1, 1), "vor Jahren");
   termin(tag(6, 20), "heute");
   termin(tag(6, 21), "morgen");
@@ -74,7 +74,7 @@ TEST_F(StarttermineTest, ListeHatDieSpaltenUndIDs) {
   EXPECT_EQ(daten->ganzzahl(0, 5), id);
 }
 
-TEST_F(StarttermineTest, GruppiertGibtEineZeileJeStandortTagUndArtMitDerZahlDerVoelker) {
+TEST_F(StarttermineTest, GruppiertGibtEineZeileJeStandortTagUndArtMitDerZahlDerVölker) {
   const qint64 a = neuesVolk("1", "X", "Heide");
   const qint64 b = neuesVolk("2", "X", "Heide");
   const qint64 c = neuesVolk("3", "X", "Hof");
@@ -91,7 +91,7 @@ TEST_F(StarttermineTest, GruppiertGibtEineZeileJeStandortTagUndArtMitDerZahlDerV
   EXPECT_EQ(daten->spalte(3).name, QString("Anz_Völker"));
 }
 
-TEST_F(StarttermineTest, AktuellerMitUngueltigemDatumBehaeltTagUndReihe) {
+TEST_F(StarttermineTest, AktuellerMitUngültigemDatumBehältTagUndReihe) {
   const qint64 id = termin(tag(6, 15), "A", 7);
   termin(tag(6, 29), "A", 7);
   option("A", "01.06", 14, "31.08");
@@ -130,14 +130,14 @@ TEST_F(StarttermineTest, BisHeuteErledigtAuchHeuteUndNichtMorgen) {
 }
 
 TEST_F(StarttermineTest, StandortBrauchtArtOrtUndDatum) {
-  EXPECT_TRUE(unvollstaendig({"", "Hof", "20.06.2006"}));
-  EXPECT_TRUE(unvollstaendig({"A", "", "20.06.2006"}));
-  EXPECT_TRUE(unvollstaendig({"A", "Hof", ""}));
-  EXPECT_TRUE(unvollstaendig({"A", "Hof", "31.02.2006"}));
-  EXPECT_FALSE(unvollstaendig({"A", "Hof", "20.06.2006"}));
+  EXPECT_TRUE(unvollständig({"", "Hof", "20.06.2006"}));
+  EXPECT_TRUE(unvollständig({"A", "", "20.06.2006"}));
+  EXPECT_TRUE(unvollständig({"A", "Hof", ""}));
+  EXPECT_TRUE(unvollständig({"A", "Hof", "31.02.2006"}));
+  EXPECT_FALSE(unvollständig({"A", "Hof", "20.06.2006"}));
 }
 
-TEST_F(StarttermineTest, StandortZaehltOffeneDerArtBisZumTag) {
+TEST_F(StarttermineTest, StandortZähltOffeneDerArtBisZumTag) {
   const qint64 a = neuesVolk("1", "X", "Hof");
   const qint64 b = neuesVolk("2", "X", "Heide");
   termin(tag(6, 21), "A", a);
@@ -190,7 +190,7 @@ TEST_F(StarttermineTest, StandortPasstDieReiheJedesVolkesAn) {
             "20.06. A J " + std::to_string(b) + "; 04.07. A N " + std::to_string(b));
 }
 
-TEST_F(StarttermineTest, StandortMitUngueltigemDatumBehaeltDieTageUndDieReihe) {
+TEST_F(StarttermineTest, StandortMitUngültigemDatumBehältDieTageUndDieReihe) {
   const qint64 volk = neuesVolk("1", "X", "Hof");
   option("A", "01.06", 14, "31.08");
   for (const char* datum : {"", "31.02.2006"}) {
@@ -209,11 +209,11 @@ TEST_F(StarttermineTest, StandortFindetWasMitBacktickGespeichertIst) {
   EXPECT_EQ(gefunden(db(), {"Rund um's Volk", "Bauer's Hof", "30.06.2006"}), 1);
   amStandort(" Rund um's Volk", "Bauer's Hof ", "30.06.2006", {"20.06.2006", false});
   EXPECT_EQ(termine(), "20.06. Rund um`s Volk J " + std::to_string(volk));
-  EXPECT_TRUE(unvollstaendig({" ", "Hof", "30.06.2006"}));
-  EXPECT_TRUE(unvollstaendig({"A", " ", "30.06.2006"}));
+  EXPECT_TRUE(unvollständig({" ", "Hof", "30.06.2006"}));
+  EXPECT_TRUE(unvollständig({"A", " ", "30.06.2006"}));
 }
 
-TEST_F(StarttermineTest, StandortAchtetNichtAufGrossUndKlein) {
+TEST_F(StarttermineTest, StandortAchtetNichtAufGroßUndKlein) {
   const qint64 volk = neuesVolk("1", "X", "Hof");
   termin(tag(6, 15), "Durchsicht", volk);
   EXPECT_EQ(gefunden(db(), {"durchsicht", "HOF", "30.06.2006"}), 1);
@@ -221,7 +221,7 @@ TEST_F(StarttermineTest, StandortAchtetNichtAufGrossUndKlein) {
   EXPECT_EQ(termine(), "20.06. Durchsicht J " + std::to_string(volk));
 }
 
-TEST_F(StarttermineTest, StandortLaesstAllgemeineTermineDerselbenArtOffen) {
+TEST_F(StarttermineTest, StandortLässtAllgemeineTermineDerselbenArtOffen) {
   const qint64 volk = neuesVolk("1", "X", "");
   termin(tag(6, 15), "A");
   termin(tag(6, 15), "A", volk);
@@ -237,13 +237,13 @@ TEST_F(StarttermineTest, FragenUndHinweisNennenZahlUndTag) {
             "werden?");
   EXPECT_EQ(standortFrage(2),
             "Es wurden 2 Termine gefunden. Sollen diese wirklich erledigt werden?");
-  EXPECT_EQ(unvollstaendigText(),
+  EXPECT_EQ(unvollständigText(),
             "Die Terminart, der betroffene Standort und der Zeitraum (bis wann eine Erledigung "
             "gewünscht wird) muss angegeben werden!");
 }
 
 // Every row stands in its place, whichever way the two statements gave it.
-TEST_F(StarttermineTest, FuenfzigtausendZeilenStehenGeordnet) {
+TEST_F(StarttermineTest, FünfzigtausendZeilenStehenGeordnet) {
   const qint64 volk = neuesVolk("1", "X", "Hof");
   db().Sammelschreiben([&] {
     for (int i = 0; i < 50000; ++i)

@@ -8,7 +8,7 @@ class Terminbestand : public Testbetrieb {
   void SetUp() override {
     Testbetrieb::SetUp();
     db().Execute("delete from Arbeitsplanoptionen");
-    TZ_Variablen::EinstellungenZahl[17] = 14;
+    TZ_Variablen::EinstellungenZahl[Zahlslots.termintage] = 14;
   }
 
   static QDate tag(int monat, int tagImMonat) { return {2006, monat, tagImMonat}; }

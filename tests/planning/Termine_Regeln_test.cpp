@@ -53,7 +53,7 @@ TEST_P(Erledigung, EineBuchungSchneidetDenAnfangDerSerieAb) {
   EXPECT_EQ(tage(), "13.07. 27.07.");
 }
 
-TEST_P(Erledigung, EineBuchungAmSerientagLaesstDiesenTagStehen) {
+TEST_P(Erledigung, EineBuchungAmSerientagLässtDiesenTagStehen) {
   buche(GetParam(), QDate(2006, 7, 13));
   TermineBerechnen(db(), option("Arbeit", "01.06", 14, "31.07", "J", GetParam()), Volk);
   EXPECT_EQ(tage(), "13.07. 27.07.");
@@ -77,7 +77,7 @@ TEST_F(Terminregeln, OptionOhneVolkBeachtetKeineArbeitsart) {
   EXPECT_EQ(tage(), "29.06. 13.07. 27.07.");
 }
 
-TEST_F(Terminregeln, OptionMitLeererVolkabhaengigkeitBeachtetWederBuchungNochArbeitsart) {
+TEST_F(Terminregeln, OptionMitLeererVolkabhängigkeitBeachtetWederBuchungNochArbeitsart) {
   buche("Honigernte", QDate(2006, 7, 20));
   arbeite("Schied", QDate(2006, 7, 20));
   TermineBerechnen(db(), option("Arbeit", "01.06", 14, "31.07", "", "Honigernte", "Schied"), Volk);
@@ -85,32 +85,32 @@ TEST_F(Terminregeln, OptionMitLeererVolkabhaengigkeitBeachtetWederBuchungNochArb
   EXPECT_EQ(anzahl("Termine", "Volk_ID = 7"), 3);
 }
 
-TEST_F(Terminregeln, EineBuchungAmHeutigenTagLaesstDenHeutigenTerminStehen) {
+TEST_F(Terminregeln, EineBuchungAmHeutigenTagLässtDenHeutigenTerminStehen) {
   HeuteText = "15.06.2006";
   buche("Honigernte", QDate(2006, 6, 15));
   TermineBerechnen(db(), option("Arbeit", "01.06", 14, "30.06", "J", "Honigernte"), Volk);
   EXPECT_EQ(tage(), "15.06. 29.06.");
 }
 
-TEST_F(Terminregeln, EineBuchungVorDemBeginnAendertNichts) {
+TEST_F(Terminregeln, EineBuchungVorDemBeginnÄndertNichts) {
   buche("Honigernte", QDate(2006, 6, 25));
   TermineBerechnen(db(), option("Arbeit", "01.07", 14, "31.07", "J", "Honigernte"), Volk);
   EXPECT_EQ(tage(), "01.07. 15.07. 29.07.");
 }
 
-TEST_F(Terminregeln, EineBuchungNachDemEndeOderImFolgejahrLaesstKeinenTag) {
+TEST_F(Terminregeln, EineBuchungNachDemEndeOderImFolgejahrLässtKeinenTag) {
   buche("Honigernte", QDate(2007, 1, 2));
   TermineBerechnen(db(), option("Arbeit", "01.06", 14, "31.07", "J", "Honigernte"), Volk);
   EXPECT_EQ(tage(), "");
 }
 
-TEST_F(Terminregeln, EineBuchungOhneDatumZaehltNicht) {
+TEST_F(Terminregeln, EineBuchungOhneDatumZähltNicht) {
   buche("Honigernte", QVariant());
   TermineBerechnen(db(), option("Arbeit", "01.07", 14, "31.07", "J", "Honigernte"), Volk);
   EXPECT_EQ(tage(), "01.07. 15.07. 29.07.");
 }
 
-TEST_F(Terminregeln, DieArbeitsartGiltOhneGrossUndKlein) {
+TEST_F(Terminregeln, DieArbeitsartGiltOhneGroßUndKlein) {
   arbeite("SCHIED", QDate(2006, 7, 2));
   TermineBerechnen(db(), option("Arbeit", "01.07", 14, "31.07", "J", "", "Schied"), Volk);
   EXPECT_EQ(tage(), "15.07. 29.07.");
@@ -151,7 +151,7 @@ TEST_F(Terminregeln, OhneTabelleArbeitenWirdDieOptionMitIhrerArbeitsartGenannt) 
   EXPECT_TRUE(text.contains("Arbeitsart 'Schied'")) << text.toStdString();
 }
 
-TEST_F(Terminregeln, EineOptionOhneVolkStoertSichNichtAnEinerFehlendenBuchungstabelle) {
+TEST_F(Terminregeln, EineOptionOhneVolkStörtSichNichtAnEinerFehlendenBuchungstabelle) {
   TermineBerechnen(db(), option("Arbeit", "01.07", 0, "01.07", "N", "Gibtesnicht"), 0);
   EXPECT_EQ(tage(), "01.07.");
 }
@@ -170,7 +170,7 @@ TEST_F(Terminregeln, FristNeunundneunzigGibtVierTageImJahr) {
   EXPECT_EQ(tage(), "01.01. 10.04. 18.07. 25.10.");
 }
 
-TEST_F(Terminregeln, FristNeunundneunzigUeberDenSchalttag) {
+TEST_F(Terminregeln, FristNeunundneunzigÜberDenSchalttag) {
   HeuteText = "01.01.2008";
   TermineBerechnen(db(), option("Arbeit", "01.01", 99, "31.12"), Volk);
   EXPECT_EQ(tage(), "01.01. 09.04. 17.07. 24.10.");
@@ -189,7 +189,7 @@ TEST_F(Terminregeln, DasEndeVorDemBeginnGibtBeiKeinerFristEinenTermin) {
   EXPECT_EQ(tage(), "");
 }
 
-TEST_F(Terminregeln, FristEinsLaeuftUeberDenSchalttag) {
+TEST_F(Terminregeln, FristEinsLäuftÜberDenSchalttag) {
   HeuteText = "01.01.2008";
   TermineBerechnen(db(), option("Arbeit", "28.02", 1, "01.03"), Volk);
   EXPECT_EQ(tage(), "28.02. 29.02. 01.03.");
@@ -221,13 +221,13 @@ struct Zufallsbuchung {
 struct Zufallsfall {
   QDate heute, beginn, ende;
   int frist;
-  QString volkabhaengig, buchung, arbeit;
+  QString volkabhängig, buchung, arbeit;
   QList<Zufallsbuchung> buchungen;
 };
 
 const QStringList arbeitsarten = {"", "Schied", "Absperren"};
 
-Zufallsfall wuerfle(QRandomGenerator& zufall) {
+Zufallsfall würfle(QRandomGenerator& zufall) {
   const auto eines = [&](const QStringList& liste) {
     return liste[zufall.bounded(static_cast<int>(liste.size()))];
   };
@@ -238,7 +238,7 @@ Zufallsfall wuerfle(QRandomGenerator& zufall) {
   if (f.ende < f.beginn && zufall.bounded(4) > 0) std::swap(f.beginn, f.ende);
   if (zufall.bounded(8) == 0) f.ende = f.beginn;
   f.frist = QList<int>{0, 1, 99}.value(zufall.bounded(6), zufall.bounded(100));
-  f.volkabhaengig = eines({"J", "J", "J", "N", ""});
+  f.volkabhängig = eines({"J", "J", "J", "N", ""});
   f.buchung = eines(erledigtBuchungen());
   f.arbeit = eines(arbeitsarten);
   for (int i = zufall.bounded(8); i > 0; --i) {
@@ -257,7 +257,7 @@ QList<QDate> vonHand(const Zufallsfall& f, int volk) {
   for (const Zufallsbuchung& b : f.buchungen) {
     const bool diese = !f.buchung.isEmpty() && b.tabelle == f.buchung;
     const bool jene = !f.arbeit.isEmpty() && b.tabelle == "Arbeiten" && b.arbeit == f.arbeit;
-    if (f.volkabhaengig == "J" && b.volk == volk && (diese || jene))
+    if (f.volkabhängig == "J" && b.volk == volk && (diese || jene))
       schwelle = std::max(schwelle, b.datum);
   }
   QList<QDate> tage;
@@ -274,7 +274,7 @@ QString beschreibe(const Zufallsfall& f) {
                     f.beginn.toString("dd.MM."),
                     f.ende.toString("dd.MM."),
                     QString::number(f.frist),
-                    f.volkabhaengig,
+                    f.volkabhängig,
                     f.buchung,
                     f.arbeit};
   for (const Zufallsbuchung& b : f.buchungen)
@@ -304,15 +304,15 @@ QList<QDate> geschrieben(const Zufallsfall& f, int volk, const std::function<qin
   return tage;
 }
 
-TEST_F(Terminregeln, JedeOptionGibtGenauDieTageDieTagFuerTagGezaehltGelten) {
+TEST_F(Terminregeln, JedeOptionGibtGenauDieTageDieTagFürTagGezähltGelten) {
   QRandomGenerator zufall(19990227);
   int mitTagen = 0;
   db().Sammelschreiben([&] {  // one commit for all, for speed
     for (int runde = 0; runde < 800; ++runde) {
-      const Zufallsfall f = wuerfle(zufall);
+      const Zufallsfall f = würfle(zufall);
       const auto anlegen = [&] {
         return option("Arbeit", f.beginn.toString("dd.MM"), f.frist, f.ende.toString("dd.MM"),
-                      f.volkabhaengig, f.buchung, f.arbeit);
+                      f.volkabhängig, f.buchung, f.arbeit);
       };
       for (const int volk : {7, 8}) {
         const QList<QDate> soll = vonHand(f, volk);

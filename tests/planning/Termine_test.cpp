@@ -25,8 +25,8 @@ class Termine : public Testbetrieb {
     db().Execute("insert into Arbeiten(Datum, Arbeitsart, Volk_ID) values (?, ?, ?)",
                  {datum, art, volkId});
   }
-  static qint64 honigoption(const QString& volkabhaengig = "J") {
-    return option("Honigernte", "01.06", 14, "31.08", volkabhaengig, "Honigernte");
+  static qint64 honigoption(const QString& volkabhängig = "J") {
+    return option("Honigernte", "01.06", 14, "31.08", volkabhängig, "Honigernte");
   }
 
   // The days in Termine as "dd.mm. dd.mm.", in the order in which they were written.
@@ -39,7 +39,7 @@ class Termine : public Testbetrieb {
   }
 };
 
-TEST_F(Termine, SerieHaengtAmStartzeitraum) {
+TEST_F(Termine, SerieHängtAmStartzeitraum) {
   heute("01.01.2006");
   TermineBerechnen(db(), honigoption(), Volk);
   EXPECT_EQ(tage(), "01.06. 15.06. 29.06. 13.07. 27.07. 10.08. 24.08.");
@@ -57,7 +57,7 @@ TEST_F(Termine, HeuteAufEinemSerientagBleibtDrin) {
   EXPECT_EQ(tage(), "15.06. 29.06. 13.07. 27.07. 10.08. 24.08.");
 }
 
-TEST_F(Termine, BuchungAmSerientagLaesstDiesenTagStehen) {
+TEST_F(Termine, BuchungAmSerientagLässtDiesenTagStehen) {
   heute("20.06.2006");
   buche("Honigernte", QDate(2006, 6, 29));
   TermineBerechnen(db(), honigoption(), Volk);
@@ -71,7 +71,7 @@ TEST_F(Termine, BuchungZwischenSerientagenVerschiebtDieSerieNicht) {
   EXPECT_EQ(tage(), "13.07. 27.07. 10.08. 24.08.");
 }
 
-TEST_F(Termine, DieNeuesteBuchungZaehlt) {
+TEST_F(Termine, DieNeuesteBuchungZählt) {
   heute("20.06.2006");
   buche("Honigernte", QDate(2006, 8, 1));
   buche("Honigernte", QDate(2006, 6, 21));
@@ -79,21 +79,21 @@ TEST_F(Termine, DieNeuesteBuchungZaehlt) {
   EXPECT_EQ(tage(), "10.08. 24.08.");
 }
 
-TEST_F(Termine, BuchungVorHeuteAendertNichts) {
+TEST_F(Termine, BuchungVorHeuteÄndertNichts) {
   heute("20.06.2006");
   buche("Honigernte", QDate(2006, 6, 16));
   TermineBerechnen(db(), honigoption(), Volk);
   EXPECT_EQ(tage(), "29.06. 13.07. 27.07. 10.08. 24.08.");
 }
 
-TEST_F(Termine, BuchungEinesAnderenVolkesZaehltNicht) {
+TEST_F(Termine, BuchungEinesAnderenVolkesZähltNicht) {
   heute("20.06.2006");
   buche("Honigernte", QDate(2006, 8, 1), AnderesVolk);
   TermineBerechnen(db(), honigoption(), Volk);
   EXPECT_EQ(tage(), "29.06. 13.07. 27.07. 10.08. 24.08.");
 }
 
-TEST_F(Termine, BuchungEinerAnderenArtZaehltNicht) {
+TEST_F(Termine, BuchungEinerAnderenArtZähltNicht) {
   heute("20.06.2006");
   buche("Wachsernte", QDate(2006, 8, 1));
   TermineBerechnen(db(), honigoption(), Volk);
@@ -109,7 +109,7 @@ TEST_F(Termine, ArbeitsartSchneidetAb) {
   EXPECT_EQ(tage(), "27.07. 10.08. 24.08.");
 }
 
-TEST_F(Termine, VonBuchungUndArbeitZaehltDieSpaetere) {
+TEST_F(Termine, VonBuchungUndArbeitZähltDieSpätere) {
   heute("20.06.2006");
   buche("Honigernte", QDate(2006, 7, 14));
   arbeite("Schleudern", QDate(2006, 6, 25));
@@ -155,13 +155,13 @@ TEST_F(Termine, BeginnGleichEndeMitFristGibtEinenTermin) {
   EXPECT_EQ(tage(), "10.04.");
 }
 
-TEST_F(Termine, LetzterTagDesZeitraumsGehoertDazu) {
+TEST_F(Termine, LetzterTagDesZeitraumsGehörtDazu) {
   heute("01.01.2006");
   TermineBerechnen(db(), option("Zweimal", "01.04", 9, "10.04"), Volk);
   EXPECT_EQ(tage(), "01.04. 10.04.");
 }
 
-TEST_F(Termine, ZeitraumUeberDenJahreswechselGibtKeinenTermin) {
+TEST_F(Termine, ZeitraumÜberDenJahreswechselGibtKeinenTermin) {
   heute("01.01.2006");
   TermineBerechnen(db(), option("Winterkontrolle", "01.11", 14, "15.05"), Volk);
   EXPECT_EQ(tage(), "");
@@ -178,7 +178,7 @@ TEST_F(Termine, UnbekannteOptionTutNichts) {
   EXPECT_EQ(tage(), "");
 }
 
-TEST_F(Termine, JedeBerechnungFuegtIhreZeilenHinzu) {
+TEST_F(Termine, JedeBerechnungFügtIhreZeilenHinzu) {
   heute("20.06.2006");
   const qint64 id = option("Schwarmkontrolle", "01.05", 9, "30.06");
   TermineBerechnen(db(), id, Volk);
@@ -186,7 +186,7 @@ TEST_F(Termine, JedeBerechnungFuegtIhreZeilenHinzu) {
   EXPECT_EQ(tage(), "24.06. 24.06.");
 }
 
-TEST_F(Termine, ZeileTraegtArbeitsartOffenUndVolk) {
+TEST_F(Termine, ZeileTrägtArbeitsartOffenUndVolk) {
   heute("20.06.2006");
   TermineBerechnen(db(), option(QString("Rähmchen bauen"), "24.06", 0, "24.06"), Volk);
   const Daten zeile = db().Lesen("select Datum, Termin, Erledigt, Volk_ID from Termine");

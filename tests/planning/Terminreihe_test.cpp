@@ -49,7 +49,7 @@ constexpr bool mitReihe = true;
 // The period ends in this year, whatever the year of the work.
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(
-    Faelle, Reihe,
+    Fälle, Reihe,
     testing::Values(
         Reihenfall{"KennzeichenNLaesstDenGeplantenTagUndDieReihe",
             {"10.06.", "24.06."}, Zeitraum{"01.06", 14, "31.08"}, "N", {"20.06.2006", mitReihe},
@@ -104,7 +104,7 @@ TEST_F(Reihenerledigung, NurDieOffenenDerselbenReiheDesselbenVolkesGehen) {
 }
 
 // The period ends in this year, whatever the year of the work.
-TEST_F(Reihenerledigung, TagDerArbeitImVorjahrFuehrtDieReiheBisZumEndeInDiesemJahr) {
+TEST_F(Reihenerledigung, TagDerArbeitImVorjahrFührtDieReiheBisZumEndeInDiesemJahr) {
   const qint64 id = termin(tag(1, 5), "A", 7);
   option("A", "01.01", 14, "31.01");
   TerminErledigen(db(), id, "J", "A", {"28.12.2005", true});
@@ -112,7 +112,7 @@ TEST_F(Reihenerledigung, TagDerArbeitImVorjahrFuehrtDieReiheBisZumEndeInDiesemJa
   EXPECT_EQ(anzahl("Termine", "Datum >= #01/01/2006# and Erledigt = 'N'"), 2);
 }
 
-TEST_F(Reihenerledigung, AllgemeinerTerminMitReiheLoeschtSeineOffenenBruederOhneVolk) {
+TEST_F(Reihenerledigung, AllgemeinerTerminMitReiheLöschtSeineOffenenBrüderOhneVolk) {
   const qint64 id = termin(tag(6, 15), "Schau");
   termin(tag(6, 29), "Schau");
   termin(tag(6, 29), "Schau", 7);

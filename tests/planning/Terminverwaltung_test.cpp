@@ -1,7 +1,7 @@
 #include "planning/Terminverwaltung.h"
 
 #include "planning/Terminbestand.h"
-#include "platform/database/Verbindung.h"
+#include "platform/database/verbindung/Verbindung.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ class TerminverwaltungTest : public Terminbestand {
   }
 };
 
-TEST_F(TerminverwaltungTest, LeererZeitraumWirdSiebenTageZurueckUndVierzehnVoraus) {
+TEST_F(TerminverwaltungTest, LeererZeitraumWirdSiebenTageZurückUndVierzehnVoraus) {
   Filter f;
   vorgaben(f);
   EXPECT_EQ(f.von, "13.06.2006");
@@ -56,13 +56,13 @@ TEST_F(TerminverwaltungTest, VolkansichtZeigtNummerNameUndStandort) {
   db().Execute("update Bienenvolk set Volkname = 'Anna'");
   const qint64 id = termin(tag(6, 21), "Durchsicht", volk);
   termin(tag(6, 21), "Schau");
-  const Daten daten = liste(db(), filter(Ansicht::Volkabhaengig));
+  const Daten daten = liste(db(), filter(Ansicht::Volkabhängig));
   EXPECT_EQ(zeilen(daten), "21.06.2006|Durchsicht|N|7|Anna|Heide|" + std::to_string(volk));
   EXPECT_EQ(daten->spaltenNummer(u"ID"), 7);
   EXPECT_EQ(daten->ganzzahl(0, 7), id);
 }
 
-TEST_F(TerminverwaltungTest, BeideGrenztageGehoerenDazu) {
+TEST_F(TerminverwaltungTest, BeideGrenztageGehörenDazu) {
   termin(tag(6, 12), "davor");
   termin(tag(6, 13), "erster");
   termin(tag(7, 4), "letzter");
@@ -77,19 +77,19 @@ TEST_F(TerminverwaltungTest, FilterNachVolknummerNimmtDasErsteVolkDieserNummer) 
   const qint64 zweites = neuesVolk("5");
   termin(tag(6, 21), "vom ersten", erstes);
   termin(tag(6, 21), "vom zweiten", zweites);
-  Filter f = filter(Ansicht::Volkabhaengig);
+  Filter f = filter(Ansicht::Volkabhängig);
   f.volknr = "5";
   EXPECT_EQ(texte(f), "vom ersten|5");
 }
 
-TEST_F(TerminverwaltungTest, UnbekannteVolknummerSchraenktNichtEin) {
+TEST_F(TerminverwaltungTest, UnbekannteVolknummerSchränktNichtEin) {
   termin(tag(6, 21), "A", neuesVolk("5"));
-  Filter f = filter(Ansicht::Volkabhaengig);
+  Filter f = filter(Ansicht::Volkabhängig);
   f.volknr = "99";
   EXPECT_EQ(texte(f), "A|5");
 }
 
-TEST_F(TerminverwaltungTest, VolknummerInDerAllgemeinenAnsichtLaesstNichtsUebrig) {
+TEST_F(TerminverwaltungTest, VolknummerInDerAllgemeinenAnsichtLässtNichtsÜbrig) {
   neuesVolk("5");
   termin(tag(6, 21), "Schau");
   Filter f = filter();
@@ -119,7 +119,7 @@ TEST_F(TerminverwaltungTest, FilterNachTerminartMitApostrophFindetWasMitBacktick
   EXPECT_EQ(texte(f), "Rund um`s Volk");
 }
 
-TEST_F(TerminverwaltungTest, BlankImFilterSchraenktNichtEin) {
+TEST_F(TerminverwaltungTest, BlankImFilterSchränktNichtEin) {
   termin(tag(6, 21), "Schau");
   Filter f = filter();
   f.termin = " ";
@@ -134,30 +134,30 @@ TEST_F(TerminverwaltungTest, ListeIstNachDatumGeordnet) {
 }
 
 TEST_F(TerminverwaltungTest, OhneDatumWirdNichtGespeichert) {
-  EXPECT_EQ(pruefen(db(), eingabe("31.02.2006")).gruende,
+  EXPECT_EQ(prüfen(db(), eingabe("31.02.2006")).gründe,
             QStringList("...das Datum des Termins angegeben werden muß."));
 }
 
 TEST_F(TerminverwaltungTest, OhneTerminartWirdNichtGespeichert) {
-  EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", " ")).gruende,
+  EXPECT_EQ(prüfen(db(), eingabe("21.06.2006", " ")).gründe,
             QStringList("...die Terminart angegeben werden muß."));
 }
 
 TEST_F(TerminverwaltungTest, UnbekanntesVolkWirdAbgelehnt) {
-  EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "9")).gruende,
+  EXPECT_EQ(prüfen(db(), eingabe("21.06.2006", "Schau", "9")).gründe,
             QStringList("...das angegebene Volk nicht existiert (aktuell im Bestand ist)."));
 }
 
 TEST_F(TerminverwaltungTest, VolkNichtImBestandWirdAbgelehntObwohlDieListeSeineZeilenZeigt) {
   const qint64 volk = neuesVolk("9", "");
   termin(tag(6, 21), "alt", volk);
-  EXPECT_EQ(texte(filter(Ansicht::Volkabhaengig)), "alt|9");
-  EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "9")).gruende,
+  EXPECT_EQ(texte(filter(Ansicht::Volkabhängig)), "alt|9");
+  EXPECT_EQ(prüfen(db(), eingabe("21.06.2006", "Schau", "9")).gründe,
             QStringList("...das angegebene Volk nicht existiert (aktuell im Bestand ist)."));
 }
 
-TEST_F(TerminverwaltungTest, AlleGruendeInIhrerFolge) {
-  EXPECT_EQ(pruefen(db(), eingabe("", "", "9")).gruende,
+TEST_F(TerminverwaltungTest, AlleGründeInIhrerFolge) {
+  EXPECT_EQ(prüfen(db(), eingabe("", "", "9")).gründe,
             QStringList({"...das Datum des Termins angegeben werden muß.",
                          "...die Terminart angegeben werden muß.",
                          "...das angegebene Volk nicht existiert (aktuell im Bestand ist)."}));
@@ -166,21 +166,21 @@ TEST_F(TerminverwaltungTest, AlleGruendeInIhrerFolge) {
 TEST_F(TerminverwaltungTest, LeereVolknummerIstVolkNullUndEineNummerDasVolkImBestand) {
   neuesVolk("4", "");
   const qint64 volk = neuesVolk("4");
-  EXPECT_EQ(pruefen(db(), eingabe()).volkId, 0);
-  EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "4")).volkId, volk);
-  EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", "4")).gruende, QStringList());
+  EXPECT_EQ(prüfen(db(), eingabe()).volkId, 0);
+  EXPECT_EQ(prüfen(db(), eingabe("21.06.2006", "Schau", "4")).volkId, volk);
+  EXPECT_EQ(prüfen(db(), eingabe("21.06.2006", "Schau", "4")).gründe, QStringList());
 }
 
 TEST_F(TerminverwaltungTest, BlankAlsVolknummerIstEinAllgemeinerTermin) {
   neuesVolk("");
-  const Pruefung pruefung = pruefen(db(), eingabe("21.06.2006", "Schau", " "));
-  EXPECT_EQ(pruefung.gruende, QStringList());
-  EXPECT_EQ(pruefung.volkId, 0);
+  const Prüfung prüfung = prüfen(db(), eingabe("21.06.2006", "Schau", " "));
+  EXPECT_EQ(prüfung.gründe, QStringList());
+  EXPECT_EQ(prüfung.volkId, 0);
 }
 
 TEST_F(TerminverwaltungTest, VolknummerWirdGesuchtWieSieGespeichertIst) {
   const qint64 volk = neuesVolk("7`a");
-  EXPECT_EQ(pruefen(db(), eingabe("21.06.2006", "Schau", " 7'a")).volkId, volk);
+  EXPECT_EQ(prüfen(db(), eingabe("21.06.2006", "Schau", " 7'a")).volkId, volk);
 }
 
 TEST_F(TerminverwaltungTest, GleicherTextAmSelbenTagBeimSelbenVolkExistiert) {
@@ -209,14 +209,14 @@ TEST_F(TerminverwaltungTest, NeuerTerminBekommtSeineZeile) {
   EXPECT_EQ(wert("select ID from Termine").toLongLong(), id);
 }
 
-TEST_F(TerminverwaltungTest, AendernUeberschreibtNurSeineZeile) {
+TEST_F(TerminverwaltungTest, ÄndernÜberschreibtNurSeineZeile) {
   termin(tag(6, 1), "erste");
   const qint64 id = termin(tag(6, 2), "zweite");
   EXPECT_EQ(speichern(db(), {"03.07.2006", "neu", "J", {}, {}}, 0, id), id);
   EXPECT_EQ(termine(), "01.06. erste N 0; 03.07. neu J 0");
 }
 
-TEST_F(TerminverwaltungTest, StandortBekommtEineZeileJeVolkAuchDerAbgaenge) {
+TEST_F(TerminverwaltungTest, StandortBekommtEineZeileJeVolkAuchDerAbgänge) {
   const qint64 a = neuesVolk("1", "X", "Heide");
   const qint64 b = neuesVolk("2", "", "Heide");
   neuesVolk("3", "X", "Hof");
@@ -228,7 +228,7 @@ TEST_F(TerminverwaltungTest, StandortBekommtEineZeileJeVolkAuchDerAbgaenge) {
   EXPECT_EQ(wert("select max(ID) from Termine").toLongLong(), letzte);
 }
 
-TEST_F(TerminverwaltungTest, StandortTraegtAuchDoppelteEin) {
+TEST_F(TerminverwaltungTest, StandortTrägtAuchDoppelteEin) {
   const qint64 a = neuesVolk("1", "X", "Heide");
   termin(tag(6, 21), "Schau", a);
   Eingabe e = eingabe();
@@ -252,7 +252,7 @@ TEST_F(TerminverwaltungTest, ZuLangerTextAmStandortIstEinFehlerUndSchreibtNichts
   EXPECT_EQ(anzahl("Termine"), 0);
 }
 
-TEST_F(TerminverwaltungTest, FehlschlagAmStandortSagtBeiWievielenVoelkernErEingetragenIst) {
+TEST_F(TerminverwaltungTest, FehlschlagAmStandortSagtBeiWievielenVölkernErEingetragenIst) {
   for (const char* nummer : {"1", "2", "3"}) neuesVolk(nummer, "X", "Heide");
   Verbindung::zu(TZ_Variablen::DatenbankPfad)
       ->steuere(
@@ -272,7 +272,7 @@ TEST_F(TerminverwaltungTest, FehlschlagAmStandortSagtBeiWievielenVoelkernErEinge
   EXPECT_EQ(anzahl("Termine"), 2);
 }
 
-TEST_F(TerminverwaltungTest, StandortTraegtDasKennzeichenUndDenTextWieBeimEinzelnenEin) {
+TEST_F(TerminverwaltungTest, StandortTrägtDasKennzeichenUndDenTextWieBeimEinzelnenEin) {
   const qint64 a = neuesVolk("1", "X", "Heide");
   amStandortEintragen(db(), {"21.06.2006", " Rund um's Volk ", "J", {}, "Heide"});
   EXPECT_EQ(termine(), "21.06. Rund um`s Volk J " + std::to_string(a));
@@ -283,13 +283,13 @@ TEST_F(TerminverwaltungTest, StandortFrageNenntDenStandort) {
             "Soll der Termin wirklich bei allen Völkern am Standort 'Heide' eingetragen werden?");
 }
 
-TEST_F(TerminverwaltungTest, ErledigteAllerJahreUndAnsichtenWerdenGeloescht) {
+TEST_F(TerminverwaltungTest, ErledigteAllerJahreUndAnsichtenWerdenGelöscht) {
   const qint64 volk = neuesVolk("1");
   termin(QDate(1999, 1, 1), "alt", volk, "J");
   termin(tag(6, 21), "allgemein", 0, "J");
   termin(tag(6, 21), "offen", volk);
   termin(tag(6, 22), "offen", 0);
-  erledigteLoeschen(db());
+  erledigteLöschen(db());
   EXPECT_EQ(termine(), "21.06. offen N " + std::to_string(volk) + "; 22.06. offen N 0");
 }
 
@@ -313,14 +313,14 @@ TEST_F(TerminverwaltungTest, ListenZeigenJedenTextEinmalInDerOrdnung) {
   EXPECT_EQ(terminarten(db()), QStringList({"A", "B"}));
 }
 
-TEST_F(TerminverwaltungTest, DerGewaehlteStandortFindetSeineVoelkerWieErInDerTabelleSteht) {
+TEST_F(TerminverwaltungTest, DerGewählteStandortFindetSeineVölkerWieErInDerTabelleSteht) {
   neuesVolk("1", "X", "Bauer's Hof");
   ASSERT_EQ(standorte(db()), QStringList("Bauer's Hof"));
   amStandortEintragen(db(), {"21.06.2006", "Schau", "N", {}, standorte(db()).first()});
-  EXPECT_EQ(texte(filter(Ansicht::Volkabhaengig)), "Schau|1");
+  EXPECT_EQ(texte(filter(Ansicht::Volkabhängig)), "Schau|1");
 }
 
-TEST_F(TerminverwaltungTest, HeuteInTagenRechnetHinUndZurueck) {
+TEST_F(TerminverwaltungTest, HeuteInTagenRechnetHinUndZurück) {
   EXPECT_EQ(datumInTagen("0"), "20.06.2006");
   EXPECT_EQ(datumInTagen("14"), "04.07.2006");
   EXPECT_EQ(datumInTagen("-20"), "31.05.2006");
@@ -342,7 +342,7 @@ TEST_F(TerminverwaltungTest, TageBleibenInIhrenGrenzen) {
   EXPECT_EQ(tageBis("05.11.2033"), "");
 }
 
-TEST_F(TerminverwaltungTest, BeiTagenZaehlenNurVorzeichenUndVierZiffern) {
+TEST_F(TerminverwaltungTest, BeiTagenZählenNurVorzeichenUndVierZiffern) {
   EXPECT_EQ(nurTage("-12x3"), "-123");
   EXPECT_EQ(nurTage("1-2"), "12");
   EXPECT_EQ(nurTage("12345"), "1234");

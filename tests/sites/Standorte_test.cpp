@@ -6,7 +6,7 @@ using namespace Verwaltung;
 
 namespace {
 
-const QString NichtUeber100 =
+const QString NichtÜber100 =
     "...der prozentuale Anteil bei den Pflanzen am Standort nicht über 100 sein darf.";
 
 Texte tie(const QString& pflanze, const QString& entfernung, const QString& anteil) {
@@ -38,13 +38,13 @@ TEST(Standortfelder, BeschriftungenUndVorgabenInDerFolgeDesFormulars) {
 
 TEST(Standortfelder, Grenzen) {
   const Felder& felder = Standorte::standortfelder();
-  EXPECT_EQ(feld(felder, "Standort").maxLaenge, 100);
-  EXPECT_EQ(feld(felder, "Zusatzortshinweis").maxLaenge, 50);
-  EXPECT_EQ(feld(felder, "Klima").maxLaenge, 20);
-  EXPECT_EQ(feld(felder, "Flugrichtung").maxLaenge, 10);
+  EXPECT_EQ(feld(felder, "Standort").maxLänge, 100);
+  EXPECT_EQ(feld(felder, "Zusatzortshinweis").maxLänge, 50);
+  EXPECT_EQ(feld(felder, "Klima").maxLänge, 20);
+  EXPECT_EQ(feld(felder, "Flugrichtung").maxLänge, 10);
   EXPECT_EQ(feld(felder, "Entfernung_Wasser_m").bis, 9999);
   EXPECT_EQ(feld(felder, "Max_Völker").bis, 999);
-  EXPECT_EQ(feld(felder, "Standortprämie_Volk").maxLaenge, 8);
+  EXPECT_EQ(feld(felder, "Standortprämie_Volk").maxLänge, 8);
   for (const char* name : {"Wintertauglich", "Pkw_anfahrbar"})
     EXPECT_EQ(feld(felder, name).texte, QStringList({"J", "N"})) << name;
   for (const char* name : {"Trachtzeit_von", "Trachtzeit_bis"})
@@ -54,7 +54,7 @@ TEST(Standortfelder, Grenzen) {
 TEST(Pflanzenfelder, BeschriftungenGrenzenUndVorgaben) {
   const Felder& felder = Standorte::pflanzenfelder();
   ASSERT_EQ(felder.size(), 5);
-  EXPECT_EQ(feld(felder, "Pflanze").maxLaenge, 20);
+  EXPECT_EQ(feld(felder, "Pflanze").maxLänge, 20);
   EXPECT_EQ(feld(felder, "Weidezeit_von").beschriftung, "Weidezeit von");
   EXPECT_EQ(feld(felder, "Weidezeit_bis").beschriftung, "Weidezeit bis");
   EXPECT_EQ(feld(felder, "Nektarstufe").beschriftung, "Nektarstufe (0..10)");
@@ -74,8 +74,8 @@ TEST(Trachtfelder, BeschriftungenUndGrenzen) {
   EXPECT_EQ(felder[1].bis, 9999);
   EXPECT_EQ(felder[2].beschriftung, "Anteil in %");
   EXPECT_EQ(felder[2].bis, 100);
-  EXPECT_TRUE(felder[2].nullVerboten);
-  EXPECT_FALSE(felder[1].nullVerboten);
+  EXPECT_EQ(felder[2].von, 1);
+  EXPECT_EQ(felder[1].von, 0);
 }
 
 TEST(Picklisten, IhreAnweisungen) {
@@ -93,85 +93,85 @@ TEST(Picklisten, IhreAnweisungen) {
             "select distinct Pflanze from Pflanzen order by Pflanze");
 }
 
-TEST(Standortpruefung, NurDerNameIstPflicht) {
-  EXPECT_EQ(Standorte::standortGruende({{"Standort", "  "}}),
+TEST(Standortprüfung, NurDerNameIstPflicht) {
+  EXPECT_EQ(Standorte::standortGründe({{"Standort", "  "}}),
             QStringList("...der Standort angegeben werden muß."));
-  EXPECT_EQ(Standorte::standortGruende({{"Standort", "Hof"}}), QStringList());
+  EXPECT_EQ(Standorte::standortGründe({{"Standort", "Hof"}}), QStringList());
 }
 
-TEST(Pflanzenpruefung, NameUndBeideDaten) {
-  EXPECT_EQ(Standorte::pflanzenGruende({}),
+TEST(Pflanzenprüfung, NameUndBeideDaten) {
+  EXPECT_EQ(Standorte::pflanzenGründe({}),
             QStringList({"...die Pflanze angegeben werden muß.",
                          "...die Weidezeit von...bis korrekt angegeben werden muß."}));
   EXPECT_EQ(
-      Standorte::pflanzenGruende(
+      Standorte::pflanzenGründe(
           {{"Pflanze", "Raps"}, {"Weidezeit_von", "01.05.2003"}, {"Weidezeit_bis", "31.06.2003"}}),
       QStringList("...die Weidezeit von...bis korrekt angegeben werden muß."));
 }
 
-TEST(Pflanzenpruefung, JedesDerBeidenDatenMussDaSein) {
+TEST(Pflanzenprüfung, JedesDerBeidenDatenMussDaSein) {
   const QStringList grund("...die Weidezeit von...bis korrekt angegeben werden muß.");
   for (const char* kein : {"", "31.04.2003", "Mai"}) {
-    EXPECT_EQ(Standorte::pflanzenGruende(
+    EXPECT_EQ(Standorte::pflanzenGründe(
                   {{"Pflanze", "Raps"}, {"Weidezeit_von", kein}, {"Weidezeit_bis", "20.05.2003"}}),
               grund)
         << kein;
-    EXPECT_EQ(Standorte::pflanzenGruende(
+    EXPECT_EQ(Standorte::pflanzenGründe(
                   {{"Pflanze", "Raps"}, {"Weidezeit_von", "20.04.2003"}, {"Weidezeit_bis", kein}}),
               grund)
         << kein;
   }
 }
 
-TEST(Pflanzenpruefung, DieFolgeDerBeidenDatenZaehltNicht) {
+TEST(Pflanzenprüfung, DieFolgeDerBeidenDatenZähltNicht) {
   EXPECT_EQ(
-      Standorte::pflanzenGruende(
+      Standorte::pflanzenGründe(
           {{"Pflanze", "Raps"}, {"Weidezeit_von", "01.06.2003"}, {"Weidezeit_bis", "01.05.2003"}}),
       QStringList());
 }
 
-TEST(Trachtpruefung, AlleGruendeInIhrerFolge) {
-  EXPECT_EQ(Standorte::trachtGruende(tie("", "0", "0"), 101),
+TEST(Trachtprüfung, AlleGründeInIhrerFolge) {
+  EXPECT_EQ(Standorte::trachtGründe(tie("", "0", "0"), 101),
             QStringList({"...die Pflanze angegeben werden muß.",
                          "...die Entfernung muß größer als 0 Meter sein.",
-                         "...der prozentuale Anteil müß größer als 0 % sein.", NichtUeber100}));
+                         "...der prozentuale Anteil müß größer als 0 % sein.", NichtÜber100}));
 }
 
-TEST(Trachtpruefung, SechzigUndVierzigGehenEinProzentMehrNicht) {
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "500", "40"), 60), QStringList());
-  EXPECT_EQ(Standorte::trachtGruende(tie("Linde", "500", "1"), 100), QStringList(NichtUeber100));
+TEST(Trachtprüfung, SechzigUndVierzigGehenEinProzentMehrNicht) {
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "500", "40"), 60), QStringList());
+  EXPECT_EQ(Standorte::trachtGründe(tie("Linde", "500", "1"), 100), QStringList(NichtÜber100));
 }
 
-TEST(Trachtpruefung, AusSechzigWirdNeunundfuenfzigAberNichtEinundsechzig) {
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "500", "61"), 40), QStringList(NichtUeber100));
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "500", "59"), 40), QStringList());
+TEST(Trachtprüfung, AusSechzigWirdNeunundfünfzigAberNichtEinundsechzig) {
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "500", "61"), 40), QStringList(NichtÜber100));
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "500", "59"), 40), QStringList());
 }
 
-TEST(Trachtpruefung, GenauHundertProzentGehenEinProzentMehrNicht) {
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "1", "100"), 0), QStringList());
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "1", "1"), 99), QStringList());
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "1", "2"), 99), QStringList(NichtUeber100));
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "1", "100"), 1), QStringList(NichtUeber100));
+TEST(Trachtprüfung, GenauHundertProzentGehenEinProzentMehrNicht) {
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "1", "100"), 0), QStringList());
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "1", "1"), 99), QStringList());
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "1", "2"), 99), QStringList(NichtÜber100));
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "1", "100"), 1), QStringList(NichtÜber100));
 }
 
-TEST(Trachtpruefung, EntfernungUnterNullWirdAbgelehnt) {
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "-5", "10"), 0),
+TEST(Trachtprüfung, EntfernungUnterNullWirdAbgelehnt) {
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "-5", "10"), 0),
             QStringList("...die Entfernung muß größer als 0 Meter sein."));
 }
 
-TEST(Trachtpruefung, AnteilUnterNullWirdAbgelehnt) {
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "5", "-10"), 0),
+TEST(Trachtprüfung, AnteilUnterNullWirdAbgelehnt) {
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "5", "-10"), 0),
             QStringList("...der prozentuale Anteil müß größer als 0 % sein."));
 }
 
-TEST(Trachtpruefung, LeereZahlenGeltenAlsNull) {
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "", ""), 0),
+TEST(Trachtprüfung, LeereZahlenGeltenAlsNull) {
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "", ""), 0),
             QStringList({"...die Entfernung muß größer als 0 Meter sein.",
                          "...der prozentuale Anteil müß größer als 0 % sein."}));
 }
 
-TEST(Trachtpruefung, EineSummeUnterNullLaesstMehrZu) {
-  EXPECT_EQ(Standorte::trachtGruende(tie("Raps", "5", "100"), -10), QStringList());
+TEST(Trachtprüfung, EineSummeUnterNullLässtMehrZu) {
+  EXPECT_EQ(Standorte::trachtGründe(tie("Raps", "5", "100"), -10), QStringList());
 }
 
 TEST(NeuerStandort, StehtAufDerKarteBei250) {

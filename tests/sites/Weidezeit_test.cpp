@@ -56,7 +56,7 @@ const Weide raps{"Raps", "20.04.2003", "20.05.2003"};
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(
-    Faelle, TrachtzeitEinesStandorts,
+    Fälle, TrachtzeitEinesStandorts,
     testing::Values(
         Trachtfall{"FruehesterBeginnUndSpaetestesEnde",
                    {{"Krokus", "01.03.2003", "15.04.2003"},
@@ -109,7 +109,7 @@ TEST_F(Trachtzeit, JederStandortBekommtSeineEigene) {
   EXPECT_EQ(bis("Wald").toDate(), tag("20.03.2003"));
 }
 
-TEST_F(Trachtzeit, EinStandortOhneNamenWirdUebergangen) {
+TEST_F(Trachtzeit, EinStandortOhneNamenWirdÜbergangen) {
   const qint64 hof = standort("Hof");
   db().Execute("insert into Standorte(Klima, Trachtzeit_von) values (?, ?)",
                {QString("rau"), QDate(2003, 1, 1)});
@@ -121,7 +121,7 @@ TEST_F(Trachtzeit, EinStandortOhneNamenWirdUebergangen) {
             QDate(2003, 1, 1));
 }
 
-TEST_F(Trachtzeit, NachDemLoeschenDerPflanzeIstDieZeitLeer) {
+TEST_F(Trachtzeit, NachDemLöschenDerPflanzeIstDieZeitLeer) {
   const qint64 hof = standort("Hof");
   pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
   tracht(hof, "Raps", 50);
@@ -173,7 +173,7 @@ TEST_P(WeidezeitVerschoben, LiegtDanach) {
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(
-    Faelle, WeidezeitVerschoben,
+    Fälle, WeidezeitVerschoben,
     testing::Values(
         Wechselfall{"EinJahrVor",
                     "20.04.2003", "20.05.2003", 1, "20.04.2004", "20.05.2004"},
@@ -202,7 +202,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& fall) { return std::string(fall.param.name); });
 // clang-format on
 
-TEST_F(Jahreswechsel, AllePflanzenUmEinJahrVorUndZurueck) {
+TEST_F(Jahreswechsel, AllePflanzenUmEinJahrVorUndZurück) {
   pflanze("Raps", QDate(2003, 4, 20), QDate(2003, 5, 20));
   pflanze("Efeu", QDate(2003, 12, 31), QDate(2004, 1, 1));
   Standorte::weidezeitenVerschieben(db(), 1);
@@ -238,7 +238,7 @@ TEST_F(Jahreswechsel, NeunundzwanzigsterFebruarAlsBeginnWirdGesagtUndDasEndeBlei
   EXPECT_EQ(weide("Raps"), QDate(2004, 4, 20));
 }
 
-TEST_F(Jahreswechsel, NeunundzwanzigsterFebruarJenseitsDerGrenzeSchlaegtAuchFehl) {
+TEST_F(Jahreswechsel, NeunundzwanzigsterFebruarJenseitsDerGrenzeSchlägtAuchFehl) {
   pflanze("Hasel", QDate(2104, 2, 29), QDate(2104, 3, 20));
   EXPECT_THROW(Standorte::weidezeitenVerschieben(db(), -1), Datenbankfehler);
   EXPECT_EQ(weide("Hasel"), QDate(2104, 2, 29));

@@ -9,9 +9,9 @@ class Handelsbetrieb : public Testbetrieb {
   using Seite = Handel::Seite;
 
   // The inputs as the empty form has them, then these.
-  static Verwaltung::Texte geschaeft(Seite seite, const QString& produkt, const QString& menge,
-                                     const QString& partner = {}, const QString& charge = {}) {
-    Verwaltung::Texte texte = Verwaltung::vorgaben(Handel::geschaeftsfelder(seite));
+  static Verwaltung::Texte geschäft(Seite seite, const QString& produkt, const QString& menge,
+                                    const QString& partner = {}, const QString& charge = {}) {
+    Verwaltung::Texte texte = Verwaltung::vorgaben(Handel::geschäftsfelder(seite));
     texte["Produkt"] = produkt;
     texte["Menge"] = menge;
     texte[Handel::partnerfeld(seite)] = partner;
@@ -20,16 +20,16 @@ class Handelsbetrieb : public Testbetrieb {
   }
   static qint64 kaufe(const QString& produkt, const QString& menge, const QString& partner = {},
                       const QString& charge = {}) {
-    return Handel::geschaeftSpeichern(
-        db(), Seite::Einkauf, geschaeft(Seite::Einkauf, produkt, menge, partner, charge), {});
+    return Handel::geschäftSpeichern(db(), Seite::Einkauf,
+                                     geschäft(Seite::Einkauf, produkt, menge, partner, charge), {});
   }
   static qint64 verkaufe(const QString& produkt, const QString& menge, const QString& partner = {},
                          const QString& charge = {}) {
-    return Handel::geschaeftSpeichern(
-        db(), Seite::Verkauf, geschaeft(Seite::Verkauf, produkt, menge, partner, charge), {});
+    return Handel::geschäftSpeichern(db(), Seite::Verkauf,
+                                     geschäft(Seite::Verkauf, produkt, menge, partner, charge), {});
   }
-  static void aendere(Seite seite, qint64 id, const Verwaltung::Texte& texte) {
-    EXPECT_EQ(Handel::geschaeftSpeichern(db(), seite, texte, id), id);
+  static void ändere(Seite seite, qint64 id, const Verwaltung::Texte& texte) {
+    EXPECT_EQ(Handel::geschäftSpeichern(db(), seite, texte, id), id);
   }
   static qint64 lager(const QString& produkt, const QVariant& zugang, const QVariant& abgang,
                       const QVariant& charge, qint64 evk = 0) {

@@ -7,8 +7,8 @@ using Handel::Seite;
 namespace {
 
 class Handelsfelder : public Handelsbetrieb {};
-class Geschaeftsgruende : public Handelsbetrieb {};
-class Lagergruende : public Handelsbetrieb {};
+class Geschäftsgründe : public Handelsbetrieb {};
+class Lagergründe : public Handelsbetrieb {};
 
 const QString KeinDatum = "...das Datum korrekt angegeben werden muß.";
 const QString KeinProdukt = "...das Produkt angegeben werden muß.";
@@ -31,16 +31,16 @@ QStringList beschriftungen(const Felder& felder) {
 QStringList listen(const Felder& felder) {
   return jeFeld(felder, [](const Feld& f) { return f.listenAnweisung; });
 }
-QStringList laengen(const Felder& felder) {
+QStringList längen(const Felder& felder) {
   return jeFeld(felder, [](const Feld& f) {
-    return f.art == Art::Text ? QString::number(f.maxLaenge) : QString("-");
+    return f.art == Art::Text ? QString::number(f.maxLänge) : QString("-");
   });
 }
 
 // ---- fields ----
 
 TEST_F(Handelsfelder, EinkaufAchtEingabenInIhrerFolge) {
-  const Felder felder = Handel::geschaeftsfelder(Seite::Einkauf);
+  const Felder felder = Handel::geschäftsfelder(Seite::Einkauf);
   EXPECT_EQ(namen(felder), QStringList({"Datum", "Produkt", "Qualität", "Lieferant", "Menge",
                                         "Einheit", "Ausgaben", "Charge"}));
   EXPECT_EQ(beschriftungen(felder),
@@ -48,7 +48,7 @@ TEST_F(Handelsfelder, EinkaufAchtEingabenInIhrerFolge) {
                          "Ausgaben", "Chargen-Nr"}));
   EXPECT_EQ(jeFeld(felder, [](const Feld& f) { return f.ersterText; }),
             QStringList({"20.06.2006", "", "", "", "0", "", "0", ""}));
-  EXPECT_EQ(laengen(felder), QStringList({"-", "20", "20", "30", "-", "2", "-", "15"}));
+  EXPECT_EQ(längen(felder), QStringList({"-", "20", "20", "30", "-", "2", "-", "15"}));
   EXPECT_EQ(listen(felder),
             QStringList(
                 {"", "select distinct Produkt from Einkauf order by Produkt",
@@ -58,7 +58,7 @@ TEST_F(Handelsfelder, EinkaufAchtEingabenInIhrerFolge) {
 }
 
 TEST_F(Handelsfelder, VerkaufMitAbnehmerUndEinnahmen) {
-  const Felder felder = Handel::geschaeftsfelder(Seite::Verkauf);
+  const Felder felder = Handel::geschäftsfelder(Seite::Verkauf);
   EXPECT_EQ(beschriftungen(felder),
             QStringList({"Datum", "Produkt", "Qualität", "Abnehmer", "Menge", "Mengeneinheit",
                          "Einnahmen", "Chargen-Nr"}));
@@ -81,7 +81,7 @@ TEST_F(Handelsfelder, HoniglagerSiebenEingabenOhneEvkId) {
                          "Chargen-Nr", "Abfülldatum"}));
   EXPECT_EQ(jeFeld(felder, [](const Feld& f) { return f.ersterText; }),
             QStringList({"20.06.2006", "", "0", "0", "", "", ""}));
-  EXPECT_EQ(laengen(felder), QStringList({"-", "20", "-", "-", "30", "15", "-"}));
+  EXPECT_EQ(längen(felder), QStringList({"-", "20", "-", "-", "30", "15", "-"}));
   EXPECT_EQ(listen(felder),
             QStringList({"", "select distinct Produkt from Honiglager order by Produkt", "", "",
                          "select distinct Bemerkung from Honiglager order by Bemerkung",
@@ -90,21 +90,21 @@ TEST_F(Handelsfelder, HoniglagerSiebenEingabenOhneEvkId) {
 
 TEST_F(Handelsfelder, EinheitenInFesterFolgeMitFreiemText) {
   for (const Seite seite : {Seite::Einkauf, Seite::Verkauf}) {
-    const Feld einheit = Handel::geschaeftsfelder(seite)[5];
+    const Feld einheit = Handel::geschäftsfelder(seite)[5];
     EXPECT_EQ(einheit.art, Art::Text);
     EXPECT_EQ(pickliste(db(), einheit), QStringList({"kg", "g", "l", "ml", "St"}));
   }
 }
 
-TEST_F(Handelsfelder, HeuteIstDerTagDesStartsAuchBeimNaechstenMal) {
+TEST_F(Handelsfelder, HeuteIstDerTagDesStartsAuchBeimNächstenMal) {
   EXPECT_EQ(Handel::lagerfelder()[0].ersterText, "20.06.2006");
   TZ_Variablen::HeuteText = "21.06.2006";
   EXPECT_EQ(Handel::lagerfelder()[0].ersterText, "21.06.2006");
-  EXPECT_EQ(Handel::geschaeftsfelder(Seite::Verkauf)[0].ersterText, "21.06.2006");
+  EXPECT_EQ(Handel::geschäftsfelder(Seite::Verkauf)[0].ersterText, "21.06.2006");
 }
 
-TEST_F(Handelsfelder, MengenZeigenNurDieNoetigenStellenGeldZwei) {
-  const Felder felder = Handel::geschaeftsfelder(Seite::Verkauf);
+TEST_F(Handelsfelder, MengenZeigenNurDieNötigenStellenGeldZwei) {
+  const Felder felder = Handel::geschäftsfelder(Seite::Verkauf);
   EXPECT_EQ(feldtext(felder[4], 12.5), "12,5");
   EXPECT_EQ(feldtext(felder[4], 1000000.0), "1000000");
   EXPECT_EQ(feldtext(felder[4], 1.239), "1,239");
@@ -114,39 +114,39 @@ TEST_F(Handelsfelder, MengenZeigenNurDieNoetigenStellenGeldZwei) {
 
 // ---- reasons ----
 
-TEST_F(Geschaeftsgruende, AlleGruendeInIhrerFolge) {
-  EXPECT_EQ(Handel::geschaeftsgruende({}), QStringList({KeinDatum, KeinProdukt, KeineMenge}));
-  Texte texte = geschaeft(Seite::Verkauf, "   ", "0");
+TEST_F(Geschäftsgründe, AlleGründeInIhrerFolge) {
+  EXPECT_EQ(Handel::geschäftsgründe({}), QStringList({KeinDatum, KeinProdukt, KeineMenge}));
+  Texte texte = geschäft(Seite::Verkauf, "   ", "0");
   texte["Datum"] = "31.02.2006";
-  EXPECT_EQ(Handel::geschaeftsgruende(texte), QStringList({KeinDatum, KeinProdukt, KeineMenge}));
-  EXPECT_EQ(Handel::geschaeftsgruende(geschaeft(Seite::Verkauf, "Wachs", "1")), QStringList());
+  EXPECT_EQ(Handel::geschäftsgründe(texte), QStringList({KeinDatum, KeinProdukt, KeineMenge}));
+  EXPECT_EQ(Handel::geschäftsgründe(geschäft(Seite::Verkauf, "Wachs", "1")), QStringList());
 }
 
-TEST_F(Geschaeftsgruende, MengeNullUndMinusEinsWerdenAbgelehnt) {
+TEST_F(Geschäftsgründe, MengeNullUndMinusEinsWerdenAbgelehnt) {
   for (const char* menge : {"0", "", "-1", " -1,5", "0,0", "kg"})
-    EXPECT_EQ(Handel::geschaeftsgruende(geschaeft(Seite::Verkauf, "Wachs", menge)),
+    EXPECT_EQ(Handel::geschäftsgründe(geschäft(Seite::Verkauf, "Wachs", menge)),
               QStringList(KeineMenge))
         << menge;
   for (const char* menge : {"0,001", "1000000", "1.5"})
-    EXPECT_EQ(Handel::geschaeftsgruende(geschaeft(Seite::Verkauf, "Wachs", menge)), QStringList())
+    EXPECT_EQ(Handel::geschäftsgründe(geschäft(Seite::Verkauf, "Wachs", menge)), QStringList())
         << menge;
 }
 
-TEST_F(Lagergruende, AlleGruendeInIhrerFolge) {
-  EXPECT_EQ(Handel::lagergruende({}), QStringList({KeinDatum, KeinProdukt, KeineLagermenge}));
+TEST_F(Lagergründe, AlleGründeInIhrerFolge) {
+  EXPECT_EQ(Handel::lagergründe({}), QStringList({KeinDatum, KeinProdukt, KeineLagermenge}));
 }
 
-TEST_F(Lagergruende, BeideMengenGehenBeideNullNichtNegativeGehen) {
-  const auto gruende = [](const QString& zugang, const QString& abgang) {
-    return Handel::lagergruende(
+TEST_F(Lagergründe, BeideMengenGehenBeideNullNichtNegativeGehen) {
+  const auto gründe = [](const QString& zugang, const QString& abgang) {
+    return Handel::lagergründe(
         {{"Datum", "01.05.2006"}, {"Produkt", "Raps"}, {"Zugang", zugang}, {"Abgang", abgang}});
   };
-  EXPECT_EQ(gruende("5", "3"), QStringList());
-  EXPECT_EQ(gruende("5", "0"), QStringList());
-  EXPECT_EQ(gruende("", "3"), QStringList());
-  EXPECT_EQ(gruende("-5", "0"), QStringList());
-  EXPECT_EQ(gruende("0", "0"), QStringList(KeineLagermenge));
-  EXPECT_EQ(gruende("", ""), QStringList(KeineLagermenge));
+  EXPECT_EQ(gründe("5", "3"), QStringList());
+  EXPECT_EQ(gründe("5", "0"), QStringList());
+  EXPECT_EQ(gründe("", "3"), QStringList());
+  EXPECT_EQ(gründe("-5", "0"), QStringList());
+  EXPECT_EQ(gründe("0", "0"), QStringList(KeineLagermenge));
+  EXPECT_EQ(gründe("", ""), QStringList(KeineLagermenge));
 }
 
 }  // namespace

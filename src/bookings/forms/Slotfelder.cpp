@@ -6,9 +6,12 @@
 #include <algorithm>
 
 #include "core/globals.h"
+#include "data/forms/Feldbeschreibung.h"
 #include "platform/controls/Eingabefeld.h"
 
 namespace {
+
+using Verwaltung::Art;
 
 // What stands together under one caption: a slot and those without a caption right of it.
 using Zelle = QList<int>;
@@ -16,8 +19,8 @@ using Spaltenzellen = QList<Zelle>;
 
 QList<Zelle> zellen(const Buchungstyp& typ) {
   QList<Zelle> alle;
-  for (const Buchungsslot& slot : typ.plaetze) {
-    if (slot.beschriftung.isEmpty() && slot.art != Slotart::Notiz)
+  for (const Buchungsslot& slot : typ.plätze) {
+    if (slot.stehtDaneben())
       alle.last().append(slot.nummer);
     else
       alle.append(Zelle{slot.nummer});
@@ -28,58 +31,20 @@ QList<Zelle> zellen(const Buchungstyp& typ) {
 // The slots behind the date in columns, read from the top down, column by column.
 QList<Spaltenzellen> spalten(const Buchungstyp& typ) {
   const QList<Zelle> alle = zellen(typ);
-  QList<qsizetype> anfaenge{0};
+  QList<qsizetype> anfänge{0};
   if (typ.art == 0)  // scores, combs, the rest
     for (qsizetype i = 0; i < alle.size(); ++i) {
-      if (alle[i].first() == 10 || alle[i].first() == 20) anfaenge.append(i);
+      if (alle[i].first() == 10 || alle[i].first() == 20) anfänge.append(i);
     }
   else if (!typ.platz(NotizSlot))
-    anfaenge.append((alle.size() + 1) / 2);
+    anfänge.append((alle.size() + 1) / 2);
 
   QList<Spaltenzellen> ergebnis;
-  for (qsizetype i = 0; i < anfaenge.size(); ++i) {
-    const qsizetype bis = i + 1 < anfaenge.size() ? anfaenge[i + 1] : alle.size();
-    ergebnis.append(alle.mid(anfaenge[i], bis - anfaenge[i]));
+  for (qsizetype i = 0; i < anfänge.size(); ++i) {
+    const qsizetype bis = i + 1 < anfänge.size() ? anfänge[i + 1] : alle.size();
+    ergebnis.append(alle.mid(anfänge[i], bis - anfänge[i]));
   }
   return ergebnis;
-}
-
-// The names of the fields without a caption, for those who don't see the screen.
-QString vorlesename(const Buchungsslot& slot) {
-  switch (slot.nummer) {
-    case 25:
-      return "Futter Teig";
-    case 26:
-      return "Futter Eigen";
-    case NotizSlot:
-      return "Notiz";
-    default:
-      return slot.beschriftung;
-  }
-}
-
-Eingabefeld::Beschreibung beschreibung(const Buchungsslot& slot) {
-  Eingabefeld::Beschreibung b;
-  b.maxLaenge = slot.laenge;
-  b.nachkommastellen = slot.nachkommastellen;
-  b.ersterText = slot.ersterText;
-  b.auswahl = slot.auswahl;
-  if (slot.geld) b.einheit = "€";
-  switch (slot.art) {
-    case Slotart::Dezimal:
-      b.art = Eingabefeld::Art::Dezimal;
-      break;
-    case Slotart::Ganzzahl:
-      b.art = Eingabefeld::Art::Ganzzahl;
-      b.bis = slot.bis;
-      break;
-    case Slotart::Auswahl:
-      b.art = Eingabefeld::Art::Auswahl;
-      break;
-    default:
-      b.art = Eingabefeld::Art::Text;
-  }
-  return b;
 }
 
 QString slotname(int nummer) { return "sevt_" + QString::number(nummer); }
@@ -141,15 +106,11 @@ Slottexte Slotfelder::texte() const {
   return texte;
 }
 
-void Slotfelder::zuruecksetzen(const QString& datum) {
+void Slotfelder::zurücksetzen(const QString& datum) {
   for (int nummer = 1; nummer < AnzahlSlots; ++nummer)
     if (nummer != NotizSlot) feld(nummer)->einrichten({});
   m_notiz->clear();
-  Eingabefeld::Beschreibung b;
-  b.art = Eingabefeld::Art::Datum;
-  b.maxLaenge = 10;
-  b.ersterText = datum;
-  feld(0)->einrichten(b);
+  feld(0)->einrichten(Verwaltung::beschreibung(Verwaltung::datum("Datum", "Datum").vorgabe(datum)));
   feld(0)->setFixedWidth(feld(0)->sizeHint().width());
 }
 
@@ -162,14 +123,14 @@ void Slotfelder::alleVerbergen() {
 
 void Slotfelder::einrichten(const Buchungsslot& slot, const QStringList& liste) {
   QWidget* ziel = eingabe(slot.nummer);
-  if (slot.art == Slotart::Notiz) {
+  if (slot.art == Art::Notiz) {
     m_notiz->clear();
   } else {
-    feld(slot.nummer)->einrichten(beschreibung(slot));
+    feld(slot.nummer)->einrichten(Verwaltung::beschreibung(slot));
     feld(slot.nummer)->setListe(liste);
     breiteSetzen(slot);
   }
-  ziel->setAccessibleName(vorlesename(slot));
+  ziel->setAccessibleName(slot.name());
   beschriftung(slot.nummer)->setText(slot.beschriftung);
   beschriftung(slot.nummer)->setVisible(!slot.beschriftung.isEmpty());
   ziel->show();
@@ -178,8 +139,8 @@ void Slotfelder::einrichten(const Buchungsslot& slot, const QStringList& liste) 
 // Numbers stand in narrow fields; texts take the room that there is, up to their length.
 void Slotfelder::breiteSetzen(const Buchungsslot& slot) {
   Eingabefeld* ziel = feld(slot.nummer);
-  const bool text = slot.art == Slotart::Text;
-  ziel->setMaximumWidth(text && slot.laenge > 40 ? QWIDGETSIZE_MAX : ziel->sizeHint().width());
+  const bool text = slot.art == Art::Text;
+  ziel->setMaximumWidth(text && slot.maxLänge > 40 ? QWIDGETSIZE_MAX : ziel->sizeHint().width());
   ziel->setMinimumWidth(text ? ziel->minimumSizeHint().width() : ziel->sizeHint().width());
 }
 
@@ -237,7 +198,7 @@ void Slotfelder::anordnen(const Buchungstyp& typ) {
       }
     }
     const bool mitText = std::ranges::any_of(
-        gruppe, [&](const Zelle& zelle) { return typ.platz(zelle.first())->art == Slotart::Text; });
+        gruppe, [&](const Zelle& zelle) { return typ.platz(zelle.first())->art == Art::Text; });
     raster->setColumnStretch(spalte + 1, mitText ? 4 : 1);
     zeilen = std::max(zeilen, zeile);
     spalte += 3;

@@ -31,7 +31,7 @@ class Slotfelder : public QWidget {
   Slottexte texte() const;
 
   // All slots as they are before any type was dressed; the date becomes the given one.
-  void zuruecksetzen(const QString& datum);
+  void zurücksetzen(const QString& datum);
   // Slots 1 to 27; the date stays.
   void alleVerbergen();
   // Dresses a slot, puts its first text in and shows it.

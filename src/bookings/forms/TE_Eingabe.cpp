@@ -9,13 +9,12 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QScrollBar>
 #include <QSplitter>
 #include <QTimer>
 
-#include "bookings/Liste.h"
-#include "bookings/Volkfelder.h"
+#include "bookings/Buchungsliste.h"
 #include "bookings/Vorgaben.h"
+#include "bookings/Zusammenfassung.h"
 #include "bookings/forms/Slotfelder.h"
 #include "core/globals.h"
 #include "core/main_list.h"
@@ -29,16 +28,10 @@ using namespace TZ_Variablen;
 
 namespace {
 
-const QString TeilerSchluessel = QStringLiteral("Teiler/TE_Eingabe");
+const QString TeilerSchlüssel = QStringLiteral("Teiler/TE_Eingabe");
 
 bool istEingabetaste(const QKeyEvent& taste) {
   return taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter;
-}
-
-void zeigeAktuelleZeile(Grid* grid) {
-  const int seitlich = grid->horizontalScrollBar()->value();
-  if (grid->currentIndex().isValid()) grid->scrollTo(grid->currentIndex());
-  grid->horizontalScrollBar()->setValue(seitlich);
 }
 
 Daten leererBlock() { return Datenblock::Bauer(std::vector<Spalte>{}).fertig(); }
@@ -47,31 +40,29 @@ Daten leererBlock() { return Datenblock::Bauer(std::vector<Spalte>{}).fertig(); 
 
 void TE_Eingabe::verbinden() {
   using Ereignis::wenn;
-  wenn(m_opti, &QButtonGroup::idClicked, this, [this](int art) { artGewaehlt(art); });
-  wenn(m_anzeige, &QButtonGroup::idClicked, this, [this](int n) { anzeigeGewaehlt(n); });
+  wenn(m_opti, &QButtonGroup::idClicked, this, [this](int art) { artGewählt(art); });
+  wenn(m_anzeige, &QButtonGroup::idClicked, this, [this](int n) { anzeigeGewählt(n); });
   wenn(m_volkli, &Grid::zeileAngeklickt, this, [this](int zeile) { volkAngeklickt(zeile); });
   wenn(m_li, &Grid::zeileAngeklickt, this, [this](int zeile) { zeileZeigen(zeile); });
   // The right button and a drawn mouse make a row current without a click. What is current is what
   // is shown: a change must never hit a row with another one's values.
   wenn(m_li, &Grid::zeileGewechselt, this, [this](int zeile) {
-    if (m_fuellt == 0) zeileZeigen(zeile);
+    if (m_füllt == 0) zeileZeigen(zeile);
   });
-  wenn(m_kom, &QComboBox::activated, this, [this](int index) { standortGewaehlt(index); });
+  wenn(m_kom, &QComboBox::activated, this, [this](int index) { standortGewählt(index); });
   for (int i = 0; i < 2; ++i) {
     wenn(m_neu[i], &QPushButton::clicked, this, [this, i] { neu(i); });
     wenn(m_nextvolk[i], &QPushButton::clicked, this, [this, i] { nachbarvolk(i); });
   }
-  wenn(m_loeschen, &QPushButton::clicked, this, [this] { loeschen(); });
+  wenn(m_löschen, &QPushButton::clicked, this, [this] { löschen(); });
   wenn(m_standard[0], &QPushButton::clicked, this, [this] { maskeSichernUndMelden(); });
   wenn(m_standard[1], &QPushButton::clicked, this, [this] { maskeHolen(); });
-  wenn(m_comhilfe, &QPushButton::clicked, this, [this] { hilfeZeigen(); });
-  wenn(m_cmdschliessen, &QPushButton::clicked, this, [this] { reject(); });
   for (int slot = 1; slot < AnzahlSlots; ++slot) {
     if (slot == NotizSlot) continue;
     Eingabefeld* feld = m_slots->feld(slot);
-    wenn(feld, &Eingabefeld::inhaltGeaendert, this, [this, slot] { slotGeaendert(slot); });
+    wenn(feld, &Eingabefeld::inhaltNeu, this, [this, slot] { slotGeändert(slot); });
     wenn(feld, &Eingabefeld::verlassen, this, [this, slot] { vorgabenHolen(slot); });
-    wenn(feld, &Eingabefeld::ausListeGewaehlt, this, [this, slot] {
+    wenn(feld, &Eingabefeld::ausListeGenommen, this, [this, slot] {
       if (BuchungsArt == 8 && (slot == 1 || slot == 2)) vorgabenHolen(slot);
     });
   }
@@ -85,16 +76,13 @@ void TE_Eingabe::verbinden() {
 // Enter books from the slots and the buttons; from a list it only leads back to the entry. A note
 // takes it as a new line and is booked with Ctrl+Enter.
 bool TE_Eingabe::eventFilter(QObject* objekt, QEvent* event) {
-  for (Grid* grid : {m_li, m_volkli})  // the slots leave a list more or less room
-    if (objekt == grid->viewport() && event->type() == QEvent::Resize)
-      QTimer::singleShot(0, grid, [grid] { zeigeAktuelleZeile(grid); });
   if (objekt == m_volkli->viewport() && event->type() == QEvent::MouseButtonPress)
     m_volkPerTaste = false;
   // Marking by drawing the mouse over rows or with Ctrl+A is no click on one.
   if ((objekt == m_volkli->viewport() && event->type() == QEvent::MouseButtonRelease) ||
       (objekt == m_volkli && event->type() == QEvent::KeyRelease))
     QTimer::singleShot(0, this,
-                       [this] { Ereignis::ausfuehren(this, [this] { markierungNachziehen(); }); });
+                       [this] { Ereignis::ausführen(this, [this] { markierungNachziehen(); }); });
   if (event->type() == QEvent::KeyPress) {
     const auto& taste = static_cast<const QKeyEvent&>(*event);
     if (objekt == m_volkli) m_volkPerTaste = true;
@@ -104,11 +92,11 @@ bool TE_Eingabe::eventFilter(QObject* objekt, QEvent* event) {
         m_neu[0]->click();
         return true;
       }
-      m_slots->feld(0)->setFocus();
+      m_slots->feld(0)->fokussieren();
       return true;
     }
   }
-  return Formular::eventFilter(objekt, event);
+  return Datenformular::eventFilter(objekt, event);
 }
 
 // A key held down a moment too long must not book twice.
@@ -116,40 +104,36 @@ void TE_Eingabe::keyPressEvent(QKeyEvent* event) {
   if (istEingabetaste(*event) && event->isAutoRepeat())
     event->accept();
   else
-    Formular::keyPressEvent(event);
+    Datenformular::keyPressEvent(event);
 }
 
-void TE_Eingabe::showEvent(QShowEvent* event) {
-  Formular::showEvent(event);
-  if (event->spontaneous() || m_offen) return;
+// A type that can't be shown whole is told; the user may choose another one.
+void TE_Eingabe::füllen() {
   m_offen = true;
-  m_teiler->restoreState(Fensterablage::lesen(TeilerSchluessel).toByteArray());
-  const bool geladen = Ereignis::ausfuehren(this, [this] { laden(); });
-  // Without the tables there is nothing to enter.
-  if (!geladen && !m_datenbank.IsOpen()) QTimer::singleShot(0, this, [this] { reject(); });
+  m_teiler->restoreState(Fensterablage::lesen(TeilerSchlüssel).toByteArray());
+  Ereignis::ausführen(this, [this] { listenFüllen(); });
 }
 
-void TE_Eingabe::laden() {
+void TE_Eingabe::listenFüllen() {
   const Ereignis::Sanduhr sanduhr;
-  const Fuellen fuellen(m_fuellt);
-  m_geaenderteVoelker.clear();
-  m_slotarten.fill(Slotart::Text);
+  const Füllen füllen(m_füllt);
+  m_geänderteVölker.clear();
+  m_slotarten.fill(Verwaltung::Art::Text);
   m_basis = {};
-  m_slots->zuruecksetzen(HeuteText);
-  const int bereich = EinstellungenZahl[AnzeigebereichSlot];
+  m_slots->zurücksetzen(HeuteText);
+  const int bereich = EinstellungenZahl[Zahlslots.anzeigebereich];
   m_anzeige->button(bereich == 1 || bereich == 2 ? bereich : 0)->setChecked(true);
   m_opti->button(BuchungsArt)->setChecked(true);
-  m_datenbank = Arbeitsbereich.OpenDatabase(DatenbankPfad);
-  volkliFuellen();
+  volkliFüllen();
 
   m_kom->clear();
-  m_kom->addItems(volkstandorte(m_datenbank));
+  m_kom->addItems(volkstandorte(m_db));
   m_kom->setCurrentIndex(-1);
   MaskeAufbauen();
 }
 
 // Built once: moving from colony to colony only moves the row.
-void TE_Eingabe::volkliFuellen() {
+void TE_Eingabe::volkliFüllen() {
   const Hauptliste& haupt = *hauptliste();
   const QStringList namen{"Volknr", "Volkname", "Standort"};
   std::vector<Spalte> spalten;
@@ -163,7 +147,7 @@ void TE_Eingabe::volkliFuellen() {
 }
 
 void TE_Eingabe::MaskeAufbauen() {
-  const Fuellen fuellen(m_fuellt);
+  const Füllen füllen(m_füllt);
   setUpdatesEnabled(false);  // one repaint for the whole change
   const auto zeichnen = qScopeGuard([this] { setUpdatesEnabled(true); });
 
@@ -173,22 +157,22 @@ void TE_Eingabe::MaskeAufbauen() {
   const Buchungstyp& typ = buchungstyp(BuchungsArt);
   einkleiden(m_slotarten, typ.art);
   m_slots->alleVerbergen();
-  for (const Buchungsslot& slot : typ.plaetze) FeldEinrichten(slot);
+  for (const Buchungsslot& slot : typ.plätze) FeldEinrichten(slot);
   if (m_angeordnet != typ.art) m_slots->anordnen(typ);
   m_angeordnet = typ.art;
   BuchungenLaden();
   leeren.dismiss();
-  m_slots->feld(0)->setFocus();
+  m_slots->feld(0)->fokussieren();
 }
 
 void TE_Eingabe::FeldEinrichten(const Buchungsslot& slot) {
-  m_slots->einrichten(slot, pickliste(m_datenbank, slot));
+  m_slots->einrichten(slot, Verwaltung::pickliste(m_db, slot));
 }
 
 void TE_Eingabe::BuchungenLaden() {
   const Ereignis::Sanduhr sanduhr;
-  const Fuellen fuellen(m_fuellt);
-  QList<QWidget*> gesperrt{m_comhilfe, m_cmdschliessen, m_volkli};
+  const Füllen füllen(m_füllt);
+  QList<QWidget*> gesperrt{hilfeknopf(), schließknopf(), m_volkli};
   for (QAbstractButton* knopf : m_opti->buttons()) gesperrt.append(knopf);
   for (QWidget* control : gesperrt) control->setEnabled(false);
   const auto freigeben = qScopeGuard([&] {
@@ -200,8 +184,8 @@ void TE_Eingabe::BuchungenLaden() {
   const int volk = haupt.aktuelleZeile();
   m_wabenJeMagazin =
       static_cast<int>(Deutsch::gerade(ZahlLesen(haupt.zelle(volk, "Waben_je_Magazin"))));
-  m_ueberschrift->setText(
-      listenUeberschrift(haupt.zelle(volk, "Volknr"), haupt.zelle(volk, "Volkname")));
+  m_überschrift->setText(
+      listenÜberschrift(haupt.zelle(volk, "Volknr"), haupt.zelle(volk, "Volkname")));
   listeBinden();
 
   const QString datum = m_slots->text(0);
@@ -216,10 +200,10 @@ void TE_Eingabe::BuchungenLaden() {
 
 // The list shows the bookings of the current colony, or nothing at all: never rows of another type.
 void TE_Eingabe::listeBinden() {
-  m_li->setLayoutSchluessel(listenLayoutSchluessel(BuchungsArt));
+  m_li->setLayoutSchlüssel(listenLayoutSchlüssel(BuchungsArt));
   auto leeren = qScopeGuard([this] { listeLeeren(); });
   const auto bereich = static_cast<Anzeigebereich>(m_anzeige->checkedId());
-  m_daten = buchungenLesen(m_datenbank, BuchungsArt, volkId(), bereich);
+  m_daten = buchungenLesen(m_db, BuchungsArt, volkId(), bereich);
   leeren.dismiss();
   m_li->setDaten(m_daten);
 }
@@ -232,7 +216,7 @@ void TE_Eingabe::listeLeeren() {
 // The user may have sorted the list: the row is read as it is shown.
 void TE_Eingabe::zeileZeigen(int zeile) {
   if (zeile < 0 || zeile >= m_li->zeilen()) return;
-  const Fuellen fuellen(m_fuellt);
+  const Füllen füllen(m_füllt);
   std::vector<Spalte> spalten;
   spalten.reserve(static_cast<size_t>(m_daten->spalten()));
   for (int i = 0; i < m_daten->spalten(); ++i) spalten.push_back(m_daten->spalte(i));
@@ -243,21 +227,20 @@ void TE_Eingabe::zeileZeigen(int zeile) {
   m_slots->bezmw()->clear();
 }
 
-void TE_Eingabe::slotGeaendert(int nummer) {
-  if (m_fuellt > 0 || !m_offen) return;
-  einsetzen(folgeaenderungen(BuchungsArt, nummer, m_slots->texte(), m_wabenJeMagazin));
+void TE_Eingabe::slotGeändert(int nummer) {
+  if (m_füllt > 0 || !m_offen) return;
+  einsetzen(folgeänderungen(BuchungsArt, nummer, m_slots->texte(), m_wabenJeMagazin));
   if (BuchungsArt == 0) m_slots->bezmw()->setText(wabenbilanz(m_basis, m_slots->texte()));
 }
 
 // Only when the user leaves a slot; the program moves the focus too.
 void TE_Eingabe::vorgabenHolen(int nummer) {
-  if (m_fuellt > 0 || !m_offen || !m_datenbank.IsOpen()) return;
-  einsetzen(vorgabenBeimVerlassen(m_datenbank, BuchungsArt, nummer, m_slots->texte()));
+  if (m_füllt > 0 || !m_offen || !m_db.IsOpen()) return;
+  einsetzen(vorgabenBeimVerlassen(m_db, BuchungsArt, nummer, m_slots->texte()));
 }
 
-void TE_Eingabe::einsetzen(const QList<Slotaenderung>& aenderungen) {
-  for (const Slotaenderung& aenderung : aenderungen)
-    m_slots->setText(aenderung.slot, aenderung.text);
+void TE_Eingabe::einsetzen(const QList<Slotänderung>& änderungen) {
+  for (const Slotänderung& änderung : änderungen) m_slots->setText(änderung.slot, änderung.text);
 }
 
 QString TE_Eingabe::volkId() const {
@@ -267,16 +250,26 @@ QString TE_Eingabe::volkId() const {
 void TE_Eingabe::done(int ergebnis) {
   if (m_offen) {
     m_offen = false;
-    Fensterablage::schreiben(TeilerSchluessel, m_teiler->saveState());
-    Ereignis::ausfuehren(this, [this] { abschliessen(); });
+    Fensterablage::schreiben(TeilerSchlüssel, m_teiler->saveState());
+    Ereignis::ausführen(this, [this] { abschließen(); });
     listeLeeren();
-    m_datenbank.Close();
+    m_db.Close();
   }
-  Formular::done(ergebnis);
+  Datenformular::done(ergebnis);
 }
 
-void TE_Eingabe::abschliessen() {
-  if (ListeNeuLesen != 1 || !m_datenbank.IsOpen()) return;
+void TE_Eingabe::abschließen() {
+  if (ListeNeuLesen != 1 || !m_db.IsOpen()) return;
   const Ereignis::Sanduhr sanduhr;
-  VolkfelderNachziehen(m_datenbank, m_geaenderteVoelker);
+  try {
+    VolkfelderNachziehen(m_db, m_geänderteVölker);
+  } catch (const Datenbankfehler& fehler) {
+    throw Datenbankfehler(
+        fehler.art(),
+        fehler.text() + CRLF + CRLF +
+            QString("Die Buchungen sind gespeichert; nur die Angaben der gebuchten Völker in der "
+                    "Hauptliste fehlen noch. TOVA trägt sie von selbst nach, sobald die Datenbank "
+                    "wieder beschrieben werden kann, auch nach einem Neustart."),
+        fehler.anweisung());
+  }
 }

@@ -7,7 +7,7 @@
 #include "bookings/Masken.h"
 #include "bookings/Pruefungen.h"
 #include "bookings/Rechnen.h"
-#include "platform/controls/Formular.h"
+#include "core/forms/Datenformular.h"
 
 class Grid;
 class QButtonGroup;
@@ -20,80 +20,80 @@ class Slotfelder;
 // The one form through which every dated event of a colony is entered, changed and deleted. The
 // opener sets BuchungsArt and calls zeigen(). The colonies are those of hauptliste(), whose current
 // row and marking the form mirrors and drives.
-class TE_Eingabe : public Formular {
+class TE_Eingabe : public Datenformular {
  public:
-  explicit TE_Eingabe(QWidget* oeffner);
+  explicit TE_Eingabe(QWidget* öffner);
 
   void done(int ergebnis) override;  // every way out: button, frame, Esc
 
  protected:
-  void showEvent(QShowEvent* event) override;
+  void füllen() override;
   void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* objekt, QEvent* event) override;
 
  private:
   // TE_Eingabe_Aufbau.cpp
-  QWidget* baueVoelker();
+  QWidget* baueVölker();
   QWidget* baueBuchung();
   QWidget* baueArten();
-  QLayout* baueKnoepfe();
+  QWidget* baueKnöpfe();
   QWidget* baueListe();
   void tabFolgeSetzen();
 
   // TE_Eingabe.cpp
   void verbinden();
-  void laden();
-  void volkliFuellen();
+  void listenFüllen();
+  void volkliFüllen();
   void MaskeAufbauen();
   void FeldEinrichten(const Buchungsslot& slot);
   void BuchungenLaden();
   void listeBinden();
   void listeLeeren();
   void zeileZeigen(int zeile);
-  void slotGeaendert(int nummer);
+  void slotGeändert(int nummer);
   void vorgabenHolen(int nummer);
-  void einsetzen(const QList<Slotaenderung>& aenderungen);
-  void abschliessen();
+  void einsetzen(const QList<Slotänderung>& änderungen);
+  void abschließen();
   QString volkId() const;
 
   // TE_Eingabe_Aktionen.cpp
   void neu(int index);
   void neuBuchen();
-  void aendern();
+  void ändern();
+  void markierungNehmen(const QStringList& gebucht);
   void nachFehler(const std::exception_ptr& fehler, const Buchung& buchung,
                   const QString& buchungId);
-  bool zugestimmt(const Pruefergebnis& ergebnis);
-  void datumVervollstaendigen();
-  void loeschen();
+  bool zugestimmt(const Prüfergebnis& ergebnis);
+  void datumVervollständigen();
+  void löschen();
   void maskeSichernUndMelden();
   void maskeHolen();
-  void anzeigeGewaehlt(int bereich);
-  void artGewaehlt(int art);
+  void anzeigeGewählt(int bereich);
+  void artGewählt(int art);
   void nachbarvolk(int richtung);
   void volkAngeklickt(int zeile);
   void markierungNachziehen();
-  void standortGewaehlt(int index);
+  void standortGewählt(int index);
 
   // Texts that the program puts in are no entry of the user: nothing is computed from them.
-  class Fuellen {
+  class Füllen {
    public:
-    explicit Fuellen(int& zaehler) : m_zaehler(zaehler) { ++m_zaehler; }
-    ~Fuellen() { --m_zaehler; }
-    Fuellen(const Fuellen&) = delete;
-    Fuellen& operator=(const Fuellen&) = delete;
+    explicit Füllen(int& zähler) : m_zähler(zähler) { ++m_zähler; }
+    ~Füllen() { --m_zähler; }
+    Füllen(const Füllen&) = delete;
+    Füllen& operator=(const Füllen&) = delete;
 
    private:
-    int& m_zaehler;
+    int& m_zähler;
   };
 
-  Database m_datenbank;
-  QString m_geaenderteVoelker;
+  QString m_geänderteVölker;
   Wabenstand m_basis;  // MW_Basis, WZ_Basis
   int m_wabenJeMagazin = 0;
   Slotarten m_slotarten{};
   Daten m_daten;  // the rows behind li
   bool m_offen = false;
-  int m_fuellt = 0;
+  int m_füllt = 0;
   int m_angeordnet = -1;        // the type that the slots are laid out for
   bool m_volkPerTaste = false;  // the last move in volkli came from the keyboard
 
@@ -101,14 +101,12 @@ class TE_Eingabe : public Formular {
   Slotfelder* m_slots = nullptr;
   QButtonGroup* m_opti = nullptr;
   QButtonGroup* m_anzeige = nullptr;
-  QLabel* m_ueberschrift = nullptr;
+  QLabel* m_überschrift = nullptr;
   Grid* m_li = nullptr;
   Grid* m_volkli = nullptr;
   QComboBox* m_kom = nullptr;
   std::array<QPushButton*, 2> m_nextvolk{};
   std::array<QPushButton*, 2> m_neu{};
   std::array<QPushButton*, 2> m_standard{};
-  QPushButton* m_loeschen = nullptr;
-  QPushButton* m_comhilfe = nullptr;
-  QPushButton* m_cmdschliessen = nullptr;
+  QPushButton* m_löschen = nullptr;
 };

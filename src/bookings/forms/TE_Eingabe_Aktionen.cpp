@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QScopeGuard>
 
-#include "bookings/Liste.h"
+#include "bookings/Buchungsliste.h"
 #include "bookings/forms/Slotfelder.h"
 #include "bookings/forms/TE_Eingabe.h"
 #include "core/globals.h"
@@ -15,40 +15,40 @@
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
-#include "platform/database/Kollation.h"
+#include "platform/database/werte/Kollation.h"
 
 using namespace TZ_Variablen;
 
 void TE_Eingabe::neu(int index) {
-  datumVervollstaendigen();
+  datumVervollständigen();
   const Hauptliste& haupt = *hauptliste();
   const QString datum = m_slots->text(0);
   const int markiert = static_cast<int>(haupt.markierteZeilen().size());
   if (index == 0) {
-    if (zugestimmt(pruefeNeu(datum, markiert))) neuBuchen();
+    if (zugestimmt(prüfeNeu(datum, markiert))) neuBuchen();
   } else {
     const QString volknr = haupt.zelle(haupt.aktuelleZeile(), "Volknr");
-    if (zugestimmt(pruefeAendern(datum, m_li->aktuelleZeile() >= 0, markiert, volknr))) aendern();
+    if (zugestimmt(prüfeÄndern(datum, m_li->aktuelleZeile() >= 0, markiert, volknr))) ändern();
   }
-  if (!IstDatum(m_slots->text(0))) m_slots->feld(0)->setFocus();
+  if (!IstDatum(m_slots->text(0))) m_slots->feld(0)->fokussieren();
 }
 
 // Enter and the mnemonic leave the focus in the date: it is completed as on leaving it.
-void TE_Eingabe::datumVervollstaendigen() {
+void TE_Eingabe::datumVervollständigen() {
   const QString datum = DatumErgaenzen(m_slots->text(0));
   if (!datum.isEmpty()) m_slots->setText(0, datum);
 }
 
-bool TE_Eingabe::zugestimmt(const Pruefergebnis& ergebnis) {
+bool TE_Eingabe::zugestimmt(const Prüfergebnis& ergebnis) {
   switch (ergebnis.art) {
-    case Pruefergebnis::Art::Weiter:
+    case Prüfergebnis::Art::Weiter:
       return true;
-    case Pruefergebnis::Art::Frage:
+    case Prüfergebnis::Art::Frage:
       return Meldungen::Frage(ergebnis.text, Meldungen::Vorgabe::Ja, this);
-    case Pruefergebnis::Art::HinweisUndWeiter:
+    case Prüfergebnis::Art::HinweisUndWeiter:
       Meldungen::Hinweis(ergebnis.text, this);
       return true;
-    case Pruefergebnis::Art::Abbruch:
+    case Prüfergebnis::Art::Abbruch:
       break;
   }
   Meldungen::Hinweis(ergebnis.text, this);
@@ -57,51 +57,61 @@ bool TE_Eingabe::zugestimmt(const Pruefergebnis& ergebnis) {
 
 void TE_Eingabe::neuBuchen() {
   const Hauptliste& haupt = *hauptliste();
-  QStringList voelker;
-  for (const int zeile : haupt.markierteZeilen()) voelker.append(haupt.zelle(zeile, "ID"));
+  QStringList völker;
+  for (const int zeile : haupt.markierteZeilen()) völker.append(haupt.zelle(zeile, "ID"));
 
   Buchung buchung{BuchungsArt, m_slots->texte()};
-  Buchungskontext kontext{static_cast<int>(voelker.size()), m_geaenderteVoelker};
+  Buchungskontext kontext{static_cast<int>(völker.size()), m_geänderteVölker};
   std::exception_ptr fehler;
   try {
     const Ereignis::Sanduhr sanduhr;
-    BuchungslaufSpeichern(m_datenbank, buchung, voelker, kontext);
+    BuchungslaufSpeichern(m_db, buchung, völker, kontext);
   } catch (...) {
     fehler = std::current_exception();
   }
-  m_geaenderteVoelker = kontext.geaenderteVoelker;
+  m_geänderteVölker = kontext.geänderteVölker;
+  if (fehler) markierungNehmen(kontext.gebucht);
   nachFehler(fehler, buchung, {});
   Tastenton();
-  const Fuellen fuellen(m_fuellt);  // the user hasn't left the slot: the new booking stays as shown
+  const Füllen füllen(m_füllt);  // the user hasn't left the slot: the new booking stays as shown
   BuchungenLaden();
-  m_slots->feld(0)->setFocus();
+  m_slots->feld(0)->fokussieren();
 }
 
-void TE_Eingabe::aendern() {
+void TE_Eingabe::ändern() {
   const QString id = m_li->wert(m_li->aktuelleZeile(), "ID").toString();
   Buchung buchung{BuchungsArt, m_slots->texte()};
   Buchungskontext kontext{static_cast<int>(hauptliste()->markierteZeilen().size()),
-                          m_geaenderteVoelker};
+                          m_geänderteVölker};
   std::exception_ptr fehler;
   try {
     const Ereignis::Sanduhr sanduhr;
-    BuchungSpeichern(m_datenbank, buchung, volkId(), id, kontext);
+    BuchungSpeichern(m_db, buchung, volkId(), id, kontext);
   } catch (...) {
     fehler = std::current_exception();
   }
-  m_geaenderteVoelker = kontext.geaenderteVoelker;
+  m_geänderteVölker = kontext.geänderteVölker;
   nachFehler(fehler, buchung, id);
   BuchungenLaden();
   const int zeile = m_li->findeZeile("ID = " + id);
   if (zeile >= 0) m_li->setAktuelleZeile(zeile);  // and shows it
 }
 
+// The colonies that a run has booked before it failed: going on must book each once.
+void TE_Eingabe::markierungNehmen(const QStringList& gebucht) {
+  Hauptliste& haupt = *hauptliste();
+  QList<int> übrige = haupt.markierteZeilen();
+  übrige.removeIf([&](int zeile) { return gebucht.contains(haupt.zelle(zeile, "ID")); });
+  haupt.setMarkierteZeilen(übrige);
+  m_volkli->setMarkierteZeilen(übrige);
+}
+
 // Shows the texts that saving changed. After a failure the entry stays, the list shows what was
 // saved, and the failure goes on.
 void TE_Eingabe::nachFehler(const std::exception_ptr& fehler, const Buchung& buchung,
                             const QString& buchungId) {
-  const Fuellen fuellen(m_fuellt);
-  for (const Buchungsslot& slot : buchungstyp(buchung.art).plaetze)
+  const Füllen füllen(m_füllt);
+  for (const Buchungsslot& slot : buchungstyp(buchung.art).plätze)
     if (const QString& text = buchung.texte[static_cast<size_t>(slot.nummer)];
         text != m_slots->text(slot.nummer))
       m_slots->setText(slot.nummer, text);
@@ -113,11 +123,13 @@ void TE_Eingabe::nachFehler(const std::exception_ptr& fehler, const Buchung& buc
   std::rethrow_exception(fehler);
 }
 
-void TE_Eingabe::loeschen() {
+void TE_Eingabe::löschen() {
   const int zeile = m_li->aktuelleZeile();
-  if (!zugestimmt(pruefeLoeschen(zeile >= 0))) return;
-  if (!LoeschenBestaetigt()) return;
-  m_li->loescheZeile(zeile, m_datenbank, buchungstyp(BuchungsArt).tabelle);
+  if (!zugestimmt(prüfeLöschen(zeile >= 0))) return;
+  const QString benennung =
+      buchungstyp(BuchungsArt).beschriftung + " vom " + m_li->zelle(zeile, "Datum");
+  if (!LoeschenBestaetigt(benennung)) return;
+  m_li->löscheZeile(zeile, m_db, buchungstyp(BuchungsArt).tabelle);
 }
 
 void TE_Eingabe::maskeSichernUndMelden() {
@@ -128,17 +140,17 @@ void TE_Eingabe::maskeSichernUndMelden() {
 void TE_Eingabe::maskeHolen() {
   const auto maske = maskeEinlesen(BuchungsArt, m_slotarten);
   if (!maske) return;
-  const Fuellen fuellen(m_fuellt);
+  const Füllen füllen(m_füllt);
   einsetzen(*maske);
   m_slots->bezmw()->clear();
 }
 
-void TE_Eingabe::anzeigeGewaehlt(int bereich) {
-  EinstellungenZahl[AnzeigebereichSlot] = static_cast<qint16>(bereich);
+void TE_Eingabe::anzeigeGewählt(int bereich) {
+  EinstellungenZahl[Zahlslots.anzeigebereich] = static_cast<qint16>(bereich);
   BuchungenLaden();
 }
 
-void TE_Eingabe::artGewaehlt(int art) {
+void TE_Eingabe::artGewählt(int art) {
   if (art == BuchungsArt) return;
   BuchungsArt = art;
   MaskeAufbauen();
@@ -170,7 +182,7 @@ void TE_Eingabe::markierungNachziehen() {
     volkAngeklickt(m_volkli->aktuelleZeile());
 }
 
-void TE_Eingabe::standortGewaehlt(int index) {
+void TE_Eingabe::standortGewählt(int index) {
   Hauptliste& haupt = *hauptliste();
   haupt.setAktuelleZeile(-1);
   const QString standort = m_kom->itemText(index);

@@ -14,6 +14,7 @@
 #include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Grid.h"
+#include "platform/controls/Rollbereich.h"
 
 using Bauteile::knopf;
 
@@ -36,7 +37,7 @@ QFrame* linie() {
 }
 
 // A button for what is done a hundred times a day.
-void gross(QPushButton* knopf) {
+void groß(QPushButton* knopf) {
   QFont schrift = knopf->font();
   schrift.setBold(true);
   knopf->setFont(schrift);
@@ -47,20 +48,25 @@ void gross(QPushButton* knopf) {
 
 }  // namespace
 
-// Left the colonies, right what is booked for them.
-TE_Eingabe::TE_Eingabe(QWidget* oeffner)
-    : Formular("TE_Eingabe", "Eingabe (Bewegungsdaten)", oeffner) {
-  auto* zeile = new QHBoxLayout(this);
-  QWidget* voelker = baueVoelker();
-  m_teiler = Bauteile::teiler("teiler", {voelker, 1, 300}, {baueBuchung(), 3, 700});
-  zeile->addWidget(m_teiler);
+// Above the types, below on the left the colonies, on the right what is booked for them.
+TE_Eingabe::TE_Eingabe(QWidget* öffner)
+    : Datenformular("TE_Eingabe", "Eingabe (Bewegungsdaten)", öffner) {
+  QWidget* völker = baueVölker();
+  m_teiler = Bauteile::teiler("teiler", {völker, 1, 300}, {baueBuchung(), 3, 700});
+  m_standard[0] =
+      knopf("Standard sichern", "standard_0", "Die Eingaben als Maske dieser Eingabeart aufheben");
+  m_standard[1] =
+      knopf("Standard einlesen", "standard_1", "Die aufgehobene Maske dieser Eingabeart holen");
+  zusammensetzen(
+      Bauteile::untereinander({{baueArten()}, {linie()}, {m_teiler, 1}}),
+      {.links = {m_standard[0], m_standard[1]}, .hilfe = "comhilfe", .schließen = "cmdschließen"});
   tabFolgeSetzen();
   verbinden();
   // Room for long names and a dozen bookings, where the screen has it.
-  Bauteile::fenstergroesse(this, 140, 44);
+  setWunschgröße(146, 44);
 }
 
-QWidget* TE_Eingabe::baueVoelker() {
+QWidget* TE_Eingabe::baueVölker() {
   m_kom = new QComboBox;
   m_kom->setObjectName("kom");
   m_kom->setPlaceholderText("wählen");
@@ -72,7 +78,7 @@ QWidget* TE_Eingabe::baueVoelker() {
   m_volkli = new Grid;
   m_volkli->setObjectName("volkli");
   m_volkli->setAccessibleName("Völker");
-  m_volkli->setLayoutSchluessel("TE_Eingabe/volkli");
+  m_volkli->setLayoutSchlüssel("TE_Eingabe/volkli");
   m_volkli->setMinimumWidth(18 * fontMetrics().averageCharWidth());
 
   m_nextvolk[0] = knopf("&Voriges", "nextvolk1_0", "Vorheriges Volk");
@@ -101,10 +107,8 @@ QWidget* TE_Eingabe::baueBuchung() {
   auto* seite = new QWidget;
   auto* spalte = new QVBoxLayout(seite);
   spalte->setContentsMargins(0, 0, 0, 0);
-  spalte->addWidget(baueArten());
-  spalte->addWidget(linie());
-  spalte->addWidget(m_slots);
-  spalte->addLayout(baueKnoepfe());
+  spalte->addWidget(new Rollbereich(m_slots));
+  spalte->addWidget(baueKnöpfe());
   spalte->addWidget(baueListe(), 1);
   return seite;
 }
@@ -124,41 +128,27 @@ QWidget* TE_Eingabe::baueArten() {
   return seite;
 }
 
-QLayout* TE_Eingabe::baueKnoepfe() {
+QWidget* TE_Eingabe::baueKnöpfe() {
   m_neu[0] = knopf("&Neu", "neu_0", "Als neue Buchung eintragen (Eingabetaste)");
   m_neu[1] = knopf("&Ändern", "neu_1", "Die in der Liste gewählte Buchung ändern");
-  m_loeschen = knopf("&Löschen", "löschen", "Die in der Liste gewählte Buchung löschen");
-  m_standard[0] =
-      knopf("Standard sichern", "standard_0", "Die Eingaben als Maske dieser Eingabeart aufheben");
-  m_standard[1] =
-      knopf("Standard einlesen", "standard_1", "Die aufgehobene Maske dieser Eingabeart holen");
-  m_comhilfe = knopf("&Hilfe", "comhilfe");
-  m_cmdschliessen = knopf("&Schließen", "cmdschließen");
+  m_löschen = knopf("&Löschen", "löschen", "Die in der Liste gewählte Buchung löschen");
   m_neu[0]->setDefault(true);
-  auto* zeile = new QHBoxLayout;
-  for (QPushButton* k : {m_neu[0], m_neu[1], m_loeschen}) {
-    gross(k);
-    zeile->addWidget(k);
-  }
-  zeile->addStretch();
-  for (QPushButton* k : {m_standard[0], m_standard[1]}) zeile->addWidget(k);
-  zeile->addStretch();
-  for (QPushButton* k : {m_comhilfe, m_cmdschliessen}) zeile->addWidget(k);
-  return zeile;
+  for (QPushButton* k : {m_neu[0], m_neu[1], m_löschen}) groß(k);
+  return Bauteile::leiste({m_neu[0], m_neu[1], m_löschen});
 }
 
 QWidget* TE_Eingabe::baueListe() {
-  m_ueberschrift = new QLabel;
-  m_ueberschrift->setObjectName("bezbewegungsdaten");
-  m_ueberschrift->setTextFormat(Qt::PlainText);
+  m_überschrift = new QLabel;
+  m_überschrift->setObjectName("bezbewegungsdaten");
+  m_überschrift->setTextFormat(Qt::PlainText);
   // A long name must not widen the window.
-  m_ueberschrift->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  QFont schrift = m_ueberschrift->font();
+  m_überschrift->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  QFont schrift = m_überschrift->font();
   schrift.setBold(true);
-  m_ueberschrift->setFont(schrift);
+  m_überschrift->setFont(schrift);
 
   auto* kopf = new QHBoxLayout;
-  kopf->addWidget(m_ueberschrift, 1);
+  kopf->addWidget(m_überschrift, 1);
   m_anzeige = new QButtonGroup(this);
   kopf->addWidget(wahl(m_anzeige, "anzeige", 0, "Alles"));
   kopf->addWidget(wahl(m_anzeige, "anzeige", 1, "Aktuelles Jahr"));
@@ -168,7 +158,6 @@ QWidget* TE_Eingabe::baueListe() {
   m_li->setObjectName("li");
   m_li->setAccessibleName("Bewegungsdaten");
   m_li->setSelectionMode(QAbstractItemView::SingleSelection);
-  m_li->setMinimumHeight(4 * fontMetrics().height() + 40);
 
   auto* seite = new QWidget;
   auto* spalte = new QVBoxLayout(seite);
@@ -182,10 +171,9 @@ QWidget* TE_Eingabe::baueListe() {
 void TE_Eingabe::tabFolgeSetzen() {
   QList<QWidget*> folge;
   for (int slot = 0; slot < AnzahlSlots; ++slot) folge.append(m_slots->eingabe(slot));
-  folge << m_neu[0] << m_neu[1] << m_loeschen << m_standard[0] << m_standard[1] << m_comhilfe
-        << m_cmdschliessen;
+  folge << m_neu[0] << m_neu[1] << m_löschen;
   for (QAbstractButton* k : m_anzeige->buttons()) folge.append(k);
   folge << m_li << m_kom << m_volkli << m_nextvolk[0] << m_nextvolk[1];
   for (QAbstractButton* k : m_opti->buttons()) folge.append(k);
-  Bauteile::tabfolge(folge);
+  setTabfolge(folge);
 }

@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QTabWidget>
 
 #include "colonies/Volk.h"
@@ -24,42 +23,34 @@ namespace {
 
 }  // namespace
 
-TV_Neues_Volk::TV_Neues_Volk(QWidget* oeffner)
-    : Formular("TV_Neues_Volk", "Neues Volk eingeben", oeffner) {
+TV_Neues_Volk::TV_Neues_Volk(QWidget* öffner)
+    : Datenformular("TV_Neues_Volk", "Neues Volk eingeben", öffner) {
   aufbauen();
 }
 
 bool TV_Neues_Volk::istNeu() const { return TZ_Variablen::VolkModus != QString("Ändern"); }
 
-void TV_Neues_Volk::zeigen() {
-  const auto ende = qScopeGuard([this] { m_db.Close(); });
-  laden();
-  Formular::zeigen();
-}
-
-void TV_Neues_Volk::laden() {
-  m_db = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
+void TV_Neues_Volk::füllen() {
   setWindowTitle(istNeu() ? QString("Neues Volk eingeben") : QString("Volk ändern"));
-  oknächster[0]->setText(istNeu() ? QString("Speichern, nächstes &neues Volk")
-                                  : QString("Speichern, &nächstes Volk"));
-  oknächster[1]->setVisible(!istNeu());
-  listenFuellen();
-  sevt[0]->setInhalt({});  // numbers are counted on from one opening only
+  m_oknächster[0]->setText(istNeu() ? QString("Speichern, nächstes &neues Volk")
+                                    : QString("Speichern, &nächstes Volk"));
+  m_oknächster[1]->setVisible(!istNeu());
+  listenFüllen();
+  m_sevt[0]->setInhalt({});  // numbers are counted on from one opening only
   datenLaden();
-  fokusAuf(sevt[0]);
+  fokusAuf(m_sevt[0]);
 }
 
-void TV_Neues_Volk::listenFuellen() {
+void TV_Neues_Volk::listenFüllen() {
   for (const Volkfeld& f : volkfelder()) {
-    const QString anweisung = f.listenAnweisung();
-    if (!anweisung.isEmpty()) feld(f)->setListe(Pickliste::lesen(m_db, anweisung));
+    if (f.hatPickliste()) feld(f)->setListe(Verwaltung::pickliste(m_db, f));
   }
 }
 
 void TV_Neues_Volk::datenLaden() {
   if (istNeu()) {
     m_id = 0;
-    zeigeEingabe(volkNeu(sevt[0]->inhalt()));
+    zeigeEingabe(volkNeu(m_sevt[0]->inhalt()));
     return;
   }
   Hauptliste* liste = hauptliste();
@@ -72,28 +63,28 @@ void TV_Neues_Volk::datenLaden() {
 
 void TV_Neues_Volk::zeigeEingabe(const Volkeingabe& volk) {
   for (const Volkfeld& f : volkfelder()) feld(f)->setInhalt(volk[f]);
-  kon->setChecked(volk.kon);
+  m_kon->setChecked(volk.kon);
   m_geladen = eingabe();
 }
 
 Volkeingabe TV_Neues_Volk::eingabe() const {
   Volkeingabe volk;
   for (const Volkfeld& f : volkfelder()) volk[f] = feld(f)->inhalt();
-  volk.kon = kon->isChecked();
+  volk.kon = m_kon->isChecked();
   return volk;
 }
 
 Eingabefeld* TV_Neues_Volk::feld(const Volkfeld& f) const {
   const auto i = static_cast<size_t>(f.index);
-  return f.array == Volkarray::sevt ? sevt[i] : sevtx[i];
+  return f.array == Volkarray::sevt ? m_sevt[i] : m_sevtx[i];
 }
 
 bool TV_Neues_Volk::speichern() {
   const Volkeingabe volk = eingabe();
-  const QString gründe = volkPruefen(m_db, m_id, volk);
+  const QString gründe = volkPrüfen(m_db, m_id, volk);
   if (!gründe.isEmpty()) {
     Meldungen::Hinweis(gründe, this);
-    fokusAuf(gründe.contains("...die Volknummer") ? sevt[0] : sevt[13]);
+    fokusAuf(gründe.contains("...die Volknummer") ? m_sevt[0] : m_sevt[13]);
     return false;
   }
   const Volkfragen fragen{
@@ -111,10 +102,10 @@ void TV_Neues_Volk::speichernUndWeiter(int index) {
   } else if (hauptliste()->zeilen() >= 2) {
     VolkWechseln(index == 1 ? 0 : 1);
   }
-  listenFuellen();
+  listenFüllen();
   datenLaden();
   // Who walks through the colonies changes the same values in each, so the tab stays.
-  fokusAuf(istNeu() ? sevt[0] : erstesFeld(reiter->currentIndex()));
+  fokusAuf(istNeu() ? m_sevt[0] : erstesFeld(m_reiter->currentIndex()));
   Tastenton();
 }
 
@@ -127,19 +118,18 @@ void TV_Neues_Volk::standardSichern() {
 }
 
 void TV_Neues_Volk::fokusAuf(Eingabefeld* feld) {
-  for (int i = 0; i < reiter->count(); ++i)
-    if (reiter->widget(i)->isAncestorOf(feld)) reiter->setCurrentIndex(i);
-  feld->setFocus();
-  feld->selectAll();
+  for (int i = 0; i < m_reiter->count(); ++i)
+    if (m_reiter->widget(i)->isAncestorOf(feld)) m_reiter->setCurrentIndex(i);
+  feld->fokussieren();
 }
 
 Eingabefeld* TV_Neues_Volk::erstesFeld(int reiterNummer) const {
   for (const Volkfeld& f : volkfelder())
     if (volkgruppen().at(f.gruppe).reiter == reiterNummer) return feld(f);
-  return sevt[0];
+  return m_sevt[0];
 }
 
-bool volkLoeschenMitFrage(QWidget* fenster) {
+bool volkLöschenMitFrage(QWidget* fenster) {
   Hauptliste* liste = hauptliste();
   const int zeile = liste->aktuelleZeile();
   if (zeile < 0) return false;
@@ -154,10 +144,10 @@ bool volkLoeschenMitFrage(QWidget* fenster) {
   try {
     TZ_Variablen::DB.Sammelschreiben([&] {
       VolkLoeschen(TZ_Variablen::DB, id);
-      liste->loescheZeile(zeile);
+      liste->löscheZeile(zeile);
     });
   } catch (...) {
-    // The row may have left the list although the colony is still there.
+    // Part of it may be done; the list shows then what is left.
     TZ_Variablen::ListeNeuLesen = 1;
     throw;
   }

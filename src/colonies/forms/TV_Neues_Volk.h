@@ -3,7 +3,7 @@
 #include <array>
 
 #include "colonies/Volkeingabe.h"
-#include "platform/controls/Formular.h"
+#include "core/forms/Datenformular.h"
 
 class Eingabefeld;
 class QCheckBox;
@@ -14,26 +14,23 @@ class QTabWidget;
 // The form that creates and changes a colony. The opener sets VolkModus ("Neu", "Ändern") and calls
 // zeigen(); "Ändern" works on the current row of hauptliste(). On return ListeNeuLesen tells
 // whether something was saved.
-class TV_Neues_Volk : public Formular {
+class TV_Neues_Volk : public Datenformular {
  public:
-  explicit TV_Neues_Volk(QWidget* oeffner = nullptr);
+  explicit TV_Neues_Volk(QWidget* öffner = nullptr);
 
-  // Loads by VolkModus, shows the form modally and returns when it was closed. Throws
-  // Datenbankfehler or Dateifehler when it can't be loaded; it isn't shown then.
-  void zeigen();
-  // Loading alone: pick lists, inputs, first tab.
-  void laden();
+ protected:
+  void füllen() override;  // by VolkModus: pick lists, inputs, first tab
 
  private:
   void aufbauen();
   QWidget* reiterBauen(int nummer);
   QWidget* gruppeBauen(int nummer);
   void feldBauen(const Volkfeld& f, QFormLayout* zeilen);
-  QWidget* knoepfeBauen();
-  void knoepfeVerbinden();
+  void knöpfeBauen();
+  void knöpfeVerbinden();
   void reihenfolgeSetzen();
 
-  void listenFuellen();
+  void listenFüllen();
   void datenLaden();
   void zeigeEingabe(const Volkeingabe& eingabe);
   Volkeingabe eingabe() const;
@@ -46,21 +43,18 @@ class TV_Neues_Volk : public Formular {
   void standardSichern();
   bool istNeu() const;
 
-  Database m_db;
   qint64 m_id = 0;        // of the loaded colony; 0 for a new one
   Volkeingabe m_geladen;  // the inputs as they were on loading
-  std::array<Eingabefeld*, SevtAnzahl> sevt{};
-  std::array<Eingabefeld*, SevtxAnzahl> sevtx{};
-  QCheckBox* kon = nullptr;
-  QTabWidget* reiter = nullptr;
-  QPushButton* ok = nullptr;
-  std::array<QPushButton*, 2> oknächster{};
-  QPushButton* standard = nullptr;
-  QPushButton* comhilfe = nullptr;
-  QPushButton* cmdabbrechen = nullptr;
+  std::array<Eingabefeld*, SevtAnzahl> m_sevt{};
+  std::array<Eingabefeld*, SevtxAnzahl> m_sevtx{};
+  QCheckBox* m_kon = nullptr;
+  QTabWidget* m_reiter = nullptr;
+  QPushButton* m_ok = nullptr;
+  std::array<QPushButton*, 2> m_oknächster{};
+  QPushButton* m_standard = nullptr;
 };
 
 // Asks whether the current colony of hauptliste() is to be deleted (No is the default) and deletes
 // it with all its bookings and appointments, and its row in the list. True when it was deleted.
 // Throws Datenbankfehler.
-bool volkLoeschenMitFrage(QWidget* fenster);
+bool volkLöschenMitFrage(QWidget* fenster);

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "colonies/Selektion.h"
-#include "platform/controls/Formular.h"
+#include "core/forms/Datenformular.h"
 
 class Eingabefeld;
 class QCheckBox;
@@ -13,17 +13,12 @@ class QPushButton;
 
 // The form that selects colonies by rule. It stays open, so that rules can be combined; each click
 // reads hauptliste() anew. Its two check boxes are slots 53 and 52 of EinstellungenZahl.
-class TV_Selektieren : public Formular {
+class TV_Selektieren : public Datenformular {
  public:
-  explicit TV_Selektieren(QWidget* oeffner = nullptr);
-
-  // Shows the form modally and returns when it was closed. Throws Datenbankfehler when it can't be
-  // loaded; it isn't shown then.
-  void zeigen();
-  // Loading alone: check boxes, empty inputs, pick lists, the count.
-  void laden();
+  explicit TV_Selektieren(QWidget* öffner = nullptr);
 
  protected:
+  void füllen() override;  // check boxes, empty inputs, pick lists, the count
   void done(int ergebnis) override;
   bool eventFilter(QObject* objekt, QEvent* event) override;
 
@@ -34,20 +29,16 @@ class TV_Selektieren : public Formular {
   void regelBauen(int index, QGridLayout* gitter, int zeile, int spalte);
   void zahlBauen(QGridLayout* gitter, int zeile);
   QWidget* anzahlBauen();
-  QWidget* fussBauen();
   void verbinden();
   void reihenfolgeSetzen();
 
   void eingabenLeeren();
-  void listenFuellen();
+  void listenFüllen();
   void anzahlZeigen();
   void selektieren(int index);
 
-  Database m_db;
-  std::array<QCheckBox*, 2> kon{};
-  std::array<Eingabefeld*, Selektion::SevtAnzahl> sevt{};
-  std::array<QPushButton*, 9> entselekt{};
-  QLabel* anzahl = nullptr;
-  QPushButton* comhilfe = nullptr;
-  QPushButton* schliessen = nullptr;
+  std::array<QCheckBox*, 2> m_kon{};
+  std::array<Eingabefeld*, Selektion::SevtAnzahl> m_sevt{};
+  std::array<QPushButton*, 9> m_entselekt{};
+  QLabel* m_anzahl = nullptr;
 };

@@ -1,17 +1,13 @@
 #include "core/forms/TH_Hilfe.h"
 
-#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextBrowser>
 #include <QTextDocument>
-#include <QVBoxLayout>
 
 #include "core/globals.h"
 #include "core/help.h"
-#include "platform/controls/Ereignis.h"
-#include "platform/controls/Meldungen.h"
 #include "platform/files/Textdatei.h"
 
 namespace {
@@ -27,8 +23,8 @@ QString aussehen(const QPalette& palette) {
 
 }  // namespace
 
-TH_Hilfe::TH_Hilfe(QWidget* oeffner)
-    : Formular(QStringLiteral("TH_Hilfe"), QStringLiteral("Hilfe"), oeffner) {
+TH_Hilfe::TH_Hilfe(QWidget* öffner)
+    : Formular(QStringLiteral("TH_Hilfe"), QStringLiteral("Hilfe"), öffner) {
   m_text = new QTextBrowser(this);
   m_text->setObjectName(QStringLiteral("hilfetext"));
   m_text->setAccessibleName(QStringLiteral("Hilfetext"));
@@ -40,37 +36,19 @@ TH_Hilfe::TH_Hilfe(QWidget* oeffner)
   schrift.setPointSizeF(schrift.pointSizeF() * 1.1);
   m_text->setFont(schrift);
 
-  auto* knoepfe = new QDialogButtonBox(this);
-  auto* schliessen = knoepfe->addButton(QStringLiteral("&Schließen"), QDialogButtonBox::RejectRole);
-  schliessen->setObjectName(QStringLiteral("schliessen"));
-  schliessen->setDefault(true);
-  connect(knoepfe, &QDialogButtonBox::rejected, this, [this] { reject(); });
-
-  auto* seite = new QVBoxLayout(this);
-  seite->addWidget(m_text, 1);
-  seite->addWidget(knoepfe);
-  const QFontMetrics mass(schrift);
-  resize(mass.averageCharWidth() * 90, mass.height() * 36);
+  zusammensetzen(m_text, {.hilfe = {}, .schließen = QStringLiteral("schliessen")});
+  schließknopf()->setDefault(true);
+  setWunschgröße(100, 40);
 }
 
-void TH_Hilfe::zeigen() {
-  bool gelesen = false;
-  Ereignis::ausfuehren(parentWidget(), [&] { gelesen = lesen(); });
-  if (gelesen) Formular::zeigen();
-}
-
-bool TH_Hilfe::lesen() {
-  if (!Textdatei::existiert(Hilfe::datei())) {
-    Meldungen::Hinweis(Hilfe::fehltMeldung(), parentWidget());
-    return false;
-  }
+void TH_Hilfe::füllen() {
+  if (!Textdatei::existiert(Hilfe::datei())) throw Dateifehler(Hilfe::fehltMeldung());
   const QString& thema = TZ_Variablen::HilfeThema;
   m_text->document()->setDefaultStyleSheet(aussehen(m_text->palette()));
   m_text->setHtml(
       Hilfe::alsHtml(Hilfe::abschnitt(thema).value_or(Hilfe::ohneAbschnitt(thema))).trimmed());
   m_text->verticalScrollBar()->setValue(0);
   m_text->setFocus();
-  return true;
 }
 
 // F1 in the help window would open it once more.

@@ -7,14 +7,11 @@ class QTextBrowser;
 // Shows the section of the help text whose key is HilfeThema, to read, select and copy.
 class TH_Hilfe : public Formular {
  public:
-  explicit TH_Hilfe(QWidget* oeffner);
-
-  // Reads the section and shows it; says so and shows nothing when the help file isn't there.
-  void zeigen();
-  // Reads the section of HilfeThema into the window. False when the help file isn't there.
-  bool lesen();
+  explicit TH_Hilfe(QWidget* öffner);
 
  protected:
+  // Reads the section of HilfeThema into the window. Throws Dateifehler without the help file.
+  void füllen() override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

@@ -4,12 +4,13 @@ namespace Verwaltung {
 
 Eingabefeld::Beschreibung beschreibung(const Feld& feld) {
   Eingabefeld::Beschreibung b;
-  b.maxLaenge = feld.maxLaenge;
+  b.maxLänge = feld.maxLänge;
   b.ersterText = feld.ersterText;
   b.einheit = feld.zeichen;
   if (feld.nurAnzeige) return b;  // no button for what isn't typed
   switch (feld.art) {
     case Art::Text:
+    case Art::Notiz:
       break;
     case Art::Auswahl:
       b.art = Eingabefeld::Art::Auswahl;
@@ -18,7 +19,7 @@ Eingabefeld::Beschreibung beschreibung(const Feld& feld) {
     case Art::Ganzzahl:
       b.art = Eingabefeld::Art::Ganzzahl;
       b.bis = feld.bis;
-      b.ohneNull = feld.nullVerboten;
+      b.von = feld.von;
       break;
     case Art::Dezimal:
       b.art = Eingabefeld::Art::Dezimal;

@@ -10,8 +10,8 @@
 #include "platform/controls/Bauteile.h"
 #include "platform/files/Dateimuster.h"
 
-TS_Dateiauswahl::TS_Dateiauswahl(const QString& muster, QWidget* oeffner)
-    : Formular(QStringLiteral("TS_Dateiauswahl"), QStringLiteral("Datei-Auswahl"), oeffner) {
+TS_Dateiauswahl::TS_Dateiauswahl(const QString& muster, QWidget* öffner)
+    : Formular(QStringLiteral("TS_Dateiauswahl"), QStringLiteral("Datei-Auswahl"), öffner) {
   auto* seite = new QVBoxLayout(this);
   m_datei1 = new QListWidget(this);
   m_datei1->setObjectName(QStringLiteral("Datei1"));
@@ -28,7 +28,7 @@ TS_Dateiauswahl::TS_Dateiauswahl(const QString& muster, QWidget* oeffner)
   seite->addWidget(kopf);
   seite->addWidget(m_datei1);
 
-  m_ok = Bauteile::okUndSchliessen(this, seite);
+  m_ok = Bauteile::okUndSchließen(this, seite);
   connect(m_datei1, &QListWidget::itemDoubleClicked, this, [this] { accept(); });
   connect(m_datei1, &QListWidget::currentRowChanged, this, [this] { knopfStellen(); });
   m_datei1->setCurrentRow(0);
@@ -39,7 +39,7 @@ TS_Dateiauswahl::TS_Dateiauswahl(const QString& muster, QWidget* oeffner)
 void TS_Dateiauswahl::knopfStellen() { m_ok->setEnabled(m_datei1->currentItem() != nullptr); }
 
 void TS_Dateiauswahl::done(int ergebnis) {
-  const QListWidgetItem* gewaehlt = ergebnis == Accepted ? m_datei1->currentItem() : nullptr;
-  TZ_Variablen::DateiErgebnis = gewaehlt != nullptr ? gewaehlt->text() : QString();
+  const QListWidgetItem* gewählt = ergebnis == Accepted ? m_datei1->currentItem() : nullptr;
+  TZ_Variablen::DateiErgebnis = gewählt != nullptr ? gewählt->text() : QString();
   Formular::done(ergebnis);
 }

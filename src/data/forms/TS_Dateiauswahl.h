@@ -9,7 +9,7 @@ class QPushButton;
 // chosen, without its folder, or empty.
 class TS_Dateiauswahl : public Formular {
  public:
-  TS_Dateiauswahl(const QString& muster, QWidget* oeffner);
+  TS_Dateiauswahl(const QString& muster, QWidget* öffner);
 
  protected:
   void done(int ergebnis) override;

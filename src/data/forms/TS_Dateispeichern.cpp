@@ -7,15 +7,14 @@
 #include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
 
-TS_Dateispeichern::TS_Dateispeichern(QWidget* oeffner, const QString& vorschlag)
-    : Formular(QStringLiteral("TS_Dateispeichern"), QStringLiteral("Datei speichern"), oeffner) {
+TS_Dateispeichern::TS_Dateispeichern(QWidget* öffner, const QString& vorschlag)
+    : Formular(QStringLiteral("TS_Dateispeichern"), QStringLiteral("Datei speichern"), öffner) {
   m_t = new Eingabefeld(this);
   m_t->setObjectName(QStringLiteral("t"));
   Eingabefeld::Beschreibung beschreibung;
   beschreibung.ersterText = nurErlaubte(vorschlag);
   m_t->einrichten(beschreibung);
   m_t->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
-  m_t->selectAll();
 
   auto* seite = new QVBoxLayout(this);
   seite->addWidget(
@@ -26,9 +25,9 @@ TS_Dateispeichern::TS_Dateispeichern(QWidget* oeffner, const QString& vorschlag)
   seite->addWidget(hinweis);
   seite->addStretch();
 
-  Bauteile::okUndSchliessen(this, seite);
+  Bauteile::okUndSchließen(this, seite);
   connect(m_t, &QLineEdit::textEdited, this, [this](const QString& text) { nachTippen(text); });
-  m_t->setFocus();
+  m_t->fokussieren();
 }
 
 QString TS_Dateispeichern::nurErlaubte(const QString& text) {

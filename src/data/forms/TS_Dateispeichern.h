@@ -8,7 +8,7 @@ class Eingabefeld;
 class TS_Dateispeichern : public Formular {
  public:
   // vorschlag: the name to begin with; characters not allowed in it fall away.
-  explicit TS_Dateispeichern(QWidget* oeffner, const QString& vorschlag = {});
+  explicit TS_Dateispeichern(QWidget* öffner, const QString& vorschlag = {});
 
   // The letters A to Z and a to z, digits, "_" and "*" of a text.
   static QString nurErlaubte(const QString& text);

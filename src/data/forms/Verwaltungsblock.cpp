@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "core/globals.h"
 #include "data/forms/Feldbeschreibung.h"
 #include "data/forms/helpers_forms.h"
 #include "platform/controls/Bauteile.h"
@@ -15,9 +16,11 @@
 #include "platform/controls/Formular.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
+#include "platform/controls/Rollbereich.h"
 
 using namespace Verwaltung;
 using Bauteile::knopf;
+using TZ_Variablen::CRLF;
 
 Verwaltungsblock::Verwaltungsblock(const Plan& plan, QWidget* eltern)
     : QWidget(eltern), m_plan(plan) {
@@ -30,7 +33,7 @@ Verwaltungsblock::Verwaltungsblock(const Plan& plan, QWidget* eltern)
 void Verwaltungsblock::aufbauen() {
   m_neu[0] = knopf("&Neu", m_plan.neu + "_0", "Die Eingaben als neuen Datensatz eintragen");
   m_neu[1] = knopf("&Ändern", m_plan.neu + "_1", "Den in der Liste gewählten Datensatz ändern");
-  m_löschen = knopf("&Löschen", m_plan.loeschen, "Den in der Liste gewählten Datensatz löschen");
+  m_löschen = knopf("&Löschen", m_plan.löschen, "Den in der Liste gewählten Datensatz löschen");
   m_knopfzeile = new QHBoxLayout;
   for (QPushButton* k : {m_neu[0], m_neu[1], m_löschen}) m_knopfzeile->addWidget(k);
   m_knopfzeile->addStretch(1);
@@ -38,14 +41,13 @@ void Verwaltungsblock::aufbauen() {
   m_liste = new Grid;
   m_liste->setObjectName(m_plan.liste);
   m_liste->setAccessibleName(m_plan.listentitel);
-  m_liste->setLayoutSchluessel(m_plan.schluessel);
+  m_liste->setLayoutSchlüssel(m_plan.schlüssel);
   m_liste->setSelectionMode(QAbstractItemView::SingleSelection);
-  m_liste->setMinimumHeight(6 * fontMetrics().height());
   m_listenkopf = new QHBoxLayout;
 
   auto* spalte = new QVBoxLayout(this);
   spalte->setContentsMargins(0, 0, 0, 0);
-  spalte->addWidget(eingabenBauen());
+  spalte->addWidget(new Rollbereich(eingabenBauen()));
   spalte->addLayout(m_knopfzeile);
   spalte->addLayout(m_listenkopf);
   spalte->addWidget(m_liste, 1);
@@ -59,25 +61,38 @@ QWidget* Verwaltungsblock::eingabenBauen() {
   raster->setColumnMinimumWidth(2, 2 * fontMetrics().averageCharWidth());
   raster->setColumnStretch(5, 1);
   int anzahl = 0;
-  for (const Feld& feld : m_plan.felder) anzahl += feld.nurAnzeige ? 0 : 1;
-  const int hoehe = (anzahl + 1) / 2;
+  for (const Feld& feld : m_plan.felder) anzahl += feld.nurAnzeige || feld.stehtDaneben() ? 0 : 1;
+  const int höhe = (anzahl + 1) / 2;
   int getippt = 0;
   int gezeigt = 0;
+  QHBoxLayout* reihe = nullptr;  // of several inputs under one caption
   for (int i = 0; i < m_plan.felder.size(); ++i) {
     const Feld& feld = m_plan.felder[i];
     Eingabefeld* eingabe = feldBauen(i);
+    if (feld.stehtDaneben()) {  // under the caption of the field before
+      Q_ASSERT(reihe != nullptr);
+      reihe->addWidget(eingabe);
+      continue;
+    }
     const int platz = feld.nurAnzeige ? gezeigt++ : getippt++;
-    const int zeile = feld.nurAnzeige ? hoehe + 1 + platz / 2 : platz % hoehe;
-    const int spalte = 3 * (feld.nurAnzeige ? platz % 2 : platz / hoehe);
+    const int zeile = feld.nurAnzeige ? höhe + 1 + platz / 2 : platz % höhe;
+    const int spalte = 3 * (feld.nurAnzeige ? platz % 2 : platz / höhe);
     raster->addWidget(Formular::beschriften(feld.beschriftung, eingabe), zeile, spalte);
-    const bool breit = feld.art == Art::Text && feld.maxLaenge > 40;
+    const bool breit = feld.art == Art::Text && feld.maxLänge > 40;
     if (breit) raster->setColumnStretch(spalte + 1, Vorrang);
-    raster->addWidget(eingabe, zeile, spalte + 1, breit ? Qt::Alignment() : Qt::AlignLeft);
+    reihe = nullptr;
+    if (i + 1 < m_plan.felder.size() && m_plan.felder[i + 1].stehtDaneben()) {
+      reihe = new QHBoxLayout;
+      reihe->addWidget(eingabe);
+      raster->addLayout(reihe, zeile, spalte + 1, Qt::AlignLeft);
+    } else {
+      raster->addWidget(eingabe, zeile, spalte + 1, breit ? Qt::Alignment() : Qt::AlignLeft);
+    }
   }
   if (!m_plan.hinweis.isEmpty()) {
     auto* hinweis = new QLabel(m_plan.hinweis);
     hinweis->setWordWrap(true);
-    raster->addWidget(hinweis, hoehe, 0, 1, 5);
+    raster->addWidget(hinweis, höhe, 0, 1, 5);
   }
   return rahmen;
 }
@@ -86,6 +101,7 @@ Eingabefeld* Verwaltungsblock::feldBauen(int nummer) {
   auto* eingabe = new Eingabefeld;
   eingabe->setObjectName(m_plan.eingabe + "_" + QString::number(nummer));
   eingabe->einrichten(beschreibung(m_plan.felder[nummer]));
+  eingabe->setAccessibleName(m_plan.felder[nummer].name());
   if (m_plan.felder[nummer].nurAnzeige) {
     eingabe->setReadOnly(true);
     QPalette farben = eingabe->palette();  // on the form's own ground: nothing to type here
@@ -117,12 +133,12 @@ QList<QWidget*> Verwaltungsblock::tabfolge() const {
 // ---- reading and showing ----
 
 void Verwaltungsblock::laden(const Database& datenbank) {
-  oeffnen(datenbank);
+  öffnen(datenbank);
   picklistenLesen();
   listeLesen();
 }
 
-void Verwaltungsblock::oeffnen(const Database& datenbank) {
+void Verwaltungsblock::öffnen(const Database& datenbank) {
   m_datenbank = datenbank;
   leeren();
 }
@@ -170,17 +186,16 @@ void Verwaltungsblock::zeigeZeile(int zeile) {
     const Feld& feld = m_plan.felder[i];
     m_eingaben[i]->setInhalt(feldtext(feld, m_liste->wert(zeile, feld.feld)));
   }
+  m_gezeigt = m_liste->wert(zeile, "ID").toLongLong();
 }
 
 void Verwaltungsblock::leeren() {
+  m_gezeigt.reset();
   for (int i = 0; i < m_plan.felder.size(); ++i)
     m_eingaben[i]->setInhalt(m_plan.felder[i].ersterText);
 }
 
-void Verwaltungsblock::fokusAufErstesFeld() {
-  m_eingaben.first()->setFocus();
-  m_eingaben.first()->selectAll();
-}
+void Verwaltungsblock::fokusAufErstesFeld() { m_eingaben.first()->fokussieren(); }
 
 // ---- saving and deleting ----
 
@@ -199,6 +214,37 @@ qint64 Verwaltungsblock::schreiben(const Texte& texte, std::optional<qint64> id,
 
 void Verwaltungsblock::nachSpeichern(qint64, bool) {}
 
+// The row for a question: its first values that aren't empty.
+QString Verwaltungsblock::benennung(int zeile) const {
+  constexpr qsizetype Höchstens = 4;
+  QStringList teile;
+  for (const Feld& feld : m_plan.felder) {
+    if (feld.nurAnzeige || teile.size() == Höchstens) continue;
+    const QString wert = feldtext(feld, m_liste->wert(zeile, feld.feld));
+    if (!wert.trimmed().isEmpty()) teile << feld.beschriftung + ": " + wert;
+  }
+  return teile.join(", ");
+}
+
+// A row that became current by itself was never in the inputs: what they hold was meant for another
+// one, most likely for a new one.
+bool Verwaltungsblock::überschreibenErfragt(int zeile) {
+  if (m_gezeigt == aktuelleId()) return true;
+  return Meldungen::Frage(
+      QString("Der gewählte Datensatz steht nicht in den Eingabefeldern:") + CRLF + CRLF +
+          benennung(zeile) + CRLF + CRLF +
+          QString("Soll er wirklich mit den jetzigen Eingaben überschrieben werden?"),
+      Meldungen::Vorgabe::Nein, this);
+}
+
+// What goes along with a row is told by the inputs, so they show it first.
+bool Verwaltungsblock::löschenErfragt(int zeile) {
+  if (m_gezeigt == aktuelleId()) return LoeschenBestaetigt();
+  if (!LöschenErfragt(benennung(zeile))) return false;
+  zeigeZeile(zeile);
+  return true;
+}
+
 void Verwaltungsblock::speichern(bool ändern) {
   const Texte eingaben = texte();
   if (const QStringList gründe = prüfe(eingaben, ändern); !gründe.isEmpty()) {
@@ -210,6 +256,7 @@ void Verwaltungsblock::speichern(bool ändern) {
     Meldungen::Hinweis(m_plan.zuerstMarkieren, this);
     return;
   }
+  if (id && !überschreibenErfragt(m_liste->aktuelleZeile())) return;
   QVariantHash weitere;
   if (const QString einwand = vorSpeichern(eingaben, id, weitere); !einwand.isEmpty()) {
     Meldungen::Hinweis(einwand, this);
@@ -229,18 +276,14 @@ void Verwaltungsblock::löschen() {
     Meldungen::Hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.", this);
     return;
   }
-  if (!LoeschenBestaetigt()) return;
-  const qint64 id = *aktuelleId();
+  if (!löschenErfragt(zeile)) return;
   try {
     m_datenbank.Sammelschreiben([&] {
-      vorLöschen(id);
-      m_liste->loescheZeile(zeile, m_datenbank, m_plan.tabelle);  // shows the row now at that place
+      vorLöschen(*aktuelleId());
+      m_liste->löscheZeile(zeile, m_datenbank, m_plan.tabelle);  // shows the row now at that place
     });
-  } catch (const Datenbankfehler& fehler) {
-    if (fehler.allesVerworfen()) {  // the row is still there
-      listeLesen();
-      zeigeDatensatz(id);
-    }
+  } catch (...) {
+    m_liste->setAktuelleZeile(-1);
     throw;
   }
   if (m_liste->zeilen() == 0) leeren();

@@ -21,12 +21,12 @@ class Verwaltungsblock : public QWidget {
   struct Plan {
     QString tabelle;
     Verwaltung::Felder felder;
-    QString titel;                   // over the inputs
-    QString anweisung;               // of the list, its columns include ID and the fields
-    QString liste;                   // objectName of the list
-    QString listentitel;             // its accessible name
-    QString schluessel;              // under which its column widths are kept
-    QString eingabe, neu, loeschen;  // objectNames; the first two get an index behind them
+    QString titel;                  // over the inputs
+    QString anweisung;              // of the list, its columns include ID and the fields
+    QString liste;                  // objectName of the list
+    QString listentitel;            // its accessible name
+    QString schlüssel;              // under which its column widths are kept
+    QString eingabe, neu, löschen;  // objectNames; the first two get an index behind them
     // What "Ändern" says without a current row.
     QString zuerstMarkieren = "Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!";
     QString hinweis = {};  // above the inputs that are only shown
@@ -38,13 +38,14 @@ class Verwaltungsblock : public QWidget {
   // picklistenLesen throw Datenbankfehler.
   void laden(const Database& datenbank);
   // The handle and the empty form alone, for a form that reads its blocks in an order of its own.
-  void oeffnen(const Database& datenbank);
+  void öffnen(const Database& datenbank);
   // Lets go of the database: the form was closed. What is shown stays until it is loaded again.
   void entladen() { m_datenbank.Close(); }
   // The rows anew, none current; the inputs stay. An override calls this one.
   virtual void listeLesen();
   void picklistenLesen();
 
+  const Plan& plan() const { return m_plan; }
   Grid* liste() const { return m_liste; }
   Eingabefeld* eingabe(const QString& feld) const;
   Verwaltung::Texte texte() const;
@@ -86,7 +87,8 @@ class Verwaltungsblock : public QWidget {
   virtual void nachSpeichern(qint64 id, bool neu);
 
   // "Löschen", after the user has agreed: what goes with the row, in one commit with it and before
-  // it; and what is to be shown when the row is gone from the list.
+  // it; and what is to be shown when the row is gone from the list. When it fails the row is still
+  // there, and none is current: the button pressed once more must not take another one.
   virtual void vorLöschen(qint64) {}
   virtual void nachLöschen() {}
 
@@ -97,11 +99,15 @@ class Verwaltungsblock : public QWidget {
   void verbinden();
   void leeren();  // the inputs as in the empty form
   void zeigeZeile(int zeile);
+  QString benennung(int zeile) const;
+  bool überschreibenErfragt(int zeile);
+  bool löschenErfragt(int zeile);
   void speichern(bool ändern);
   void löschen();
 
   Plan m_plan;
   Database m_datenbank;
+  std::optional<qint64> m_gezeigt;  // the row that the inputs were filled from
   QList<Eingabefeld*> m_eingaben;
   Grid* m_liste = nullptr;
   QPushButton* m_neu[2] = {};

@@ -2,12 +2,10 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QRadioButton>
-#include <QScreen>
 #include <QTextDocument>
 #include <QWheelEvent>
 
@@ -22,63 +20,57 @@ namespace {
 
 // The font's name is kept until the program ends.
 QString& schriftname() {
-  static QString name = QString::fromLatin1(UeblicheSchrift);
+  static QString name = QString::fromLatin1(ÜblicheSchrift);
   return name;
 }
 
 }  // namespace
 
-TA_Textausgabe::TA_Textausgabe(QWidget* oeffner)
-    : Formular(QStringLiteral("TA_Textausgabe"), QStringLiteral("Listen-Ausgabe"), oeffner) {
+TA_Textausgabe::TA_Textausgabe(QWidget* öffner)
+    : Formular(QStringLiteral("TA_Textausgabe"), QStringLiteral("Listen-Ausgabe"), öffner) {
   aufbauen();
   verbinden();
 }
 
-void TA_Textausgabe::oeffnen(QWidget* oeffner) {
+void TA_Textausgabe::öffnen(QWidget* öffner) {
   static QPointer<TA_Textausgabe> form;
   if (!form)
-    form = new TA_Textausgabe(oeffner);
-  else if (oeffner != nullptr && form->parentWidget() != oeffner->window())
-    form->setParent(oeffner->window(), form->windowFlags());
+    form = new TA_Textausgabe(öffner);
+  else if (öffner != nullptr && form->parentWidget() != öffner->window())
+    form->setParent(öffner->window(), form->windowFlags());
   form->zeigen();
 }
 
-void TA_Textausgabe::zeigen() {
-  laden();
-  Formular::zeigen();
-}
-
-void TA_Textausgabe::laden() {
-  schriftenFuellen();
+void TA_Textausgabe::füllen() {
+  schriftenFüllen();
   einstellungenSetzen(Textausgabe::laden());
   FormModus.clear();
-  t->clear();
-  if (Textausgabe::schriftUnpassend(kom->currentText())) hinweis(Textausgabe::schriftHinweis());
-  inBildschirm();
+  m_t->clear();
+  if (Textausgabe::schriftUnpassend(m_kom->currentText())) hinweis(Textausgabe::schriftHinweis());
   setWindowTitle(QStringLiteral("Listen-Ausgabe ") + AusgabeDatei);
   textLesen();
-  t->setFocus();
+  m_t->setFocus();
 }
 
-void TA_Textausgabe::schriftenFuellen() {
+void TA_Textausgabe::schriftenFüllen() {
   m_schriften = schriftliste(Druck::schriften(true), Druck::schriften(false));
-  const QSignalBlocker still(kom);
-  kom->clear();
-  for (const Schriftwahl& wahl : m_schriften) kom->addItem(wahl.name);
-  kom->setCurrentIndex(schriftIndex(m_schriften, schriftname()));
+  const QSignalBlocker still(m_kom);
+  m_kom->clear();
+  for (const Schriftwahl& wahl : m_schriften) m_kom->addItem(wahl.name);
+  m_kom->setCurrentIndex(schriftIndex(m_schriften, schriftname()));
 }
 
 void TA_Textausgabe::einstellungenSetzen(const Textausgabe::Einstellungen& e) {
-  druckformat[e.quer ? 1 : 0]->setChecked(true);
-  kon[0]->setChecked(e.fett);
-  kon[1]->setChecked(e.kursiv);
-  tz->setText(QString::number(e.rand));
-  schriftgroesseSetzen(e.groesse);
+  m_druckformat[e.quer ? 1 : 0]->setChecked(true);
+  m_kon[0]->setChecked(e.fett);
+  m_kon[1]->setChecked(e.kursiv);
+  m_tz->setText(QString::number(e.rand));
+  schriftgrößeSetzen(e.größe);
 }
 
 Textausgabe::Einstellungen TA_Textausgabe::einstellungen() const {
-  return {druckformat[1]->isChecked(), kon[0]->isChecked(), kon[1]->isChecked(), schriftgroesse(),
-          Textausgabe::rand(tz->text())};
+  return {m_druckformat[1]->isChecked(), m_kon[0]->isChecked(), m_kon[1]->isChecked(),
+          schriftgröße(), Textausgabe::rand(m_tz->text())};
 }
 
 void TA_Textausgabe::textLesen() {
@@ -87,53 +79,44 @@ void TA_Textausgabe::textLesen() {
     return;
   }
   const Textausgabe::Anzeige anzeige = Textausgabe::lesen(AusgabeDatei);
-  t->setPlainText(anzeige.text);
-  if (anzeige.zuGross) hinweis(Textausgabe::zuGrossText());
+  m_t->setPlainText(anzeige.text);
+  if (anzeige.zuGroß) hinweis(Textausgabe::zuGroßText());
 }
 
-// Lists are wide: as large as the screen allows. A size that was remembered comes at the showing.
-void TA_Textausgabe::inBildschirm() {
-  if (isVisible()) return;
-  const QScreen* schirm = parentWidget() != nullptr ? parentWidget()->screen() : screen();
-  constexpr double Anteil = 0.9;  // leaves room for the window's own frame
-  if (schirm != nullptr)
-    resize((schirm->availableGeometry().size() * Anteil).expandedTo(minimumSizeHint()));
-}
-
-int TA_Textausgabe::schriftgroesse() const { return größe->currentText().toInt(); }
+int TA_Textausgabe::schriftgröße() const { return m_größe->currentText().toInt(); }
 
 // The list holds the sizes that are kept; a smaller one, reached by the buttons, joins it for now.
-void TA_Textausgabe::schriftgroesseSetzen(int groesse) {
-  const QSignalBlocker still(größe);
-  while (größe->count() > 0 && größe->itemText(0).toInt() < Textausgabe::KleinsteGroesse)
-    größe->removeItem(0);
-  const QString text = QString::number(groesse);
-  if (groesse < Textausgabe::KleinsteGroesse) größe->insertItem(0, text);
-  größe->setCurrentIndex(größe->findText(text));
+void TA_Textausgabe::schriftgrößeSetzen(int punkt) {
+  const QSignalBlocker still(m_größe);
+  while (m_größe->count() > 0 && m_größe->itemText(0).toInt() < Textausgabe::KleinsteGröße)
+    m_größe->removeItem(0);
+  const QString text = QString::number(punkt);
+  if (punkt < Textausgabe::KleinsteGröße) m_größe->insertItem(0, text);
+  m_größe->setCurrentIndex(m_größe->findText(text));
   schriftZeigen();
 }
 
 QFont TA_Textausgabe::schrift() const {
-  const int nummer = kom->currentIndex();
-  QFont f(nummer < 0 ? QString::fromLatin1(UeblicheSchrift) : m_schriften[nummer].familie);
+  const int nummer = m_kom->currentIndex();
+  QFont f(nummer < 0 ? QString::fromLatin1(ÜblicheSchrift) : m_schriften[nummer].familie);
   f.setStyleHint(QFont::Monospace);
-  f.setPointSize(schriftgroesse());
-  f.setBold(kon[0]->isChecked());
-  f.setItalic(kon[1]->isChecked());
+  f.setPointSize(schriftgröße());
+  f.setBold(m_kon[0]->isChecked());
+  f.setItalic(m_kon[1]->isChecked());
   f.setKerning(false);
   return f;
 }
 
-void TA_Textausgabe::schriftZeigen() { t->setFont(schrift()); }
+void TA_Textausgabe::schriftZeigen() { m_t->setFont(schrift()); }
 
 void TA_Textausgabe::randBegrenzen() {
-  const QString text = Textausgabe::randNachTippen(tz->text());
-  if (text != tz->text()) tz->setText(text);
+  const QString text = Textausgabe::randNachTippen(m_tz->text());
+  if (text != m_tz->text()) m_tz->setText(text);
 }
 
 void TA_Textausgabe::textDrucken() {
   // The raw text: the plain one would turn protected blanks into blanks.
-  QString text = t->document()->toRawText();
+  QString text = m_t->document()->toRawText();
   text.replace(QChar(QChar::ParagraphSeparator), CRLF);
   drucke(Textausgabe::druckaufSchreiben(text), Textausgabe::Druckweg::Text);
 }
@@ -143,11 +126,11 @@ void TA_Textausgabe::dateiDrucken() { drucke(AusgabeDatei, Textausgabe::Druckweg
 // The margin counts as it is when the button is pressed.
 void TA_Textausgabe::drucke(const QString& datei, Textausgabe::Druckweg weg) {
   const QStringList zeilen = Textdatei::lesen(datei);
-  const int rand = Textausgabe::rand(tz->text());
+  const int rand = Textausgabe::rand(m_tz->text());
   Druck::Auftrag auftrag;
   auftrag.titel = QStringLiteral("Listen-Ausgabe");
   auftrag.schrift = schrift();
-  auftrag.quer = druckformat[1]->isChecked();
+  auftrag.quer = m_druckformat[1]->isChecked();
   auftrag.umbruch = [&](const Druck::Satzspiegel& spiegel) {
     return Textausgabe::seiten(zeilen, weg, rand, spiegel.zeilen, spiegel.passend);
   };
@@ -159,18 +142,18 @@ void TA_Textausgabe::hinweis(const QString& text) {
 }
 
 void TA_Textausgabe::done(int ergebnis) {
-  if (kom->currentIndex() >= 0) schriftname() = kom->currentText();
+  if (m_kom->currentIndex() >= 0) schriftname() = m_kom->currentText();
   Textausgabe::sichern(einstellungen());
   Formular::done(ergebnis);
 }
 
 // Ctrl and the wheel change the size as the buttons do, so that list and text agree.
 bool TA_Textausgabe::eventFilter(QObject* objekt, QEvent* event) {
-  if (objekt == t->viewport() && event->type() == QEvent::Wheel) {
+  if (objekt == m_t->viewport() && event->type() == QEvent::Wheel) {
     const auto* rad = static_cast<QWheelEvent*>(event);
     if ((rad->modifiers() & Qt::ControlModifier) != 0) {
       const int richtung = rad->angleDelta().y() > 0 ? 1 : -1;
-      schriftgroesseSetzen(Textausgabe::groesseNach(schriftgroesse(), richtung));
+      schriftgrößeSetzen(Textausgabe::größeNach(schriftgröße(), richtung));
       return true;
     }
   }

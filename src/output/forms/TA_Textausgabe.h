@@ -8,7 +8,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QHBoxLayout;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
@@ -17,17 +16,14 @@ class QRadioButton;
 // Shows the text file AusgabeDatei in a fixed-width font and prints it.
 class TA_Textausgabe : public Formular {
  public:
-  explicit TA_Textausgabe(QWidget* oeffner);
+  explicit TA_Textausgabe(QWidget* öffner);
 
   // What callers use: the one instance, over the form that asks for it. AusgabeDatei has been
   // written before; returns when the form was closed.
-  static void oeffnen(QWidget* oeffner);
-
-  // Puts the settings and the text of AusgabeDatei in; clears FormModus.
-  void laden();
-  void zeigen();
+  static void öffnen(QWidget* öffner);
 
  protected:
+  void füllen() override;  // the settings and the text of AusgabeDatei; clears FormModus
   void done(int ergebnis) override;
   bool eventFilter(QObject* objekt, QEvent* event) override;
 
@@ -35,17 +31,15 @@ class TA_Textausgabe : public Formular {
   void aufbauen();
   QWidget* schriftBauen();
   QWidget* seiteBauen();
-  QHBoxLayout* knoepfeBauen();
   void verbinden();
 
-  void schriftenFuellen();
+  void schriftenFüllen();
   void einstellungenSetzen(const Textausgabe::Einstellungen& einstellungen);
   Textausgabe::Einstellungen einstellungen() const;
   void textLesen();
-  void inBildschirm();
 
-  int schriftgroesse() const;
-  void schriftgroesseSetzen(int groesse);
+  int schriftgröße() const;
+  void schriftgrößeSetzen(int punkt);
   QFont schrift() const;
   void schriftZeigen();
   void randBegrenzen();
@@ -57,16 +51,14 @@ class TA_Textausgabe : public Formular {
 
   QList<Schriftwahl> m_schriften;
 
-  QPlainTextEdit* t = nullptr;
-  QComboBox* kom = nullptr;
-  QComboBox* größe = nullptr;
-  std::array<QCheckBox*, 2> kon{};
-  std::array<QPushButton*, 2> plus5{};
-  std::array<QPushButton*, 2> plus1{};
-  std::array<QRadioButton*, 2> druckformat{};
-  QLineEdit* tz = nullptr;
-  QPushButton* drucken = nullptr;
-  QPushButton* dateidrucken = nullptr;
-  QPushButton* hilfe = nullptr;
-  QPushButton* abbv = nullptr;
+  QPlainTextEdit* m_t = nullptr;
+  QComboBox* m_kom = nullptr;
+  QComboBox* m_größe = nullptr;
+  std::array<QCheckBox*, 2> m_kon{};
+  std::array<QPushButton*, 2> m_plus5{};
+  std::array<QPushButton*, 2> m_plus1{};
+  std::array<QRadioButton*, 2> m_druckformat{};
+  QLineEdit* m_tz = nullptr;
+  QPushButton* m_drucken = nullptr;
+  QPushButton* m_dateidrucken = nullptr;
 };

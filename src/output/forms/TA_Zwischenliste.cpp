@@ -4,13 +4,10 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QGridLayout>
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QScreen>
-#include <QVBoxLayout>
 
 #include "core/globals.h"
 #include "output/Excelausgabe.h"
@@ -36,150 +33,127 @@ constexpr int ZwischenbildMs = 60;
 
 }  // namespace
 
-TA_Zwischenliste::TA_Zwischenliste(QWidget* oeffner)
-    : Formular("TA_Zwischenliste", "Daten listen", oeffner) {
+TA_Zwischenliste::TA_Zwischenliste(QWidget* öffner)
+    : Formular("TA_Zwischenliste", "Daten listen", öffner) {
   aufbauen();
   popupBauen();
   verbinden();
 }
 
 void TA_Zwischenliste::aufbauen() {
-  gridli = new Grid;
-  gridli->setObjectName("gridli");
-  gridli->setAccessibleName("Liste");
-  gridli->setLayoutSchluessel("TOVA/ta_zwischenliste_gridli/ColWidths");
-  gridli->setContextMenuPolicy(Qt::CustomContextMenu);
-  kon = new QCheckBox("Automatische Spaltenbreite");
-  kon->setObjectName("kon");
-  gridli->setMinimumHeight(gridli->fontMetrics().height() * 12);
-  meter = new QProgressBar;
-  meter->setObjectName("meter");
-  meter->setAccessibleName("Fortschritt");
-  meter->hide();
+  m_gridli = new Grid;
+  m_gridli->setObjectName("gridli");
+  m_gridli->setAccessibleName("Liste");
+  m_gridli->setLayoutSchlüssel("TOVA/ta_zwischenliste_gridli/ColWidths");
+  m_gridli->setContextMenuPolicy(Qt::CustomContextMenu);
+  m_kon = new QCheckBox("Automatische Spaltenbreite");
+  m_kon->setObjectName("kon");
+  m_meter = new QProgressBar;
+  m_meter->setObjectName("meter");
+  m_meter->setAccessibleName("Fortschritt");
+  m_meter->hide();
 
-  auto* seite = new QVBoxLayout(this);
-  seite->addWidget(gridli, 1);
-  seite->addWidget(meter);
-  seite->addWidget(knopfleiste());
-  Bauteile::tabfolge(
-      {gridli, kon, comtext, comexcel, roexplorer[0], roexplorer[1], hilfe, cmdschließen});
-  // Wide lists want room: most of the screen, and never more than it has.
-  const QSize frei = screen()->availableGeometry().size();
-  resize(QSize(1000, 640).boundedTo(frei * 9 / 10));
+  const QList<QWidget*> knöpfe = knöpfeBauen();
+  zusammensetzen(Bauteile::untereinander({{m_gridli, 1}, {m_meter}, {Bauteile::leiste({m_kon})}}),
+                 {.links = knöpfe, .schließen = "cmdschließen", .ohneEnter = true});
+  setTabfolge({m_gridli, m_kon});
+  setWunschgröße(150, 40);  // wide lists want room
 }
 
-QWidget* TA_Zwischenliste::knopfleiste() {
-  comtext = knopfOhneEnter("&Text-Auswertung", "comtext");
-  comtext->setToolTip("Die Liste als Text anzeigen und drucken");
-  comexcel = knopfOhneEnter("&Excel-Auswertung", "comexcel");
-  comexcel->setToolTip("Die Liste als Tabelle in der Tabellenkalkulation öffnen");
-  roexplorer[0] = knopfOhneEnter("Stan&dard-Explorer", "roexplorer_0");
-  roexplorer[0]->setToolTip("Die Liste als Internetseite im Browser öffnen");
-  roexplorer[1] = knopfOhneEnter("&Internet-Explorer", "roexplorer_1");
-  roexplorer[1]->setToolTip("Die Liste als Internetseite im Browser öffnen");
-  hilfe = knopfOhneEnter("&Hilfe", "hilfe");
-  cmdschließen = knopfOhneEnter("&Schließen", "cmdschließen");
-
-  auto* leiste = new QWidget;
-  auto* raster = new QGridLayout(leiste);
-  raster->setContentsMargins(0, 0, 0, 0);
-  raster->addWidget(kon, 0, 0);
-  raster->setColumnStretch(1, 1);
-  int spalte = 2;
-  for (QPushButton* k : {comtext, comexcel, roexplorer[0], roexplorer[1], hilfe, cmdschließen})
-    raster->addWidget(k, 0, spalte++);
-  return leiste;
+QList<QWidget*> TA_Zwischenliste::knöpfeBauen() {
+  m_comtext = knopfOhneEnter("&Text-Auswertung", "comtext");
+  m_comtext->setToolTip("Die Liste als Text anzeigen und drucken");
+  m_comexcel = knopfOhneEnter("&Excel-Auswertung", "comexcel");
+  m_comexcel->setToolTip("Die Liste als Tabelle in der Tabellenkalkulation öffnen");
+  m_roexplorer[0] = knopfOhneEnter("Stan&dard-Explorer", "roexplorer_0");
+  m_roexplorer[0]->setToolTip("Die Liste als Internetseite im Browser öffnen");
+  m_roexplorer[1] = knopfOhneEnter("&Internet-Explorer", "roexplorer_1");
+  m_roexplorer[1]->setToolTip("Die Liste als Internetseite im Browser öffnen");
+  return {m_comtext, m_comexcel, m_roexplorer[0], m_roexplorer[1]};
 }
 
 void TA_Zwischenliste::popupBauen() {
-  popzeile = new QMenu(this);
-  popzeile->setObjectName("popzeile");
+  m_popzeile = new QMenu(this);
+  m_popzeile->setObjectName("popzeile");
   const auto punkt = [this](int nummer, const QString& text, QPushButton* wie) {
-    QAction* aktion = popzeile->addAction(text);
+    QAction* aktion = m_popzeile->addAction(text);
     aktion->setObjectName("popzeile_" + QString::number(nummer));
     connect(aktion, &QAction::triggered, wie, [wie] { wie->click(); });
   };
-  punkt(0, "Übergabe an &Texteditor", comtext);
-  punkt(1, "Übergabe an &Excel", comexcel);
-  punkt(2, "Übergabe an &Standard-Explorer", roexplorer[0]);
-  punkt(3, "Übergabe an &Internet-Explorer", roexplorer[1]);
-  popzeile->addSeparator();
-  punkt(5, "&Schließen", cmdschließen);
+  punkt(0, "Übergabe an &Texteditor", m_comtext);
+  punkt(1, "Übergabe an &Excel", m_comexcel);
+  punkt(2, "Übergabe an &Standard-Explorer", m_roexplorer[0]);
+  punkt(3, "Übergabe an &Internet-Explorer", m_roexplorer[1]);
+  m_popzeile->addSeparator();
+  punkt(5, "&Schließen", schließknopf());
 }
 
 void TA_Zwischenliste::verbinden() {
-  Ereignis::wenn(kon, &QCheckBox::clicked, this, [this](bool an) {
+  Ereignis::wenn(m_kon, &QCheckBox::clicked, this, [this](bool an) {
     if (an) breitenAnpassen();
   });
-  Ereignis::wenn(comtext, &QPushButton::clicked, this, [this] { textAuswertung(); });
-  Ereignis::wenn(comexcel, &QPushButton::clicked, this, [this] { excelAuswertung(); });
-  for (QPushButton* k : roexplorer)
+  Ereignis::wenn(m_comtext, &QPushButton::clicked, this, [this] { textAuswertung(); });
+  Ereignis::wenn(m_comexcel, &QPushButton::clicked, this, [this] { excelAuswertung(); });
+  for (QPushButton* k : m_roexplorer)
     Ereignis::wenn(k, &QPushButton::clicked, this, [this] { explorerAuswertung(); });
-  Ereignis::wenn(hilfe, &QPushButton::clicked, this, [this] { hilfeZeigen(); });
-  Ereignis::wenn(cmdschließen, &QPushButton::clicked, this, [this] { reject(); });
-  connect(gridli, &QWidget::customContextMenuRequested, this,
-          [this](const QPoint& ort) { popzeile->popup(gridli->viewport()->mapToGlobal(ort)); });
+  connect(m_gridli, &QWidget::customContextMenuRequested, this,
+          [this](const QPoint& ort) { m_popzeile->popup(m_gridli->viewport()->mapToGlobal(ort)); });
 }
 
-void TA_Zwischenliste::zeigen() {
-  laden();
-  Formular::zeigen();
-}
-
-void TA_Zwischenliste::laden() {
+void TA_Zwischenliste::füllen() {
   {
     const Ereignis::Sanduhr sanduhr;
-    const Ausgabeliste gelesen = Uebergabe::lesen(Uebergabe::datei());
-    m_ueberschriften = gelesen.ueberschriften();
-    gridli->setDaten(gelesen.daten());
+    const Ausgabeliste gelesen = Übergabe::lesen(Übergabe::datei());
+    m_überschriften = gelesen.überschriften();
+    m_gridli->setDaten(gelesen.daten());
     for (int i = 0; i < gelesen.spalten(); ++i)
-      gridli->setUeberschrift(gelesen.daten()->spalte(i).name, m_ueberschriften.at(i));
+      m_gridli->setÜberschrift(gelesen.daten()->spalte(i).name, m_überschriften.at(i));
   }
-  kon->setChecked(EinstellungenZahl[54] != 0);
-  if (kon->isChecked()) breitenAnpassen();
-  gridli->setFocus();
+  m_kon->setChecked(EinstellungenZahl[Zahlslots.spaltenbreiteAutomatisch] != 0);
+  if (m_kon->isChecked()) breitenAnpassen();
+  m_gridli->setFocus();
 }
 
-void TA_Zwischenliste::breitenAnpassen() { gridli->passeBreitenAn(KleinsteBreite); }
+void TA_Zwischenliste::breitenAnpassen() { m_gridli->passeBreitenAn(KleinsteBreite); }
 
 void TA_Zwischenliste::done(int ergebnis) {
-  if (m_laeuft) return;
-  EinstellungenZahl[54] = kon->isChecked() ? 1 : 0;
+  if (m_läuft) return;
+  EinstellungenZahl[Zahlslots.spaltenbreiteAutomatisch] = m_kon->isChecked() ? 1 : 0;
   Formular::done(ergebnis);
-  gridli->setDaten({});
+  m_gridli->setDaten({});
 }
 
 Ausgabeliste TA_Zwischenliste::liste() const {
-  return Ausgabeliste(gridli->daten(), m_ueberschriften, gridli->ordnung());
+  return Ausgabeliste(m_gridli->daten(), m_überschriften, m_gridli->ordnung());
 }
 
 bool TA_Zwischenliste::istLeer() {
-  if (gridli->zeilen() > 0) return false;
+  if (m_gridli->zeilen() > 0) return false;
   Meldungen::Hinweis("Es sind keine Daten in der Liste.", this);
   return true;
 }
 
 void TA_Zwischenliste::laufen(const std::function<void(const Fortschritt&)>& arbeit) {
   const Ereignis::Sanduhr sanduhr;
-  const bool lang = qint64(gridli->zeilen()) * gridli->spalten() >= LangeListe;
+  const bool lang = qint64(m_gridli->zeilen()) * m_gridli->spalten() >= LangeListe;
   if (!lang) {
     arbeit({});
     return;
   }
   // The window goes on painting; keys and mouse wait until the run has ended.
-  m_laeuft = true;
-  meter->setRange(0, gridli->zeilen());
-  meter->setValue(0);
-  meter->show();
+  m_läuft = true;
+  m_meter->setRange(0, m_gridli->zeilen());
+  m_meter->setValue(0);
+  m_meter->show();
   const auto ende = qScopeGuard([this] {
-    meter->hide();
-    m_laeuft = false;
+    m_meter->hide();
+    m_läuft = false;
   });
   QElapsedTimer uhr;
   uhr.start();
   arbeit([&](int fertig, int) {
     if (uhr.elapsed() < ZwischenbildMs) return;
-    meter->setValue(fertig);
+    m_meter->setValue(fertig);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     uhr.restart();
   });
@@ -192,7 +166,7 @@ void TA_Zwischenliste::textAuswertung() {
     Textliste::schreiben(AusgabeDatei, liste(), listenkopf(), Textliste::trennzeichen(),
                          fortschritt);
   });
-  TA_Textausgabe::oeffnen(this);
+  TA_Textausgabe::öffnen(this);
 }
 
 void TA_Zwischenliste::excelAuswertung() {
@@ -201,7 +175,7 @@ void TA_Zwischenliste::excelAuswertung() {
   laufen([&](const Fortschritt& fortschritt) {
     Excelausgabe::schreiben(datei, liste(), listenkopf(), fortschritt);
   });
-  if (Oeffnen::datei(datei)) return;
+  if (Öffnen::datei(datei)) return;
   Meldungen::Hinweis("Excel konnte nicht geöffnet werden!", this);
   FormModus = "xyz";
 }
@@ -213,19 +187,19 @@ void TA_Zwischenliste::explorerAuswertung() {
   laufen([&](const Fortschritt& fortschritt) {
     seite = Webbericht::schreiben(AppPfad, liste(), Webbericht::vorgaben(), fortschritt);
   });
-  if (Oeffnen::datei(seite)) return;
+  if (Öffnen::datei(seite)) return;
   Meldungen::Hinweis(QString("Der Browser konnte nicht geöffnet werden! Die Liste steht in der "
                              "Datei %1.")
                          .arg(QDir::toNativeSeparators(seite)),
                      this);
 }
 
-void zwischenlisteZeigen(QWidget* oeffner, const Daten& daten, const QStringList& ueberschriften) {
+void zwischenlisteZeigen(QWidget* öffner, const Daten& daten, const QStringList& überschriften) {
   {
     const Ereignis::Sanduhr sanduhr;
-    Uebergabe::schreiben(Uebergabe::datei(), Ausgabeliste(daten, ueberschriften));
+    Übergabe::schreiben(Übergabe::datei(), Ausgabeliste(daten, überschriften));
   }
-  TA_Zwischenliste(oeffner).zeigen();
+  TA_Zwischenliste(öffner).zeigen();
 }
 
 namespace {
@@ -233,13 +207,13 @@ namespace {
 // Columns whose texts the grid makes itself are handed on as those texts.
 Ausgabeliste ausGrid(const Grid& grid) {
   const Daten daten = grid.daten();
-  QStringList ueberschriften;
+  QStringList überschriften;
   bool gemacht = false;
   for (int i = 0; i < grid.spalten(); ++i) {
-    ueberschriften += grid.ueberschrift(i);
+    überschriften += grid.überschrift(i);
     gemacht = gemacht || grid.hatAnzeige(i);
   }
-  if (!gemacht) return Ausgabeliste(daten, ueberschriften, grid.ordnung());
+  if (!gemacht) return Ausgabeliste(daten, überschriften, grid.ordnung());
   std::vector<Spalte> spalten;
   spalten.reserve(static_cast<size_t>(grid.spalten()));
   for (int i = 0; i < grid.spalten(); ++i)
@@ -254,15 +228,15 @@ Ausgabeliste ausGrid(const Grid& grid) {
       else
         bauer.wert(daten->wert(ordnung[static_cast<size_t>(zeile)], i));
     }
-  return Ausgabeliste(bauer.fertig(), ueberschriften);
+  return Ausgabeliste(bauer.fertig(), überschriften);
 }
 
 }  // namespace
 
-void zwischenlisteZeigen(QWidget* oeffner, const Grid& grid) {
+void zwischenlisteZeigen(QWidget* öffner, const Grid& grid) {
   {
     const Ereignis::Sanduhr sanduhr;
-    Uebergabe::schreiben(Uebergabe::datei(), ausGrid(grid));
+    Übergabe::schreiben(Übergabe::datei(), ausGrid(grid));
   }
-  TA_Zwischenliste(oeffner).zeigen();
+  TA_Zwischenliste(öffner).zeigen();
 }

@@ -12,23 +12,19 @@ class QProgressBar;
 class QPushButton;
 
 // The last step of the evaluations: shows the list that was handed on in gridli.txt and passes it
-// on, sorted as it is shown, to the text output, a spreadsheet or the browser.
+// on, sorted as it is shown, to the text output, a spreadsheet or the browser. When the spreadsheet
+// couldn't be opened FormModus is "xyz" afterwards.
 class TA_Zwischenliste : public Formular {
  public:
-  explicit TA_Zwischenliste(QWidget* oeffner = nullptr);
-
-  // Loads the list, shows the form modally and returns when it was closed. When the spreadsheet
-  // couldn't be opened FormModus is "xyz" then. Throws Dateifehler when the list can't be loaded.
-  void zeigen();
-  // Loading alone: the list, the column widths.
-  void laden();
+  explicit TA_Zwischenliste(QWidget* öffner = nullptr);
 
  protected:
+  void füllen() override;  // the list, the column widths; throws Dateifehler
   void done(int ergebnis) override;
 
  private:
   void aufbauen();
-  QWidget* knopfleiste();
+  QList<QWidget*> knöpfeBauen();
   void popupBauen();
   void verbinden();
   void breitenAnpassen();
@@ -40,24 +36,22 @@ class TA_Zwischenliste : public Formular {
   void excelAuswertung();
   void explorerAuswertung();
 
-  bool m_laeuft = false;
-  QStringList m_ueberschriften;
-  Grid* gridli = nullptr;
-  QCheckBox* kon = nullptr;
-  QPushButton* comtext = nullptr;
-  QPushButton* comexcel = nullptr;
-  std::array<QPushButton*, 2> roexplorer{};
-  QPushButton* hilfe = nullptr;
-  QPushButton* cmdschließen = nullptr;
-  QMenu* popzeile = nullptr;
-  QProgressBar* meter = nullptr;
+  bool m_läuft = false;
+  QStringList m_überschriften;
+  Grid* m_gridli = nullptr;
+  QCheckBox* m_kon = nullptr;
+  QPushButton* m_comtext = nullptr;
+  QPushButton* m_comexcel = nullptr;
+  std::array<QPushButton*, 2> m_roexplorer{};
+  QMenu* m_popzeile = nullptr;
+  QProgressBar* m_meter = nullptr;
 };
 
 // What the evaluations call: hand a list on and show it in TA_Zwischenliste. They throw
 // Dateifehler.
 
 // All rows and columns; a column without a caption is called by its name.
-void zwischenlisteZeigen(QWidget* oeffner, const Daten& daten,
-                         const QStringList& ueberschriften = {});
+void zwischenlisteZeigen(QWidget* öffner, const Daten& daten,
+                         const QStringList& überschriften = {});
 // What a grid shows: its rows in their order, its captions and texts, the hidden columns as well.
-void zwischenlisteZeigen(QWidget* oeffner, const Grid& grid);
+void zwischenlisteZeigen(QWidget* öffner, const Grid& grid);

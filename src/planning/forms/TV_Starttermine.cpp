@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QPushButton>
-#include <QScopeGuard>
 
 #include "core/globals.h"
 #include "output/forms/TA_Zwischenliste.h"
@@ -24,80 +23,71 @@ void nichtsZuListen(QWidget* fenster) {
 
 }  // namespace
 
-TV_Starttermine::TV_Starttermine(QWidget* oeffner)
-    : Formular("TV_Starttermine", Starttermine::titel(), oeffner) {
+TV_Starttermine::TV_Starttermine(QWidget* öffner)
+    : Datenformular("TV_Starttermine", Starttermine::titel(), öffner) {
   aufbauen();
   verbinden();
 }
 
 void TV_Starttermine::verbinden() {
-  Ereignis::wenn(litermine, &Grid::zeileGewechselt, this, [this](int z) { zeileZeigen(z); });
-  Ereignis::wenn(litermine, &Grid::zeileAngeklickt, this, [this](int z) { zeileZeigen(z); });
-  Ereignis::wenn(litermine, &Grid::zeileDoppelgeklickt, this, [this](int zeile) {
-    sevt[Erledigungstag]->setInhalt(litermine->zelle(zeile, "Datum"));
+  Ereignis::wenn(m_litermine, &Grid::zeileGewechselt, this, [this](int z) { zeileZeigen(z); });
+  Ereignis::wenn(m_litermine, &Grid::zeileAngeklickt, this, [this](int z) { zeileZeigen(z); });
+  Ereignis::wenn(m_litermine, &Grid::zeileDoppelgeklickt, this, [this](int zeile) {
+    m_sevt[Erledigungstag]->setInhalt(m_litermine->zelle(zeile, "Datum"));
     erledigen(zeile);
   });
-  Ereignis::wenn(cmdok[0], &QPushButton::clicked, this,
-                 [this] { erledigen(litermine->aktuelleZeile()); });
-  Ereignis::wenn(cmdok[1], &QPushButton::clicked, this, [this] { markierteErledigen(); });
-  Ereignis::wenn(cmdok[2], &QPushButton::clicked, this, [this] { bisHeuteErledigen(); });
-  Ereignis::wenn(cmdok[3], &QPushButton::clicked, this, [this] { amStandortErledigen(); });
-  Ereignis::wenn(ok, &QPushButton::clicked, this, [this] {
-    if (litermine->zeilen() == 0) return nichtsZuListen(this);
-    zwischenlisteZeigen(this, *litermine);
+  Ereignis::wenn(m_cmdok[0], &QPushButton::clicked, this,
+                 [this] { erledigen(m_litermine->aktuelleZeile()); });
+  Ereignis::wenn(m_cmdok[1], &QPushButton::clicked, this, [this] { markierteErledigen(); });
+  Ereignis::wenn(m_cmdok[2], &QPushButton::clicked, this, [this] { bisHeuteErledigen(); });
+  Ereignis::wenn(m_cmdok[3], &QPushButton::clicked, this, [this] { amStandortErledigen(); });
+  Ereignis::wenn(m_ok, &QPushButton::clicked, this, [this] {
+    if (m_litermine->zeilen() == 0) return nichtsZuListen(this);
+    zwischenlisteZeigen(this, *m_litermine);
   });
-  Ereignis::wenn(okgruppiert, &QPushButton::clicked, this, [this] { gruppiertListen(); });
-  Ereignis::wenn(hilfe, &QPushButton::clicked, this, [this] { hilfeZeigen(); });
-  Ereignis::wenn(schließen, &QPushButton::clicked, this, [this] { accept(); });
-  for (Eingabefeld* f : sevt) f->installEventFilter(this);
+  Ereignis::wenn(m_okgruppiert, &QPushButton::clicked, this, [this] { gruppiertListen(); });
+  for (Eingabefeld* f : m_sevt) f->installEventFilter(this);
 }
 
 // Enter in an input does what its group's button does.
 bool TV_Starttermine::eventFilter(QObject* objekt, QEvent* event) {
   if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
-    QPushButton* vorgabe = schließen;
+    QPushButton* vorgabe = schließknopf();
     if (event->type() == QEvent::FocusIn)
-      vorgabe = objekt == sevt[Erledigungstag] ? cmdok[0] : cmdok[3];
+      vorgabe = objekt == m_sevt[Erledigungstag] ? m_cmdok[0] : m_cmdok[3];
     vorgabe->setDefault(true);
   }
-  return Formular::eventFilter(objekt, event);
+  return Datenformular::eventFilter(objekt, event);
 }
 
-void TV_Starttermine::zeigen() {
-  const auto ende = qScopeGuard([this] { m_db.Close(); });
-  laden();
-  Formular::zeigen();
-}
-
-void TV_Starttermine::laden() {
+void TV_Starttermine::füllen() {
   const Ereignis::Sanduhr sanduhr;
-  m_db = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
   setWindowTitle(Starttermine::titel());
-  kon->setChecked(EinstellungenZahl[13] == 1);
+  m_kon->setChecked(EinstellungenZahl[Zahlslots.terminlisteBeimStart] == 1);
   // Realigning deletes appointments: it is chosen anew each time the form opens.
-  konterminreihe->setChecked(false);
-  for (const size_t i : {Erledigungstag, Bis}) sevt[i]->setInhalt(HeuteText);
-  for (const size_t i : {Art, Ort}) sevt[i]->clear();
-  sevt[Art]->setListe(Starttermine::arbeitsarten(m_db));
-  sevt[Ort]->setListe(Terminverwaltung::standorte(m_db));
-  litermine->setDaten(Starttermine::liste(m_db));
-  litermine->setFocus();
+  m_konterminreihe->setChecked(false);
+  for (const size_t i : {Erledigungstag, Bis}) m_sevt[i]->setInhalt(HeuteText);
+  for (const size_t i : {Art, Ort}) m_sevt[i]->clear();
+  m_sevt[Art]->setListe(Starttermine::arbeitsarten(m_db));
+  m_sevt[Ort]->setListe(Terminverwaltung::standorte(m_db));
+  m_litermine->setDaten(Starttermine::liste(m_db));
+  m_litermine->setFocus();
 }
 
 // A sort that the user has chosen stays.
 void TV_Starttermine::listeLesen() {
   const Ereignis::Sanduhr sanduhr;
-  const int zeile = litermine->aktuelleZeile();
-  const int spalte = litermine->sortierSpalte();
-  const Qt::SortOrder richtung = litermine->sortierRichtung();
-  litermine->setDaten(Starttermine::liste(m_db));
-  if (spalte >= 0) litermine->sortiere(spalte, richtung);
-  if (zeile >= 0) litermine->setAktuelleZeile(std::min(zeile, litermine->zeilen() - 1));
+  const int zeile = m_litermine->aktuelleZeile();
+  const int spalte = m_litermine->sortierSpalte();
+  const Qt::SortOrder richtung = m_litermine->sortierRichtung();
+  m_litermine->setDaten(Starttermine::liste(m_db));
+  if (spalte >= 0) m_litermine->sortiere(spalte, richtung);
+  if (zeile >= 0) m_litermine->setAktuelleZeile(std::min(zeile, m_litermine->zeilen() - 1));
 }
 
 // The list shows what is written, also when the action has failed half way.
 void TV_Starttermine::schreiben(const std::function<void()>& aktion) {
-  Ereignis::ausfuehren(this, [&] {
+  Ereignis::ausführen(this, [&] {
     const Ereignis::Sanduhr sanduhr;
     aktion();
   });
@@ -107,13 +97,13 @@ void TV_Starttermine::schreiben(const std::function<void()>& aktion) {
 // A click prepares the closing of the same kind at the site.
 void TV_Starttermine::zeileZeigen(int zeile) {
   if (zeile < 0) return;
-  sevt[Bis]->setInhalt(litermine->zelle(zeile, "Datum"));
-  sevt[Art]->setInhalt(litermine->zelle(zeile, "Termin"));
-  sevt[Ort]->setInhalt(litermine->zelle(zeile, "Standort"));
+  m_sevt[Bis]->setInhalt(m_litermine->zelle(zeile, "Datum"));
+  m_sevt[Art]->setInhalt(m_litermine->zelle(zeile, "Termin"));
+  m_sevt[Ort]->setInhalt(m_litermine->zelle(zeile, "Standort"));
 }
 
 Starttermine::Erledigung TV_Starttermine::erledigung() const {
-  return {sevt[Erledigungstag]->inhalt(), konterminreihe->isChecked()};
+  return {m_sevt[Erledigungstag]->inhalt(), m_konterminreihe->isChecked()};
 }
 
 void TV_Starttermine::erledigen(int zeile) {
@@ -122,13 +112,13 @@ void TV_Starttermine::erledigen(int zeile) {
     return;
   }
   schreiben([&] {
-    Starttermine::aktuellenErledigen(m_db, litermine->wert(zeile, "ID").toLongLong(),
-                                     litermine->wert(zeile, "Termin").toString(), erledigung());
+    Starttermine::aktuellenErledigen(m_db, m_litermine->wert(zeile, "ID").toLongLong(),
+                                     m_litermine->wert(zeile, "Termin").toString(), erledigung());
   });
 }
 
 void TV_Starttermine::markierteErledigen() {
-  const QList<int> markiert = litermine->markierteZeilen();
+  const QList<int> markiert = m_litermine->markierteZeilen();
   if (markiert.isEmpty()) {
     Meldungen::Hinweis("Bitter markieren Sie zuerst die zu erledigenden Termine.", this);
     return;
@@ -137,7 +127,7 @@ void TV_Starttermine::markierteErledigen() {
                         this))
     return;
   std::vector<qint64> ids;
-  for (const int zeile : markiert) ids.push_back(litermine->wert(zeile, "ID").toLongLong());
+  for (const int zeile : markiert) ids.push_back(m_litermine->wert(zeile, "ID").toLongLong());
   schreiben([&] { Starttermine::markierteErledigen(m_db, ids); });
 }
 
@@ -147,10 +137,10 @@ void TV_Starttermine::bisHeuteErledigen() {
 }
 
 void TV_Starttermine::amStandortErledigen() {
-  const Starttermine::Standortauftrag auftrag = {sevt[Art]->inhalt(), sevt[Ort]->inhalt(),
-                                                 sevt[Bis]->inhalt()};
-  if (Starttermine::unvollstaendig(auftrag)) {
-    Meldungen::Hinweis(Starttermine::unvollstaendigText(), this);
+  const Starttermine::Standortauftrag auftrag = {m_sevt[Art]->inhalt(), m_sevt[Ort]->inhalt(),
+                                                 m_sevt[Bis]->inhalt()};
+  if (Starttermine::unvollständig(auftrag)) {
+    Meldungen::Hinweis(Starttermine::unvollständigText(), this);
     return;
   }
   const int anzahl = Starttermine::gefunden(m_db, auftrag);
@@ -158,7 +148,7 @@ void TV_Starttermine::amStandortErledigen() {
       !Meldungen::Frage(Starttermine::standortFrage(anzahl), Meldungen::Vorgabe::Ja, this))
     return;
   schreiben([&] {
-    Starttermine::amStandortErledigen(m_db, auftrag, litermine->daten(), litermine->ordnung(),
+    Starttermine::amStandortErledigen(m_db, auftrag, m_litermine->daten(), m_litermine->ordnung(),
                                       erledigung());
   });
 }
@@ -170,6 +160,6 @@ void TV_Starttermine::gruppiertListen() {
 }
 
 void TV_Starttermine::done(int ergebnis) {
-  EinstellungenZahl[13] = kon->isChecked() ? 1 : 0;
-  Formular::done(ergebnis);
+  EinstellungenZahl[Zahlslots.terminlisteBeimStart] = m_kon->isChecked() ? 1 : 0;
+  Datenformular::done(ergebnis);
 }

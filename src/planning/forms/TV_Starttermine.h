@@ -3,8 +3,8 @@
 #include <array>
 #include <functional>
 
+#include "core/forms/Datenformular.h"
 #include "planning/Starttermine.h"
-#include "platform/controls/Formular.h"
 
 class Eingabefeld;
 class Grid;
@@ -13,17 +13,12 @@ class QPushButton;
 
 // The list of the open appointments of the next days, and the buttons that close them. Its check
 // box is slot 13 of EinstellungenZahl.
-class TV_Starttermine : public Formular {
+class TV_Starttermine : public Datenformular {
  public:
-  explicit TV_Starttermine(QWidget* oeffner = nullptr);
-
-  // Shows the form modally and returns when it was closed. Throws Datenbankfehler when it can't be
-  // loaded; it isn't shown then.
-  void zeigen();
-  // Loading alone: title, check box, first values, pick lists, the list.
-  void laden();
+  explicit TV_Starttermine(QWidget* öffner = nullptr);
 
  protected:
+  void füllen() override;  // title, check box, first values, pick lists, the list
   void done(int ergebnis) override;
   bool eventFilter(QObject* objekt, QEvent* event) override;
 
@@ -34,7 +29,6 @@ class TV_Starttermine : public Formular {
   QWidget* tagBauen();
   QWidget* einzelnBauen();
   QWidget* standortBauen();
-  QWidget* fussBauen();
   void verbinden();
 
   void listeLesen();  // the row that was current stays it
@@ -47,14 +41,11 @@ class TV_Starttermine : public Formular {
   void gruppiertListen();
   Starttermine::Erledigung erledigung() const;
 
-  Database m_db;
-  Grid* litermine = nullptr;
-  std::array<Eingabefeld*, 4> sevt{};  // by Slot; Art, Ort and Bis are of the closing by site
-  std::array<QPushButton*, 4> cmdok{};
-  QCheckBox* konterminreihe = nullptr;
-  QCheckBox* kon = nullptr;
-  QPushButton* ok = nullptr;
-  QPushButton* okgruppiert = nullptr;
-  QPushButton* hilfe = nullptr;
-  QPushButton* schließen = nullptr;
+  Grid* m_litermine = nullptr;
+  std::array<Eingabefeld*, 4> m_sevt{};  // by Slot; Art, Ort and Bis are of the closing by site
+  std::array<QPushButton*, 4> m_cmdok{};
+  QCheckBox* m_konterminreihe = nullptr;
+  QCheckBox* m_kon = nullptr;
+  QPushButton* m_ok = nullptr;
+  QPushButton* m_okgruppiert = nullptr;
 };

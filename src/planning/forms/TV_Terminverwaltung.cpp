@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QRadioButton>
-#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 #include "core/globals.h"
@@ -22,12 +21,12 @@ using TZ_Variablen::HeuteText;
 
 namespace {
 
-Eingabefeld::Beschreibung beschreibung(Eingabefeld::Art art, int maxLaenge = 0,
+Eingabefeld::Beschreibung beschreibung(Eingabefeld::Art art, int maxLänge = 0,
                                        const QString& ersterText = {},
                                        const QStringList& auswahl = {}) {
   Eingabefeld::Beschreibung b;
   b.art = art;
-  b.maxLaenge = maxLaenge;
+  b.maxLänge = maxLänge;
   b.ersterText = ersterText;
   b.auswahl = auswahl;
   return b;
@@ -42,8 +41,8 @@ void auswahlSetzen(Eingabefeld* feld, const QStringList& texte) {
 
 }  // namespace
 
-TV_Terminverwaltung::TV_Terminverwaltung(QWidget* oeffner)
-    : Formular("TV_Terminverwaltung", "Terminverwaltung", oeffner) {
+TV_Terminverwaltung::TV_Terminverwaltung(QWidget* öffner)
+    : Datenformular("TV_Terminverwaltung", "Terminverwaltung", öffner) {
   aufbauen();
   verbinden();
 }
@@ -52,98 +51,91 @@ TV_Terminverwaltung::TV_Terminverwaltung(QWidget* oeffner)
 void TV_Terminverwaltung::keyPressEvent(QKeyEvent* event) {
   const bool eingabetaste = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   for (size_t i = NurVolk; eingabetaste && i <= Bis; ++i)
-    if (sevt[i]->hasFocus()) {
+    if (m_sevt[i]->hasFocus()) {
       focusNextChild();
       event->accept();
       return;
     }
-  Formular::keyPressEvent(event);
+  Datenformular::keyPressEvent(event);
 }
 
-void TV_Terminverwaltung::zeigen() {
-  const auto ende = qScopeGuard([this] { m_db.Close(); });
-  laden();
-  Formular::zeigen();
-}
-
-void TV_Terminverwaltung::laden() {
-  m_db = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
+void TV_Terminverwaltung::füllen() {
   einrichten();
-  litermine->sortiere(-1, Qt::AscendingOrder);
+  m_litermine->sortiere(-1, Qt::AscendingOrder);
   listeLesen();
-  sevt[Datum]->setFocus();
+  m_sevt[Datum]->fokussieren();
 }
 
 void TV_Terminverwaltung::einrichten() {
   using Art = Eingabefeld::Art;
-  opti[0]->setChecked(true);
-  sevt[NurVolk]->einrichten(beschreibung(Art::Auswahl));
-  sevt[NurTermin]->einrichten(beschreibung(Art::Text, 30));
-  sevt[NurErledigt]->einrichten(beschreibung(Art::Auswahl, 0, {}, {"", "J", "N"}));
-  for (const size_t i : {Von, Bis}) sevt[i]->einrichten(beschreibung(Art::Datum));
-  // A whole number with a sign; what doesn't belong there is taken out in tageGeaendert.
+  m_opti[0]->setChecked(true);
+  m_sevt[NurVolk]->einrichten(beschreibung(Art::Auswahl));
+  m_sevt[NurTermin]->einrichten(beschreibung(Art::Text, 30));
+  m_sevt[NurErledigt]->einrichten(beschreibung(Art::Auswahl, 0, {}, {"", "J", "N"}));
+  for (const size_t i : {Von, Bis}) m_sevt[i]->einrichten(beschreibung(Art::Datum));
+  // A whole number with a sign; what doesn't belong there is taken out in tageGeändert.
   Eingabefeld::Beschreibung tage = beschreibung(Art::Text, 5);
   tage.einheit = "Tagen";
-  sevt[InTagen]->einrichten(tage);
-  sevt[InTagen]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  sevt[Datum]->einrichten(beschreibung(Art::Datum, 0, HeuteText));
-  sevt[Termin]->einrichten(beschreibung(Art::Text, 30));
-  sevt[Erledigt]->einrichten(beschreibung(Art::Auswahl, 0, "N", {"J", "N"}));
-  sevt[Volk]->einrichten(beschreibung(Art::Text, 10));
-  sevt[Standort]->einrichten(beschreibung(Art::Auswahl));
-  listenFuellen();
+  m_sevt[InTagen]->einrichten(tage);
+  m_sevt[InTagen]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  m_sevt[Datum]->einrichten(beschreibung(Art::Datum, 0, HeuteText));
+  m_sevt[Termin]->einrichten(beschreibung(Art::Text, 30));
+  m_sevt[Erledigt]->einrichten(beschreibung(Art::Auswahl, 0, "N", {"J", "N"}));
+  m_sevt[Volk]->einrichten(beschreibung(Art::Text, 10));
+  m_sevt[Standort]->einrichten(beschreibung(Art::Auswahl));
+  listenFüllen();
 }
 
-void TV_Terminverwaltung::listenFuellen() {
+void TV_Terminverwaltung::listenFüllen() {
   const QStringList leer = {""};
   const QStringList nummern = Terminverwaltung::volknummern(m_db);
   const QStringList arten = Terminverwaltung::terminarten(m_db);
-  auswahlSetzen(sevt[NurVolk], leer + nummern);
-  auswahlSetzen(sevt[Standort], leer + Terminverwaltung::standorte(m_db));
-  sevt[Volk]->setListe(nummern);
-  for (const size_t i : {NurTermin, Termin}) sevt[i]->setListe(arten);
+  auswahlSetzen(m_sevt[NurVolk], leer + nummern);
+  auswahlSetzen(m_sevt[Standort], leer + Terminverwaltung::standorte(m_db));
+  m_sevt[Volk]->setListe(nummern);
+  for (const size_t i : {NurTermin, Termin}) m_sevt[i]->setListe(arten);
 }
 
 // The flag begins anew, whatever the row has: else the next new appointment would be entered as
 // done when the one before was.
 void TV_Terminverwaltung::eingabenSetzen() {
-  if (sevt[Datum]->inhalt().isEmpty()) sevt[Datum]->setInhalt(HeuteText);
-  sevt[Erledigt]->setInhalt("N");
-  sevt[Standort]->clear();
-  listenFuellen();
+  if (m_sevt[Datum]->inhalt().isEmpty()) m_sevt[Datum]->setInhalt(HeuteText);
+  m_sevt[Erledigt]->setInhalt("N");
+  m_sevt[Standort]->clear();
+  listenFüllen();
 }
 
-void TV_Terminverwaltung::filterPruefen(size_t index) {
-  if (sevt[index]->inhalt() != m_gelesen[index]) listeLesen();
+void TV_Terminverwaltung::filterPrüfen(size_t index) {
+  if (m_sevt[index]->inhalt() != m_gelesen[index]) listeLesen();
 }
 
 // A sort that the user has chosen stays, where the view has that column.
 void TV_Terminverwaltung::listeLesen() {
   const Ereignis::Sanduhr sanduhr;
   Terminverwaltung::Filter filter;
-  filter.ansicht = opti[1]->isChecked() ? Ansicht::Volkabhaengig : Ansicht::Allgemein;
-  filter.volknr = sevt[NurVolk]->inhalt();
-  filter.termin = sevt[NurTermin]->inhalt();
-  filter.erledigt = sevt[NurErledigt]->inhalt();
-  filter.von = sevt[Von]->inhalt();
-  filter.bis = sevt[Bis]->inhalt();
+  filter.ansicht = m_opti[1]->isChecked() ? Ansicht::Volkabhängig : Ansicht::Allgemein;
+  filter.volknr = m_sevt[NurVolk]->inhalt();
+  filter.termin = m_sevt[NurTermin]->inhalt();
+  filter.erledigt = m_sevt[NurErledigt]->inhalt();
+  filter.von = m_sevt[Von]->inhalt();
+  filter.bis = m_sevt[Bis]->inhalt();
   Terminverwaltung::vorgaben(filter);
-  if (filter.von != sevt[Von]->inhalt()) sevt[Von]->setInhalt(filter.von);
-  if (filter.bis != sevt[Bis]->inhalt()) sevt[Bis]->setInhalt(filter.bis);
-  const QString spalte = litermine->spaltenName(litermine->sortierSpalte());
-  const Qt::SortOrder richtung = litermine->sortierRichtung();
-  litermine->setDaten(Terminverwaltung::liste(m_db, filter));
+  if (filter.von != m_sevt[Von]->inhalt()) m_sevt[Von]->setInhalt(filter.von);
+  if (filter.bis != m_sevt[Bis]->inhalt()) m_sevt[Bis]->setInhalt(filter.bis);
+  const QString spalte = m_litermine->spaltenName(m_litermine->sortierSpalte());
+  const Qt::SortOrder richtung = m_litermine->sortierRichtung();
+  m_litermine->setDaten(Terminverwaltung::liste(m_db, filter));
   m_ausgeblendet->clear();
-  for (size_t i = NurVolk; i <= Bis; ++i) m_gelesen[i] = sevt[i]->inhalt();
-  if (!spalte.isEmpty()) litermine->sortiere(litermine->spaltenNummer(spalte), richtung);
+  for (size_t i = NurVolk; i <= Bis; ++i) m_gelesen[i] = m_sevt[i]->inhalt();
+  if (!spalte.isEmpty()) m_litermine->sortiere(m_litermine->spaltenNummer(spalte), richtung);
 }
 
 // What the row puts into the inputs.
 Terminverwaltung::Eingabe TV_Terminverwaltung::zeileneingabe(int zeile) {
-  const qint64 volkId = litermine->wert(zeile, "Volk_ID").toLongLong();
-  return {litermine->zelle(zeile, "Datum"),
-          litermine->zelle(zeile, "Termin"),
-          litermine->zelle(zeile, "Erledigt"),
+  const qint64 volkId = m_litermine->wert(zeile, "Volk_ID").toLongLong();
+  return {m_litermine->zelle(zeile, "Datum"),
+          m_litermine->zelle(zeile, "Termin"),
+          m_litermine->zelle(zeile, "Erledigt"),
           Terminverwaltung::volknummer(m_db, volkId),
           {}};
 }
@@ -151,53 +143,53 @@ Terminverwaltung::Eingabe TV_Terminverwaltung::zeileneingabe(int zeile) {
 void TV_Terminverwaltung::zeileZeigen(int zeile) {
   if (zeile < 0 || m_eingabenBehalten) return;
   const Terminverwaltung::Eingabe daten = zeileneingabe(zeile);
-  sevt[Datum]->setInhalt(daten.datum);
-  sevt[Termin]->setInhalt(daten.termin);
-  sevt[Erledigt]->setInhalt(daten.erledigt);
-  sevt[Volk]->setInhalt(daten.volknr);
+  m_sevt[Datum]->setInhalt(daten.datum);
+  m_sevt[Termin]->setInhalt(daten.termin);
+  m_sevt[Erledigt]->setInhalt(daten.erledigt);
+  m_sevt[Volk]->setInhalt(daten.volknr);
 }
 
-void TV_Terminverwaltung::tageGeaendert() {
+void TV_Terminverwaltung::tageGeändert() {
   if (m_abgleich) return;
-  const QString tage = Terminverwaltung::nurTage(sevt[InTagen]->inhalt());
+  const QString tage = Terminverwaltung::nurTage(m_sevt[InTagen]->inhalt());
   m_abgleich = true;
-  if (tage != sevt[InTagen]->inhalt()) sevt[InTagen]->setInhalt(tage);
+  if (tage != m_sevt[InTagen]->inhalt()) m_sevt[InTagen]->setInhalt(tage);
   if (const QString datum = Terminverwaltung::datumInTagen(tage); !datum.isEmpty())
-    sevt[Datum]->setInhalt(datum);
+    m_sevt[Datum]->setInhalt(datum);
   m_abgleich = false;
 }
 
-void TV_Terminverwaltung::datumGeaendert() {
-  if (m_abgleich || !IstDatum(sevt[Datum]->inhalt())) return;
+void TV_Terminverwaltung::datumGeändert() {
+  if (m_abgleich || !IstDatum(m_sevt[Datum]->inhalt())) return;
   m_abgleich = true;
-  sevt[InTagen]->setInhalt(Terminverwaltung::tageBis(sevt[Datum]->inhalt()));
+  m_sevt[InTagen]->setInhalt(Terminverwaltung::tageBis(m_sevt[Datum]->inhalt()));
   m_abgleich = false;
 }
 
 void TV_Terminverwaltung::aktuellSetzen(qint64 id) {
-  litermine->setAktuelleZeile(litermine->findeZeile("ID = " + QString::number(id)));
+  m_litermine->setAktuelleZeile(m_litermine->findeZeile("ID = " + QString::number(id)));
 }
 
 qint64 TV_Terminverwaltung::id(int zeile) const {
-  return litermine->wert(zeile, "ID").toLongLong();
+  return m_litermine->wert(zeile, "ID").toLongLong();
 }
 
 Terminverwaltung::Eingabe TV_Terminverwaltung::eingabe() const {
-  return {sevt[Datum]->inhalt(), sevt[Termin]->inhalt(), sevt[Erledigt]->inhalt(),
-          sevt[Volk]->inhalt(), sevt[Standort]->inhalt()};
+  return {m_sevt[Datum]->inhalt(), m_sevt[Termin]->inhalt(), m_sevt[Erledigt]->inhalt(),
+          m_sevt[Volk]->inhalt(), m_sevt[Standort]->inhalt()};
 }
 
 void TV_Terminverwaltung::speichern(bool neuerTermin) {
   const Terminverwaltung::Eingabe daten = eingabe();
-  const Terminverwaltung::Pruefung pruefung = Terminverwaltung::pruefen(m_db, daten);
-  if (!pruefung.gruende.isEmpty())
-    return Meldungen::Hinweis(Verwaltung::ablehnung(pruefung.gruende) + CRLF, this);
-  const int zeile = litermine->aktuelleZeile();
+  const Terminverwaltung::Prüfung prüfung = Terminverwaltung::prüfen(m_db, daten);
+  if (!prüfung.gründe.isEmpty())
+    return Meldungen::Hinweis(Verwaltung::ablehnung(prüfung.gründe) + CRLF, this);
+  const int zeile = m_litermine->aktuelleZeile();
   if (!neuerTermin && zeile < 0)
     return Meldungen::Hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!",
                               this);
   const qint64 alt = neuerTermin ? 0 : id(zeile);
-  if (Terminverwaltung::existiert(m_db, daten, pruefung.volkId, alt))
+  if (Terminverwaltung::existiert(m_db, daten, prüfung.volkId, alt))
     return Meldungen::Hinweis("Dieser Termin existiert bereits.", this);
   const bool standort = !daten.standort.isEmpty();
   if (standort && !Meldungen::Frage(Terminverwaltung::standortFrage(daten.standort),
@@ -205,8 +197,8 @@ void TV_Terminverwaltung::speichern(bool neuerTermin) {
     return;
   const qint64 neueId = standort && neuerTermin
                             ? amStandortEintragen(daten)
-                            : Terminverwaltung::speichern(m_db, daten, pruefung.volkId, alt);
-  if (neuerTermin && neueId != 0) opti[standort || pruefung.volkId != 0 ? 1 : 0]->setChecked(true);
+                            : Terminverwaltung::speichern(m_db, daten, prüfung.volkId, alt);
+  if (neuerTermin && neueId != 0) m_opti[standort || prüfung.volkId != 0 ? 1 : 0]->setChecked(true);
   gespeichertesZeigen(neueId);
   Tastenton();
   eingabenSetzen();
@@ -217,7 +209,7 @@ void TV_Terminverwaltung::speichern(bool neuerTermin) {
 void TV_Terminverwaltung::gespeichertesZeigen(qint64 id) {
   listeLesen();
   aktuellSetzen(id);
-  if (id != 0 && litermine->aktuelleZeile() < 0)
+  if (id != 0 && m_litermine->aktuelleZeile() < 0)
     m_ausgeblendet->setText("Gespeichert. Die Einschränkung oben blendet den Termin aus.");
 }
 
@@ -227,28 +219,28 @@ qint64 TV_Terminverwaltung::amStandortEintragen(const Terminverwaltung::Eingabe&
   try {
     return Terminverwaltung::amStandortEintragen(m_db, daten);
   } catch (...) {
-    const int zeile = litermine->aktuelleZeile();
+    const int zeile = m_litermine->aktuelleZeile();
     listeNeuLesen(zeile < 0 ? 0 : id(zeile), true);
     throw;
   }
 }
 
-void TV_Terminverwaltung::loeschen() {
-  const int zeile = litermine->aktuelleZeile();
+void TV_Terminverwaltung::terminLöschen() {
+  const int zeile = m_litermine->aktuelleZeile();
   if (zeile < 0)
     return Meldungen::Hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.",
                               this);
   if (!LoeschenBestaetigt()) return;
-  litermine->loescheZeile(zeile, m_db, "Termine");
-  listenFuellen();
+  m_litermine->löscheZeile(zeile, m_db, "Termine");
+  listenFüllen();
 }
 
-void TV_Terminverwaltung::erledigteLoeschen() {
+void TV_Terminverwaltung::erledigteLöschen() {
   if (!Meldungen::Frage("Sollen wirklich alle als erledigt markierte Termine aus der "
                         "Terminverwaltung gelöscht werden?",
                         Meldungen::Vorgabe::Ja, this))
     return;
-  Terminverwaltung::erledigteLoeschen(m_db);
+  Terminverwaltung::erledigteLöschen(m_db);
   listeLesen();
   eingabenSetzen();
 }
@@ -256,7 +248,7 @@ void TV_Terminverwaltung::erledigteLoeschen() {
 // What was closed there shows here at once. Inputs that no longer are the row's have been typed in
 // and stay.
 void TV_Terminverwaltung::aktuelleTermine() {
-  const int zeile = litermine->aktuelleZeile();
+  const int zeile = m_litermine->aktuelleZeile();
   const qint64 vorher = zeile < 0 ? 0 : id(zeile);
   const bool getippt = zeile >= 0 && eingabe() != zeileneingabe(zeile);
   TV_Starttermine(this).zeigen();

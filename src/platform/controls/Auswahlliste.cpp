@@ -40,21 +40,26 @@ Auswahlliste::Auswahlliste(QLineEdit* feld)
   connect(m_liste, &QListView::clicked, this, [this](const QModelIndex& i) { nimm(i.row()); });
 }
 
-void Auswahlliste::oeffnen(const QStringList& texte, const QString& aktuell) {
+void Auswahlliste::öffnen(const QStringList& texte, const QString& aktuell) {
   int zeile = static_cast<int>(texte.indexOf(aktuell));
   if (zeile < 0 && !aktuell.isEmpty()) zeile = sucheAnfang(texte, aktuell, -1);
   zeige(texte, zeile);
 }
 
-void Auswahlliste::ergaenzen(const QStringList& texte, const QString& anfang) {
+QString Auswahlliste::ergänzen(const QStringList& texte, const QString& anfang) {
   QStringList treffer;
   if (!anfang.isEmpty())
     for (const QString& text : texte)
       if (text.startsWith(anfang, Qt::CaseInsensitive)) treffer += text;
-  if (treffer.isEmpty() || (treffer.size() == 1 && treffer.first() == anfang))
+  if (treffer.isEmpty() || (treffer.size() == 1 && treffer.first() == anfang)) {
     hide();
-  else
-    zeige(treffer, -1);
+    return {};
+  }
+  // The whole text in other letters ("RAPS") is a text of its own.
+  const bool einziger = treffer.size() == 1 && treffer.first().size() > anfang.size();
+  zeige(treffer, einziger ? 0 : -1);
+  m_vonSelbst = einziger;
+  return einziger ? treffer.first() : QString();
 }
 
 bool Auswahlliste::nimmtTaste(const QKeyEvent* event) const {
@@ -69,7 +74,7 @@ bool Auswahlliste::nimmtTaste(const QKeyEvent* event) const {
       return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      return m_liste->currentIndex().isValid();
+      return m_liste->currentIndex().isValid() && !m_vonSelbst;
     default:
       return false;
   }
@@ -146,20 +151,21 @@ void Auswahlliste::anlegen() {
   for (qsizetype i = 0; i < std::min<qsizetype>(texte.size(), GemesseneTexte); ++i)
     breite = std::max(breite, mass.horizontalAdvance(texte[i]));
   const int zeilen = static_cast<int>(std::min<qsizetype>(texte.size(), MeisteZeilen));
-  const int hoehe = std::max(m_liste->sizeHintForRow(0), mass.height()) * zeilen + 6;
+  const int höhe = std::max(m_liste->sizeHintForRow(0), mass.height()) * zeilen + 6;
   breite += m_liste->verticalScrollBar()->sizeHint().width() + 20;
   const QRect schirm = m_feld->screen()->availableGeometry();
   breite = std::min(std::max(breite, m_feld->width()), std::min(schirm.width(), 600));
   QPoint ort = m_feld->mapToGlobal(QPoint(0, m_feld->height()));
-  if (ort.y() + hoehe > schirm.bottom()) {
-    const int oben = m_feld->mapToGlobal(QPoint(0, 0)).y() - hoehe;
+  if (ort.y() + höhe > schirm.bottom()) {
+    const int oben = m_feld->mapToGlobal(QPoint(0, 0)).y() - höhe;
     if (oben >= schirm.top()) ort.setY(oben);
   }
   ort.setX(std::max(schirm.left(), std::min(ort.x(), schirm.right() - breite)));
-  setGeometry(QRect(ort, QSize(breite, hoehe)));
+  setGeometry(QRect(ort, QSize(breite, höhe)));
 }
 
 void Auswahlliste::setZeile(int zeile) {
+  m_vonSelbst = false;
   if (zeile < 0) {
     m_liste->setCurrentIndex({});
     m_liste->clearSelection();
@@ -173,7 +179,7 @@ void Auswahlliste::nimm(int zeile) {
   if (zeile < 0) return;
   const QString text = m_modell->index(zeile).data(Qt::DisplayRole).toString();
   hide();
-  Q_EMIT gewaehlt(text);
+  Q_EMIT genommen(text);
 }
 
 bool Auswahlliste::eventFilter(QObject* objekt, QEvent* event) {

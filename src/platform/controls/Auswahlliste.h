@@ -17,10 +17,12 @@ class Auswahlliste : public QFrame {
   explicit Auswahlliste(QLineEdit* feld);
 
   // All texts, the given one marked; nothing is marked when it isn't among them.
-  void oeffnen(const QStringList& texte, const QString& aktuell);
-  // The texts that begin with what was typed, none marked. Closes when nothing is left to offer.
-  void ergaenzen(const QStringList& texte, const QString& anfang);
-  // Arrows, page keys, Enter and Esc while it is open; true when the key was its own.
+  void öffnen(const QStringList& texte, const QString& aktuell);
+  // The texts that begin with what was typed, none marked but the only one. Closes when nothing is
+  // left to offer. Gives the only one.
+  QString ergänzen(const QStringList& texte, const QString& anfang);
+  // Arrows, page keys, Enter and Esc while it is open; true when the key was its own. Enter is its
+  // own only on a text that the user has marked.
   bool taste(QKeyEvent* event);
   // True for the keys that taste() would take, so that no shortcut takes them first.
   bool nimmtTaste(const QKeyEvent* event) const;
@@ -34,7 +36,7 @@ class Auswahlliste : public QFrame {
   static int sucheAnfang(const QStringList& texte, const QString& anfang, int hinter);
 
  Q_SIGNALS:
-  void gewaehlt(const QString& text);
+  void genommen(const QString& text);
 
  protected:
   bool eventFilter(QObject* objekt, QEvent* event) override;
@@ -49,4 +51,5 @@ class Auswahlliste : public QFrame {
   QLineEdit* m_feld;
   QListView* m_liste;
   QStringListModel* m_modell;
+  bool m_vonSelbst = false;  // the marked text is the only one, not the user's choice yet
 };

@@ -23,21 +23,21 @@ QPushButton* knopfOhneEnter(const QString& text, const QString& name) {
   return neu;
 }
 
-QPushButton* okUndSchliessen(QDialog* dialog, QBoxLayout* seite) {
-  auto* knoepfe = new QDialogButtonBox(dialog);
-  auto* ok = knoepfe->addButton(QStringLiteral("&OK"), QDialogButtonBox::AcceptRole);
+QPushButton* okUndSchließen(QDialog* dialog, QBoxLayout* seite) {
+  auto* knöpfe = new QDialogButtonBox(dialog);
+  auto* ok = knöpfe->addButton(QStringLiteral("&OK"), QDialogButtonBox::AcceptRole);
   ok->setObjectName(QStringLiteral("ok"));
   ok->setDefault(true);
-  auto* schliessen = knoepfe->addButton(QStringLiteral("&Schließen"), QDialogButtonBox::RejectRole);
-  schliessen->setObjectName(QStringLiteral("schliessen"));
-  schliessen->setAutoDefault(false);
-  seite->addWidget(knoepfe);
-  QObject::connect(knoepfe, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
-  QObject::connect(knoepfe, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+  auto* schließen = knöpfe->addButton(QStringLiteral("&Schließen"), QDialogButtonBox::RejectRole);
+  schließen->setObjectName(QStringLiteral("schliessen"));
+  schließen->setAutoDefault(false);
+  seite->addWidget(knöpfe);
+  QObject::connect(knöpfe, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+  QObject::connect(knöpfe, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
   return ok;
 }
 
-QLabel* ueberschrift(const QString& text) {
+QLabel* überschrift(const QString& text) {
   auto* label = new QLabel(text);
   QFont schrift = label->font();
   schrift.setBold(true);
@@ -49,6 +49,24 @@ QWidget* reiterseite(QWidget* inhalt) {
   auto* seite = new QWidget;
   auto* spalte = new QVBoxLayout(seite);
   spalte->addWidget(inhalt);
+  return seite;
+}
+
+QWidget* leiste(const QList<QWidget*>& links, const QList<QWidget*>& rechts) {
+  auto* streifen = new QWidget;
+  auto* zeile = new QHBoxLayout(streifen);
+  zeile->setContentsMargins(0, 0, 0, 0);
+  for (QWidget* control : links) zeile->addWidget(control);
+  zeile->addStretch(1);
+  for (QWidget* control : rechts) zeile->addWidget(control);
+  return streifen;
+}
+
+QWidget* untereinander(const QList<Teil>& teile) {
+  auto* seite = new QWidget;
+  auto* spalte = new QVBoxLayout(seite);
+  spalte->setContentsMargins(0, 0, 0, 0);
+  for (const Teil& teil : teile) spalte->addWidget(teil.inhalt, teil.anteil);
   return seite;
 }
 
@@ -68,16 +86,16 @@ void tabfolge(const QList<QWidget*>& folge) {
   for (qsizetype i = 1; i < folge.size(); ++i) QWidget::setTabOrder(folge[i - 1], folge[i]);
 }
 
-void fenstergroesse(QWidget* fenster, int zeichen, int zeilen) {
+void fenstergröße(QWidget* fenster, int zeichen, int zeilen) {
   const QFontMetrics schrift = fenster->fontMetrics();
   const QSize wunsch(zeichen * schrift.averageCharWidth(), zeilen * schrift.height());
   const QSize rahmenUndLeiste(20, 60);  // around the window and at the edge of the screen
-  fenster->resize(wunsch.expandedTo(fenster->minimumSizeHint())
+  fenster->resize(wunsch.expandedTo(fenster->sizeHint())
                       .boundedTo(fenster->screen()->availableSize() - rahmenUndLeiste));
 }
 
-QWidget* fensterDarunter(QWidget* ueber) {
-  QWidget* fenster = ueber != nullptr ? ueber->window() : QApplication::activeWindow();
+QWidget* fensterDarunter(QWidget* über) {
+  QWidget* fenster = über != nullptr ? über->window() : QApplication::activeWindow();
   return fenster != nullptr && fenster->isVisible() ? fenster : nullptr;
 }
 

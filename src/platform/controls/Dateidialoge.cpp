@@ -62,19 +62,18 @@ QString gefragt(QFileDialog& dialog, const QString& titel) {
 
 namespace Dateidialoge {
 
-QString oeffnen(QWidget* ueber, const QString& titel, const QString& ordner,
-                const QString& filter) {
-  QFileDialog dialog(fensterDarunter(ueber), titel, ordner, filter);
+QString öffnen(QWidget* über, const QString& titel, const QString& ordner, const QString& filter) {
+  QFileDialog dialog(fensterDarunter(über), titel, ordner, filter);
   vorbereiten(dialog, QStringLiteral("Ö&ffnen"));
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);
   return gefragt(dialog, titel);
 }
 
-QString speichern(QWidget* ueber, const QString& titel, const QString& vorschlag,
+QString speichern(QWidget* über, const QString& titel, const QString& vorschlag,
                   const QString& filter, const QString& endung) {
   const QFileInfo wunsch(vorschlag);
-  QFileDialog dialog(fensterDarunter(ueber), titel, wunsch.absolutePath(), filter);
+  QFileDialog dialog(fensterDarunter(über), titel, wunsch.absolutePath(), filter);
   vorbereiten(dialog, QStringLiteral("&Speichern"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
@@ -88,12 +87,12 @@ QString speichern(QWidget* ueber, const QString& titel, const QString& vorschlag
     const QString frage =
         QStringLiteral("Die Datei %1 gibt es schon. Soll sie überschrieben werden?")
             .arg(QDir::toNativeSeparators(pfad));
-    if (Meldungen::Frage(frage, Meldungen::Vorgabe::Nein, ueber)) return pfad;
+    if (Meldungen::Frage(frage, Meldungen::Vorgabe::Nein, über)) return pfad;
   }
 }
 
-QString ordnerWaehlen(QWidget* ueber, const QString& titel, const QString& ordner) {
-  QFileDialog dialog(fensterDarunter(ueber), titel, ordner);
+QString ordnerWählen(QWidget* über, const QString& titel, const QString& ordner) {
+  QFileDialog dialog(fensterDarunter(über), titel, ordner);
   vorbereiten(dialog, QStringLiteral("&Auswählen"));
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);

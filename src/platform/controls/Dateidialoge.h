@@ -9,12 +9,12 @@ class QWidget;
 namespace Dateidialoge {
 
 // An existing file.
-QString oeffnen(QWidget* ueber, const QString& titel, const QString& ordner, const QString& filter);
+QString öffnen(QWidget* über, const QString& titel, const QString& ordner, const QString& filter);
 // A file to write; vorschlag is a name or a whole path. An existing file is only given after the
 // user agreed to overwrite it. endung (without a point) is added to a name that has none.
-QString speichern(QWidget* ueber, const QString& titel, const QString& vorschlag,
+QString speichern(QWidget* über, const QString& titel, const QString& vorschlag,
                   const QString& filter, const QString& endung = {});
-QString ordnerWaehlen(QWidget* ueber, const QString& titel, const QString& ordner);
+QString ordnerWählen(QWidget* über, const QString& titel, const QString& ordner);
 
 // For tests: while one lives, no dialog is shown; each call takes the next answer (empty: closed).
 class Probe {

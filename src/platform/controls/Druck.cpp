@@ -35,7 +35,7 @@ bool inDatei(const QPrinter& drucker) { return !drucker.outputFileName().isEmpty
 }
 
 // The file's writer doesn't tell of a full disk; a PDF file that is whole ends with its mark.
-bool dateiVollstaendig(const QPrinter& drucker) {
+bool dateiVollständig(const QPrinter& drucker) {
   if (!inDatei(drucker) || drucker.outputFormat() != QPrinter::PdfFormat) return true;
   constexpr qint64 Ende = 64;
   QFile datei(drucker.outputFileName());
@@ -155,14 +155,14 @@ void ausgeben(QPrinter& drucker, const Auftrag& auftrag) {
         y += masse.lineSpacing();
       }
     }
-  if (!maler.end() || drucker.printerState() == QPrinter::Error || !dateiVollstaendig(drucker))
+  if (!maler.end() || drucker.printerState() == QPrinter::Error || !dateiVollständig(drucker))
     fehlgeschlagen(drucker);
 }
 
-bool drucken(const Auftrag& auftrag, QWidget* ueber) {
+bool drucken(const Auftrag& auftrag, QWidget* über) {
   QPrinter drucker(QPrinter::HighResolution);
   einrichten(drucker, auftrag);
-  QPrintDialog dialog(&drucker, ueber);
+  QPrintDialog dialog(&drucker, über);
   dialog.setObjectName(QStringLiteral("druckdialog"));
   dialog.setWindowTitle(QStringLiteral("Drucken"));
   dateiVorschlagen(dialog, auftrag.titel);

@@ -30,7 +30,7 @@ QStringList schriften(bool feste);
 
 // Asks with the print dialog and prints. False when the user cancelled. Throws Dateifehler when
 // the printer can't be used or the file can't be written whole.
-bool drucken(const Auftrag& auftrag, QWidget* ueber);
+bool drucken(const Auftrag& auftrag, QWidget* über);
 
 // The two halves of drucken, around the dialog.
 void einrichten(QPrinter& drucker, const Auftrag& auftrag);

@@ -1,16 +1,17 @@
+// What the field shows and holds, and what its button opens; focus, keys and mouse stand in
+// Eingabefeld_Bedienung.cpp.
 #include "platform/controls/Eingabefeld.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionFrame>
 #include <QToolButton>
 #include <QValidator>
-#include <cmath>
 
 #include "platform/controls/Auswahlliste.h"
 #include "platform/controls/Eingaberegel.h"
+#include "platform/controls/Feldhinweis.h"
 #include "platform/controls/Feldsymbole.h"
 #include "platform/controls/Gestaltung.h"
 #include "platform/controls/Kalender.h"
@@ -19,9 +20,9 @@
 
 namespace {
 
-std::function<QString(const QString&)>& datumErgaenzer() {
-  static std::function<QString(const QString&)> ergaenzer;
-  return ergaenzer;
+std::function<QString(const QString&)>& datumErgänzer() {
+  static std::function<QString(const QString&)> ergänzer;
+  return ergänzer;
 }
 
 std::function<QDate()>& heuteGeber() {
@@ -29,43 +30,26 @@ std::function<QDate()>& heuteGeber() {
   return heute;
 }
 
-std::function<std::pair<int, int>()>& steuersaetze() {
-  static std::function<std::pair<int, int>()> saetze;
-  return saetze;
+std::function<std::pair<int, int>()>& steuersätze() {
+  static std::function<std::pair<int, int>()> sätze;
+  return sätze;
 }
 
 constexpr int EinheitAbstand = 5;
 
-// Keys that start an action elsewhere while the focus stays in the field.
-bool fuehrtWeg(const QKeyEvent& event) {
-  const bool funktion = event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F35;
-  const bool alt = event.modifiers() == Qt::AltModifier && event.key() != Qt::Key_Alt;
-  return funktion || alt;
-}
-
 }  // namespace
 
 // Sits where every change of the text passes: key, paste, drop, input method, completion.
-class Eingabefeld::Waechter : public QValidator {
+class Eingabefeld::Wächter : public QValidator {
  public:
-  explicit Waechter(Eingabefeld* feld) : QValidator(feld), m_feld(feld) {}
+  explicit Wächter(Eingabefeld* feld) : QValidator(feld), m_feld(feld) {}
 
   State validate(QString& text, int& ort) const override {
     if (m_feld->m_vomProgramm) {
       m_feld->m_vomProgramm = false;
       return Acceptable;
     }
-    const auto ergebnis = Eingaberegel::pruefe(m_feld->m_beschreibung, m_feld->m_vorher, text, ort);
-    const bool eingefuegt = std::abs(text.size() - m_feld->m_vorher.size()) > 1;
-    if (!ergebnis) {
-      if (eingefuegt) QApplication::beep();
-      return Invalid;
-    }
-    if (ergebnis->gekuerzt && eingefuegt) QApplication::beep();
-    if (ergebnis->text == text) return Acceptable;
-    m_feld->m_vorher = text = ergebnis->text;
-    ort = ergebnis->cursor;
-    return Acceptable;
+    return m_feld->nimmtÄnderung(text, ort) ? Acceptable : Invalid;
   }
 
  private:
@@ -73,25 +57,29 @@ class Eingabefeld::Waechter : public QValidator {
 };
 
 Eingabefeld::Eingabefeld(QWidget* eltern) : QLineEdit(eltern) {
-  setValidator(new Waechter(this));
+  setValidator(new Wächter(this));
   connect(this, &QLineEdit::textChanged, this, [this](const QString& neu) {
     m_vorher = neu;
     setWarnung(false);
-    Q_EMIT inhaltGeaendert(neu);
+    Q_EMIT inhaltNeu(neu);
   });
   connect(this, &QLineEdit::textEdited, this, [this](const QString& neu) {
+    m_vorschlag.clear();
     if (art() == Art::Auswahl || m_liste.isEmpty()) return;
     if (cursorPosition() == neu.size())
-      aufklappliste()->ergaenzen(m_liste, neu);
+      m_vorschlag = aufklappliste()->ergänzen(m_liste, neu);
     else if (m_aufklappliste != nullptr)
       m_aufklappliste->hide();
   });
 }
 
+Eingabefeld::~Eingabefeld() { delete m_hinweis; }
+
 void Eingabefeld::einrichten(const Beschreibung& beschreibung) {
   m_beschreibung = beschreibung;
   m_liste.clear();
   if (m_aufklappliste != nullptr) m_aufklappliste->hide();
+  if (m_hinweis != nullptr) m_hinweis->verberge();
   const bool zahl = art() == Art::Dezimal || art() == Art::Ganzzahl;
   setAlignment((zahl ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
   const int platz = beschreibung.einheit.isEmpty()
@@ -117,25 +105,29 @@ void Eingabefeld::setInhalt(const QString& text) {
   // A number that lost a digit is another number.
   const bool zahl = art() == Art::Dezimal || art() == Art::Ganzzahl;
   const QString neu =
-      Eingaberegel::gekuerzt(Eingaberegel::bereinigt(text), zahl ? 0 : m_beschreibung.maxLaenge);
+      Eingaberegel::gekürzt(Eingaberegel::bereinigt(text), zahl ? 0 : m_beschreibung.maxLänge);
   const bool gleich = neu == this->text();
+  const bool markiert = hasFocus() && selectedText() == this->text();
+  entsperren();
+  m_vorschlag.clear();
   m_vomProgramm = true;
   QLineEdit::setText(neu);
   m_vomProgramm = false;
+  if (markiert) selectAll();  // what is typed next still begins anew
   m_vorher = this->text();
   if (!hasFocus()) setCursorPosition(0);
-  if (gleich) Q_EMIT inhaltGeaendert(neu);
-  pruefeWarnung();
+  if (gleich) Q_EMIT inhaltNeu(neu);
+  prüfeWarnung();
 }
 
-void Eingabefeld::setDatumErgaenzer(std::function<QString(const QString&)> ergaenzer) {
-  datumErgaenzer() = std::move(ergaenzer);
+void Eingabefeld::setDatumErgaenzer(std::function<QString(const QString&)> ergänzer) {
+  datumErgänzer() = std::move(ergänzer);
 }
 
 void Eingabefeld::setHeute(std::function<QDate()> heute) { heuteGeber() = std::move(heute); }
 
-void Eingabefeld::setSteuersaetze(std::function<std::pair<int, int>()> saetze) {
-  steuersaetze() = std::move(saetze);
+void Eingabefeld::setSteuersätze(std::function<std::pair<int, int>()> sätze) {
+  steuersätze() = std::move(sätze);
 }
 
 // ---- the button and what it opens ----
@@ -162,7 +154,7 @@ void Eingabefeld::knopfEinrichten() {
   if (m_knopf == nullptr) {
     m_knopf = addAction(symbol, QLineEdit::TrailingPosition);
     connect(m_knopf, &QAction::triggered, this, [this] {
-      setFocus(Qt::MouseFocusReason);
+      fokussieren();
       aufklappen();
     });
   }
@@ -176,55 +168,55 @@ void Eingabefeld::aufklappen() {
   if (m_aufklappliste != nullptr && m_aufklappliste->isVisible())
     m_aufklappliste->hide();
   else if (art() == Art::Datum || art() == Art::TagMonat)
-    kalenderOeffnen();
+    kalenderÖffnen();
   else if (art() == Art::Dezimal || art() == Art::Ganzzahl)
-    rechnerOeffnen();
+    rechnerÖffnen();
   else
-    listeOeffnen();
+    listeÖffnen();
 }
 
 Auswahlliste* Eingabefeld::aufklappliste() {
   if (m_aufklappliste == nullptr) {
     m_aufklappliste = new Auswahlliste(this);
-    connect(m_aufklappliste, &Auswahlliste::gewaehlt, this, &Eingabefeld::waehlen);
+    connect(m_aufklappliste, &Auswahlliste::genommen, this, &Eingabefeld::wählen);
   }
   return m_aufklappliste;
 }
 
-void Eingabefeld::listeOeffnen() {
+void Eingabefeld::listeÖffnen() {
   if (isReadOnly() || angebot().isEmpty()) return;
-  aufklappliste()->oeffnen(angebot(), text());
+  aufklappliste()->öffnen(angebot(), text());
 }
 
-void Eingabefeld::waehlen(const QString& text) {
+void Eingabefeld::wählen(const QString& text) {
   setInhalt(text);
   selectAll();
-  Q_EMIT ausListeGewaehlt(inhalt());
+  Q_EMIT ausListeGenommen(inhalt());
 }
 
-void Eingabefeld::kalenderOeffnen() {
-  abschliessen();
+void Eingabefeld::kalenderÖffnen() {
+  abschließen();
   const QDate heute = heuteGeber() ? heuteGeber()() : QDate::currentDate();
   const bool kurz = art() == Art::TagMonat;
   const QString jetzt =
       kurz && !text().isEmpty() ? text() + QStringLiteral(".%1").arg(heute.year()) : text();
   auto* kalender = new Kalender(this, Deutsch::datum(jetzt).value_or(QDate()), heute);
-  connect(kalender, &Kalender::gewaehlt, this, [this, kurz](QDate datum) {
+  connect(kalender, &Kalender::genommen, this, [this, kurz](QDate datum) {
     setInhalt(kurz ? datum.toString(QStringLiteral("dd.MM")) : Deutsch::datumText(datum));
     selectAll();
   });
   kalender->zeigeUnter(this);
 }
 
-void Eingabefeld::rechnerOeffnen() {
-  const double wert = QString(text()).replace(u',', u'.').toDouble();
-  const auto saetze = steuersaetze() ? steuersaetze()() : std::pair<int, int>(19, 7);
-  auto* rechner = new Rechner(this, wert, saetze,
-                              [this](double ergebnis) { return rechnerUebernehmen(ergebnis); });
+void Eingabefeld::rechnerÖffnen() {
+  const double wert = Eingaberegel::zahlform(text()).replace(u',', u'.').toDouble();
+  const auto sätze = steuersätze() ? steuersätze()() : std::pair<int, int>(19, 7);
+  auto* rechner = new Rechner(this, wert, sätze,
+                              [this](double ergebnis) { return rechnerÜbernehmen(ergebnis); });
   rechner->zeigeUnter(this);
 }
 
-bool Eingabefeld::rechnerUebernehmen(double wert) {
+bool Eingabefeld::rechnerÜbernehmen(double wert) {
   const int stellen = art() == Art::Dezimal ? m_beschreibung.nachkommastellen : 0;
   QString ergebnis = Deutsch::zahl(wert, stellen);
   if (wert == 0) ergebnis = Deutsch::zahl(0, stellen);  // no "-0"
@@ -234,25 +226,25 @@ bool Eingabefeld::rechnerUebernehmen(double wert) {
   return true;
 }
 
-// ---- leaving and completing ----
+// ---- dates ----
 
-void Eingabefeld::abschliessen() {
+void Eingabefeld::abschließen() {
   if (isReadOnly() || text().isEmpty()) return;
   QString fertig;
   if (art() == Art::TagMonat) {
     fertig = Eingaberegel::tagMonat(text());
   } else if (art() == Art::Datum) {
-    fertig = datumErgaenzer() ? datumErgaenzer()(text()) : text();
+    fertig = datumErgänzer() ? datumErgänzer()(text()) : text();
     const auto datum = Deutsch::datum(fertig);
     fertig = datum ? Deutsch::datumText(*datum) : QString();
   }
   if (!fertig.isEmpty() && fertig != text())
     setInhalt(fertig);
   else
-    pruefeWarnung();
+    prüfeWarnung();
 }
 
-void Eingabefeld::pruefeWarnung() {
+void Eingabefeld::prüfeWarnung() {
   const bool datum = art() == Art::Datum && !Deutsch::datum(text());
   const bool tag = art() == Art::TagMonat && Eingaberegel::tagMonat(text()).isEmpty();
   setWarnung(!text().isEmpty() && (datum || tag));
@@ -267,81 +259,6 @@ void Eingabefeld::setWarnung(bool ja) {
   setAccessibleDescription(ja ? QStringLiteral("Das ist kein gültiges Datum.") : QString());
 }
 
-void Eingabefeld::focusInEvent(QFocusEvent* event) {
-  QLineEdit::focusInEvent(event);
-  if (art() == Art::Auswahl) selectAll();  // a choice is one piece
-}
-
-void Eingabefeld::focusOutEvent(QFocusEvent* event) {
-  if (m_aufklappliste != nullptr) m_aufklappliste->hide();
-  const bool weg = event->reason() != Qt::PopupFocusReason;
-  if (weg) abschliessen();
-  QLineEdit::focusOutEvent(event);
-  if (weg && event->reason() != Qt::ActiveWindowFocusReason) Q_EMIT verlassen();
-}
-
-// ---- keys ----
-
-bool Eingabefeld::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) {
-    auto* taste = static_cast<QKeyEvent*>(event);
-    if (m_aufklappliste != nullptr && m_aufklappliste->nimmtTaste(taste)) {
-      event->accept();
-      return true;
-    }
-    if (fuehrtWeg(*taste)) abschliessen();
-  }
-  return QLineEdit::event(event);
-}
-
-void Eingabefeld::keyPressEvent(QKeyEvent* event) {
-  if (m_aufklappliste != nullptr && m_aufklappliste->taste(event)) return;
-  const bool altUnten = event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier;
-  const bool unten = event->key() == Qt::Key_Down && art() == Art::Auswahl;
-  if (altUnten || unten || event->key() == Qt::Key_F4) {
-    if (event->key() != Qt::Key_F4 && !angebot().isEmpty())
-      listeOeffnen();
-    else
-      aufklappen();
-    event->accept();
-    return;
-  }
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) abschliessen();
-  if (zeichenTippen(*event)) {
-    event->accept();
-    return;
-  }
-  QLineEdit::keyPressEvent(event);
-}
-
-// Keys that mean something else than their character; true when it was one.
-bool Eingabefeld::zeichenTippen(const QKeyEvent& event) {
-  const QString zeichen = event.text();
-  if (isReadOnly() || zeichen.size() != 1 || !zeichen.front().isPrint()) return false;
-  if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) return false;
-  if (art() == Art::Auswahl) {
-    const int jetzt = static_cast<int>(m_beschreibung.auswahl.indexOf(text()));
-    const int treffer = Auswahlliste::sucheAnfang(m_beschreibung.auswahl, zeichen, jetzt);
-    if (treffer < 0) return true;
-    waehlen(m_beschreibung.auswahl[treffer]);
-    if (m_aufklappliste != nullptr && m_aufklappliste->isVisible()) listeOeffnen();
-    return true;
-  }
-  const bool trenner = zeichen == u"." || zeichen == u",";
-  if (!trenner || art() == Art::Text || art() == Art::Ganzzahl) return false;
-  const QChar eigener = art() == Art::Dezimal ? u',' : u'.';
-  if (art() == Art::Dezimal && !hasSelectedText() && cursorPosition() < text().size() &&
-      text()[cursorPosition()] == eigener) {
-    cursorForward(false);  // typing over the comma that stands there
-    return true;
-  }
-  if (zeichen.front() == eigener) return false;
-  QKeyEvent ersatz(QEvent::KeyPress, eigener == u',' ? Qt::Key_Comma : Qt::Key_Period,
-                   event.modifiers(), QString(eigener));
-  QLineEdit::keyPressEvent(&ersatz);
-  return true;
-}
-
 // ---- looks ----
 
 void Eingabefeld::changeEvent(QEvent* event) {
@@ -354,17 +271,17 @@ void Eingabefeld::paintEvent(QPaintEvent* event) {
   if (m_beschreibung.einheit.isEmpty()) return;
   QStyleOptionFrame rahmen;
   initStyleOption(&rahmen);
-  QRect flaeche = style()->subElementRect(QStyle::SE_LineEditContents, &rahmen, this);
+  QRect fläche = style()->subElementRect(QStyle::SE_LineEditContents, &rahmen, this);
   if (const auto* knopf = findChild<QToolButton*>(); knopf != nullptr && knopf->isVisible())
-    flaeche.setRight(knopf->x() - 2);
+    fläche.setRight(knopf->x() - 2);
   else
-    flaeche.adjust(0, 0, -3, 0);
+    fläche.adjust(0, 0, -3, 0);
   QPainter maler(this);
   maler.setPen(palette().color(QPalette::PlaceholderText));
-  maler.drawText(flaeche, Qt::AlignRight | Qt::AlignVCenter, m_beschreibung.einheit);
+  maler.drawText(fläche, Qt::AlignRight | Qt::AlignVCenter, m_beschreibung.einheit);
 }
 
-int Eingabefeld::breiteFuer(int zeichen) const {
+int Eingabefeld::breiteFür(int zeichen) const {
   ensurePolished();
   const QFontMetrics mass(font());
   const int breit = mass.horizontalAdvance(art() == Art::Text ? u'x' : u'0') + (art() == Art::Text);
@@ -372,14 +289,14 @@ int Eingabefeld::breiteFuer(int zeichen) const {
 }
 
 QSize Eingabefeld::sizeHint() const {
-  int zeichen = Eingaberegel::groessteLaenge(m_beschreibung);
+  int zeichen = Eingaberegel::größteLänge(m_beschreibung);
   if (zeichen == 0) zeichen = art() == Art::Text ? 30 : 8;
   if (art() == Art::Auswahl)
     for (const QString& wahl : m_beschreibung.auswahl)
       zeichen = std::max(zeichen, static_cast<int>(wahl.size()));
-  return {breiteFuer(std::clamp(zeichen, 4, 40)), QLineEdit::sizeHint().height()};
+  return {breiteFür(std::clamp(zeichen, 4, 40)), QLineEdit::sizeHint().height()};
 }
 
 QSize Eingabefeld::minimumSizeHint() const {
-  return {std::min(sizeHint().width(), breiteFuer(12)), QLineEdit::minimumSizeHint().height()};
+  return {std::min(sizeHint().width(), breiteFür(12)), QLineEdit::minimumSizeHint().height()};
 }

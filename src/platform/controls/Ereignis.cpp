@@ -6,12 +6,12 @@
 #include <new>
 
 #include "platform/controls/Meldungen.h"
-#include "platform/database/Datenbankfehler.h"
+#include "platform/database/werte/Datenbankfehler.h"
 #include "platform/files/Textdatei.h"
 
 namespace Ereignis {
 
-bool ausfuehren(QWidget* fenster, const std::function<void()>& aktion) {
+bool ausführen(QWidget* fenster, const std::function<void()>& aktion) {
   const QPointer<QWidget> noch(fenster);  // the action may close and destroy its own window
   QString text;
   try {
@@ -26,8 +26,11 @@ bool ausfuehren(QWidget* fenster, const std::function<void()>& aktion) {
         "Der Arbeitsspeicher reicht nicht aus. Bitte schließen Sie andere Programme und versuchen "
         "Sie es noch einmal.");
   } catch (const std::exception& fehler) {
-    text = QStringLiteral("Der Vorgang wurde wegen eines Fehlers abgebrochen:\n") +
-           QString::fromUtf8(fehler.what());
+    // What the library says is English and means nothing to the user.
+    qWarning("Der Vorgang wurde abgebrochen: %s", fehler.what());
+    text = QStringLiteral(
+        "Der Vorgang wurde wegen eines unerwarteten Fehlers abgebrochen. Bitte prüfen Sie, was "
+        "davon gespeichert ist, bevor Sie ihn wiederholen.");
   } catch (...) {
     text = QStringLiteral("Der Vorgang wurde wegen eines unbekannten Fehlers abgebrochen.");
   }

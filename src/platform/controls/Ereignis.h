@@ -13,7 +13,7 @@ class QWidget;
 namespace Ereignis {
 
 // Runs the action; tells a failure over the given window. True when it came to its end.
-bool ausfuehren(QWidget* fenster, const std::function<void()>& aktion);
+bool ausführen(QWidget* fenster, const std::function<void()>& aktion);
 
 // Calls a handler with the signal's values, or without them when it takes none.
 template <typename Handler, typename... Werte>
@@ -30,7 +30,7 @@ template <typename Sender, typename Signal, typename Handler>
 QMetaObject::Connection wenn(const Sender* sender, Signal signal, QWidget* fenster,
                              Handler handler) {
   return QObject::connect(sender, signal, fenster, [fenster, handler](auto&&... werte) -> void {
-    ausfuehren(fenster, [&] { rufe(handler, std::forward<decltype(werte)>(werte)...); });
+    ausführen(fenster, [&] { rufe(handler, std::forward<decltype(werte)>(werte)...); });
   });
 }
 

@@ -12,16 +12,16 @@ constexpr int Kante = 16;
 QIcon zeichne(const QColor& farbe, const std::function<void(QPainter&)>& bild) {
   QIcon symbol;
   for (const int faktor : {1, 2, 3}) {
-    QPixmap flaeche(Kante * faktor, Kante * faktor);
-    flaeche.fill(Qt::transparent);
-    QPainter maler(&flaeche);
+    QPixmap fläche(Kante * faktor, Kante * faktor);
+    fläche.fill(Qt::transparent);
+    QPainter maler(&fläche);
     maler.setRenderHint(QPainter::Antialiasing);
     maler.scale(faktor, faktor);
     maler.setPen(QPen(farbe, 1.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     bild(maler);
     maler.end();
-    flaeche.setDevicePixelRatio(faktor);
-    symbol.addPixmap(flaeche);
+    fläche.setDevicePixelRatio(faktor);
+    symbol.addPixmap(fläche);
   }
   return symbol;
 }

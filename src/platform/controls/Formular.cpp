@@ -1,12 +1,21 @@
 #include "platform/controls/Formular.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSettings>
 #include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "platform/controls/Bauteile.h"
+#include "platform/controls/Ereignis.h"
 
 namespace {
 
@@ -31,6 +40,11 @@ QString ohneMnemonic(const QString& text) {
   return ergebnis.trimmed();
 }
 
+Formular::Weiterführung& weiterführung() {
+  static Formular::Weiterführung weiter;
+  return weiter;
+}
+
 // A window kept for a screen that is gone or smaller now comes back onto a screen there is.
 void inSichtbaren(QWidget* fenster) {
   QScreen* schirm = QGuiApplication::screenAt(fenster->frameGeometry().center());
@@ -38,10 +52,10 @@ void inSichtbaren(QWidget* fenster) {
   if (schirm == nullptr || fenster->isMaximized()) return;
   const QRect frei = schirm->availableGeometry();
   const QSize rahmen = fenster->frameGeometry().size() - fenster->size();
-  const QSize groesse =
+  const QSize größe =
       fenster->size().boundedTo(frei.size() - rahmen).expandedTo(fenster->minimumSize());
-  fenster->resize(groesse);
-  const QSize ganz = groesse + rahmen;
+  fenster->resize(größe);
+  const QSize ganz = größe + rahmen;
   const int x = std::max(frei.left(), std::min(fenster->x(), frei.right() + 1 - ganz.width()));
   const int y = std::max(frei.top(), std::min(fenster->y(), frei.bottom() + 1 - ganz.height()));
   fenster->move(x, y);
@@ -59,14 +73,14 @@ bool reiterWechseln(const QWidget* fenster, const QKeyEvent* event) {
   return true;
 }
 
-QString ablageSchluessel(const QWidget* fenster) {
+QString ablageSchlüssel(const QWidget* fenster) {
   return QStringLiteral("Fenster/") + fenster->objectName();
 }
 
 }  // namespace
 
-Formular::Formular(const QString& name, const QString& titel, QWidget* oeffner)
-    : QDialog(oeffner != nullptr ? oeffner->window() : nullptr) {
+Formular::Formular(const QString& name, const QString& titel, QWidget* öffner)
+    : QDialog(öffner != nullptr ? öffner->window() : nullptr) {
   setObjectName(name);
   setWindowTitle(titel);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -81,23 +95,88 @@ Formular::~Formular() {
 }
 
 void Formular::zeigen() {
+  const auto ende = qScopeGuard([form = QPointer<Formular>(this)] {
+    if (form) form->loslassen();  // it may be destroyed while it is shown
+  });
+  laden();
   setModal(true);
   exec();
 }
 
+void Formular::laden() {
+  ergreifen();
+  füllen();
+}
+
+void Formular::schließen() { reject(); }
+
 void Formular::setVisible(bool sichtbar) {
-  // A dialog only learns of its default button when that is set within it; otherwise it takes the
-  // first button that gets the focus, for good.
-  if (sichtbar && !m_vorgabeFest) {
-    m_vorgabeFest = true;
-    for (QPushButton* knopf : findChildren<QPushButton*>()) {
-      if (!knopf->isDefault()) continue;
-      knopf->setDefault(false);  // else setting it again does nothing
-      knopf->setDefault(true);
-      break;
-    }
+  if (sichtbar) {
+    vorgabeFestmachen();
+    if (!isVisible()) hinstellen();
   }
   QDialog::setVisible(sichtbar);
+}
+
+// A dialog only learns of its default button when that is set within it; otherwise it takes the
+// first button that gets the focus, for good.
+void Formular::vorgabeFestmachen() {
+  if (m_vorgabeFest) return;
+  m_vorgabeFest = true;
+  for (QPushButton* knopf : findChildren<QPushButton*>()) {
+    if (!knopf->isDefault()) continue;
+    knopf->setDefault(false);  // else setting it again does nothing
+    knopf->setDefault(true);
+    return;
+  }
+}
+
+// Where it stood when it was closed last, else in the size that it asks for; the toolkit then puts
+// it over its opener.
+void Formular::hinstellen() {
+  if (m_lage.isEmpty()) m_lage = Fensterablage::lesen(ablageSchlüssel(this)).toByteArray();
+  winId();  // only a window that is made knows its frame, which the kept place counts in
+  if (!m_lage.isEmpty() && restoreGeometry(m_lage))
+    inSichtbaren(this);
+  else if (!m_hingestellt && !testAttribute(Qt::WA_Resized))
+    Bauteile::fenstergröße(this, m_wunsch.width(), m_wunsch.height());
+  m_hingestellt = true;
+}
+
+void Formular::setWunschgröße(int zeichen, int zeilen) { m_wunsch = {zeichen, zeilen}; }
+
+void Formular::zusammensetzen(QWidget* inhalt, const Fuß& fuß) {
+  const auto knopf =
+      fuß.ohneEnter ? Bauteile::knopfOhneEnter : [](const QString& text, const QString& name) {
+        return Bauteile::knopf(text, name);
+      };
+  m_schließknopf = knopf(fuß.wort, fuß.schließen);
+  auto* spalte = new QVBoxLayout(this);
+  spalte->addWidget(inhalt, 1);
+  QList<QWidget*> rechts;
+  if (!fuß.hilfe.isEmpty()) {
+    m_hilfeknopf = knopf(QStringLiteral("&Hilfe"), fuß.hilfe);
+    Ereignis::wenn(m_hilfeknopf, &QPushButton::clicked, this, [this] { hilfeZeigen(); });
+    rechts << m_hilfeknopf;
+  }
+  rechts << m_schließknopf;
+  spalte->addWidget(Bauteile::leiste(fuß.links, rechts));
+  m_fuß = fuß.links + rechts;
+  Ereignis::wenn(m_schließknopf, &QPushButton::clicked, this, [this] { schließen(); });
+}
+
+void Formular::setTabfolge(QList<QWidget*> folge, const QList<QWidget*>& zuletzt) {
+  folge << m_fuß << zuletzt;
+  folge.removeIf([](const QWidget* control) { return control->focusPolicy() == Qt::NoFocus; });
+  Bauteile::tabfolge(folge);
+}
+
+void Formular::setWeiterführung(Weiterführung weiter) { weiterführung() = std::move(weiter); }
+
+void Formular::führtZu(QPushButton* knopf, const QString& eintrag) {
+  knopf->setEnabled(weiterführung().gibtEs && weiterführung().gibtEs(eintrag));
+  Ereignis::wenn(knopf, &QPushButton::clicked, this,
+                 [this, eintrag] { weiterführung().öffne(this, eintrag); });
 }
 
 void Formular::setHilfe(std::function<void(QWidget*, const QString&)> hilfe) {
@@ -125,17 +204,11 @@ void Formular::keyPressEvent(QKeyEvent* event) {
   QDialog::keyPressEvent(event);
 }
 
-void Formular::showEvent(QShowEvent* event) {
-  if (!event->spontaneous() && !m_geometrieGeladen) {
-    m_geometrieGeladen = true;
-    const QByteArray gemerkt = Fensterablage::lesen(ablageSchluessel(this)).toByteArray();
-    if (!gemerkt.isEmpty() && restoreGeometry(gemerkt)) inSichtbaren(this);
-  }
-  QDialog::showEvent(event);
-}
-
 void Formular::done(int ergebnis) {
-  if (isVisible()) Fensterablage::schreiben(ablageSchluessel(this), saveGeometry());
+  if (isVisible()) {
+    m_lage = saveGeometry();
+    Fensterablage::schreiben(ablageSchlüssel(this), m_lage);
+  }
   QDialog::done(ergebnis);
 }
 
@@ -143,16 +216,20 @@ namespace Fensterablage {
 
 void setDatei(const QString& pfad) { ablageDatei() = pfad; }
 
-QVariant lesen(const QString& schluessel) {
+QVariant lesen(const QString& schlüssel) {
   if (ablageDatei().isEmpty()) return {};
-  return QSettings(ablageDatei(), QSettings::IniFormat).value(schluessel);
+  return QSettings(ablageDatei(), QSettings::IniFormat).value(schlüssel);
 }
 
-// A folder that can't be written only costs the remembered sizes.
-void schreiben(const QString& schluessel, const QVariant& wert) {
-  if (ablageDatei().isEmpty()) return;
+// A folder that can't be written only costs the remembered sizes. One that was taken away isn't
+// made anew, as the store of the settings would do. A lock beside the file can only be a remainder,
+// since no second program works on the folder; the store would wait for it half a minute.
+void schreiben(const QString& schlüssel, const QVariant& wert) {
+  if (ablageDatei().isEmpty() || !QFileInfo(ablageDatei()).dir().exists()) return;
+  const QFileInfo sperre(ablageDatei() + QStringLiteral(".lock"));
+  if (sperre.isDir() || (sperre.exists() && !QFile::remove(sperre.filePath()))) return;
   QSettings ablage(ablageDatei(), QSettings::IniFormat);
-  ablage.setValue(schluessel, wert);
+  ablage.setValue(schlüssel, wert);
   ablage.sync();
 }
 

@@ -1,6 +1,7 @@
 #include "platform/controls/Grid.h"
 
 #include <QHeaderView>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -30,8 +31,16 @@ Grid::Grid(QWidget* eltern) : QTableView(eltern), m_modell(new GridModell(this))
   verticalHeader()->setHighlightSections(false);
   verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
   verticalHeader()->hide();
-  zeilenhoeheAnpassen();
+  zeilenhöheAnpassen();
   verbinden();
+}
+
+QSize Grid::minimumSizeHint() const {
+  constexpr int Zeilen = 3;
+  const int rahmen = 2 * frameWidth() + horizontalScrollBar()->sizeHint().height();
+  const int höhe = horizontalHeader()->sizeHint().height() +
+                   Zeilen * verticalHeader()->defaultSectionSize() + rahmen;
+  return {QTableView::minimumSizeHint().width(), höhe};
 }
 
 void Grid::verbinden() {
@@ -41,7 +50,7 @@ void Grid::verbinden() {
   disconnect(kopf, &QHeaderView::sectionEntered, this, nullptr);
   connect(kopf, &QHeaderView::sortIndicatorChanged, this, &Grid::vomKopfSortiert);
   connect(kopf, &QHeaderView::sectionResized, this,
-          [this](int spalte, int, int breite) { breiteGeaendert(spalte, breite); });
+          [this](int spalte, int, int breite) { breiteGeändert(spalte, breite); });
   kopf->viewport()->installEventFilter(this);
   connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this](const QModelIndex& neu, const QModelIndex& alt) {
@@ -52,7 +61,7 @@ void Grid::verbinden() {
             if (!m_wechselGesperrt) Q_EMIT zeileGewechselt(aktuelleZeile());
           });
   connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-    if (!m_wechselGesperrt) Q_EMIT markierungGeaendert();
+    if (!m_wechselGesperrt) Q_EMIT markierungNeu();
   });
   connect(this, &QTableView::clicked, this,
           [this](const QModelIndex& i) { Q_EMIT zeileAngeklickt(i.row()); });
@@ -73,7 +82,7 @@ void Grid::setDaten(Daten daten) {
   m_spaltennamen = namen;
   m_sortierSpalte = -1;
   m_sortierRichtung = Qt::AscendingOrder;
-  m_suchtext.clear();
+  m_suche.neuBeginnen();
   m_breitenGesperrt = true;
   m_modell->setDaten(std::move(daten));
   m_breitenGesperrt = false;
@@ -81,7 +90,7 @@ void Grid::setDaten(Daten daten) {
   verborgeneAnwenden();
   breitenLaden();
   if (warAktuell) Q_EMIT zeileGewechselt(-1);
-  if (warMarkiert) Q_EMIT markierungGeaendert();
+  if (warMarkiert) Q_EMIT markierungNeu();
 }
 
 int Grid::zeilen() const { return m_modell->zeilen(); }
@@ -115,7 +124,7 @@ std::vector<int> Grid::ordnung() const {
   return zeilennummern;
 }
 
-QString Grid::ueberschrift(int spalte) const { return m_modell->ueberschrift(spalte); }
+QString Grid::überschrift(int spalte) const { return m_modell->überschrift(spalte); }
 
 QString Grid::text(int zeile, int spalte) const { return m_modell->text(zeile, spalte); }
 
@@ -125,8 +134,8 @@ void Grid::setAnzeige(const QString& spalte, std::function<QString(const QVarian
   m_modell->setAnzeige(spalte, std::move(anzeige));
 }
 
-void Grid::setUeberschrift(const QString& spalte, const QString& text) {
-  m_modell->setUeberschrift(spalte, text);
+void Grid::setÜberschrift(const QString& spalte, const QString& text) {
+  m_modell->setÜberschrift(spalte, text);
 }
 
 void Grid::setSpalteVerborgen(const QString& spalte, bool ja) {
@@ -152,7 +161,7 @@ void Grid::setErsteSpalte(std::function<QString(int)> text) {
 
 int Grid::findeZeile(const QString& bedingung) const { return m_modell->finde(bedingung); }
 
-void Grid::loescheZeile(int zeile, Database& datenbank, const QString& tabelle) {
+void Grid::löscheZeile(int zeile, Database& datenbank, const QString& tabelle) {
   const int spalte = spaltenNummer(QStringLiteral("ID"));
   if (zeile < 0 || zeile >= zeilen()) return;
   const QString anweisung = QStringLiteral("delete from %1 where ID = ?").arg(tabelle);
@@ -162,13 +171,17 @@ void Grid::loescheZeile(int zeile, Database& datenbank, const QString& tabelle) 
                                          "keine Spalte ID hat."),
                           anweisung);
   datenbank.Execute(anweisung, {m_modell->wert(zeile, spalte)});
+  datenbank.NachFestschreiben([this, zeile] { nimmZeileHeraus(zeile); });
+}
+
+void Grid::nimmZeileHeraus(int zeile) {
   m_wechselGesperrt = true;
   m_modell->entferneZeile(zeile);
   setAktuelleZeile(std::min(zeile, zeilen() - 1));
   m_wechselGesperrt = false;
   viewport()->update();
   Q_EMIT zeileGewechselt(aktuelleZeile());
-  Q_EMIT markierungGeaendert();
+  Q_EMIT markierungNeu();
 }
 
 // ---- current and marked rows ----
@@ -194,27 +207,42 @@ void Grid::setAktuelleZeile(int zeile) {
     selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
     return;
   }
-  // The list moves up and down only: what the user looks at sideways stays.
-  const int seitlich = horizontalScrollBar()->value();
   const QModelIndex ziel = zielIndex(zeile);
   selectionModel()->setCurrentIndex(
       ziel, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  scrollTo(ziel);
+  rolleZu(ziel);
+}
+
+// The list moves up and down only: what the user looks at sideways stays.
+void Grid::rolleZu(const QModelIndex& index) {
+  const int seitlich = horizontalScrollBar()->value();
+  scrollTo(index);
   horizontalScrollBar()->setValue(seitlich);
+}
+
+// The current row stays in view when the list gets less room; one that the user has scrolled away
+// stays away.
+void Grid::resizeEvent(QResizeEvent* event) {
+  const QModelIndex jetzt = currentIndex();
+  const QRect zeile = jetzt.isValid() ? visualRect(jetzt) : QRect();
+  const bool zuSehen = jetzt.isValid() && zeile.bottom() >= 0 &&
+                       (zeile.top() < event->oldSize().height() || !event->oldSize().isValid());
+  QTableView::resizeEvent(event);
+  if (zuSehen) rolleZu(jetzt);
 }
 
 QList<int> Grid::markierteZeilen() const {
   std::vector<bool> markiert(static_cast<size_t>(zeilen()), false);
-  for (const QItemSelectionRange& stueck : selectionModel()->selection())
-    for (int i = stueck.top(); i <= stueck.bottom(); ++i) markiert[static_cast<size_t>(i)] = true;
+  for (const QItemSelectionRange& stück : selectionModel()->selection())
+    for (int i = stück.top(); i <= stück.bottom(); ++i) markiert[static_cast<size_t>(i)] = true;
   QList<int> ergebnis;
   for (int i = 0; i < zeilen(); ++i)
     if (markiert[static_cast<size_t>(i)]) ergebnis += i;
   return ergebnis;
 }
 
-void Grid::setMarkierteZeilen(const QList<int>& gewuenscht) {
-  QList<int> sortiert = gewuenscht;
+void Grid::setMarkierteZeilen(const QList<int>& gewünscht) {
+  QList<int> sortiert = gewünscht;
   std::sort(sortiert.begin(), sortiert.end());
   QItemSelection auswahl;
   for (qsizetype i = 0; i < sortiert.size();) {
@@ -233,7 +261,7 @@ void Grid::setMarkierteZeilen(const QList<int>& gewuenscht) {
     selectionModel()->select(auswahl, QItemSelectionModel::Select);
   }
   viewport()->update();
-  Q_EMIT markierungGeaendert();
+  Q_EMIT markierungNeu();
 }
 
 // ---- sorting ----
@@ -245,11 +273,7 @@ void Grid::sortiere(int spalte, Qt::SortOrder richtung) {
   m_wechselGesperrt = true;
   m_modell->sortiere(m_sortierSpalte, richtung);
   m_wechselGesperrt = false;
-  if (aktuelleZeile() >= 0) {
-    const int seitlich = horizontalScrollBar()->value();
-    scrollTo(currentIndex());
-    horizontalScrollBar()->setValue(seitlich);
-  }
+  if (aktuelleZeile() >= 0) rolleZu(currentIndex());
 }
 
 int Grid::sortierSpalte() const { return m_sortierSpalte; }

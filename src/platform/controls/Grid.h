@@ -3,6 +3,7 @@
 #include <QTableView>
 #include <functional>
 
+#include "platform/controls/Tippsuche.h"
 #include "platform/database/Datenbank.h"
 
 class GridModell;
@@ -11,8 +12,9 @@ class GridModell;
 // layout key. Rows count from 0 in the order shown; no row is -1. Columns go by name (letter case
 // doesn't count). The current row carries a frame, the marked rows are coloured.
 //
-// Keys: arrows, page keys, Home and End move, Shift and Ctrl mark, Ctrl+A marks all, letters search
-// in the sorted column (else the first), Enter is a double click, Ctrl+C copies the marked rows.
+// Keys: arrows, page keys, Home and End move, Shift and Ctrl mark, Ctrl+A marks all, typed
+// words are searched in the sorted column (else the first), Enter is a double click, Ctrl+C copies
+// the marked rows.
 class Grid : public QTableView {
   Q_OBJECT
 
@@ -28,13 +30,13 @@ class Grid : public QTableView {
   QString zelle(int zeile, const QString& spalte) const;  // as shown; empty without the column
   QVariant wert(int zeile, const QString& spalte) const;
   void setAnzeige(const QString& spalte, std::function<QString(const QVariant&)> anzeige);
-  void setUeberschrift(const QString& spalte, const QString& text);
+  void setÜberschrift(const QString& spalte, const QString& text);
   void setSpalteVerborgen(const QString& spalte, bool ja);
   // What is shown, for handing it on: the block (null before the first setDaten), its rows in the
   // order shown, captions and texts by number, and whether setAnzeige makes a column's texts.
   Daten daten() const;
   std::vector<int> ordnung() const;
-  QString ueberschrift(int spalte) const;
+  QString überschrift(int spalte) const;
   QString text(int zeile, int spalte) const;
   bool hatAnzeige(int spalte) const;
 
@@ -52,17 +54,20 @@ class Grid : public QTableView {
   int sortierSpalte() const;  // -1: as the rows came
   Qt::SortOrder sortierRichtung() const;
 
-  // Deletes the record behind the row from the table (by its column ID), then the row; the next
-  // row becomes current and zeileGewechselt tells it. Throws Datenbankfehler; the row then stays.
-  void loescheZeile(int zeile, Database& datenbank, const QString& tabelle);
+  // Deletes the record behind the row from the table (by its column ID). When that is committed the
+  // row goes, the next one becomes current and zeileGewechselt tells it. Throws Datenbankfehler;
+  // the row stays then, and also when a surrounding Sammelschreiben is lost.
+  void löscheZeile(int zeile, Database& datenbank, const QString& tabelle);
 
   // The fixed first column: text for a row as shown. Without a function there is none.
   void setErsteSpalte(std::function<QString(int zeile)> text);
 
   // Widths: kept under the key, restored by setDaten for a block with as many columns; a column
   // drawn narrower than 25 becomes 25.
-  void setLayoutSchluessel(const QString& schluessel);
+  void setLayoutSchlüssel(const QString& schlüssel);
   static constexpr int KleinsteBreite = 25;
+  // Lists give way before anything else does: the heading and a few rows are enough.
+  QSize minimumSizeHint() const override;
   // Fits each column to its heading and the texts from the first visible row on (some hundreds), at
   // least this wide. These widths aren't kept.
   void passeBreitenAn(int kleinste);
@@ -71,7 +76,7 @@ class Grid : public QTableView {
   void zeileGewechselt(int zeile);  // another record is current, -1 for none
   void zeileAngeklickt(int zeile);  // click or key on a row, also the current one
   void zeileDoppelgeklickt(int zeile);
-  void markierungGeaendert();
+  void markierungNeu();
   void vomBenutzerSortiert(int spalte, Qt::SortOrder richtung);
 
  protected:
@@ -81,6 +86,7 @@ class Grid : public QTableView {
   void mousePressEvent(QMouseEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   bool eventFilter(QObject* objekt, QEvent* event) override;
@@ -90,32 +96,33 @@ class Grid : public QTableView {
 
  private:
   void verbinden();
+  void nimmZeileHeraus(int zeile);
   void vomKopfSortiert(int spalte, Qt::SortOrder richtung);
   void zeigeSortierung();
   void breitenLaden();
   void breitenSichern();
   void breitenAnpassen();
   int zellenrand(int spalte) const;
-  void breiteGeaendert(int spalte, int breite);
-  void zeilenhoeheAnpassen();
+  void breiteGeändert(int spalte, int breite);
+  void zeilenhöheAnpassen();
   void verborgeneAnwenden();
   void kopieren();
+  void rolleZu(const QModelIndex& index);
   int ersteSichtbareSpalte() const;
   QModelIndex zielIndex(int zeile) const;
 
   GridModell* m_modell;
-  QString m_layoutSchluessel;
-  bool m_breitenGesperrt = false;   // widths are being set by the program
-  bool m_breitenGeaendert = false;  // while the user draws: to be stored when he lets go
-  bool m_breitenEigene = false;     // restored or drawn: not to be worked out anew
-  QList<int> m_breiten;             // of all columns, hidden ones too
+  QString m_layoutSchlüssel;
+  bool m_breitenGesperrt = false;  // widths are being set by the program
+  bool m_breitenGeändert = false;  // while the user draws: to be stored when he lets go
+  bool m_breitenEigene = false;    // restored or drawn: not to be worked out anew
+  QList<int> m_breiten;            // of all columns, hidden ones too
   QStringList m_spaltennamen;
   QStringList m_verborgen;  // column names in lower case
   int m_sortierSpalte = -1;
   Qt::SortOrder m_sortierRichtung = Qt::AscendingOrder;
   bool m_wechselGesperrt = false;
   bool m_imFokus = false;
-  bool m_tasteGedrueckt = false;
-  QString m_suchtext;
-  qint64 m_suchzeit = 0;
+  bool m_tasteGedrückt = false;
+  Tippsuche m_suche;
 };

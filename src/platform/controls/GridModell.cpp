@@ -1,48 +1,13 @@
 #include "platform/controls/GridModell.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 #include <numeric>
 
-#include "platform/database/Kollation.h"
-#include "platform/database/Suchbedingung.h"
+#include "platform/database/werte/Suchbedingung.h"
+#include "platform/database/werte/Zeilenordnung.h"
 
 namespace {
-
-// What a cell sorts by: empty, then numbers, then texts (dates sort as the text "yyyy-mm-dd").
-struct Schluessel {
-  enum class Rang : quint8 { Leer, Zahl, Text } rang = Rang::Leer;
-  double zahl = 0;
-  QByteArray text;
-};
-
-int vergleiche(const Schluessel& a, const Schluessel& b) {
-  if (a.rang != b.rang) return a.rang < b.rang ? -1 : 1;
-  if (a.rang == Schluessel::Rang::Zahl) return a.zahl < b.zahl ? -1 : (a.zahl > b.zahl ? 1 : 0);
-  if (a.rang == Schluessel::Rang::Leer) return 0;
-  const auto laenge = static_cast<size_t>(std::min(a.text.size(), b.text.size()));
-  const int erst = std::memcmp(a.text.constData(), b.text.constData(), laenge);
-  if (erst != 0) return erst;
-  return a.text.size() < b.text.size() ? -1 : (a.text.size() > b.text.size() ? 1 : 0);
-}
-
-Schluessel schluessel(const Datenblock& block, int zeile, int spalte) {
-  Schluessel s;
-  if (block.istNull(zeile, spalte)) return s;
-  if (!block.istText(zeile, spalte)) {
-    s.rang = Schluessel::Rang::Zahl;
-    s.zahl = block.zahl(zeile, spalte);
-    return s;
-  }
-  const QByteArrayView roh = block.rohtext(zeile, spalte);
-  if (roh.isEmpty()) return s;
-  s.rang = Schluessel::Rang::Text;
-  s.text = block.spalte(spalte).typ == Feldtyp::Datum
-               ? roh.toByteArray()
-               : Kollation::schluessel(QString::fromUtf8(roh));
-  return s;
-}
 
 bool sindZahlen(const Datenblock& block, int spalte) {
   const Feldtyp typ = block.spalte(spalte).typ;
@@ -93,8 +58,8 @@ void GridModell::setAnzeige(const QString& spalte, Anzeige anzeige) {
     Q_EMIT dataChanged(index(0, 0), index(zeilen() - 1, spalten() - 1));
 }
 
-void GridModell::setUeberschrift(const QString& spalte, const QString& text) {
-  m_ueberschriften[spalte.toLower()] = text;
+void GridModell::setÜberschrift(const QString& spalte, const QString& text) {
+  m_überschriften[spalte.toLower()] = text;
   if (spalten() > 0) Q_EMIT headerDataChanged(Qt::Horizontal, 0, spalten() - 1);
 }
 
@@ -110,7 +75,7 @@ QString GridModell::text(int zeile, int spalte) const {
                             : m_daten->anzeige(block, spalte);
 }
 
-qsizetype GridModell::zeichenHoechstens(int zeile, int spalte) const {
+qsizetype GridModell::zeichenHöchstens(int zeile, int spalte) const {
   constexpr qsizetype Zahl = 20;  // twelve digits, or an amount of money with its points
   const int block = blockzeile(zeile);
   if (hatAnzeige(spalte)) return std::numeric_limits<int>::max();
@@ -123,9 +88,9 @@ QVariant GridModell::wert(int zeile, int spalte) const {
   return m_daten->wert(blockzeile(zeile), spalte);
 }
 
-QString GridModell::ueberschrift(int spalte) const {
+QString GridModell::überschrift(int spalte) const {
   const QString name = m_daten->spalte(spalte).name;
-  return m_ueberschriften.value(name.toLower(), name);
+  return m_überschriften.value(name.toLower(), name);
 }
 
 std::vector<int> GridModell::sortierteOrdnung(int spalte, Qt::SortOrder richtung) const {
@@ -134,14 +99,8 @@ std::vector<int> GridModell::sortierteOrdnung(int spalte, Qt::SortOrder richtung
     std::sort(neu.begin(), neu.end());
     return neu;
   }
-  std::vector<Schluessel> alle(static_cast<size_t>(m_daten->zeilen()));
-  for (const int zeile : neu)
-    alle[static_cast<size_t>(zeile)] = schluessel(*m_daten, zeile, spalte);
-  const bool auf = richtung == Qt::AscendingOrder;
-  std::stable_sort(neu.begin(), neu.end(), [&](int a, int b) {
-    const int wie = vergleiche(alle[static_cast<size_t>(a)], alle[static_cast<size_t>(b)]);
-    return auf ? wie < 0 : wie > 0;
-  });
+  Zeilenordnung::sortiere(neu, Zeilenordnung::schlüssel(*m_daten, spalte),
+                          richtung == Qt::DescendingOrder);
   return neu;
 }
 
@@ -191,7 +150,7 @@ QVariant GridModell::data(const QModelIndex& index, int rolle) const {
 }
 
 int GridModell::ausrichtung(int spalte) const {
-  return static_cast<int>((rechtsbuendig(spalte) ? Qt::AlignRight : Qt::AlignLeft) |
+  return static_cast<int>((rechtsbündig(spalte) ? Qt::AlignRight : Qt::AlignLeft) |
                           Qt::AlignVCenter);
 }
 
@@ -202,7 +161,7 @@ QVariant GridModell::headerData(int nummer, Qt::Orientation richtung, int rolle)
     return {};
   }
   if (nummer < 0 || nummer >= spalten()) return {};
-  if (rolle == Qt::DisplayRole) return ueberschrift(nummer);
+  if (rolle == Qt::DisplayRole) return überschrift(nummer);
   if (rolle == Qt::TextAlignmentRole) return ausrichtung(nummer);
   return {};
 }

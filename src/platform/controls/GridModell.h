@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "platform/database/Datenblock.h"
+#include "platform/database/werte/Datenblock.h"
 
 // The rows of a grid: a block, the order in which its rows are shown, and which are gone. Rows
 // count as shown. Texts are made when a cell is painted.
@@ -27,17 +27,17 @@ class GridModell : public QAbstractTableModel {
   bool hatAnzeige(int spalte) const {
     return m_spaltenanzeige[static_cast<size_t>(spalte)] != nullptr;
   }
-  void setUeberschrift(const QString& spalte, const QString& text);
+  void setÜberschrift(const QString& spalte, const QString& text);
   void setErsteSpalte(std::function<QString(int)> text);
   // The whole text of a cell; the screen shows it in one line.
   QString text(int zeile, int spalte) const;
   // How many characters the cell's text has at most, told without making it.
-  qsizetype zeichenHoechstens(int zeile, int spalte) const;
+  qsizetype zeichenHöchstens(int zeile, int spalte) const;
   QVariant wert(int zeile, int spalte) const;
-  QString ueberschrift(int spalte) const;
+  QString überschrift(int spalte) const;
   // Numbers stand on the right, heading and cells alike: a column of a number's type, or an
   // expression whose values are numbers and nothing else.
-  bool rechtsbuendig(int spalte) const { return m_rechts[static_cast<size_t>(spalte)]; }
+  bool rechtsbündig(int spalte) const { return m_rechts[static_cast<size_t>(spalte)]; }
 
   // Column -1: as the rows came. Nulls and empty texts first; equal rows keep their order.
   void sortiere(int spalte, Qt::SortOrder richtung);
@@ -56,9 +56,9 @@ class GridModell : public QAbstractTableModel {
   std::vector<int> sortierteOrdnung(int spalte, Qt::SortOrder richtung) const;
 
   Daten m_daten;
-  std::vector<int> m_ordnung;                // shown row -> row of the block
-  QHash<QString, Anzeige> m_anzeigen;        // by column name in lower case
-  QHash<QString, QString> m_ueberschriften;  // likewise
+  std::vector<int> m_ordnung;               // shown row -> row of the block
+  QHash<QString, Anzeige> m_anzeigen;       // by column name in lower case
+  QHash<QString, QString> m_überschriften;  // likewise
   std::vector<const Anzeige*> m_spaltenanzeige;
   std::vector<bool> m_rechts;  // by column
   std::function<QString(int)> m_ersteSpalte;

@@ -12,7 +12,7 @@
 #include "platform/controls/Aufklappen.h"
 #include "platform/controls/Gestaltung.h"
 
-Kalender::Kalender(QWidget* eltern, QDate gewaehlt, QDate heute)
+Kalender::Kalender(QWidget* eltern, QDate gewählt, QDate heute)
     : QFrame(eltern, Qt::Popup),
       m_kalender(new QCalendarWidget(this)),
       m_heute(new QPushButton(this)) {
@@ -34,7 +34,7 @@ Kalender::Kalender(QWidget* eltern, QDate gewaehlt, QDate heute)
   heutige.setFontWeight(QFont::Bold);
   heutige.setFontUnderline(true);
   m_kalender->setDateTextFormat(heute, heutige);
-  m_kalender->setSelectedDate(gewaehlt.isValid() ? gewaehlt : heute);
+  m_kalender->setSelectedDate(gewählt.isValid() ? gewählt : heute);
 
   m_heute->setObjectName(QStringLiteral("heute"));
   m_heute->setText(QStringLiteral("&Heute, %1").arg(heute.toString(QStringLiteral("dd.MM.yyyy"))));
@@ -73,5 +73,5 @@ void Kalender::nimm(QDate datum) {
   if (m_genommen) return;
   m_genommen = true;
   close();
-  Q_EMIT gewaehlt(datum);
+  Q_EMIT genommen(datum);
 }

@@ -12,14 +12,14 @@ class Kalender : public QFrame {
   Q_OBJECT
 
  public:
-  // gewaehlt is marked at first; without a valid one today is.
-  Kalender(QWidget* eltern, QDate gewaehlt, QDate heute);
+  // gewählt is marked at first; without a valid one today is.
+  Kalender(QWidget* eltern, QDate gewählt, QDate heute);
 
   void zeigeUnter(QWidget* feld);
   QDate datum() const;
 
  Q_SIGNALS:
-  void gewaehlt(QDate datum);
+  void genommen(QDate datum);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

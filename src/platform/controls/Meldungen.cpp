@@ -114,7 +114,7 @@ bool geprobt(bool frage, const QString& text, std::optional<Meldungen::Vorgabe> 
 
 namespace Meldungen {
 
-void Hinweis(const QString& text, QWidget* ueber) {
+void Hinweis(const QString& text, QWidget* über) {
   const QString zeilen = mitLf(text);
   if (probe != nullptr) {
     geprobt(false, zeilen, std::nullopt);
@@ -122,7 +122,7 @@ void Hinweis(const QString& text, QWidget* ueber) {
   }
   const Zeigerpause pause;
   QMessageBox box(QMessageBox::Information, {}, zeilen, QMessageBox::NoButton,
-                  fensterDarunter(ueber));
+                  fensterDarunter(über));
   vorbereiten(box, QStringLiteral("hinweis"));
   auto* ok = box.addButton(QStringLiteral("&OK"), QMessageBox::AcceptRole);
   ok->setObjectName(QStringLiteral("ok"));
@@ -132,11 +132,11 @@ void Hinweis(const QString& text, QWidget* ueber) {
   box.exec();
 }
 
-bool Frage(const QString& text, Vorgabe vorgabe, QWidget* ueber) {
+bool Frage(const QString& text, Vorgabe vorgabe, QWidget* über) {
   const QString zeilen = mitLf(text);
   if (probe != nullptr) return geprobt(true, zeilen, vorgabe);
   const Zeigerpause pause;
-  QMessageBox box(QMessageBox::Question, {}, zeilen, QMessageBox::NoButton, fensterDarunter(ueber));
+  QMessageBox box(QMessageBox::Question, {}, zeilen, QMessageBox::NoButton, fensterDarunter(über));
   vorbereiten(box, QStringLiteral("frage"));
   auto* ja = box.addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
   ja->setObjectName(QStringLiteral("ja"));

@@ -9,9 +9,9 @@ namespace Meldungen {
 
 enum class Vorgabe { Ja, Nein };
 
-void Hinweis(const QString& text, QWidget* ueber = nullptr);
+void Hinweis(const QString& text, QWidget* über = nullptr);
 // True for Ja. Esc and closing the box mean Nein.
-bool Frage(const QString& text, Vorgabe vorgabe = Vorgabe::Ja, QWidget* ueber = nullptr);
+bool Frage(const QString& text, Vorgabe vorgabe = Vorgabe::Ja, QWidget* über = nullptr);
 
 // For tests: while one lives, boxes are not shown but compared with a queue. A box that was not
 // expected, and an expectation that is left over at the end, are reported by fehler().

@@ -6,13 +6,13 @@
 namespace {
 
 std::function<bool(const QString&)>& gesetzt() {
-  static std::function<bool(const QString&)> oeffner;
-  return oeffner;
+  static std::function<bool(const QString&)> öffner;
+  return öffner;
 }
 
 }  // namespace
 
-namespace Oeffnen {
+namespace Öffnen {
 
 bool datei(const QString& pfad) {
   if (gesetzt()) return gesetzt()(pfad);
@@ -24,8 +24,6 @@ bool adresse(const QString& url) {
   return QDesktopServices::openUrl(QUrl(url));
 }
 
-void setOeffner(std::function<bool(const QString& pfad)> oeffner) {
-  gesetzt() = std::move(oeffner);
-}
+void setÖffner(std::function<bool(const QString& pfad)> öffner) { gesetzt() = std::move(öffner); }
 
-}  // namespace Oeffnen
+}  // namespace Öffnen

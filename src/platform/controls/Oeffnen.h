@@ -4,7 +4,7 @@
 #include <functional>
 
 // Opens a file with the program that the system has for it.
-namespace Oeffnen {
+namespace Öffnen {
 
 // False when there is no such program.
 bool datei(const QString& pfad);
@@ -14,6 +14,6 @@ bool adresse(const QString& url);
 
 // What opens the files and addresses instead of the system, for tests; an empty function gives the
 // system back its own.
-void setOeffner(std::function<bool(const QString& pfad)> oeffner);
+void setÖffner(std::function<bool(const QString& pfad)> öffner);
 
-}  // namespace Oeffnen
+}  // namespace Öffnen

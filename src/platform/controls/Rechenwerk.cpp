@@ -55,7 +55,7 @@ void Rechenwerk::komma() {
   if (!m_eingabe.contains(u',')) m_eingabe += u',';
 }
 
-void Rechenwerk::zurueck() {
+void Rechenwerk::zurück() {
   if (m_fehler) return;
   if (!m_wirdGetippt) {
     m_eingabe = QStringLiteral("0");
@@ -101,10 +101,10 @@ void Rechenwerk::steuer(int prozent) {
   m_rechtsDa = true;
 }
 
-void Rechenwerk::loeschen() { *this = Rechenwerk(); }
+void Rechenwerk::löschen() { *this = Rechenwerk(); }
 
 void Rechenwerk::setWert(double wert) {
-  loeschen();
+  löschen();
   zeige(wert);
 }
 

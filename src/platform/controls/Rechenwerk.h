@@ -12,11 +12,11 @@ class Rechenwerk {
 
   void ziffer(int ziffer);  // 0 to 9
   void komma();
-  void zurueck();  // takes the last character back; a result starts anew
+  void zurück();  // takes the last character back; a result starts anew
   void operation(Operation operation);
   void gleich();             // pressed again it repeats the last operation
   void steuer(int prozent);  // adds so many percent to the number shown
-  void loeschen();           // C
+  void löschen();            // C
   void setWert(double wert);
 
   QString anzeige() const;

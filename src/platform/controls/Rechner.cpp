@@ -11,11 +11,11 @@
 
 using Operation = Rechenwerk::Operation;
 
-Rechner::Rechner(QWidget* eltern, double wert, std::pair<int, int> saetze,
-                 std::function<bool(double)> uebernehmen)
+Rechner::Rechner(QWidget* eltern, double wert, std::pair<int, int> sätze,
+                 std::function<bool(double)> übernehmen)
     : QFrame(eltern, Qt::Popup),
-      m_saetze(saetze),
-      m_uebernehmen(std::move(uebernehmen)),
+      m_sätze(sätze),
+      m_übernehmen(std::move(übernehmen)),
       m_raster(new QGridLayout(this)),
       m_anzeige(new QLabel(this)),
       m_vorgang(new QLabel(this)) {
@@ -37,9 +37,9 @@ Rechner::Rechner(QWidget* eltern, double wert, std::pair<int, int> saetze,
   m_anzeige->setBackgroundRole(QPalette::Base);
   m_anzeige->setForegroundRole(QPalette::Text);
   m_anzeige->setMargin(4);
-  QFont gross = font();
-  gross.setPointSizeF(gross.pointSizeF() * 1.4);
-  m_anzeige->setFont(gross);
+  QFont groß = font();
+  groß.setPointSizeF(groß.pointSizeF() * 1.4);
+  m_anzeige->setFont(groß);
 
   m_raster->setContentsMargins(8, 6, 8, 8);
   m_raster->setSpacing(4);
@@ -52,17 +52,17 @@ Rechner::Rechner(QWidget* eltern, double wert, std::pair<int, int> saetze,
 void Rechner::tastenfeld() {
   const auto rechne = [this](Operation op) { return [this, op] { m_werk.operation(op); }; };
   knopf(QStringLiteral("C"), QStringLiteral("c"), QStringLiteral("Löschen (C)"), 2, 0,
-        [this] { m_werk.loeschen(); });
+        [this] { m_werk.löschen(); });
   knopf(QStringLiteral("←"), QStringLiteral("zurueck"),
-        QStringLiteral("Letzte Stelle löschen (Rücktaste)"), 2, 1, [this] { m_werk.zurueck(); });
-  const QString satz1 = QString::number(m_saetze.first);
-  const QString satz2 = QString::number(m_saetze.second);
+        QStringLiteral("Letzte Stelle löschen (Rücktaste)"), 2, 1, [this] { m_werk.zurück(); });
+  const QString satz1 = QString::number(m_sätze.first);
+  const QString satz2 = QString::number(m_sätze.second);
   auto* steuer = knopf(
       QStringLiteral("MwSt %1 | %2 %").arg(satz1, satz2), QStringLiteral("mwst"),
       QStringLiteral("Mehrwertsteuer dazu: linke Maustaste (M) %1 %, rechte Maustaste "
                      "(Umschalt+M) %2 %")
           .arg(satz1, satz2),
-      2, 2, [this] { m_werk.steuer(m_saetze.first); }, 2);
+      2, 2, [this] { m_werk.steuer(m_sätze.first); }, 2);
   steuer->installEventFilter(this);
 
   for (int z = 1; z <= 9; ++z)
@@ -141,11 +141,11 @@ void Rechner::keyPressEvent(QKeyEvent* event) {
     m_werk.gleich();
   } else if (c == u'm' || c == u'M') {
     const bool zweiter = event->modifiers() & Qt::ShiftModifier;
-    m_werk.steuer(zweiter ? m_saetze.second : m_saetze.first);
+    m_werk.steuer(zweiter ? m_sätze.second : m_sätze.first);
   } else if (c == u'c' || c == u'C' || event->key() == Qt::Key_Delete) {
-    m_werk.loeschen();
+    m_werk.löschen();
   } else if (event->key() == Qt::Key_Backspace) {
-    m_werk.zurueck();
+    m_werk.zurück();
   } else {
     QFrame::keyPressEvent(event);
     return;
@@ -158,7 +158,7 @@ bool Rechner::eventFilter(QObject* objekt, QEvent* event) {
       static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
     const auto* knopf = qobject_cast<QWidget*>(objekt);
     if (knopf != nullptr && knopf->rect().contains(static_cast<QMouseEvent*>(event)->pos())) {
-      m_werk.steuer(m_saetze.second);
+      m_werk.steuer(m_sätze.second);
       auffrischen();
     }
     return true;
@@ -176,7 +176,7 @@ void Rechner::auffrischen(const QString& hinweis) {
 void Rechner::nehmen() {
   if (m_werk.offen()) m_werk.gleich();
   const auto wert = m_werk.wert();
-  if (wert && m_uebernehmen(*wert)) {
+  if (wert && m_übernehmen(*wert)) {
     close();
     return;
   }

@@ -17,10 +17,10 @@ class Rechner : public QFrame {
   Q_OBJECT
 
  public:
-  // saetze: percents that "MwSt" adds with the left and with the right mouse button. uebernehmen
+  // sätze: percents that "MwSt" adds with the left and with the right mouse button. übernehmen
   // puts the result into the field and says whether it fits there.
-  Rechner(QWidget* eltern, double wert, std::pair<int, int> saetze,
-          std::function<bool(double)> uebernehmen);
+  Rechner(QWidget* eltern, double wert, std::pair<int, int> sätze,
+          std::function<bool(double)> übernehmen);
 
   void zeigeUnter(QWidget* feld);
   const Rechenwerk& rechenwerk() const { return m_werk; }
@@ -37,8 +37,8 @@ class Rechner : public QFrame {
   void nehmen();
 
   Rechenwerk m_werk;
-  std::pair<int, int> m_saetze;
-  std::function<bool(double)> m_uebernehmen;
+  std::pair<int, int> m_sätze;
+  std::function<bool(double)> m_übernehmen;
   QGridLayout* m_raster;
   QLabel* m_anzeige;
   QLabel* m_vorgang;

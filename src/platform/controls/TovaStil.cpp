@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QLabel>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -14,13 +15,13 @@ namespace {
 constexpr int Zellenrand = 5;
 constexpr int Kopfrand = 6;
 
-void rahmen(const QRect& flaeche, const QColor& farbe, double breite, QPainter* maler) {
+void rahmen(const QRect& fläche, const QColor& farbe, double breite, QPainter* maler) {
   maler->save();
   maler->setRenderHint(QPainter::Antialiasing);
   maler->setBrush(Qt::NoBrush);
   maler->setPen(QPen(farbe, breite));
   const double innen = breite / 2;
-  maler->drawRoundedRect(QRectF(flaeche).adjusted(innen, innen, -innen, -innen), 2.5, 2.5);
+  maler->drawRoundedRect(QRectF(fläche).adjusted(innen, innen, -innen, -innen), 2.5, 2.5);
   maler->restore();
 }
 
@@ -96,6 +97,12 @@ QIcon meldungssymbol(const QString& zeichen) {
 
 TovaStil::TovaStil() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
+void TovaStil::polish(QWidget* fenster) {
+  QProxyStyle::polish(fenster);
+  if (!fenster->inherits("QTipLabel")) return;
+  if (auto* tipp = qobject_cast<QLabel*>(fenster)) tipp->setTextFormat(Qt::PlainText);
+}
+
 void TovaStil::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* maler,
                              const QWidget* fenster) const {
   const QColor akzent = option->palette.color(QPalette::Active, QPalette::Highlight);
@@ -131,14 +138,14 @@ void TovaStil::drawControl(ControlElement element, const QStyleOption* option, Q
 
 QRect TovaStil::subElementRect(SubElement element, const QStyleOption* option,
                                const QWidget* fenster) const {
-  const QRect flaeche = QProxyStyle::subElementRect(element, option, fenster);
-  if (element != SE_ItemViewItemText || !stehtRechts(option, fenster)) return flaeche;
-  return flaeche.adjusted(0, 0, -zahlenrand(option->fontMetrics), 0);
+  const QRect fläche = QProxyStyle::subElementRect(element, option, fenster);
+  if (element != SE_ItemViewItemText || !stehtRechts(option, fenster)) return fläche;
+  return fläche.adjusted(0, 0, -zahlenrand(option->fontMetrics), 0);
 }
 
 QSize TovaStil::sizeFromContents(ContentsType inhalt, const QStyleOption* option,
-                                 const QSize& groesse, const QWidget* fenster) const {
-  const QSize ganz = QProxyStyle::sizeFromContents(inhalt, option, groesse, fenster);
+                                 const QSize& größe, const QWidget* fenster) const {
+  const QSize ganz = QProxyStyle::sizeFromContents(inhalt, option, größe, fenster);
   if (mnemonikVorBlank(inhalt, option))
     return ganz + QSize(option->fontMetrics.horizontalAdvance(u'&'), 0);
   if ((inhalt != CT_HeaderSection && inhalt != CT_ItemViewItem) || !stehtRechts(option, fenster))
@@ -155,10 +162,10 @@ int TovaStil::pixelMetric(PixelMetric mass, const QStyleOption* option,
 }
 
 int TovaStil::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* fenster,
-                        QStyleHintReturn* zurueck) const {
+                        QStyleHintReturn* zurück) const {
   if (hint == SH_UnderlineShortcut) return 1;
   if (hint == SH_ToolTip_WakeUpDelay) return 500;
-  return QProxyStyle::styleHint(hint, option, fenster, zurueck);
+  return QProxyStyle::styleHint(hint, option, fenster, zurück);
 }
 
 QIcon TovaStil::standardIcon(StandardPixmap symbol, const QStyleOption* option,

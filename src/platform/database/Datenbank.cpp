@@ -4,18 +4,17 @@
 #include <QFile>
 #include <QFileInfo>
 #include <exception>
+#include <filesystem>
 #include <utility>
 
-#include "platform/database/Dateipruefung.h"
 #include "platform/database/Recordset.h"
-#include "platform/database/Verbindung.h"
+#include "platform/database/verbindung/Dateipruefung.h"
+#include "platform/database/verbindung/Journalpruefung.h"
+#include "platform/database/verbindung/Verbindung.h"
 
 namespace {
 
 using Art = Datenbankfehler::Art;
-
-// A mark in the file's header by which its maker can be told.
-constexpr int programmkennung = 0x544F5641;  // "TOVA"
 
 QByteArray literal(const QString& text) {
   QByteArray utf8 = text.toUtf8();
@@ -23,25 +22,51 @@ QByteArray literal(const QString& text) {
   return '\'' + utf8 + '\'';
 }
 
-// Reads the schema, which also lets the engine put an interrupted change right.
-void pruefeInhalt(Verbindung& verbindung) {
-  if (!verbindung.tabellen().contains(QStringLiteral("Bienenvolk"), Qt::CaseInsensitive)) {
-    Dateipruefung::keineVonTova(verbindung.pfad());
+const QByteArray kennung =
+    "pragma application_id = " + QByteArray::number(Dateiprüfung::Programmkennung);
+
+// Reads the schema, which also lets the engine put an interrupted change right. A file without the
+// program's mark (some tool has copied the tables) must have more than one table of that name.
+void prüfeInhalt(Verbindung& verbindung) {
+  const bool gekennzeichnet =
+      verbindung.steuere("pragma application_id").toInt() == Dateiprüfung::Programmkennung;
+  QStringList nötig = {QStringLiteral("Bienenvolk")};
+  if (!gekennzeichnet) {
+    nötig << QStringLiteral("Stockkarte") << QStringLiteral("Honigernte")
+          << QStringLiteral("Standorte") << QStringLiteral("Termine");
+  }
+  for (const QString& tabelle : nötig) {
+    if (!verbindung.tabellen().contains(tabelle, Qt::CaseInsensitive)) {
+      Dateiprüfung::keineVonTova(verbindung.pfad(), tabelle);
+    }
   }
 }
 
-void pruefeDatei(const QString& pfad) {
-  if (!Dateipruefung::pruefe(pfad)) return;
-  Verbindung betrachtet(pfad, Verbindung::Modus::Betrachten);
-  pruefeInhalt(betrachtet);
+// What can be told without the engine's touching the file.
+Dateiprüfung::Befund prüfeUnberührt(const QString& pfad) {
+  const Dateiprüfung::Befund befund = Dateiprüfung::prüfe(pfad);
+  if (befund.schreibprotokoll || !befund.gekennzeichnet) {
+    Verbindung betrachtet(pfad, Verbindung::Modus::Betrachten);
+    prüfeInhalt(betrachtet);
+  }
+  return befund;
 }
 
-void loescheMitJournal(const QString& pfad) {
+QString fremdesJournalText(const QString& pfad, const QString& beiseite) {
+  return QStringLiteral(
+             "Neben der Datenbank \"%1\" lag die Mitschrift eines abgebrochenen Vorgangs, die zu "
+             "einem anderen Stand der Datei gehört. Das kommt vor, wenn nach einem Absturz eine "
+             "Datensicherung zurückgespielt wurde. Sie wurde nicht verwendet und liegt jetzt als "
+             "\"%2\" im selben Ordner.")
+      .arg(QDir::toNativeSeparators(pfad), QFileInfo(beiseite).fileName());
+}
+
+void löscheMitJournal(const QString& pfad) {
   QFile::remove(pfad);
   QFile::remove(pfad + QStringLiteral("-journal"));
 }
 
-void pruefeZiel(const QString& pfad) {
+void prüfeZiel(const QString& pfad) {
   if (!QFileInfo::exists(pfad) && !QFileInfo(pfad).isSymLink()) return;
   throw Datenbankfehler(Art::Allgemein,
                         QStringLiteral("Die Datei \"%1\" ist schon vorhanden und wird nicht "
@@ -59,7 +84,67 @@ void sichere(const QString& pfad) {
                                          "bisherige bleibt, wie sie ist.")
                               .arg(QDir::toNativeSeparators(pfad)));
   }
-  kopie.steuere("pragma application_id = " + QByteArray::number(programmkennung));
+  kopie.steuere(kennung);
+}
+
+[[noreturn]] void benutzt(const QString& pfad) {
+  throw Datenbankfehler(
+      Art::Gesperrt, QStringLiteral("Die Datenbank \"%1\" wird gerade von einem anderen Programm "
+                                    "benutzt. Bitte beenden Sie es und starten Sie TOVA neu.")
+                         .arg(QDir::toNativeSeparators(pfad)));
+}
+
+// From here to the end of the connection nobody else can read or write the file.
+void nimmAllein(Verbindung& verbindung) {
+  if (verbindung.steuere("pragma journal_mode = delete") != "delete") benutzt(verbindung.pfad());
+  verbindung.steuere("pragma locking_mode = exclusive");
+  verbindung.steuere("begin exclusive");
+  verbindung.steuere("commit");
+}
+
+void prüfeGanz(Verbindung& verbindung) {
+  if (verbindung.steuere("pragma integrity_check(1)") == "ok") return;
+  throw Datenbankfehler(Art::KeineDatenbank,
+                        QStringLiteral("Die Datenbank \"%1\" ist beschädigt und bleibt, wie sie "
+                                       "ist. Bitte spielen Sie Ihre letzte Datensicherung zurück.")
+                            .arg(QDir::toNativeSeparators(verbindung.pfad())));
+}
+
+void ersetze(const QString& pfad, const QString& durch) {
+  std::error_code fehler;
+  std::filesystem::rename(QFileInfo(durch).filesystemFilePath(),
+                          QFileInfo(pfad).filesystemFilePath(), fehler);
+  if (!fehler) return;
+  throw Datenbankfehler(Art::NurLesen,
+                        QStringLiteral("Die Datenbank \"%1\" konnte nicht ersetzt werden. Bitte "
+                                       "prüfen Sie, ob in dem Ordner geschrieben werden darf.")
+                            .arg(QDir::toNativeSeparators(pfad)));
+}
+
+// Calls danach while the source is still held.
+void komprimiere(const QString& von, const QString& nach,
+                 const std::function<void(Verbindung&)>& danach) {
+  if (Verbindung::zu(von)) {
+    throw Datenbankfehler(Art::Gesperrt,
+                          QStringLiteral("Die Datenbank \"%1\" ist noch geöffnet und kann nicht "
+                                         "komprimiert werden.")
+                              .arg(QDir::toNativeSeparators(von)));
+  }
+  prüfeZiel(nach);
+  prüfeUnberührt(von);
+  if (!Journalprüfung::gehörtDazu(von)) benutzt(von);  // it came while the program was running
+  Verbindung quelle(von, Verbindung::Modus::Schreiben);
+  prüfeInhalt(quelle);
+  nimmAllein(quelle);
+  prüfeGanz(quelle);
+  try {
+    quelle.steuere("vacuum into " + literal(nach));
+    sichere(nach);
+    danach(quelle);
+  } catch (...) {
+    löscheMitJournal(nach);
+    throw;
+  }
 }
 
 }  // namespace
@@ -67,7 +152,7 @@ void sichere(const QString& pfad) {
 // --- Workspace --------------------------------------------------------------------------------
 
 Database Workspace::CreateDatabase(const QString& pfad) {
-  pruefeZiel(pfad);
+  prüfeZiel(pfad);
   if (!QFileInfo(QFileInfo(pfad).absolutePath()).isDir()) {
     throw Datenbankfehler(
         Art::NurLesen, QStringLiteral("Der Ordner \"%1\" für die Datenbank wurde nicht gefunden.")
@@ -79,13 +164,20 @@ Database Workspace::CreateDatabase(const QString& pfad) {
   }
   try {
     auto verbindung = std::make_shared<Verbindung>(pfad, Verbindung::Modus::Neu);
-    verbindung->steuere("pragma application_id = " + QByteArray::number(programmkennung));
+    verbindung->steuere(kennung);
     m_verbindungen.push_back(verbindung);
     return Database(std::move(verbindung));
   } catch (...) {
-    loescheMitJournal(pfad);
+    löscheMitJournal(pfad);
     throw;
   }
+}
+
+void Workspace::prüfeDatei(const QString& pfad) {
+  prüfeUnberührt(pfad);
+  if (Journalprüfung::gehörtDazu(pfad)) return;
+  m_hinweise << fremdesJournalText(pfad, Journalprüfung::legeBeiseite(pfad));
+  prüfeUnberührt(pfad);  // with a journal beside it the file's length wasn't looked at
 }
 
 Database Workspace::OpenDatabase(const QString& pfad) {
@@ -97,26 +189,20 @@ Database Workspace::OpenDatabase(const QString& pfad) {
     if (!(*it)->verschoben()) return Database(*it);
     const std::shared_ptr<Verbindung> alte = *it;
     m_verbindungen.erase(it);
-    alte->schliesse();
+    alte->schließe();
     break;
   }
   // Reading a file beside the engine's back ends the locks that this process holds on it.
-  if (!Verbindung::zu(pfad)) pruefeDatei(pfad);
+  if (!Verbindung::zu(pfad)) prüfeDatei(pfad);
   auto verbindung = std::make_shared<Verbindung>(pfad, Verbindung::Modus::Schreiben);
-  pruefeInhalt(*verbindung);
+  prüfeInhalt(*verbindung);
   if (verbindung->nurLesend()) {
     throw Datenbankfehler(Art::NurLesen,
                           QStringLiteral("Die Datenbank \"%1\" ist schreibgeschützt. Bitte heben "
                                          "Sie den Schreibschutz auf und starten Sie TOVA neu.")
                               .arg(QDir::toNativeSeparators(pfad)));
   }
-  if (verbindung->steuere("pragma journal_mode = delete") != "delete") {
-    throw Datenbankfehler(Art::Gesperrt,
-                          QStringLiteral("Die Datenbank \"%1\" wird gerade von einem anderen "
-                                         "Programm benutzt. Bitte beenden Sie es und starten Sie "
-                                         "TOVA neu.")
-                              .arg(QDir::toNativeSeparators(pfad)));
-  }
+  if (verbindung->steuere("pragma journal_mode = delete") != "delete") benutzt(pfad);
   m_verbindungen.push_back(verbindung);
   return Database(std::move(verbindung));
 }
@@ -125,7 +211,7 @@ void Workspace::Close() {
   std::exception_ptr erster;
   for (const auto& verbindung : std::exchange(m_verbindungen, {})) {
     try {
-      verbindung->schliesse();
+      verbindung->schließe();
     } catch (...) {
       if (!erster) erster = std::current_exception();
     }
@@ -134,23 +220,16 @@ void Workspace::Close() {
 }
 
 void Workspace::CompactDatabase(const QString& von, const QString& nach) {
-  if (Verbindung::zu(von)) {
-    throw Datenbankfehler(Art::Gesperrt,
-                          QStringLiteral("Die Datenbank \"%1\" ist noch geöffnet und kann nicht "
-                                         "komprimiert werden.")
-                              .arg(QDir::toNativeSeparators(von)));
-  }
-  pruefeZiel(nach);
-  pruefeDatei(von);
-  Verbindung quelle(von, Verbindung::Modus::Schreiben);
-  pruefeInhalt(quelle);
-  try {
-    quelle.steuere("vacuum into " + literal(nach));
-    sichere(nach);
-  } catch (...) {
-    loescheMitJournal(nach);
-    throw;
-  }
+  komprimiere(von, nach, [](Verbindung&) {});
+}
+
+void Workspace::CompactInPlace(const QString& pfad, const QString& kopie) {
+  komprimiere(pfad, kopie, [&]([[maybe_unused]] Verbindung& quelle) {
+#ifdef Q_OS_WIN
+    quelle.schließe();  // an open file can't be replaced there
+#endif
+    ersetze(pfad, kopie);
+  });
 }
 
 // --- Database ---------------------------------------------------------------------------------
@@ -185,10 +264,21 @@ Daten Database::Lesen(const QString& anweisung, const QVariantList& werte) {
   return verbindung().lies(anweisung, werte).daten;
 }
 
+void Database::durchlaufe(const QString& anweisung, const QVariantList& werte,
+                          const std::function<bool(const Laufzeile&)>& besucher) {
+  // The connection must outlive the visits, which may close this handle.
+  const std::shared_ptr<Verbindung> gehalten = m_verbindung;
+  verbindung().durchlaufe(anweisung, werte, besucher);
+}
+
 void Database::Sammelschreiben(const std::function<void()>& aktion) {
   // The connection must outlive the action, which may close this handle.
   const std::shared_ptr<Verbindung> gehalten = m_verbindung;
   verbindung().sammelschreiben(aktion);
+}
+
+void Database::NachFestschreiben(std::function<void()> folge) {
+  verbindung().nachFestschreiben(std::move(folge));
 }
 
 qint64 Database::LetzteID() const { return verbindung().letzteID(); }
@@ -199,6 +289,12 @@ std::vector<Spalte> Database::Felder(const QString& tabelle) const {
 
 QStringList Database::Tabellen() const { return verbindung().tabellen(); }
 
-QString Database::Uebersetzung(const QString& anweisung) const {
-  return verbindung().uebersetzung(anweisung);
+int Database::Schemastand() const { return verbindung().steuere("pragma user_version").toInt(); }
+
+void Database::setSchemastand(int stand) {
+  verbindung().steuere("pragma user_version = " + QByteArray::number(stand));
+}
+
+QString Database::Übersetzung(const QString& anweisung) const {
+  return verbindung().übersetzung(anweisung);
 }

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <functional>
 #include <memory>
+#include <type_traits>
+#include <utility>
 
-#include "platform/database/Datenbankfehler.h"
-#include "platform/database/Datenblock.h"
+#include "platform/database/verbindung/Laufzeile.h"
+#include "platform/database/werte/Datenbankfehler.h"
+#include "platform/database/werte/Datenblock.h"
 
 class Recordset;
 class Verbindung;  // the one connection to a file, with its caches; lives in Verbindung.h
@@ -31,19 +35,45 @@ class Database {
   // The rows alone, for lists.
   Daten Lesen(const QString& anweisung, const QVariantList& werte = {});
 
-  // Makes the writes of one action one commit: runs it, then commits what it wrote, also when it
-  // fails half way (its exception goes on afterwards). Inside another Sammelschreiben it joins it.
-  // When the commit itself fails, or the engine has thrown the writes away with the failure (disk
-  // full), the Datenbankfehler says so with allesVerworfen().
+  // Gives the rows of a select to a visitor one by one, without holding them: for evaluations over
+  // whole tables. The visitor takes a const Laufzeile&, which is good until it returns; one that
+  // returns bool ends the reading with false. It may read by other statements, but a write fails
+  // until the reading has ended. No transform statements.
+  // A "+" in front of the fields of the conditions keeps their indexes out: the table is read from
+  // front to back, which is the quickest way to most of its rows.
+  template <class Besucher>
+  void Durchlaufe(const QString& anweisung, const QVariantList& werte, Besucher&& besucher) {
+    durchlaufe(anweisung, werte, [&besucher](const Laufzeile& zeile) {
+      if constexpr (std::is_void_v<std::invoke_result_t<Besucher&, const Laufzeile&>>) {
+        besucher(zeile);
+        return true;
+      } else {
+        return besucher(zeile);
+      }
+    });
+  }
+
+  // Makes the writes of one action one commit: runs it, then commits what it wrote, also when a
+  // rule fails half way (its exception goes on afterwards). Inside another Sammelschreiben it joins
+  // it. A failure of medium or engine (Datenbankfehler::istStörung) at the beginning, half way or
+  // at the commit undoes the whole action, also when the action swallows it: the Datenbankfehler
+  // says so with allesVerworfen().
   void Sammelschreiben(const std::function<void()>& aktion);
+  // What follows outside the database from what was written (a row leaves its list): runs once the
+  // running Sammelschreiben is committed, never when its writes were lost; at once outside of one.
+  void NachFestschreiben(std::function<void()> folge);
 
   // The ID that the last AddNew or insert into gave.
   qint64 LetzteID() const;
   // Declared fields of a table in their order; empty for a table that isn't there.
   std::vector<Spalte> Felder(const QString& tabelle) const;
   QStringList Tabellen() const;
+  // A number that the program keeps in the file's header, 0 at first; written it becomes part of
+  // the running commit.
+  int Schemastand() const;
+  void setSchemastand(int stand);
   // The statement as the engine gets it, for tests.
-  QString Uebersetzung(const QString& anweisung) const;
+  QString Übersetzung(const QString& anweisung) const;
 
   void Close() { m_verbindung.reset(); }
 
@@ -51,6 +81,8 @@ class Database {
   friend class Workspace;
   friend class Recordset;
   explicit Database(std::shared_ptr<Verbindung> verbindung);
+  void durchlaufe(const QString& anweisung, const QVariantList& werte,
+                  const std::function<bool(const Laufzeile&)>& besucher);
   Verbindung& verbindung() const;  // throws when closed
   std::shared_ptr<Verbindung> m_verbindung;
 };
@@ -68,9 +100,21 @@ class Workspace {
   // written so far is committed first; where that fails all are closed nevertheless, and the first
   // failure is thrown.
   void Close();
-  // Writes a compacted copy. The source must not be open; the target must not exist.
+  // What opening had to tell the user, German texts; they are given once. So far: a journal that
+  // belongs to another file was put aside.
+  QStringList NimmHinweise() { return std::exchange(m_hinweise, {}); }
+
+  // Writes a compacted copy. The source must not be open; the target must not exist. The file is
+  // checked whole first (a damaged one is a failure of the kind KeineDatenbank), and no other
+  // program may be using it (Gesperrt).
   static void CompactDatabase(const QString& von, const QString& nach);
+  // The same, and then puts the copy in the place of the file in one step, before any other program
+  // can write into it. After a failure the file is as it was and there is no copy.
+  static void CompactInPlace(const QString& pfad, const QString& kopie);
 
  private:
+  void prüfeDatei(const QString& pfad);
+
+  QStringList m_hinweise;
   std::vector<std::shared_ptr<Verbindung>> m_verbindungen;
 };

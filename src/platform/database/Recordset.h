@@ -53,7 +53,7 @@ class Recordset {
             Daten daten);
   struct Daten_;
   Daten_& daten() const;  // throws when closed
-  std::shared_ptr<Daten_> d;
+  std::shared_ptr<Daten_> m_d;
   bool m_noMatch = true;
 };
 
@@ -78,7 +78,7 @@ class Recordset::Feld {
 
  private:
   friend class Recordset;
-  Feld(std::shared_ptr<Daten_> d, int spalte) : d(std::move(d)), m_spalte(spalte) {}
-  std::shared_ptr<Daten_> d;
+  Feld(std::shared_ptr<Daten_> d, int spalte) : m_d(std::move(d)), m_spalte(spalte) {}
+  std::shared_ptr<Daten_> m_d;
   int m_spalte;
 };

@@ -1,42 +1,53 @@
 #include "platform/files/Dateischreiber.h"
 
-#include <QFile>
-#include <QSaveFile>
+#include <QFileInfo>
+#include <filesystem>
 
+#include "platform/files/Dateirechte.h"
 #include "platform/files/Textdatei.h"
 
-Dateischreiber::Dateischreiber(const QString& pfad, Art art) : m_pfad(pfad), m_art(art) {
-  if (art == Art::GanzOderGarNicht)
-    m_datei = std::make_unique<QSaveFile>(pfad);
-  else
-    m_datei = std::make_unique<QFile>(pfad);
-  if (!m_datei->open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-    m_fertig = true;  // nothing was begun
-    Textdatei::schreibfehler(pfad);
-  }
-  m_puffer.reserve(Stueck + Stueck / 4);
+namespace {
+
+// A link is followed to the file that it stands for.
+QString zielVon(const QString& pfad) {
+  const QFileInfo info(pfad);
+  return info.isSymLink() ? info.symLinkTarget() : pfad;
 }
 
-// A save file that isn't committed takes its beginnings away by itself.
-Dateischreiber::~Dateischreiber() {
-  if (m_fertig || m_art == Art::GanzOderGarNicht) return;
-  m_datei->close();
-  QFile::remove(m_pfad);
+// A file that may not be written isn't replaced either.
+bool darfWerden(const QString& pfad) {
+  const QFileInfo info(pfad);
+  return !info.isDir() && (!info.exists() || info.isWritable());
 }
+
+}  // namespace
+
+Dateischreiber::Dateischreiber(const QString& pfad)
+    : m_pfad(pfad), m_ziel(zielVon(pfad)), m_datei(m_ziel + QStringLiteral(".XXXXXX")) {
+  // The pieces are long: another buffer would only copy them.
+  QFileDevice& datei = m_datei;
+  if (!darfWerden(m_ziel) || !datei.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+    Textdatei::schreibfehler(pfad);
+  m_puffer.reserve(Stück + Stück / 4);
+}
+
+Dateischreiber::~Dateischreiber() = default;
 
 void Dateischreiber::leeren() {
-  const auto laenge = static_cast<qint64>(m_puffer.size());
-  if (m_datei->write(m_puffer.data(), laenge) != laenge) Textdatei::schreibfehler(m_pfad);
+  const auto länge = static_cast<qint64>(m_puffer.size());
+  if (m_datei.write(m_puffer.data(), länge) != länge) Textdatei::schreibfehler(m_pfad);
   m_puffer.clear();
 }
 
 void Dateischreiber::fertig() {
   leeren();
-  if (m_art == Art::GanzOderGarNicht) {
-    if (!static_cast<QSaveFile&>(*m_datei).commit()) Textdatei::schreibfehler(m_pfad);
-  } else {
-    m_datei->close();
-    if (m_datei->error() != QFileDevice::NoError) Textdatei::schreibfehler(m_pfad);
-  }
-  m_fertig = true;
+  const QString name = m_datei.fileName();
+  m_datei.setPermissions(Dateirechte::für(m_ziel));
+  m_datei.close();
+  if (m_datei.error() != QFileDevice::NoError) Textdatei::schreibfehler(m_pfad);
+  std::error_code fehler;
+  std::filesystem::rename(QFileInfo(name).filesystemFilePath(),
+                          QFileInfo(m_ziel).filesystemFilePath(), fehler);
+  if (fehler) Textdatei::schreibfehler(m_pfad);
+  m_datei.setAutoRemove(false);
 }

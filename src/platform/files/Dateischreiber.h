@@ -1,20 +1,16 @@
 #pragma once
 
-#include <QFileDevice>
 #include <QString>
-#include <memory>
+#include <QTemporaryFile>
 #include <string>
 
-// Writes a long file piece by piece. All functions throw Dateifehler, with the file as it was
-// before when it is written whole or not at all.
+// Writes an output piece by piece, beside the old file, whose place it takes with fertig(). It
+// isn't flushed to the medium: lists, reports and scratch files can be made again at any time. What
+// must survive a power cut is written by Textdatei. All functions throw Dateifehler, with the file
+// as it was before.
 class Dateischreiber {
  public:
-  enum class Art {
-    GanzOderGarNicht,  // beside the old file, put in its place by fertig()
-    Fluechtig  // in place and not flushed to the medium: for outputs that last until closing
-  };
-
-  explicit Dateischreiber(const QString& pfad, Art art = Art::GanzOderGarNicht);
+  explicit Dateischreiber(const QString& pfad);
   ~Dateischreiber();  // without fertig(): nothing is written
   Dateischreiber(const Dateischreiber&) = delete;
   Dateischreiber& operator=(const Dateischreiber&) = delete;
@@ -22,17 +18,16 @@ class Dateischreiber {
   // What is to be written is added here; weiter() hands it on when it has become long.
   std::string& puffer() { return m_puffer; }
   void weiter() {
-    if (m_puffer.size() >= Stueck) leeren();
+    if (m_puffer.size() >= Stück) leeren();
   }
   void fertig();
 
  private:
-  static constexpr size_t Stueck = 1 << 20;
+  static constexpr size_t Stück = 1 << 20;
   void leeren();
 
   QString m_pfad;
-  std::unique_ptr<QFileDevice> m_datei;
+  QString m_ziel;
+  QTemporaryFile m_datei;  // goes by itself where it isn't put in the place of the old one
   std::string m_puffer;
-  Art m_art;
-  bool m_fertig = false;
 };

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "platform/files/Dateirechte.h"
 #include "platform/files/Textdatei.h"
 
 struct Tabellenblatt::Innen {
@@ -23,7 +24,7 @@ struct Tabellenblatt::Innen {
   lxw_format* form(Form f) const { return formen[static_cast<size_t>(f)]; }
   [[noreturn]] void fehler() const;
   bool zwischendateiGanz() const;
-  void pruefe(lxw_error ergebnis) const {
+  void prüfe(lxw_error ergebnis) const {
     if (ergebnis != LXW_NO_ERROR) fehler();
   }
 };
@@ -40,26 +41,27 @@ void Tabellenblatt::Innen::fehler() const {
 }
 
 Tabellenblatt::Tabellenblatt(const QString& pfad, const QString& blattname)
-    : m(std::make_unique<Innen>()) {
-  m->pfad = pfad;
+    : m_innen(std::make_unique<Innen>()) {
+  m_innen->pfad = pfad;
   const QFileInfo info(pfad);
-  if (info.isDir() || (info.exists() && !info.isWritable())) m->fehler();
-  m->beginn = std::make_unique<QTemporaryFile>(pfad + QStringLiteral(".XXXXXX"));
-  if (!m->beginn->open()) m->fehler();
-  m->beginn->close();
+  if (info.isDir() || (info.exists() && !info.isWritable())) m_innen->fehler();
+  m_innen->beginn = std::make_unique<QTemporaryFile>(pfad + QStringLiteral(".XXXXXX"));
+  if (!m_innen->beginn->open()) m_innen->fehler();
+  m_innen->beginn->close();
 
   // Rows go to the disk as they come: a long list would fill the memory.
   QByteArray ordner = QFile::encodeName(QDir::tempPath());
   lxw_workbook_options wahl{};
   wahl.constant_memory = LXW_TRUE;
   wahl.tmpdir = ordner.data();
-  m->mappe = workbook_new_opt(QFile::encodeName(m->beginn->fileName()).constData(), &wahl);
-  if (m->mappe == nullptr) m->fehler();
-  m->blatt = workbook_add_worksheet(m->mappe, blattname.toUtf8().constData());
-  if (m->blatt == nullptr) m->fehler();
+  m_innen->mappe =
+      workbook_new_opt(QFile::encodeName(m_innen->beginn->fileName()).constData(), &wahl);
+  if (m_innen->mappe == nullptr) m_innen->fehler();
+  m_innen->blatt = workbook_add_worksheet(m_innen->mappe, blattname.toUtf8().constData());
+  if (m_innen->blatt == nullptr) m_innen->fehler();
 
   const auto neu = [this](Form f) {
-    return m->formen[static_cast<size_t>(f)] = workbook_add_format(m->mappe);
+    return m_innen->formen[static_cast<size_t>(f)] = workbook_add_format(m_innen->mappe);
   };
   format_set_bold(neu(Form::Fett));
   lxw_format* fettRechts = neu(Form::FettRechts);
@@ -75,33 +77,35 @@ Tabellenblatt::Tabellenblatt(const QString& pfad, const QString& blattname)
 // The library frees a workbook only by closing it, so what isn't wanted is closed into the file
 // that goes.
 Tabellenblatt::~Tabellenblatt() {
-  if (m->mappe != nullptr) workbook_close(m->mappe);
+  if (m_innen->mappe != nullptr) workbook_close(m_innen->mappe);
 }
 
 void Tabellenblatt::setSpalte(int spalte, double zeichen, Form form) {
   const auto nummer = static_cast<lxw_col_t>(spalte);
-  m->pruefe(worksheet_set_column(m->blatt, nummer, nummer, zeichen, m->form(form)));
+  m_innen->prüfe(
+      worksheet_set_column(m_innen->blatt, nummer, nummer, zeichen, m_innen->form(form)));
 }
 
 void Tabellenblatt::setKopfzeile(int zeile) {
-  worksheet_freeze_panes(m->blatt, static_cast<lxw_row_t>(zeile) + 1, 0);
+  worksheet_freeze_panes(m_innen->blatt, static_cast<lxw_row_t>(zeile) + 1, 0);
 }
 
 void Tabellenblatt::text(int zeile, int spalte, const char* utf8, Form form) {
   const auto r = static_cast<lxw_row_t>(zeile);
   const auto s = static_cast<lxw_col_t>(spalte);
-  lxw_error ergebnis = worksheet_write_string(m->blatt, r, s, utf8, m->form(form));
+  lxw_error ergebnis = worksheet_write_string(m_innen->blatt, r, s, utf8, m_innen->form(form));
   if (ergebnis == LXW_ERROR_MAX_STRING_LENGTH_EXCEEDED) {
     QString kurz = QString::fromUtf8(utf8).left(MaxText);
     if (!kurz.isEmpty() && kurz.back().isHighSurrogate()) kurz.chop(1);
-    ergebnis = worksheet_write_string(m->blatt, r, s, kurz.toUtf8().constData(), m->form(form));
+    ergebnis = worksheet_write_string(m_innen->blatt, r, s, kurz.toUtf8().constData(),
+                                      m_innen->form(form));
   }
-  m->pruefe(ergebnis);
+  m_innen->prüfe(ergebnis);
 }
 
 void Tabellenblatt::zahl(int zeile, int spalte, double wert, Form form) {
-  m->pruefe(worksheet_write_number(m->blatt, static_cast<lxw_row_t>(zeile),
-                                   static_cast<lxw_col_t>(spalte), wert, m->form(form)));
+  m_innen->prüfe(worksheet_write_number(m_innen->blatt, static_cast<lxw_row_t>(zeile),
+                                        static_cast<lxw_col_t>(spalte), wert, m_innen->form(form)));
 }
 
 // The library doesn't look whether its temporary files can be written: it would make a workbook of
@@ -110,21 +114,22 @@ bool Tabellenblatt::Innen::zwischendateiGanz() const {
   FILE* zeilen = blatt->optimize_tmpfile;
   if (zeilen == nullptr) return true;
   if (std::fflush(zeilen) != 0 || std::ferror(zeilen) != 0) return false;
-  const long laenge = std::ftell(zeilen);
+  const long länge = std::ftell(zeilen);
   std::error_code unbekannt;
   const auto platz = std::filesystem::space(QDir::tempPath().toStdU16String(), unbekannt);
   constexpr quint64 Rest = 1 << 20;
-  return unbekannt || platz.available >= static_cast<quint64>(std::max(laenge, 0L)) + Rest;
+  return unbekannt || platz.available >= static_cast<quint64>(std::max(länge, 0L)) + Rest;
 }
 
 void Tabellenblatt::speichern() {
-  if (!m->zwischendateiGanz()) m->fehler();
-  m->pruefe(workbook_close(std::exchange(m->mappe, nullptr)));
-  // A temporary file is its owner's alone; the spreadsheet is to be like any other file.
-  m->beginn->setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
-                            QFile::ReadOther);
+  if (!m_innen->zwischendateiGanz()) m_innen->fehler();
+  m_innen->prüfe(workbook_close(std::exchange(m_innen->mappe, nullptr)));
+  // A temporary file is its owner's alone; the spreadsheet is to be like any other file that this
+  // user makes.
+  m_innen->beginn->setPermissions(Dateirechte::für(m_innen->pfad));
   std::error_code fehler;
-  std::filesystem::rename(m->beginn->fileName().toStdU16String(), m->pfad.toStdU16String(), fehler);
-  if (fehler) m->fehler();
-  m->beginn->setAutoRemove(false);
+  std::filesystem::rename(m_innen->beginn->fileName().toStdU16String(),
+                          m_innen->pfad.toStdU16String(), fehler);
+  if (fehler) m_innen->fehler();
+  m_innen->beginn->setAutoRemove(false);
 }

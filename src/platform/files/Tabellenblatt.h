@@ -39,5 +39,5 @@ class Tabellenblatt {
 
  private:
   struct Innen;
-  std::unique_ptr<Innen> m;
+  std::unique_ptr<Innen> m_innen;
 };

@@ -7,6 +7,8 @@
 #include <QSaveFile>
 #include <array>
 
+#include "platform/files/Dateischreiber.h"
+
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <unistd.h>
@@ -67,6 +69,21 @@ void bytesSchreiben(const QString& pfad, const QByteArray& bytes) {
   ordnerSichern(QFileInfo(pfad).absolutePath());
 }
 
+void bytesFlüchtig(const QString& pfad, const QByteArray& bytes) {
+  Dateischreiber datei(pfad);
+  datei.puffer().assign(bytes.constData(), static_cast<size_t>(bytes.size()));
+  datei.fertig();
+}
+
+QByteArray zeilenbytes(const QStringList& zeilen) {
+  QByteArray bytes;
+  for (const QString& zeile : zeilen) {
+    bytes += Textdatei::nachCp1252(zeile);
+    bytes += "\r\n";
+  }
+  return bytes;
+}
+
 }  // namespace
 
 namespace Textdatei {
@@ -118,19 +135,24 @@ QStringList lesen(const QString& pfad) {
 QString lesenGanz(const QString& pfad) { return vonCp1252(bytesLesen(pfad)); }
 
 void schreiben(const QString& pfad, const QStringList& zeilen) {
-  QByteArray bytes;
-  for (const QString& zeile : zeilen) {
-    bytes += nachCp1252(zeile);
-    bytes += "\r\n";
-  }
-  bytesSchreiben(pfad, bytes);
+  bytesSchreiben(pfad, zeilenbytes(zeilen));
 }
 
 void schreibenGanz(const QString& pfad, const QString& text) {
   bytesSchreiben(pfad, nachCp1252(text));
 }
 
-void resteLoeschen(const QString& ordner, const QStringList& namen) {
+void kopieren(const QString& von, const QString& nach) { bytesSchreiben(nach, bytesLesen(von)); }
+
+void flüchtigSchreiben(const QString& pfad, const QStringList& zeilen) {
+  bytesFlüchtig(pfad, zeilenbytes(zeilen));
+}
+
+void flüchtigSchreibenGanz(const QString& pfad, const QString& text) {
+  bytesFlüchtig(pfad, nachCp1252(text));
+}
+
+void resteLöschen(const QString& ordner, const QStringList& namen) {
   // Six letters that are no word: neither all small, all capital nor small behind one capital.
   static const QRegularExpression zufall(
       QStringLiteral("\\.(?![A-Z]?[a-z]+\\z|[A-Z]+\\z)[A-Za-z]{6}\\z"));

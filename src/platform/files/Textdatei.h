@@ -28,12 +28,19 @@ QString lesenGanz(const QString& pfad);  // as it stands, line ends as in the fi
 // Throws Dateifehler; the old file is then as it was.
 void schreiben(const QString& pfad, const QStringList& zeilen);
 void schreibenGanz(const QString& pfad, const QString& text);
+// The same, but not flushed: for scratch files and outputs that can be made again at any time.
+void flüchtigSchreiben(const QString& pfad, const QStringList& zeilen);
+void flüchtigSchreibenGanz(const QString& pfad, const QString& text);
+
+// The file's bytes under another name, replacing what stands there, written as above. Throws
+// Dateifehler.
+void kopieren(const QString& von, const QString& nach);
 
 // Deletes what writes of a killed program have left beside these files of the folder (names, with
 // * and ?): "<name>.XXXXXX" with six random letters. What people call a copy ("<name>.backup")
 // stays, and with it the one remainder in twenty that looks like a word. Throws Dateifehler for the
 // first one that can't be deleted, after trying all.
-void resteLoeschen(const QString& ordner, const QStringList& namen);
+void resteLöschen(const QString& ordner, const QStringList& namen);
 
 // The bytes of any file, unchanged. Throws Dateifehler.
 QByteArray bytesLesen(const QString& pfad);

@@ -17,7 +17,7 @@ struct Dezimal {
   int punkt = 0;        // digits in front of the decimal point; may be 0 or negative
 };
 
-enum class Runden { HalbeAufwaerts, HalbeGerade };
+enum class Runden { HalbeAufwärts, HalbeGerade };
 
 // Infinite and not a number count as zero.
 Dezimal zerlege(double wert) {
@@ -41,8 +41,8 @@ Dezimal zerlege(double wert) {
 }
 
 bool rundetAuf(const std::string& ziffern, size_t behalten, Runden art) {
-  const char naechste = ziffern[behalten];
-  if (naechste != '5' || art == Runden::HalbeAufwaerts) return naechste >= '5';
+  const char nächste = ziffern[behalten];
+  if (nächste != '5' || art == Runden::HalbeAufwärts) return nächste >= '5';
   if (behalten + 1 < ziffern.size()) return true;  // more than a half
   return behalten > 0 && (ziffern[behalten - 1] - '0') % 2 == 1;
 }
@@ -100,11 +100,24 @@ double alsZahl(const Dezimal& dezimal) {
   return wert;
 }
 
+// Whether a number has six digits at most, two or four of them behind the point, or is a whole one
+// of up to 24 bits: its float's shortest decimal is the number itself.
+bool istKurz(double betrag) {
+  if (!(betrag <= 16777216)) return false;
+  if (static_cast<double>(static_cast<int>(betrag)) == betrag) return true;
+  for (const double einheit : {100.0, 10000.0}) {
+    const double viele = betrag * einheit;
+    if (viele >= 999999) return false;
+    if (static_cast<double>(std::lround(viele)) / einheit == betrag) return true;
+  }
+  return false;
+}
+
 bool istZiffer(QChar c) { return c >= u'0' && c <= u'9'; }
 
 // The number of a text of ASCII digits only; -1 for anything else or another length.
-int ziffernWert(QStringView text, qsizetype mindestens, qsizetype hoechstens) {
-  if (text.size() < mindestens || text.size() > hoechstens) return -1;
+int ziffernWert(QStringView text, qsizetype mindestens, qsizetype höchstens) {
+  if (text.size() < mindestens || text.size() > höchstens) return -1;
   int wert = 0;
   for (const QChar c : text) {
     if (!istZiffer(c)) return -1;
@@ -114,7 +127,7 @@ int ziffernWert(QStringView text, qsizetype mindestens, qsizetype hoechstens) {
 }
 
 // For a number that a double can't hold: true when it is too big, false when it is too small.
-bool zuGross(const std::string& text) {
+bool zuGroß(const std::string& text) {
   const size_t e = text.find('e');
   const std::string mantisse = text.substr(0, e);
   const size_t punkt = std::min(mantisse.find('.'), mantisse.size());
@@ -160,11 +173,11 @@ QString datumText(QDate datum) {
 QString zahl(double wert, int nachkommastellen) {
   const int stellen = std::clamp(nachkommastellen, 0, 15);
   Dezimal dezimal = zerlege(wert);
-  runde(dezimal, stellen, Runden::HalbeAufwaerts);
+  runde(dezimal, stellen, Runden::HalbeAufwärts);
   return QString::fromLatin1(feste(dezimal, stellen, ','));
 }
 
-QString waehrung(double wert) {
+QString währung(double wert) {
   QString text = zahl(wert, 2);
   const qsizetype erste = text.startsWith(u'-') ? 1 : 0;
   for (qsizetype i = text.size() - 6; i > erste; i -= 3) text.insert(i, u'.');
@@ -173,7 +186,7 @@ QString waehrung(double wert) {
 
 QString festeZahl(int breite, double zahl) {
   Dezimal dezimal = zerlege(zahl);
-  runde(dezimal, 2, Runden::HalbeAufwaerts);
+  runde(dezimal, 2, Runden::HalbeAufwärts);
   const int zeichen = std::max(breite, 0);
   return QString::fromLatin1(feste(dezimal, 2, '.')).left(zeichen).rightJustified(zeichen, u' ');
 }
@@ -221,7 +234,7 @@ double val(QStringView text) {
   double wert = 0.0;
   const auto ergebnis = std::from_chars(zahl.data() + plus, zahl.data() + zahl.size(), wert);
   if (ergebnis.ec == std::errc::result_out_of_range) {
-    if (!zuGross(zahl)) return 0.0;
+    if (!zuGroß(zahl)) return 0.0;
     wert = std::numeric_limits<double>::max();
     return zahl.starts_with('-') ? -wert : wert;
   }
@@ -229,6 +242,7 @@ double val(QStringView text) {
 }
 
 double einfach(double wert) {
+  if (istKurz(std::fabs(wert))) return wert == 0 ? 0.0 : wert;
   const float einzeln = static_cast<float>(wert);
   if (!std::isfinite(einzeln)) return wert;
   if (einzeln == 0) return 0.0;
@@ -239,10 +253,17 @@ double einfach(double wert) {
   return ergebnis;
 }
 
-double waehrungswert(double wert) {
+double währungswert(double wert) {
   if (!std::isfinite(wert)) return wert;
   Dezimal dezimal = zerlege(wert);
   runde(dezimal, 4, Runden::HalbeGerade);
+  return alsZahl(dezimal);
+}
+
+double gerundet(double wert, double maß, int ziffern) {
+  if (!std::isfinite(wert) || wert == 0) return wert;
+  Dezimal dezimal = zerlege(wert);
+  runde(dezimal, ziffern - zerlege(maß).punkt, Runden::HalbeGerade);
   return alsZahl(dezimal);
 }
 
@@ -251,6 +272,14 @@ double gerade(double wert) {
   Dezimal dezimal = zerlege(wert);
   runde(dezimal, 0, Runden::HalbeGerade);
   return alsZahl(dezimal);
+}
+
+qint64 ganzzahl(double wert) {
+  const double gerundet = gerade(wert);
+  constexpr double grenze = 9.2e18;
+  if (gerundet >= grenze) return std::numeric_limits<qint64>::max();
+  if (gerundet <= -grenze) return std::numeric_limits<qint64>::min();
+  return static_cast<qint64>(gerundet);
 }
 
 }  // namespace Deutsch

@@ -22,7 +22,7 @@ QString datumText(QDate datum);
 QString zahl(double wert, int nachkommastellen);
 
 // The same with groups of thousands and a plain blank before the sign: "-1.234,50 €".
-QString waehrung(double wert);
+QString währung(double wert);
 
 // With a decimal point and two decimals, cut to the width (its left part stays), filled with blanks
 // on the left: the form of numbers in the settings file.
@@ -42,9 +42,15 @@ double val(QStringView text);
 double einfach(double wert);
 
 // Four decimals, a half to the even digit.
-double waehrungswert(double wert);
+double währungswert(double wert);
+
+// The number rounded (a half to the even digit) to the place that is the last of so many digits in
+// the number maß: with three digits and 12.3 as maß to one decimal. Infinite and not a number stay.
+double gerundet(double wert, double maß, int ziffern);
 
 // A whole number, a half to the even one. 2.5 gives 2, 3.5 gives 4.
 double gerade(double wert);
+// The same as a 64-bit number; one beyond their range gives the outermost of them.
+qint64 ganzzahl(double wert);
 
 }  // namespace Deutsch

@@ -20,10 +20,10 @@ Verwaltungsblock::Plan standortplan() {
   plan.anweisung = Standorte::standortliste();
   plan.liste = "listandorte";
   plan.listentitel = "Standorte";
-  plan.schluessel = "tv_pflanzen_standorte_listandorte";
+  plan.schlüssel = "tv_pflanzen_standorte_listandorte";
   plan.eingabe = "sevtstandort";
   plan.neu = "neustandort";
-  plan.loeschen = "lschstandort";
+  plan.löschen = "lschstandort";
   plan.hinweis =
       "Folgende Werte werden über die Pflanzen-Eintragungen zum Standort automatisch ermittelt:";
   return plan;
@@ -37,10 +37,10 @@ Verwaltungsblock::Plan pflanzenplan() {
   plan.anweisung = Standorte::pflanzenliste();
   plan.liste = "lipflanzen";
   plan.listentitel = "Pflanzen";
-  plan.schluessel = "tv_pflanzen_standorte_lipflanzen";
+  plan.schlüssel = "tv_pflanzen_standorte_lipflanzen";
   plan.eingabe = "sevt";
   plan.neu = "neu";
-  plan.loeschen = "löschen";
+  plan.löschen = "löschen";
   return plan;
 }
 
@@ -52,10 +52,10 @@ Verwaltungsblock::Plan trachtplan() {
   plan.anweisung = Standorte::trachtliste();
   plan.liste = "lijepflanze";
   plan.listentitel = "Pflanzen (Tracht) am ausgewählten Standort";
-  plan.schluessel = "tv_pflanzen_standorte_lijepflanze";
+  plan.schlüssel = "tv_pflanzen_standorte_lijepflanze";
   plan.eingabe = "sevtje";
   plan.neu = "neuje";
-  plan.loeschen = "lschje";
+  plan.löschen = "lschje";
   plan.zuerstMarkieren =
       "Bitte markieren Sie zuerst den Datensatz (die Pflanze), den Sie ändern möchten!";
   return plan;
@@ -63,7 +63,7 @@ Verwaltungsblock::Plan trachtplan() {
 
 // The list speaks as the inputs do and hides what only the program needs.
 void listeEinrichten(Grid& liste, const Verwaltung::Felder& felder, const QStringList& verborgen) {
-  for (const auto& feld : felder) liste.setUeberschrift(feld.feld, feld.beschriftung);
+  for (const auto& feld : felder) liste.setÜberschrift(feld.feld, feld.beschriftung);
   for (const QString& spalte : verborgen) liste.setSpalteVerborgen(spalte, true);
 }
 
@@ -76,12 +76,12 @@ Standortblock::Standortblock() : Verwaltungsblock(standortplan()) {
 }
 
 QStringList Standortblock::prüfe(const Texte& texte, bool) {
-  return Standorte::standortGruende(texte);
+  return Standorte::standortGründe(texte);
 }
 
 QString Standortblock::vorSpeichern(const Texte& texte, std::optional<qint64> id,
                                     QVariantHash& weitere) {
-  if (Verwaltung::vorhanden(datenbank(), "Standorte", "Standort", texte["Standort"], id))
+  if (Verwaltung::vorhanden(datenbank(), "Standorte", felder().first(), texte["Standort"], id))
     return "Der Standort existiert bereits!";
   if (!id) weitere = Standorte::neuerPlatz();
   return {};
@@ -94,11 +94,11 @@ Pflanzenblock::Pflanzenblock() : Verwaltungsblock(pflanzenplan()) {
 }
 
 QStringList Pflanzenblock::prüfe(const Texte& texte, bool) {
-  return Standorte::pflanzenGruende(texte);
+  return Standorte::pflanzenGründe(texte);
 }
 
 QString Pflanzenblock::vorSpeichern(const Texte& texte, std::optional<qint64> id, QVariantHash&) {
-  if (Verwaltung::vorhanden(datenbank(), "Pflanzen", "Pflanze", texte["Pflanze"], id))
+  if (Verwaltung::vorhanden(datenbank(), "Pflanzen", felder().first(), texte["Pflanze"], id))
     return "Die Pflanze existiert bereits!";
   return {};
 }
@@ -107,15 +107,15 @@ QString Pflanzenblock::vorSpeichern(const Texte& texte, std::optional<qint64> id
 
 Trachtblock::Trachtblock() : Verwaltungsblock(trachtplan()) {
   listeEinrichten(*liste(), felder(), {"Standort_Kennung", "ID"});
-  bezproz = new QLabel("0");
-  bezproz->setObjectName("bezproz");
-  bezproz->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  bezproz->setMinimumWidth(fontMetrics().horizontalAdvance("00000"));
-  listenkopf()->addWidget(Bauteile::ueberschrift(liste()->accessibleName()));
+  m_bezproz = new QLabel("0");
+  m_bezproz->setObjectName("bezproz");
+  m_bezproz->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  m_bezproz->setMinimumWidth(fontMetrics().horizontalAdvance("00000"));
+  listenkopf()->addWidget(Bauteile::überschrift(liste()->accessibleName()));
   listenkopf()->addSpacing(2 * fontMetrics().averageCharWidth());
   listenkopf()->addStretch(1);
   listenkopf()->addWidget(new QLabel("Pflanzen am Standort in %: "));
-  listenkopf()->addWidget(bezproz);
+  listenkopf()->addWidget(m_bezproz);
 }
 
 void Trachtblock::setStandort(qint64 id) {
@@ -124,9 +124,9 @@ void Trachtblock::setStandort(qint64 id) {
 }
 
 QStringList Trachtblock::prüfe(const Texte& texte, bool ändern) {
-  qint64 sonst = GanzLesen(bezproz->text());
+  qint64 sonst = GanzLesen(m_bezproz->text());
   if (ändern) sonst -= liste()->wert(liste()->aktuelleZeile(), "Proz_Anteil").toLongLong();
-  return Standorte::trachtGruende(texte, sonst);
+  return Standorte::trachtGründe(texte, sonst);
 }
 
 QString Trachtblock::vorSpeichern(const Texte&, std::optional<qint64>, QVariantHash& weitere) {
@@ -138,7 +138,7 @@ QString Trachtblock::vorSpeichern(const Texte&, std::optional<qint64>, QVariantH
 }
 
 void Trachtblock::nachListe() {
-  bezproz->setText(QString::number(Standorte::anteilSumme(datenbank(), m_standort)));
+  m_bezproz->setText(QString::number(Standorte::anteilSumme(datenbank(), m_standort)));
 }
 
 void Trachtblock::nachLöschen() {

@@ -43,5 +43,5 @@ class Trachtblock : public Verwaltungsblock {
 
  private:
   qint64 m_standort = 0;
-  QLabel* bezproz = nullptr;
+  QLabel* m_bezproz = nullptr;
 };

@@ -2,7 +2,6 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
@@ -43,8 +42,8 @@ QList<qint64> ortsIds(const Datenblock& orte, const Grid& standorte) {
 
 }  // namespace
 
-TV_Pflanzen_Standorte::TV_Pflanzen_Standorte(QWidget* oeffner)
-    : Formular("TV_Pflanzen_Standorte", "Pflanzen und Standorte (Wanderung)", oeffner) {
+TV_Pflanzen_Standorte::TV_Pflanzen_Standorte(QWidget* öffner)
+    : Verwaltungsformular("TV_Pflanzen_Standorte", "Pflanzen und Standorte (Wanderung)", öffner) {
   aufbauen();
   verbinden();
 }
@@ -55,11 +54,11 @@ void TV_Pflanzen_Standorte::aufbauen() {
   m_standorte = new Standortblock;
   m_pflanzen = new Pflanzenblock;
   m_tracht = new Trachtblock;
-  aufwaerts[0] =
+  m_aufwaerts[0] =
       knopf("Weidezeit + 1 Jahr", "aufwaerts_0", "Die Weidezeit aller Pflanzen um ein Jahr vor");
-  aufwaerts[1] =
+  m_aufwaerts[1] =
       knopf("Weidezeit - 1 Jahr", "aufwaerts_1", "Die Weidezeit aller Pflanzen um ein Jahr zurück");
-  for (QPushButton* k : aufwaerts) m_pflanzen->knopfzeile()->addWidget(k);
+  for (QPushButton* k : m_aufwaerts) m_pflanzen->knopfzeile()->addWidget(k);
 
   m_reiter = new QTabWidget;
   m_reiter->setObjectName("reiter");
@@ -68,83 +67,47 @@ void TV_Pflanzen_Standorte::aufbauen() {
   m_reiter->addTab(reiterJeStandort(), "Pflanzen je Standort");
   m_reiter->addTab(reiterseite(m_pflanzen), "Pflanzen");
 
-  auto* spalte = new QVBoxLayout(this);
-  spalte->addWidget(m_reiter, 1);
-  spalte->addWidget(fussBauen());
-  reihenfolgeSetzen();
-  Bauteile::fenstergroesse(this, 145, 38);
+  m_comstandortlisten = knopf("&Standorte / Pflanzen auswerten", "comstandortlisten");
+  führtZu(m_comstandortlisten, "XW_Standorte");
+  setBlöcke({m_pflanzen, m_standorte, m_tracht});
+  zusammensetzen(m_reiter, {.links = {m_comstandortlisten}, .schließen = "beenden"});
+  schließknopf()->setToolTip("Die Trachtzeiten neu ermitteln und schließen");
+  QList<QWidget*> folge{m_reiter->tabBar()};
+  folge << m_standorte->tabfolge() << m_lijeort << m_tracht->tabfolge() << m_pflanzen->tabfolge();
+  setTabfolge(folge);
+  setWunschgröße(145, 38);
 }
 
 // Left the site chooser, right what grows there.
 QWidget* TV_Pflanzen_Standorte::reiterJeStandort() {
-  lijeort = new Grid;
-  lijeort->setObjectName("lijeort");
-  lijeort->setAccessibleName("Standort wählen");
-  lijeort->setSelectionMode(QAbstractItemView::SingleSelection);
-  lijeort->setMinimumWidth(24 * fontMetrics().averageCharWidth());
-  return reiterseite(Bauteile::teiler("teiler", {lijeort, 1, 300}, {m_tracht, 2, 600}));
-}
-
-QWidget* TV_Pflanzen_Standorte::fussBauen() {
-  comstandortlisten = knopf("&Standorte / Pflanzen auswerten", "comstandortlisten");
-  comstandortlisten->setEnabled(false);  // its form does not exist
-  hilfe = knopf("&Hilfe", "hilfe");
-  beenden = knopf("&Schließen", "beenden", "Die Trachtzeiten neu ermitteln und schließen");
-  auto* fuss = new QWidget;
-  auto* zeile = new QHBoxLayout(fuss);
-  zeile->setContentsMargins(0, 0, 0, 0);
-  zeile->addWidget(comstandortlisten);
-  zeile->addStretch(1);
-  zeile->addWidget(hilfe);
-  zeile->addWidget(beenden);
-  return fuss;
-}
-
-void TV_Pflanzen_Standorte::reihenfolgeSetzen() {
-  QList<QWidget*> folge{m_reiter->tabBar()};
-  folge << m_standorte->tabfolge() << lijeort << m_tracht->tabfolge() << m_pflanzen->tabfolge()
-        << comstandortlisten << hilfe << beenden;
-  Bauteile::tabfolge(folge);
+  m_lijeort = new Grid;
+  m_lijeort->setObjectName("lijeort");
+  m_lijeort->setAccessibleName("Standort wählen");
+  m_lijeort->setSelectionMode(QAbstractItemView::SingleSelection);
+  m_lijeort->setMinimumWidth(24 * fontMetrics().averageCharWidth());
+  return reiterseite(Bauteile::teiler("teiler", {m_lijeort, 1, 300}, {m_tracht, 2, 600}));
 }
 
 void TV_Pflanzen_Standorte::verbinden() {
   Ereignis::wenn(m_reiter, &QTabWidget::currentChanged, this,
                  [this](int reiter) { reiterGewechselt(reiter); });
-  Ereignis::wenn(lijeort, &Grid::zeileGewechselt, this,
+  Ereignis::wenn(m_lijeort, &Grid::zeileGewechselt, this,
                  [this](int ort) { pflanzenDesStandortsZeigen(ort); });
   for (const int i : {0, 1})
-    Ereignis::wenn(aufwaerts[i], &QPushButton::clicked, this,
+    Ereignis::wenn(m_aufwaerts[i], &QPushButton::clicked, this,
                    [this, i] { jahreVerschieben(i == 0 ? 1 : -1); });
-  Ereignis::wenn(hilfe, &QPushButton::clicked, this, [this] { hilfeZeigen(); });
-  Ereignis::wenn(beenden, &QPushButton::clicked, this, [this] { schliessen(); });
 }
 
 // ---- opening and closing ----
 
-void TV_Pflanzen_Standorte::zeigen() {
-  const auto ende = qScopeGuard([this] { entladen(); });
-  laden();
-  Formular::zeigen();
-}
-
-void TV_Pflanzen_Standorte::laden() {
-  m_db = TZ_Variablen::Arbeitsbereich.OpenDatabase(TZ_Variablen::DatenbankPfad);
+void TV_Pflanzen_Standorte::füllen() {
   m_reiter->setCurrentIndex(ReiterStandorte);
-  m_pflanzen->laden(m_db);
-  m_standorte->laden(m_db);
-  m_tracht->laden(m_db);
+  for (Verwaltungsblock* block : blöcke()) block->laden(m_db);
   if (TZ_Variablen::FormModus == "2") m_reiter->setCurrentIndex(ReiterPflanzen);
   reiterGewechselt(m_reiter->currentIndex());
 }
 
-void TV_Pflanzen_Standorte::entladen() {
-  for (Verwaltungsblock* block : QList<Verwaltungsblock*>{m_standorte, m_pflanzen, m_tracht})
-    block->entladen();
-  m_db.Close();
-}
-
-// The window's own close box and Esc don't come this way and leave the forage periods.
-void TV_Pflanzen_Standorte::schliessen() {
+void TV_Pflanzen_Standorte::schließen() {
   {
     const Ereignis::Sanduhr sanduhr;
     Standorte::trachtzeitenErmitteln(m_db);
@@ -156,7 +119,7 @@ void TV_Pflanzen_Standorte::schliessen() {
 
 void TV_Pflanzen_Standorte::reiterGewechselt(int reiter) {
   if (reiter == ReiterJeStandort) {
-    pflanzenJeStandortOeffnen();
+    pflanzenJeStandortÖffnen();
     return;
   }
   Verwaltungsblock* block = m_standorte;
@@ -165,7 +128,7 @@ void TV_Pflanzen_Standorte::reiterGewechselt(int reiter) {
   if (!m_reiter->tabBar()->hasFocus()) block->fokusAufErstesFeld();
 }
 
-void TV_Pflanzen_Standorte::pflanzenJeStandortOeffnen() {
+void TV_Pflanzen_Standorte::pflanzenJeStandortÖffnen() {
   if (m_standorte->liste()->zeilen() == 0) {
     Meldungen::Hinweis(
         "Bevor die Pflanzen für die Standorte eingegeben werden, muß mindestens ein Standort "
@@ -179,15 +142,15 @@ void TV_Pflanzen_Standorte::pflanzenJeStandortOeffnen() {
   m_tracht->neuKnopf()->setDefault(true);
   const Daten orte = Standorte::standortnamen(m_db);
   m_orte = ortsIds(*orte, *m_standorte->liste());
-  lijeort->setDaten(orte);
+  m_lijeort->setDaten(orte);
   const qsizetype zeile = aktuell ? m_orte.indexOf(*aktuell) : 0;
-  lijeort->setAktuelleZeile(static_cast<int>(std::max<qsizetype>(zeile, 0)));
-  if (!m_reiter->tabBar()->hasFocus()) lijeort->setFocus();
+  m_lijeort->setAktuelleZeile(static_cast<int>(std::max<qsizetype>(zeile, 0)));
+  if (!m_reiter->tabBar()->hasFocus()) m_lijeort->setFocus();
 }
 
 void TV_Pflanzen_Standorte::pflanzenDesStandortsZeigen(int ort) {
   if (ort < 0) return;
-  const qint64 id = m_orte.value(lijeort->ordnung()[static_cast<size_t>(ort)]);
+  const qint64 id = m_orte.value(m_lijeort->ordnung()[static_cast<size_t>(ort)]);
   Grid* standorte = m_standorte->liste();
   standorte->setAktuelleZeile(standorte->findeZeile("ID = " + QString::number(id)));
   m_tracht->setStandort(id);

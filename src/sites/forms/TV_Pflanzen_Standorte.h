@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/controls/Formular.h"
-#include "platform/database/Datenbank.h"
+#include "data/forms/Verwaltungsformular.h"
 
 class Grid;
 class QPushButton;
@@ -12,39 +11,31 @@ class Trachtblock;
 
 // Sites, forage plants and which of them stand at which site. The opener sets FormModus to the
 // number of the tab ("0" or "2"); another text leaves the first one.
-class TV_Pflanzen_Standorte : public Formular {
+class TV_Pflanzen_Standorte : public Verwaltungsformular {
  public:
-  explicit TV_Pflanzen_Standorte(QWidget* oeffner = nullptr);
+  explicit TV_Pflanzen_Standorte(QWidget* öffner = nullptr);
 
-  // Loads, shows the form modally and returns when it was closed. Throws Datenbankfehler when it
-  // can't be loaded; it isn't shown then.
-  void zeigen();
-  // Loading alone: pick lists, lists and the tab.
-  void laden();
+ protected:
+  void füllen() override;  // pick lists, lists and the tab
+  // Works out the forage periods anew. The window's own close box and Esc don't come this way.
+  void schließen() override;
 
  private:
   void aufbauen();
   QWidget* reiterJeStandort();
-  QWidget* fussBauen();
   void verbinden();
-  void reihenfolgeSetzen();
 
   void reiterGewechselt(int reiter);
-  void pflanzenJeStandortOeffnen();
+  void pflanzenJeStandortÖffnen();
   void pflanzenDesStandortsZeigen(int ort);
   void jahreVerschieben(int jahre);
-  void schliessen();
-  void entladen();
 
-  Database m_db;
   QTabWidget* m_reiter = nullptr;
   Standortblock* m_standorte = nullptr;
   Trachtblock* m_tracht = nullptr;
   Pflanzenblock* m_pflanzen = nullptr;
-  Grid* lijeort = nullptr;
+  Grid* m_lijeort = nullptr;
   QList<qint64> m_orte;  // the sites' IDs, as lijeort was read
-  QPushButton* aufwaerts[2] = {};
-  QPushButton* comstandortlisten = nullptr;
-  QPushButton* hilfe = nullptr;
-  QPushButton* beenden = nullptr;
+  QPushButton* m_aufwaerts[2] = {};
+  QPushButton* m_comstandortlisten = nullptr;
 };

@@ -13,25 +13,25 @@
 #include "platform/controls/Grid.h"
 
 using Bauteile::knopfOhneEnter;
-using Bauteile::ueberschrift;
+using Bauteile::überschrift;
 using Handel::Seite;
 using Verwaltung::Texte;
 
 namespace {
 
-Verwaltungsblock::Plan geschaeftsplan(Seite seite) {
+Verwaltungsblock::Plan geschäftsplan(Seite seite) {
   const bool einkauf = seite == Seite::Einkauf;
   Verwaltungsblock::Plan plan;
   plan.tabelle = Handel::tabelle(seite);
-  plan.felder = Handel::geschaeftsfelder(seite);
+  plan.felder = Handel::geschäftsfelder(seite);
   plan.titel = einkauf ? "Einkäufe eingeben / ändern" : "Verkäufe eingeben / ändern";
-  plan.anweisung = Handel::geschaeftsliste(seite);
+  plan.anweisung = Handel::geschäftsliste(seite);
   plan.liste = einkauf ? "lieinkauf" : "liverkauf";
   plan.listentitel = einkauf ? "Einkäufe" : "Verkäufe";
-  plan.schluessel = einkauf ? "tv_einverkauf_lager_lieinkauf" : "tv_einverkauf_lager_liverkauf";
+  plan.schlüssel = einkauf ? "tv_einverkauf_lager_lieinkauf" : "tv_einverkauf_lager_liverkauf";
   plan.eingabe = einkauf ? "sevteinkauf" : "sevtverkauf";
   plan.neu = einkauf ? "neueinkauf" : "neuverkauf";
-  plan.loeschen = einkauf ? "lscheinkauf" : "lschverkauf";
+  plan.löschen = einkauf ? "lscheinkauf" : "lschverkauf";
   if (!einkauf)
     plan.zuerstMarkieren =
         "Bitte markieren Sie zuerst den Datensatz (die Pflanze), den Sie ändern möchten!";
@@ -46,10 +46,10 @@ Verwaltungsblock::Plan lagerplan() {
   plan.anweisung = Handel::lagerliste();
   plan.liste = "lihonig";
   plan.listentitel = "Honiglager";
-  plan.schluessel = "tv_einverkauf_lager_lihonig";
+  plan.schlüssel = "tv_einverkauf_lager_lihonig";
   plan.eingabe = "sevthonig";
   plan.neu = "neuhonig";
-  plan.loeschen = "lschhonig";
+  plan.löschen = "lschhonig";
   return plan;
 }
 
@@ -103,35 +103,32 @@ void Handelsblock::nachListe() {
 
 // ---- purchases and sales ----
 
-Geschaeftsblock::Geschaeftsblock(Seite seite, std::function<void()> lagerLesen,
-                                 std::function<void()> geaendert)
-    : Handelsblock(geschaeftsplan(seite)),
+Geschäftsblock::Geschäftsblock(Seite seite, std::function<void()> lagerLesen,
+                               std::function<void()> geändert)
+    : Handelsblock(geschäftsplan(seite)),
       m_seite(seite),
       m_lagerLesen(std::move(lagerLesen)),
-      m_geaendert(std::move(geaendert)) {}
+      m_geändert(std::move(geändert)) {}
 
-void Geschaeftsblock::listeLesen() {
+void Geschäftsblock::listeLesen() {
   Handelsblock::listeLesen();
-  m_geaendert();
+  m_geändert();
 }
 
-void Geschaeftsblock::nachLöschen() {
-  m_lagerLesen();
-  m_geaendert();
-}
+void Geschäftsblock::nachLöschen() { m_geändert(); }
 
-QStringList Geschaeftsblock::prüfe(const Texte& texte, bool) {
-  return Handel::geschaeftsgruende(texte);
+QStringList Geschäftsblock::prüfe(const Texte& texte, bool) {
+  return Handel::geschäftsgründe(texte);
 }
 
 // What a failure half way has left in the tables stands in the lists: pressing the button again
 // would book it twice.
-qint64 Geschaeftsblock::schreiben(const Texte& texte, std::optional<qint64> id,
-                                  const QVariantHash&) {
+qint64 Geschäftsblock::schreiben(const Texte& texte, std::optional<qint64> id,
+                                 const QVariantHash&) {
   const bool honig = Handel::istHonig(texte["Produkt"]);
   qint64 gespeichert = 0;
   try {
-    gespeichert = Handel::geschaeftSpeichern(datenbank(), m_seite, texte, id);
+    gespeichert = Handel::geschäftSpeichern(datenbank(), m_seite, texte, id);
   } catch (const Datenbankfehler& fehler) {
     if (!fehler.allesVerworfen()) {
       listeLesen();
@@ -144,9 +141,10 @@ qint64 Geschaeftsblock::schreiben(const Texte& texte, std::optional<qint64> id,
 }
 
 // Date and product come from the inputs: a movement of another day or product stays in the store.
-void Geschaeftsblock::vorLöschen(qint64 id) {
+void Geschäftsblock::vorLöschen(qint64 id) {
   const Texte eingaben = texte();
-  Handel::bewegungLoeschen(datenbank(), m_seite, eingaben["Datum"], eingaben["Produkt"], id);
+  Handel::bewegungLöschen(datenbank(), m_seite, eingaben["Datum"], eingaben["Produkt"], id);
+  datenbank().NachFestschreiben([this] { m_lagerLesen(); });
 }
 
 // ---- honey store ----
@@ -154,44 +152,44 @@ void Geschaeftsblock::vorLöschen(qint64 id) {
 Lagerblock::Lagerblock() : Handelsblock(lagerplan()) {
   for (const auto& feld : felder())
     if (feld.art == Verwaltung::Art::Dezimal)  // headed as the inputs: they say that it's kilograms
-      liste()->setUeberschrift(feld.feld, feld.beschriftung);
+      liste()->setÜberschrift(feld.feld, feld.beschriftung);
   auto* links = new QWidget;
   auto* teiler = Bauteile::teiler("lagerteiler", {links, 3, 600}, {bestandBauen(), 2, 400});
   delete layout()->replaceWidget(liste(), teiler);
   QVBoxLayout* spalte = spalteIn(links);
   auto* kopf = new QHBoxLayout;
-  kopf->addWidget(ueberschrift("Lagerbuchungen"));
+  kopf->addWidget(überschrift("Lagerbuchungen"));
   kopf->addStretch(1);
   spalte->addLayout(kopf);
   spalte->addWidget(liste(), 1);
-  kopf->addStrut(comalle->sizeHint().height());  // both lists begin at the same height
+  kopf->addStrut(m_comalle->sizeHint().height());  // both lists begin at the same height
 }
 
 QWidget* Lagerblock::bestandBauen() {
-  ligroup = new Grid;
-  ligroup->setObjectName("ligroup");
-  ligroup->setAccessibleName("Bestand je Produkt und Charge");
-  ligroup->setLayoutSchluessel("tv_einverkauf_lager_ligroup");
-  ligroup->setSelectionMode(QAbstractItemView::SingleSelection);
-  comalle = knopfOhneEnter("Aktualisieren", "comalle");
-  comalle->setToolTip("Den Bestand je Produkt und Charge neu ausrechnen");
-  Ereignis::wenn(comalle, &QPushButton::clicked, this, [this] { bestandZeigen(); });
+  m_ligroup = new Grid;
+  m_ligroup->setObjectName("ligroup");
+  m_ligroup->setAccessibleName("Bestand je Produkt und Charge");
+  m_ligroup->setLayoutSchlüssel("tv_einverkauf_lager_ligroup");
+  m_ligroup->setSelectionMode(QAbstractItemView::SingleSelection);
+  m_comalle = knopfOhneEnter("Aktualisieren", "comalle");
+  m_comalle->setToolTip("Den Bestand je Produkt und Charge neu ausrechnen");
+  Ereignis::wenn(m_comalle, &QPushButton::clicked, this, [this] { bestandZeigen(); });
   auto* rechts = new QWidget;
   QVBoxLayout* spalte = spalteIn(rechts);
   auto* kopf = new QHBoxLayout;
-  bestandsstand = new QLabel("(nicht aktuell)");
-  bestandsstand->setObjectName("bestandsstand");
-  kopf->addWidget(ueberschrift("Bestand"));
-  kopf->addWidget(bestandsstand);
+  m_bestandsstand = new QLabel("(nicht aktuell)");
+  m_bestandsstand->setObjectName("bestandsstand");
+  kopf->addWidget(überschrift("Bestand"));
+  kopf->addWidget(m_bestandsstand);
   kopf->addStretch(1);
-  kopf->addWidget(comalle);
+  kopf->addWidget(m_comalle);
   spalte->addLayout(kopf);
-  spalte->addWidget(ligroup, 1);
+  spalte->addWidget(m_ligroup, 1);
   return rechts;
 }
 
 QList<QWidget*> Lagerblock::tabfolge() const {
-  return Verwaltungsblock::tabfolge() << comalle << ligroup;
+  return Verwaltungsblock::tabfolge() << m_comalle << m_ligroup;
 }
 
 // A deal makes another row current. Inputs that only show the former one go along: "Ändern" would
@@ -200,7 +198,7 @@ void Lagerblock::listeLesen() {
   const bool mitgehen = zeigtAktuelleZeile();
   Handelsblock::listeLesen();
   if (const auto id = aktuelleId(); id && mitgehen) zeigeDatensatz(*id);
-  bestandsstand->show();
+  m_bestandsstand->show();
 }
 
 bool Lagerblock::zeigtAktuelleZeile() const {
@@ -213,17 +211,17 @@ bool Lagerblock::zeigtAktuelleZeile() const {
   return true;
 }
 
-void Lagerblock::nachLöschen() { bestandsstand->show(); }
+void Lagerblock::nachLöschen() { m_bestandsstand->show(); }
 
-void Lagerblock::bestandLeeren() { ligroup->setDaten({}); }
+void Lagerblock::bestandLeeren() { m_ligroup->setDaten({}); }
 
 void Lagerblock::bestandZeigen() {
   const Ereignis::Sanduhr sanduhr;
-  ligroup->setDaten(Handel::bestand(datenbank()));
-  bestandsstand->hide();
+  m_ligroup->setDaten(Handel::bestand(datenbank()));
+  m_bestandsstand->hide();
 }
 
-QStringList Lagerblock::prüfe(const Texte& texte, bool) { return Handel::lagergruende(texte); }
+QStringList Lagerblock::prüfe(const Texte& texte, bool) { return Handel::lagergründe(texte); }
 
 // A changed row keeps its tie to its deal.
 QString Lagerblock::vorSpeichern(const Texte&, std::optional<qint64> id, QVariantHash& weitere) {

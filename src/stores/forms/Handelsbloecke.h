@@ -23,12 +23,12 @@ class Handelsblock : public Verwaltungsblock {
 };
 
 // Purchases or sales.
-class Geschaeftsblock : public Handelsblock {
+class Geschäftsblock : public Handelsblock {
  public:
-  // lagerLesen: reads the list of the honey store anew. geaendert: the deals are no longer those of
+  // lagerLesen: reads the list of the honey store anew. geändert: the deals are no longer those of
   // before, nor are their sums.
-  Geschaeftsblock(Handel::Seite seite, std::function<void()> lagerLesen,
-                  std::function<void()> geaendert);
+  Geschäftsblock(Handel::Seite seite, std::function<void()> lagerLesen,
+                 std::function<void()> geändert);
 
   void listeLesen() override;
 
@@ -42,7 +42,7 @@ class Geschaeftsblock : public Handelsblock {
  private:
   Handel::Seite m_seite;
   std::function<void()> m_lagerLesen;
-  std::function<void()> m_geaendert;
+  std::function<void()> m_geändert;
 };
 
 // The honey store, with its stock beside the list.
@@ -65,7 +65,7 @@ class Lagerblock : public Handelsblock {
   QWidget* bestandBauen();
   void bestandZeigen();
 
-  Grid* ligroup = nullptr;
-  QLabel* bestandsstand = nullptr;  // seen while the stock isn't that of the list
-  QPushButton* comalle = nullptr;
+  Grid* m_ligroup = nullptr;
+  QLabel* m_bestandsstand = nullptr;  // seen while the stock isn't that of the list
+  QPushButton* m_comalle = nullptr;
 };

@@ -15,20 +15,20 @@ class EingabeBild : public Eingabeprobe, public testing::WithParamInterface<int>
  protected:
   void SetUp() override {
     Eingabeprobe::SetUp();
-    fuelle();
+    fülle();
   }
-  void fuelle();
+  void fülle();
   void schreibeDaten();
   // Texts and buttons have at least the room that they need.
-  void pruefeNichtsAbgeschnitten(const QString& fall);
+  void prüfeNichtsAbgeschnitten(const QString& fall);
   void bild(const QString& name) {
     bildAblegen(*form, QString("eingabe_%1_%2").arg(name).arg(GetParam()));
   }
 
-  const Schriftgroesse m_schrift{GetParam()};
+  const Schriftgröße m_schrift{GetParam()};
 };
 
-void EingabeBild::fuelle() {
+void EingabeBild::fülle() {
   DB.Sammelschreiben([this] { schreibeDaten(); });
 }
 
@@ -130,7 +130,7 @@ void EingabeBild::schreibeDaten() {
   }
 }
 
-void EingabeBild::pruefeNichtsAbgeschnitten(const QString& fall) {
+void EingabeBild::prüfeNichtsAbgeschnitten(const QString& fall) {
   for (auto* schild : form->findChildren<QLabel*>()) {
     if (!schild->isVisible() || schild->objectName() == "bezbewegungsdaten") continue;
     EXPECT_GE(schild->width(), schild->sizeHint().width()) << qPrintable(fall + schild->text());
@@ -151,38 +151,38 @@ void EingabeBild::pruefeNichtsAbgeschnitten(const QString& fall) {
 }
 
 TEST_P(EingabeBild, NichtsIstAbgeschnittenUndEsPasstAufEinenKleinenSchirm) {
-  oeffne(0);
+  öffne(0);
   for (int art = 0; art < 11; ++art) {
     const QString fall = "Art " + QString::number(art) + ": ";
     klicke("opti_" + QString::number(art));
-    tippe(0, "15.06.2026");
+    tippe("Datum", "15.06.2026");
     form->resize(1366, 700);  // less the window's title and the task bar
     QTest::qWait(1);
     EXPECT_LE(form->width(), 1366) << qPrintable(fall);
     EXPECT_LE(form->height(), 700) << qPrintable(fall);
-    pruefeNichtsAbgeschnitten(fall);
+    prüfeNichtsAbgeschnitten(fall);
     EXPECT_GE(li()->viewport()->height(), 3 * li()->rowHeight(0)) << qPrintable(fall);
-    if (art == 0) tippe(13, "11");
+    if (art == 0) tippe("Brutwaben", "11");
     QTest::qWait(1);
     EXPECT_TRUE(li()->viewport()->rect().contains(li()->visualRect(li()->currentIndex()).center()))
         << "the newest booking is in view";
     bild(QString::number(art).rightJustified(2, '0'));
     form->resize(form->minimumSizeHint());
     QTest::qWait(1);
-    pruefeNichtsAbgeschnitten(fall + "klein ");
+    prüfeNichtsAbgeschnitten(fall + "klein ");
   }
 }
 
 // Each slot stands right below the one before it, beside it, or at the top of the next column.
-TEST_P(EingabeBild, VerborgenePlaetzeHinterlassenKeineLuecken) {
-  oeffne(0);
+TEST_P(EingabeBild, VerborgenePlätzeHinterlassenKeineLücken) {
+  öffne(0);
   for (int art = 0; art < 10; ++art) {
     klicke("opti_" + QString::number(art));
     form->resize(1366, 700);
     QTest::qWait(1);
     const int oben = feld(1)->y();
     const int schritt = feld(2)->y() - oben;
-    EXPECT_LT(feld(0)->y(), oben);
+    EXPECT_LT(feld("Datum")->y(), oben);
     EXPECT_LE(schritt, 2 * feld(1)->height());
     int vorher = oben;
     for (const int slot : sichtbar()) {
@@ -196,12 +196,12 @@ TEST_P(EingabeBild, VerborgenePlaetzeHinterlassenKeineLuecken) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Schriftgroessen, EingabeBild, testing::Values(100, 150));
+INSTANTIATE_TEST_SUITE_P(Schriftgrößen, EingabeBild, testing::Values(100, 150));
 
 class EingabeBedienung : public Eingabeprobe {};
 
-TEST_F(EingabeBedienung, DieTabulatortasteGehtVomDatumDurchDiePlaetzeZumNeuKnopf) {
-  oeffne(0);
+TEST_F(EingabeBedienung, DieTabulatortasteGehtVomDatumDurchDiePlätzeZumNeuKnopf) {
+  öffne(0);
   QStringList folge;
   for (int i = 0; i < 28; ++i) {
     folge.append(QApplication::focusWidget()->objectName());
@@ -214,16 +214,16 @@ TEST_F(EingabeBedienung, DieTabulatortasteGehtVomDatumDurchDiePlaetzeZumNeuKnopf
   EXPECT_EQ(folge, erwartet);
 }
 
-TEST_F(EingabeBedienung, VonDerNotizFuehrtDieTabulatortasteZumNeuKnopf) {
-  oeffne(10);
-  taste(feld(0), Qt::Key_Tab);
+TEST_F(EingabeBedienung, VonDerNotizFührtDieTabulatortasteZumNeuKnopf) {
+  öffne(10);
+  taste(feld("Datum"), Qt::Key_Tab);
   EXPECT_EQ(QApplication::focusWidget(), notiz());
   taste(notiz(), Qt::Key_Tab);
   EXPECT_EQ(QApplication::focusWidget()->objectName(), "neu_0");
 }
 
 TEST_F(EingabeBedienung, KeineMerktasteIstDoppeltVergeben) {
-  oeffne(0);
+  öffne(0);
   QStringList tasten;
   const auto sammle = [&](const QString& text) {
     const qsizetype ort = text.indexOf('&');
@@ -236,8 +236,8 @@ TEST_F(EingabeBedienung, KeineMerktasteIstDoppeltVergeben) {
   EXPECT_EQ(tasten.removeDuplicates(), 0) << qPrintable(tasten.join(' '));
 }
 
-TEST_F(EingabeBedienung, DieBeschriftungenDerKnoepfeStehenFest) {
-  oeffne(0);
+TEST_F(EingabeBedienung, DieBeschriftungenDerKnöpfeStehenFest) {
+  öffne(0);
   const QList<std::pair<QString, QString>> erwartet{{"neu_0", "&Neu"},
                                                     {"neu_1", "&Ändern"},
                                                     {"standard_0", "Standard sichern"},
@@ -251,7 +251,7 @@ TEST_F(EingabeBedienung, DieBeschriftungenDerKnoepfeStehenFest) {
 }
 
 TEST_F(EingabeBedienung, JedesSichtbareEingabefeldHatEinenVorlesenamen) {
-  oeffne(0);
+  öffne(0);
   for (int art = 0; art < 10; ++art) {
     klicke("opti_" + QString::number(art));
     for (const int slot : sichtbar())
@@ -264,11 +264,11 @@ TEST_F(EingabeBedienung, JedesSichtbareEingabefeldHatEinenVorlesenamen) {
 TEST_F(EingabeBedienung, DieHilfeKenntDasThemaDerForm) {
   QString thema;
   Formular::setHilfe([&](QWidget*, const QString& t) { thema = t; });
-  oeffne(0);
+  öffne(0);
   klicke("comhilfe");
   EXPECT_EQ(thema, "TE_Eingabe");
   thema.clear();
-  taste(feld(0), Qt::Key_F1);
+  taste(feld("Datum"), Qt::Key_F1);
   EXPECT_EQ(thema, "TE_Eingabe");
   Formular::setHilfe({});
 }

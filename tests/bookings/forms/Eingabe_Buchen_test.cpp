@@ -13,10 +13,10 @@ const QString DreiMarkiert =
     "eingetragen werden?";
 
 TEST_F(Buchen, NeuMitEinemVolkFragtNichtsUndBuchtSofort) {
-  oeffne(5);
-  tippe(1, "Füttern");
-  tippe(2, "1,5");
-  tippe(4, "nach Regen");
+  öffne(5);
+  tippe("Arbeitsart", "Füttern");
+  tippe("Zeit (h)", "1,5");
+  tippe("Bemerkung", "nach Regen");
   klicke("neu_0");
   const Daten daten = lies("select * from Arbeiten");
   ASSERT_EQ(daten->zeilen(), 1);
@@ -30,103 +30,146 @@ TEST_F(Buchen, NeuMitEinemVolkFragtNichtsUndBuchtSofort) {
   EXPECT_EQ(feldwert("Volk_ID").toInt(), 1);
   EXPECT_EQ(li()->zeilen(), 1);
   EXPECT_EQ(ListeNeuLesen, 1);
-  EXPECT_TRUE(hatFokus(0));
-  EXPECT_EQ(text(1), "Füttern") << "the newest booking is the copy to begin with";
+  EXPECT_TRUE(hatFokus("Datum"));
+  EXPECT_EQ(text("Arbeitsart"), "Füttern") << "the newest booking is the copy to begin with";
+}
+
+// The day typed next replaces the one that stands there, wherever the focus came from.
+TEST_F(Buchen, DasDatumIstMarkiertSoOftDasProgrammHineingeht) {
+  const auto bereit = [this](const char* woher) {
+    EXPECT_TRUE(hatFokus("Datum")) << woher;
+    EXPECT_EQ(feld("Datum")->selectedText(), text("Datum")) << woher;
+    feld("Datum")->end(false);
+  };
+  öffne(5);
+  bereit("Öffnen");
+  taste(feld("Datum"), Qt::Key_Return);
+  bereit("Buchung");
+  klicke("nextvolk1_1");
+  bereit("Nächstes");
+  klicke("nextvolk1_0");
+  bereit("Voriges");
+  wähleStandort("Waldrand");
+  bereit("Standort");
+  klicke("opti_8");
+  bereit("Art");
+  boxen.hinweis(FalschesDatum);
+  tippe("Datum", "31.2.");
+  taste(feld("Datum"), Qt::Key_Return);
+  bereit("falsches Datum");
+}
+
+TEST_F(Buchen, DerTagDerNächstenBuchungWirdEinfachGetippt) {
+  öffne(5);
+  taste(feld("Datum"), Qt::Key_Return);
+  tasten(QApplication::focusWidget(), "7");
+  taste(feld("Datum"), Qt::Key_Return);
+  EXPECT_EQ(wert("select max(Datum) from Arbeiten").toString(), "2026-06-15");
+  EXPECT_EQ(wert("select min(Datum) from Arbeiten").toString(), "2026-06-07");
+}
+
+TEST_F(Buchen, EinAngefangenerTextDerListeWirdNichtDanebenGebucht) {
+  zeile("Honigernte", 2, "2026-05-20", {{"Honigsorte", "Lindenhonig"}, {"Menge_kg", 3}});
+  öffne(1);
+  tippe("Menge (kg)", "2");
+  tippe("Honigsorte", "Lin");
+  taste(feld("Honigsorte"), Qt::Key_Return);
+  EXPECT_EQ(wert("select Honigsorte from Honigernte where Volk_ID = 1").toString(), "Lindenhonig");
 }
 
 TEST_F(Buchen, DieEingabetasteBuchtAusJedemPlatz) {
-  oeffne(5);
-  tippe(1, "Füttern");
-  taste(feld(1), Qt::Key_Return);
+  öffne(5);
+  tippe("Arbeitsart", "Füttern");
+  taste(feld("Arbeitsart"), Qt::Key_Return);
   EXPECT_EQ(anzahl("Arbeiten"), 1);
-  EXPECT_TRUE(hatFokus(0));
+  EXPECT_TRUE(hatFokus("Datum"));
 }
 
-TEST_F(Buchen, NachLoeschenUndNeinBuchtDieEingabetasteWieder) {
+TEST_F(Buchen, NachLöschenUndNeinBuchtDieEingabetasteWieder) {
   zeile("Arbeiten", 1, "2026-05-20", {{"Arbeitsart", "Füttern"}});
-  TZ_Variablen::EinstellungenZahl[55] = 1;
-  oeffne(5);
+  TZ_Variablen::EinstellungenZahl[Zahlslots.löschabfrage] = 1;
+  öffne(5);
   boxen.frageMit("Soll der markierte Datensatz", false);
   kind<QAbstractButton>("löschen")->setFocus();
   klicke("löschen");
-  tippe(1, "Kontrolle");
-  taste(feld(1), Qt::Key_Return);
+  tippe("Arbeitsart", "Kontrolle");
+  taste(feld("Arbeitsart"), Qt::Key_Return);
   EXPECT_EQ(anzahl("Arbeiten"), 2);
 }
 
-TEST_F(Buchen, NachDemSchliessenUndWiederoeffnenBuchtDieEingabetaste) {
-  oeffne(5);
+TEST_F(Buchen, NachDemSchließenUndWiederöffnenBuchtDieEingabetaste) {
+  öffne(5);
   kind<QAbstractButton>("cmdschließen")->setFocus();
   klicke("cmdschließen");
-  oeffne(5);
-  tippe(1, "Kontrolle");
-  taste(feld(1), Qt::Key_Return);
+  öffne(5);
+  tippe("Arbeitsart", "Kontrolle");
+  taste(feld("Arbeitsart"), Qt::Key_Return);
   EXPECT_EQ(anzahl("Arbeiten"), 1);
   EXPECT_TRUE(form->isVisible());
 }
 
 TEST_F(Buchen, EineGehalteneEingabetasteBuchtNurEinmal) {
-  oeffne(5);
-  tippe(1, "Füttern");
-  taste(feld(1), Qt::Key_Return);
+  öffne(5);
+  tippe("Arbeitsart", "Füttern");
+  taste(feld("Arbeitsart"), Qt::Key_Return);
   for (int i = 0; i < 5; ++i) {
     QKeyEvent nochmal(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-    QApplication::sendEvent(feld(0), &nochmal);
+    QApplication::sendEvent(feld("Datum"), &nochmal);
   }
   EXPECT_EQ(anzahl("Arbeiten"), 1);
 }
 
 TEST_F(Buchen, DieEingabetasteInDenListenBuchtNicht) {
   zeile("Arbeiten", 1, "2026-05-20", {{"Arbeitsart", "Füttern"}});
-  oeffne(5);
+  öffne(5);
   for (QWidget* hier : QList<QWidget*>{li(), volkli(), kind<QWidget>("kom")}) {
     hier->setFocus();
     taste(hier, Qt::Key_Return);
     EXPECT_EQ(anzahl("Arbeiten"), 1);
-    EXPECT_TRUE(hatFokus(0));
+    EXPECT_TRUE(hatFokus("Datum"));
   }
 }
 
-TEST_F(Buchen, DatumskurzformenWerdenErgaenztAuchWennSofortGebuchtWird) {
-  const QList<std::pair<QString, QDate>> faelle{
+TEST_F(Buchen, DatumskurzformenWerdenErgänztAuchWennSofortGebuchtWird) {
+  const QList<std::pair<QString, QDate>> fälle{
       {"5", QDate(2026, 6, 5)},      {"17", QDate(2026, 6, 17)},        {"32", QDate(2026, 2, 3)},
       {"1.1", QDate(2026, 1, 1)},    {"010126", QDate(2026, 1, 1)},     {"0305", QDate(2026, 5, 3)},
       {"1.2.26", QDate(2026, 2, 1)}, {"29.02.2024", QDate(2024, 2, 29)}};
-  oeffne(7);
-  for (const auto& [getippt, datum] : faelle) {
+  öffne(7);
+  for (const auto& [getippt, datum] : fälle) {
     DB.Execute("delete from Gewichtsmessung");
-    tippe(0, getippt);
-    taste(feld(0), Qt::Key_Return);
+    tippe("Datum", getippt);
+    taste(feld("Datum"), Qt::Key_Return);
     EXPECT_EQ(wert("select Datum from Gewichtsmessung"), datum) << qPrintable(getippt);
-    EXPECT_EQ(text(0), datum.toString("dd.MM.yyyy"));
+    EXPECT_EQ(text("Datum"), datum.toString("dd.MM.yyyy"));
   }
 }
 
-TEST_F(Buchen, DieMerktasteErgaenztDasDatumAuch) {
-  oeffne(7);
-  tippe(0, "5");
-  taste(feld(0), Qt::Key_N, Qt::AltModifier);
+TEST_F(Buchen, DieMerktasteErgänztDasDatumAuch) {
+  öffne(7);
+  tippe("Datum", "5");
+  taste(feld("Datum"), Qt::Key_N, Qt::AltModifier);
   QTest::qWait(150);  // the button springs back before it clicks
   EXPECT_EQ(wert("select Datum from Gewichtsmessung"), QDate(2026, 6, 5));
 }
 
 TEST_F(Buchen, Der31FebruarWirdAbgelehntUndNichtsGeschrieben) {
-  oeffne(5);
-  tippe(1, "Füttern");
-  tippe(0, "31.2.2026");
+  öffne(5);
+  tippe("Arbeitsart", "Füttern");
+  tippe("Datum", "31.2.2026");
   boxen.hinweis(FalschesDatum);
-  taste(feld(0), Qt::Key_Return);
+  taste(feld("Datum"), Qt::Key_Return);
   EXPECT_EQ(boxen.fehler(), "");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
   EXPECT_EQ(ListeNeuLesen, 0);
-  EXPECT_EQ(text(1), "Füttern");
-  EXPECT_TRUE(hatFokus(0)) << "where there is something to mend";
+  EXPECT_EQ(text("Arbeitsart"), "Füttern");
+  EXPECT_TRUE(hatFokus("Datum")) << "where there is something to mend";
 }
 
 TEST_F(Buchen, OhneDatumWirdNichtsGebucht) {
-  oeffne(5);
-  tippe(0, "");
-  taste(feld(0), Qt::Key_Delete);
+  öffne(5);
+  tippe("Datum", "");
+  taste(feld("Datum"), Qt::Key_Delete);
   boxen.hinweis(FalschesDatum);
   klicke("neu_0");
   boxen.hinweis(FalschesDatum);
@@ -135,7 +178,7 @@ TEST_F(Buchen, OhneDatumWirdNichtsGebucht) {
 }
 
 TEST_F(Buchen, NeuOhneMarkiertesVolkVerlangtEines) {
-  oeffne(5);
+  öffne(5);
   markiere({});
   boxen.hinweis(
       "Bitte markieren Sie zuerst die Völker, bei denen die Buchung ausgeführt werden soll!");
@@ -143,10 +186,10 @@ TEST_F(Buchen, NeuOhneMarkiertesVolkVerlangtEines) {
   EXPECT_EQ(anzahl("Arbeiten"), 0);
 }
 
-TEST_F(Buchen, MitDreiMarkiertenVoelkernWirdEinmalGefragtUndBeiAllenGebucht) {
+TEST_F(Buchen, MitDreiMarkiertenVölkernWirdEinmalGefragtUndBeiAllenGebucht) {
   markiere({0, 1, 2});
-  oeffne(5);
-  tippe(1, "Füttern");
+  öffne(5);
+  tippe("Arbeitsart", "Füttern");
   boxen.frage(DreiMarkiert, true);
   klicke("neu_0");
   EXPECT_EQ(boxen.fehler(), "");
@@ -161,56 +204,56 @@ TEST_F(Buchen, MitDreiMarkiertenVoelkernWirdEinmalGefragtUndBeiAllenGebucht) {
 
 TEST_F(Buchen, NeinAufDieFrageBuchtNichtsUndDieEingabeBleibt) {
   markiere({0, 1, 2});
-  oeffne(5);
-  tippe(1, "Füttern");
+  öffne(5);
+  tippe("Arbeitsart", "Füttern");
   boxen.frage(DreiMarkiert, false);
   klicke("neu_0");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
-  EXPECT_EQ(text(1), "Füttern");
+  EXPECT_EQ(text("Arbeitsart"), "Füttern");
 }
 
-TEST_F(Buchen, AendernOhneBuchungVerlangtEinenDatensatz) {
-  oeffne(5);
+TEST_F(Buchen, ÄndernOhneBuchungVerlangtEinenDatensatz) {
+  öffne(5);
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!");
   klicke("neu_1");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
 }
 
-TEST_F(Buchen, AendernSchreibtDieGewaehlteZeileUndFindetSieWieder) {
+TEST_F(Buchen, ÄndernSchreibtDieGewählteZeileUndFindetSieWieder) {
   zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "eins"}});
   zeile("Arbeiten", 1, "2026-05-02", {{"Arbeitsart", "zwei"}});
   zeile("Arbeiten", 1, "2026-05-03", {{"Arbeitsart", "drei"}});
-  oeffne(5);
+  öffne(5);
   klicke(li(), 1);
-  tippe(1, "zwei neu");
-  tippe(0, "04.05.2026");
+  tippe("Arbeitsart", "zwei neu");
+  tippe("Datum", "04.05.2026");
   klicke("neu_1");
   ASSERT_EQ(li()->zeilen(), 3);
   EXPECT_EQ(li()->aktuelleZeile(), 2) << "the changed booking is the newest now";
   EXPECT_EQ(li()->zelle(2, "Arbeitsart"), "zwei neu");
-  EXPECT_EQ(text(1), "zwei neu");
+  EXPECT_EQ(text("Arbeitsart"), "zwei neu");
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where ID = 1"), "eins");
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where ID = 3"), "drei");
 }
 
-TEST_F(Buchen, EinZweitesAendernTrifftWiederDieselbeZeileMitIhrenWerten) {
+TEST_F(Buchen, EinZweitesÄndernTrifftWiederDieselbeZeileMitIhrenWerten) {
   zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "eins"}});
   zeile("Arbeiten", 1, "2026-05-02", {{"Arbeitsart", "zwei"}});
-  oeffne(5);
+  öffne(5);
   klicke(li(), 0);
-  tippe(4, "A");
+  tippe("Bemerkung", "A");
   klicke("neu_1");
   klicke("neu_1");
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where ID = 1"), "eins");
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where ID = 2"), "zwei");
 }
 
-TEST_F(Buchen, AendernMitDreiMarkiertenWarntUndAendertNurDieZeileDesAktuellenVolkes) {
+TEST_F(Buchen, ÄndernMitDreiMarkiertenWarntUndÄndertNurDieZeileDesAktuellenVolkes) {
   zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "alt"}});
   zeile("Arbeiten", 2, "2026-05-01", {{"Arbeitsart", "alt"}});
   markiere({0, 1, 2});
-  oeffne(5);
-  tippe(1, "neu");
+  öffne(5);
+  tippe("Arbeitsart", "neu");
   boxen.hinweis(
       "ACHTUNG: Sie haben mehrere Völker markiert und [Ändern] angeklickt. Änderungen können nur "
       "für ein Volk vorgenommen werden. Die Änderung wird deshalb nur beim aktuellen Volk 1 auf "
@@ -222,16 +265,16 @@ TEST_F(Buchen, AendernMitDreiMarkiertenWarntUndAendertNurDieZeileDesAktuellenVol
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten where Volk_ID = 2"), "alt");
 }
 
-TEST_F(Buchen, LoeschenOhneZeileVerlangtEinenDatensatz) {
-  oeffne(5);
+TEST_F(Buchen, LöschenOhneZeileVerlangtEinenDatensatz) {
+  öffne(5);
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
   klicke("löschen");
 }
 
-TEST_F(Buchen, LoeschenFragtUndNeinLaesstDieBuchungStehen) {
-  EinstellungenZahl[55] = 1;
+TEST_F(Buchen, LöschenFragtUndNeinLässtDieBuchungStehen) {
+  EinstellungenZahl[Zahlslots.löschabfrage] = 1;
   zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "eins"}});
-  oeffne(5);
+  öffne(5);
   boxen.frageMit("Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?", false);
   klicke("löschen");
   EXPECT_EQ(boxen.fehler(), "");
@@ -239,43 +282,43 @@ TEST_F(Buchen, LoeschenFragtUndNeinLaesstDieBuchungStehen) {
   EXPECT_EQ(li()->zeilen(), 1);
 }
 
-TEST_F(Buchen, LoeschenNimmtDieZeileUndZeigtDieDieNunDortSteht) {
-  EinstellungenZahl[55] = 1;
+TEST_F(Buchen, LöschenNimmtDieZeileUndZeigtDieDieNunDortSteht) {
+  EinstellungenZahl[Zahlslots.löschabfrage] = 1;
   zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "eins"}});
   zeile("Arbeiten", 1, "2026-05-02", {{"Arbeitsart", "zwei"}});
-  oeffne(5);
+  öffne(5);
   klicke(li(), 0);
   boxen.frageMit("unwiederbringlich", true);
   klicke("löschen");
   EXPECT_EQ(anzahl("Arbeiten"), 1);
   EXPECT_EQ(wert("select Arbeitsart from Arbeiten"), "zwei");
-  EXPECT_EQ(text(1), "zwei");
+  EXPECT_EQ(text("Arbeitsart"), "zwei");
   EXPECT_EQ(ListeNeuLesen, 0) << "deleting alone is no reason to read the list anew";
 }
 
-TEST_F(Buchen, LoeschenOhneSicherheitsabfrageLoeschtSofort) {
+TEST_F(Buchen, LöschenOhneSicherheitsabfrageLöschtSofort) {
   zeile("Arbeiten", 1, "2026-05-01", {{"Arbeitsart", "eins"}});
-  oeffne(5);
+  öffne(5);
   klicke("löschen");
   EXPECT_EQ(anzahl("Arbeiten"), 0);
   EXPECT_EQ(li()->zeilen(), 0);
 }
 
-TEST_F(Buchen, DieLoeschfrageKommtErstWennEineZeileGewaehltIst) {
-  EinstellungenZahl[55] = 1;
-  oeffne(5);
+TEST_F(Buchen, DieLöschfrageKommtErstWennEineZeileGewähltIst) {
+  EinstellungenZahl[Zahlslots.löschabfrage] = 1;
+  öffne(5);
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
   klicke("löschen");
   EXPECT_EQ(boxen.fehler(), "");
 }
 
-TEST_F(Buchen, GeteiltWerdenZehnKiloAufDreiVoelkerZuJe3Komma33) {
-  EinstellungenZahl[72] = 1;
-  EinstellungenZahl[68] = 1;
+TEST_F(Buchen, GeteiltWerdenZehnKiloAufDreiVölkerZuJe3Komma33) {
+  EinstellungenZahl[Zahlslots.sammelbuchungTeilen] = 1;
+  EinstellungenZahl[Zahlslots.ernteInsHoniglager] = 1;
   markiere({0, 1, 2});
-  oeffne(1);
-  tippe(1, "10");
-  tippe(2, "Raps");
+  öffne(1);
+  tippe("Menge (kg)", "10");
+  tippe("Honigsorte", "Raps");
   boxen.frage(DreiMarkiert, true);
   klicke("neu_0");
   for (int volk = 1; volk <= 3; ++volk)
@@ -287,18 +330,18 @@ TEST_F(Buchen, GeteiltWerdenZehnKiloAufDreiVoelkerZuJe3Komma33) {
 
 // 10 combs of 2.5 kg: 25 kg for the first colony, which the second one multiplies once more.
 TEST_F(Buchen, HonigwabenWerdenKiloUndDasZweiteVolkMultipliziertWeiter) {
-  EinstellungenZahl[73] = 1;
-  EinstellungenWert[5] = 2.5f;
+  EinstellungenZahl[Zahlslots.honigInWaben] = 1;
+  EinstellungenWert[Wertslots.kgJeHonigwabe] = 2.5f;
   markiere({0, 1});
-  oeffne(1);
-  tippe(1, "10");
+  öffne(1);
+  tippe("Menge (kg)", "10");
   boxen.frageMit("Es sind im Moment 2 Völker markiert.", true);
   klicke("neu_0");
   EXPECT_EQ(wert("select Menge_kg from Honigernte where Volk_ID = 1"), 25.0);
   EXPECT_EQ(wert("select Menge_kg from Honigernte where Volk_ID = 2"), 62.5);
 }
 
-TEST_F(Buchen, DreihundertVoelkerInEinemLauf) {
+TEST_F(Buchen, DreihundertVölkerInEinemLauf) {
   DB.Sammelschreiben([&] {
     for (int nr = 4; nr <= 300; ++nr) volk(QString::number(nr), "Volk", "Heide");
   });
@@ -306,8 +349,8 @@ TEST_F(Buchen, DreihundertVoelkerInEinemLauf) {
   QList<int> alle;
   for (int zeile = 0; zeile < 300; ++zeile) alle.append(zeile);
   liste->setMarkierteZeilen(alle);
-  oeffne(0);
-  tippe(13, "6");
+  öffne(0);
+  tippe("Brutwaben", "6");
   boxen.frageMit("Es sind im Moment 300 Völker markiert.", true);
   klicke("neu_0");
   EXPECT_EQ(anzahl("Stockkarte"), 300);
@@ -317,16 +360,16 @@ TEST_F(Buchen, DreihundertVoelkerInEinemLauf) {
 }
 
 // What closing does, whichever way the window is left.
-class Schliessen : public Eingabeprobe {
+class Schließen : public Eingabeprobe {
  protected:
   void bucheHonig() {
-    oeffne(1);
-    tippe(1, "12,5");
+    öffne(1);
+    tippe("Menge (kg)", "12,5");
     klicke("neu_0");
     ASSERT_EQ(wert("select Honigmenge_Gesamt from Bienenvolk where ID = 1").toDouble(), 0.0)
         << "the summary waits for the closing";
   }
-  void pruefeZusammenfassung() {
+  void prüfeZusammenfassung() {
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(wert("select Honigmenge_Gesamt from Bienenvolk where ID = 1"), 12.5);
     EXPECT_EQ(wert("select L_Honigmenge_kg from Bienenvolk where ID = 1"), 12.5);
@@ -335,52 +378,52 @@ class Schliessen : public Eingabeprobe {
   }
 };
 
-TEST_F(Schliessen, MitDemKnopfZiehtDieVolkfelderNach) {
+TEST_F(Schließen, MitDemKnopfZiehtDieVolkfelderNach) {
   bucheHonig();
   klicke("cmdschließen");
-  pruefeZusammenfassung();
+  prüfeZusammenfassung();
 }
 
-TEST_F(Schliessen, MitDerEscapetasteEbenso) {
+TEST_F(Schließen, MitDerEscapetasteEbenso) {
   bucheHonig();
-  taste(feld(0), Qt::Key_Escape);
-  pruefeZusammenfassung();
+  taste(feld("Datum"), Qt::Key_Escape);
+  prüfeZusammenfassung();
 }
 
-TEST_F(Schliessen, MitDemFensterrahmenEbenso) {
+TEST_F(Schließen, MitDemFensterrahmenEbenso) {
   bucheHonig();
   form->close();
-  pruefeZusammenfassung();
+  prüfeZusammenfassung();
 }
 
-TEST_F(Schliessen, OhneBuchungBleibtDasVolkWieEsIst) {
+TEST_F(Schließen, OhneBuchungBleibtDasVolkWieEsIst) {
   DB.Execute("update Bienenvolk set L_Honigmenge_kg = 77 where ID = 1");
-  oeffne(1);
+  öffne(1);
   form->close();
   EXPECT_EQ(wert("select L_Honigmenge_kg from Bienenvolk where ID = 1"), 77.0);
   EXPECT_EQ(ListeNeuLesen, 0);
 }
 
-TEST_F(Schliessen, DieGeloeschteErnteBleibtInDerZusammenfassungWennSonstNichtsGebuchtWurde) {
+TEST_F(Schließen, DieGelöschteErnteBleibtInDerZusammenfassungWennSonstNichtsGebuchtWurde) {
   zeile("Honigernte", 1, "2026-06-01", {{"Menge_kg", 8}});
   DB.Execute(
       "update Bienenvolk set L_Honigernte = ?, L_Honigmenge_kg = 8, Honigmenge_Gesamt = 8 "
       "where ID = 1",
       {QDate(2026, 6, 1)});
-  oeffne(1);
+  öffne(1);
   klicke("löschen");
   form->close();
   EXPECT_EQ(anzahl("Honigernte"), 0);
   EXPECT_EQ(wert("select L_Honigernte from Bienenvolk where ID = 1"), QDate(2026, 6, 1));
 }
 
-TEST_F(Schliessen, MitEinerAnderenBuchungDesVolkesFaelltDieGeloeschteErnteHeraus) {
+TEST_F(Schließen, MitEinerAnderenBuchungDesVolkesFälltDieGelöschteErnteHeraus) {
   zeile("Honigernte", 1, "2026-06-01", {{"Menge_kg", 8}});
   DB.Execute(
       "update Bienenvolk set L_Honigernte = ?, L_Honigmenge_kg = 8, Honigmenge_Gesamt = 8 "
       "where ID = 1",
       {QDate(2026, 6, 1)});
-  oeffne(1);
+  öffne(1);
   klicke("löschen");
   klicke("opti_5");
   klicke("neu_0");
@@ -389,24 +432,24 @@ TEST_F(Schliessen, MitEinerAnderenBuchungDesVolkesFaelltDieGeloeschteErnteHeraus
   EXPECT_EQ(wert("select Honigmenge_Gesamt from Bienenvolk where ID = 1").toDouble(), 0.0);
 }
 
-TEST_F(Schliessen, DieGebuchtenVoelkerGeltenNurFuerDieseOeffnung) {
+TEST_F(Schließen, DieGebuchtenVölkerGeltenNurFürDieseÖffnung) {
   bucheHonig();
   form->close();
   DB.Execute("update Bienenvolk set L_Honigmenge_kg = 77 where ID = 1");
   liste->datenvölkerlesen();
   liste->setAktuelleZeile(1);
-  oeffne(1);
+  öffne(1);
   klicke("neu_0");
   form->close();
   EXPECT_EQ(wert("select L_Honigmenge_kg from Bienenvolk where ID = 1"), 77.0);
 }
 
-TEST_F(Schliessen, BeimZweitenOeffnenStehtWiederHeuteImDatum) {
-  oeffne(5);
-  tippe(0, "01.01.2026");
+TEST_F(Schließen, BeimZweitenÖffnenStehtWiederHeuteImDatum) {
+  öffne(5);
+  tippe("Datum", "01.01.2026");
   form->close();
-  oeffne(5);
-  EXPECT_EQ(text(0), "15.06.2026");
+  öffne(5);
+  EXPECT_EQ(text("Datum"), "15.06.2026");
 }
 
 }  // namespace

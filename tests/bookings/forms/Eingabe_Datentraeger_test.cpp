@@ -5,13 +5,13 @@
 
 #include "Eingabeprobe.h"
 #include "gemeinsam/AndererBenutzer.h"
-#include "platform/database/Verbindung.h"
+#include "platform/database/verbindung/Verbindung.h"
 
 namespace {
 
 using namespace TZ_Variablen;
 
-class EingabeDatentraeger : public Eingabeprobe {
+class EingabeDatenträger : public Eingabeprobe {
  protected:
   Verbindung& verbindung() { return *Verbindung::zu(DatenbankPfad); }
   // From now on the database can grow by two pages only.
@@ -28,80 +28,80 @@ class EingabeDatentraeger : public Eingabeprobe {
 
   // One booking of the first colony is saved; then, with more than one colony to book, all are
   // marked and the next booking is typed.
-  void bucheUndTippe(int voelker) {
+  void bucheUndTippe(int völker) {
     DB.Sammelschreiben([&] {
-      for (int nr = 4; nr <= voelker; ++nr) volk(QString::number(nr), "Volk", "Heide");
+      for (int nr = 4; nr <= völker; ++nr) volk(QString::number(nr), "Volk", "Heide");
     });
-    oeffne(5);
-    tippe(1, "vorher");
+    öffne(5);
+    tippe("Arbeitsart", "vorher");
     klicke("neu_0");
-    if (voelker > 1) {
+    if (völker > 1) {
       volkli()->setFocus();
       taste(volkli(), Qt::Key_A, Qt::ControlModifier);
       QTest::qWait(20);
     }
-    ASSERT_EQ(liste->markierteZeilen().size(), voelker);
-    tippe(0, "14.06.2026");
-    tippe(1, "Waben schneiden");
-    tippe(2, "0,25");
-    tippe(4, "alle");
+    ASSERT_EQ(liste->markierteZeilen().size(), völker);
+    tippe("Datum", "14.06.2026");
+    tippe("Arbeitsart", "Waben schneiden");
+    tippe("Zeit (h)", "0,25");
+    tippe("Bemerkung", "alle");
   }
-  void pruefeEingabeSteht(int voelker) {
+  void prüfeEingabeSteht(int völker) {
     EXPECT_EQ(boxen.fehler(), "");
-    EXPECT_EQ(text(0), "14.06.2026");
-    EXPECT_EQ(text(1), "Waben schneiden");
-    EXPECT_EQ(text(2), "0,25");
-    EXPECT_EQ(text(4), "alle");
-    EXPECT_EQ(liste->markierteZeilen().size(), voelker);
-    EXPECT_EQ(volkli()->markierteZeilen().size(), voelker);
+    EXPECT_EQ(text("Datum"), "14.06.2026");
+    EXPECT_EQ(text("Arbeitsart"), "Waben schneiden");
+    EXPECT_EQ(text("Zeit (h)"), "0,25");
+    EXPECT_EQ(text("Bemerkung"), "alle");
+    EXPECT_EQ(liste->markierteZeilen().size(), völker);
+    EXPECT_EQ(volkli()->markierteZeilen().size(), völker);
     EXPECT_FALSE(SammelFolgevolk);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_TRUE(volkli()->isEnabled());
   }
-  void pruefeNurFrueheresGespeichert() {
+  void prüfeNurFrüheresGespeichert() {
     EXPECT_EQ(wert("select Arbeitsart from Arbeiten"), "vorher");
     EXPECT_EQ(anzahl("Arbeiten"), 1);
     ASSERT_EQ(li()->zeilen(), 1);
     EXPECT_EQ(li()->zelle(0, "Arbeitsart"), "vorher");
   }
   // The second try, without typing anything anew.
-  void pruefeNeuerAnlauf(int voelker) {
-    boxen.frageMit(QString::number(voelker) + " Völker markiert", true);
+  void prüfeNeuerAnlauf(int völker) {
+    boxen.frageMit(QString::number(völker) + " Völker markiert", true);
     klicke("neu_0");
     EXPECT_EQ(boxen.fehler(), "");
-    EXPECT_EQ(anzahl("Arbeiten"), voelker + 1);
+    EXPECT_EQ(anzahl("Arbeiten"), völker + 1);
     EXPECT_EQ(wert("select count(*) as n from Arbeiten where Arbeitsart = 'Waben schneiden' and "
                    "Bemerkung = 'alle' and Zeit_h = 0.25")
                   .toInt(),
-              voelker);
+              völker);
     EXPECT_EQ(li()->zeilen(), 2);
     EXPECT_EQ(verbindung().steuere("pragma integrity_check"), "ok");
     form->close();
   }
 };
 
-TEST_F(EingabeDatentraeger, VollerDatentraegerImLaufUeberDreihundertVoelker) {
+TEST_F(EingabeDatenträger, VollerDatenträgerImLaufÜberDreihundertVölker) {
   bucheUndTippe(300);
   fastVoll();
   boxen.frageMit("300 Völker markiert", true).hinweis(keinPlatz());
   klicke("neu_0");
-  pruefeEingabeSteht(300);
-  pruefeNurFrueheresGespeichert();
+  prüfeEingabeSteht(300);
+  prüfeNurFrüheresGespeichert();
   wiederPlatz();
-  pruefeNeuerAnlauf(300);
+  prüfeNeuerAnlauf(300);
 }
 
-TEST_F(EingabeDatentraeger, VollerDatentraegerZweimalHintereinanderVerliertNichts) {
+TEST_F(EingabeDatenträger, VollerDatenträgerZweimalHintereinanderVerliertNichts) {
   bucheUndTippe(300);
   fastVoll();
   for (int versuch = 0; versuch < 2; ++versuch) {
     boxen.frageMit("300 Völker markiert", true).hinweis(keinPlatz());
     klicke("neu_0");
-    pruefeEingabeSteht(300);
-    pruefeNurFrueheresGespeichert();
+    prüfeEingabeSteht(300);
+    prüfeNurFrüheresGespeichert();
   }
   wiederPlatz();
-  pruefeNeuerAnlauf(300);
+  prüfeNeuerAnlauf(300);
 }
 
 // Reading and looking into it is allowed to all, writing to nobody.
@@ -131,7 +131,7 @@ class Schreibschutz {
   std::optional<AndererBenutzer> m_niemand;
 };
 
-TEST_F(EingabeDatentraeger, DatenbankUndOrdnerWerdenWaehrendDerArbeitSchreibgeschuetzt) {
+TEST_F(EingabeDatenträger, DatenbankUndOrdnerWerdenWährendDerArbeitSchreibgeschützt) {
   bucheUndTippe(3);
   {
     const Schreibschutz schutz;
@@ -141,13 +141,13 @@ TEST_F(EingabeDatentraeger, DatenbankUndOrdnerWerdenWaehrendDerArbeitSchreibgesc
                     "\" kann nicht beschrieben werden. Bitte prüfen Sie, ob die Datei oder ihr "
                     "Ordner schreibgeschützt ist.");
     klicke("neu_0");
-    pruefeEingabeSteht(3);
-    pruefeNurFrueheresGespeichert();
+    prüfeEingabeSteht(3);
+    prüfeNurFrüheresGespeichert();
   }
-  pruefeNeuerAnlauf(3);
+  prüfeNeuerAnlauf(3);
 }
 
-TEST_F(EingabeDatentraeger, SchreibgeschuetztMisslingenAuchAendernUndLoeschenOhneVerlust) {
+TEST_F(EingabeDatenträger, SchreibgeschütztMisslingenAuchÄndernUndLöschenOhneVerlust) {
   bucheUndTippe(1);
   {
     const Schreibschutz schutz;
@@ -155,16 +155,16 @@ TEST_F(EingabeDatentraeger, SchreibgeschuetztMisslingenAuchAendernUndLoeschenOhn
     boxen.hinweisMit("kann nicht beschrieben werden");
     klicke("neu_1");
     EXPECT_EQ(boxen.fehler(), "");
-    EXPECT_EQ(text(1), "Waben schneiden");
+    EXPECT_EQ(text("Arbeitsart"), "Waben schneiden");
     boxen.hinweisMit("kann nicht beschrieben werden");
     klicke("löschen");
-    pruefeNurFrueheresGespeichert();
+    prüfeNurFrüheresGespeichert();
   }
   klicke("neu_1");
   EXPECT_EQ(li()->zelle(0, "Arbeitsart"), "Waben schneiden");
 }
 
-TEST_F(EingabeDatentraeger, SchreibgeschuetztSchliesstDieFormMitMeldung) {
+TEST_F(EingabeDatenträger, SchreibgeschütztSchließtDieFormMitMeldung) {
   bucheUndTippe(1);
   const Schreibschutz schutz;
   ASSERT_TRUE(schutz.gilt());
@@ -174,14 +174,14 @@ TEST_F(EingabeDatentraeger, SchreibgeschuetztSchliesstDieFormMitMeldung) {
   EXPECT_FALSE(form->isVisible());
 }
 
-TEST_F(EingabeDatentraeger, EineMaskeLaesstSichSchreibgeschuetztNichtSichernUndDieEingabeBleibt) {
+TEST_F(EingabeDatenträger, EineMaskeLässtSichSchreibgeschütztNichtSichernUndDieEingabeBleibt) {
   bucheUndTippe(1);
   const Schreibschutz schutz;
   ASSERT_TRUE(schutz.gilt());
   boxen.hinweisMit("TOVA_TE_EINGABE_STD5.TV2");
   klicke("standard_0");
   EXPECT_EQ(boxen.fehler(), "");
-  EXPECT_EQ(text(1), "Waben schneiden");
+  EXPECT_EQ(text("Arbeitsart"), "Waben schneiden");
   boxen.hinweisMit("kann nicht beschrieben werden");  // the colonies' fields, on closing
   form->close();
 }

@@ -5,13 +5,12 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QTemporaryDir>
 #include <memory>
 
 #include "bookings/forms/TE_Eingabe.h"
-#include "core/globals.h"
 #include "data/schema.h"
 #include "gemeinsam/Formularprobe.h"
+#include "gemeinsam/Musterdatenbank.h"
 #include "gemeinsam/Testliste.h"
 
 // gtest shows QString values readable.
@@ -23,20 +22,17 @@ inline void PrintTo(const QString& text, std::ostream* aus) {
 class Eingabebetrieb : public testing::Test {
  protected:
   void SetUp() override {
-    TZ_Variablen::zuruecksetzen();
-    TZ_Variablen::AppPfad = m_ordner.path() + "/";
-    TZ_Variablen::DatenbankPfad = TZ_Variablen::AppPfad + "TOVA2.MDB";
-    TZ_Variablen::HeuteText = "15.06.2026";
-    DatenbankAnlegen();
-    volk("1", "Anna", "Hof");
-    volk("2", "Berta", "Waldrand");
-    volk("3", "Carla", "Hof");
+    static Musterdatenbank muster([] {
+      volk("1", "Anna", "Hof");
+      volk("2", "Berta", "Waldrand");
+      volk("3", "Carla", "Hof");
+    });
+    muster.kopieren();
   }
-  void TearDown() override { TZ_Variablen::zuruecksetzen(); }
 
   // Writes a colony; the first one gets the ID 1.
-  void volk(const QString& nr, const QString& name, const QString& standort,
-            int wabenJeMagazin = 10) {
+  static void volk(const QString& nr, const QString& name, const QString& standort,
+                   int wabenJeMagazin = 10) {
     TZ_Variablen::DB.Execute(
         "insert into Bienenvolk (Volknr, Volkname, Standort, Waben_je_Magazin, Akt_im_Bestand) "
         "values (?, ?, ?, ?, 'X')",
@@ -66,7 +62,7 @@ class Eingabebetrieb : public testing::Test {
     return daten->zeilen() == 0 ? QVariant("no row") : daten->wert(0, 0);
   }
 
-  QTemporaryDir m_ordner;
+  Programmordner m_ordner{"15.06.2026"};
 };
 
 // The form on it.
@@ -81,10 +77,11 @@ class Eingabeprobe : public Formularprobe<TE_Eingabe, Eingabebetrieb> {
   }
 
   // Shows the form for a type; the main list stands on its first colony unless one is there.
-  void oeffne(int art) {
+  void öffne(int art) {
     if (!liste) liste = std::make_unique<Testliste>();
     if (!form) form = neueForm();
     TZ_Variablen::BuchungsArt = art;
+    form->laden();
     form->show();
     form->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
@@ -94,17 +91,18 @@ class Eingabeprobe : public Formularprobe<TE_Eingabe, Eingabebetrieb> {
     liste->setMarkierteZeilen(zeilen);
   }
 
-  QPlainTextEdit* notiz() { return kind<QPlainTextEdit>("sevt_15"); }
+  QPlainTextEdit* notiz() { return Beschriftet::finde<QPlainTextEdit>(form.get(), "Notiz"); }
+  QString text(const QString& name) { return feld(name)->text(); }
   QString text(int slot) { return feld(slot)->text(); }
   QString schild(const QString& name) { return kind<QLabel>(name)->text(); }
   Grid* li() { return kind<Grid>("li"); }
   Grid* volkli() { return kind<Grid>("volkli"); }
-  bool hatFokus(int slot) { return QApplication::focusWidget() == feld(slot); }
+  bool hatFokus(const QString& name) { return QApplication::focusWidget() == feld(name); }
 
   void taste(QWidget* ziel, Qt::Key taste, Qt::KeyboardModifiers dazu = Qt::NoModifier) {
     QTest::keyClick(ziel, taste, dazu);
   }
-  void fuegeEin(QWidget* ziel, const QString& text) {
+  void fügeEin(QWidget* ziel, const QString& text) {
     QApplication::clipboard()->setText(text);
     ziel->setFocus();
     QTest::keyClick(ziel, Qt::Key_A, Qt::ControlModifier);
@@ -114,7 +112,7 @@ class Eingabeprobe : public Formularprobe<TE_Eingabe, Eingabebetrieb> {
   void klicke(Grid* liste, int zeile, Qt::KeyboardModifiers dazu = Qt::NoModifier) {
     QTest::mouseClick(liste->viewport(), Qt::LeftButton, dazu, mitte(liste, zeile));
   }
-  void waehleStandort(const QString& standort) {
+  void wähleStandort(const QString& standort) {
     auto* kom = kind<QComboBox>("kom");
     const int index = kom->findText(standort);
     ASSERT_GE(index, 0) << qPrintable(standort);

@@ -20,15 +20,15 @@ class Formtest : public Formularprobe<TV_Neues_Volk, Testbetrieb> {
     Formularprobe::TearDown();
   }
 
-  void oeffne(const QString& modus, int zeile = 0) {
+  void öffne(const QString& modus, int zeile = 0) {
     if (!liste) liste = std::make_unique<Testliste>("select * from Bienenvolk order by ID");
     if (liste->zeilen() > 0) liste->setAktuelleZeile(zeile);
     TZ_Variablen::VolkModus = modus;
     TZ_Variablen::ListeNeuLesen = 0;
-    Formularprobe::oeffne();
+    Formularprobe::öffne();
   }
-  void neu() { oeffne("Neu"); }
-  void aendern(int zeile = 0) { oeffne(QString("Ändern"), zeile); }
+  void neu() { öffne("Neu"); }
+  void ändern(int zeile = 0) { öffne(QString("Ändern"), zeile); }
 
   QString inhalt(const QString& name) { return feld(name)->inhalt(); }
 

@@ -67,7 +67,7 @@ TEST_F(Markieren, MarkierteWerdenSelektiert) {
   EXPECT_EQ(liste->zelle(2, "Selektiert"), "X");
 }
 
-TEST_F(Markieren, MarkierteSelektierenLoeschtAuchDieVomFilterVerborgenen) {
+TEST_F(Markieren, MarkierteSelektierenLöschtAuchDieVomFilterVerborgenen) {
   merke({"2", "5"});
   liste->setMarkierteZeilen({0});
   markierteSelektieren();
@@ -81,20 +81,20 @@ TEST_F(Markieren, OhneMarkierteZeileIstDanachKeinVolkSelektiert) {
   EXPECT_EQ(selektiert(), "");
 }
 
-TEST_F(Markieren, NachDemSelektierenFragtDasMenueUndJaMarkiert) {
+TEST_F(Markieren, NachDemSelektierenFragtDasMenüUndJaMarkiert) {
   boxen.frage("Es sind 4 Völker selektiert. Sollen diese auch gleich markiert werden?", true);
   boxen.hinweis(Strg);
   selektiereMit([](QWidget* form) { klick(form, "entselekt_7"); });
   EXPECT_EQ(liste->markierteZeilen(), QList<int>({0, 1, 2, 3}));
 }
 
-TEST_F(Markieren, NeinLaesstDieMarkierung) {
+TEST_F(Markieren, NeinLässtDieMarkierung) {
   boxen.frage("Es sind 4 Völker selektiert. Sollen diese auch gleich markiert werden?", false);
   selektiereMit([](QWidget* form) { klick(form, "entselekt_7"); });
   EXPECT_EQ(liste->markierteZeilen(), QList<int>({0}));
 }
 
-TEST_F(Markieren, DieFrageZaehltNurWasDieListeZeigt) {
+TEST_F(Markieren, DieFrageZähltNurWasDieListeZeigt) {
   boxen.frage("Es sind 4 Völker selektiert. Sollen diese auch gleich markiert werden?", false);
   selektiereMit([](QWidget* form) { klick(form, "entselekt_0"); });
   EXPECT_EQ(selektiert(), "1 2 3 4 5");

@@ -19,7 +19,7 @@ class TVSelektieren : public Selektionsprobe {
 };
 
 TEST_F(TVSelektieren, JedesFeldHatNamenUndBeschriftung) {
-  oeffne();
+  öffne();
   EXPECT_EQ(form->objectName(), "TV_Selektieren");
   EXPECT_EQ(kind<QCheckBox>("kon_0")->text(), "Alte Selektion vor neuer Selektion löschen");
   EXPECT_EQ(kind<QCheckBox>("kon_1")->text(),
@@ -32,13 +32,13 @@ TEST_F(TVSelektieren, JedesFeldHatNamenUndBeschriftung) {
 
 TEST_F(TVSelektieren, AuswahllistenZeigenJedenWertEinmalOhneDenLeeren) {
   db().Execute("update Bienenvolk set Standort = '' where Volknr = '4'");
-  oeffne();
-  EXPECT_EQ(feld(0)->liste(), QStringList({"Heide", "Hof"}));
-  EXPECT_EQ(feld(1)->liste(), QStringList());
-  EXPECT_EQ(feld(5)->beschreibung().auswahl, Selektion::zahlfelder());
+  öffne();
+  EXPECT_EQ(feld("Standort")->liste(), QStringList({"Heide", "Hof"}));
+  EXPECT_EQ(feld("Beuteart")->liste(), QStringList());
+  EXPECT_EQ(feld("Bezug")->beschreibung().auswahl, Selektion::zahlfelder());
 }
 
-TEST_F(TVSelektieren, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieDatenbankNicht) {
+TEST_F(TVSelektieren, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHältDieDatenbankNicht) {
   db().Execute("drop table Bienenvolk");
   form = std::make_unique<TV_Selektieren>();
   EXPECT_THROW(form->zeigen(), Datenbankfehler);
@@ -48,8 +48,8 @@ TEST_F(TVSelektieren, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieDatenb
 }
 
 TEST_F(TVSelektieren, SelektiertNachStandortUndLiestDieListeNeu) {
-  oeffne();
-  tippe(0, "Hof");
+  öffne();
+  tippe("Standort", "Hof");
   const int vorher = liste->gelesen;
   regel(2);
   EXPECT_TRUE(form->isVisible());
@@ -61,13 +61,13 @@ TEST_F(TVSelektieren, SelektiertNachStandortUndLiestDieListeNeu) {
 }
 
 TEST_F(TVSelektieren, RegelnLassenSichNacheinanderVerbinden) {
-  oeffne();
-  tippe(0, "Heide");
+  öffne();
+  tippe("Standort", "Heide");
   regel(2);
   EXPECT_EQ(selektiert(), "3 4");
   db().Execute("update Bienenvolk set Magazine = 2 where Volknr = '1'");
-  tippe(5, "MM");
-  tippe(6, "2");
+  tippe("Bezug", "MM");
+  tippe("Zahl, die der Bezug hat", "2");
   regel(8);
   EXPECT_EQ(selektiert(), "1 3 4");
   regel(1);
@@ -78,22 +78,22 @@ TEST_F(TVSelektieren, RegelnLassenSichNacheinanderVerbinden) {
 }
 
 TEST_F(TVSelektieren, AktuellImBestandSelektiertOhneEingabe) {
-  oeffne();
+  öffne();
   regel(7);
   EXPECT_EQ(selektiert(), "1 2 3 4");
 }
 
-TEST_F(TVSelektieren, AlteSelektionWirdMitHakenGeloescht) {
+TEST_F(TVSelektieren, AlteSelektionWirdMitHakenGelöscht) {
   merke({"1"});
-  oeffne();
+  öffne();
   klicke("kon_0");
-  tippe(0, "Heide");
+  tippe("Standort", "Heide");
   regel(2);
   EXPECT_EQ(selektiert(), "3 4");
 }
 
 TEST_F(TVSelektieren, NurBestandMitHaken) {
-  oeffne();
+  öffne();
   klicke("kon_1");
   regel(0);
   EXPECT_EQ(selektiert(), "1 2 3 4");
@@ -101,7 +101,7 @@ TEST_F(TVSelektieren, NurBestandMitHaken) {
 
 TEST_F(TVSelektieren, OhneAuswahlSagtDieFormWasFehltUndSchreibtNichts) {
   merke({"1"});
-  oeffne();
+  öffne();
   klicke("kon_0");
   const int vorher = liste->gelesen;
   boxen.hinweis(
@@ -110,7 +110,7 @@ TEST_F(TVSelektieren, OhneAuswahlSagtDieFormWasFehltUndSchreibtNichts) {
   regel(4);
   EXPECT_EQ(selektiert(), "1");
   EXPECT_EQ(liste->gelesen, vorher);
-  EXPECT_TRUE(feld(2)->hasFocus());
+  EXPECT_TRUE(feld("Rasse")->hasFocus());
 }
 
 TEST_F(TVSelektieren, JedeRegelNimmtDieEingabeNebenIhr) {
@@ -118,7 +118,7 @@ TEST_F(TVSelektieren, JedeRegelNimmtDieEingabeNebenIhr) {
   for (int i = 0; i < 5; ++i)
     db().Execute("update Bienenvolk set " + felder[i] + " = 'Probe' where Volknr = ?",
                  {QString::number(i + 1)});
-  oeffne();
+  öffne();
   klicke("kon_0");
   for (int i = 0; i < 5; ++i) {
     tippe(i, "Probe");
@@ -130,31 +130,31 @@ TEST_F(TVSelektieren, JedeRegelNimmtDieEingabeNebenIhr) {
   }
 }
 
-TEST_F(TVSelektieren, VoelkerWoMitKommazahl) {
+TEST_F(TVSelektieren, VölkerWoMitKommazahl) {
   db().Execute("update Bienenvolk set Volkstärke = 3.3 where Volknr = '2'");
-  oeffne();
-  tippe(5, "Vo");
-  EXPECT_EQ(feld(5)->inhalt(), "Volkstärke");
-  tippe(6, "3,3");
+  öffne();
+  tippe("Bezug", "Vo");
+  EXPECT_EQ(feld("Bezug")->inhalt(), "Volkstärke");
+  tippe("Zahl, die der Bezug hat", "3,3");
   regel(8);
   EXPECT_EQ(selektiert(), "2");
 }
 
-TEST_F(TVSelektieren, EingabetasteImFeldLoestSeineRegelAus) {
-  oeffne();
-  tippe(0, "Heide");
+TEST_F(TVSelektieren, EingabetasteImFeldLöstSeineRegelAus) {
+  öffne();
+  tippe("Standort", "Heide");
   EXPECT_TRUE(kind<QPushButton>("entselekt_2")->isDefault());
-  QTest::keyClick(feld(0), Qt::Key_Return);
+  QTest::keyClick(feld("Standort"), Qt::Key_Return);
   EXPECT_EQ(selektiert(), "3 4");
   EXPECT_TRUE(form->isVisible());
-  feld(6)->setFocus();
+  feld("Zahl, die der Bezug hat")->setFocus();
   EXPECT_TRUE(kind<QPushButton>("entselekt_8")->isDefault());
   kind("kon_0")->setFocus();
   EXPECT_TRUE(kind<QPushButton>("schliessen")->isDefault());
 }
 
 TEST_F(TVSelektieren, ReihenfolgeDerTabtaste) {
-  oeffne();
+  öffne();
   QWidget* w = kind("kon_0");
   w->setFocus();
   QStringList folge;
@@ -169,38 +169,38 @@ TEST_F(TVSelektieren, ReihenfolgeDerTabtaste) {
 }
 
 TEST_F(TVSelektieren, HakenStehenInSlot53Und52) {
-  EinstellungenZahl[53] = 1;
-  EinstellungenZahl[52] = 0;
-  oeffne();
+  EinstellungenZahl[Zahlslots.selektionAlteLöschen] = 1;
+  EinstellungenZahl[Zahlslots.selektionNurBestand] = 0;
+  öffne();
   EXPECT_TRUE(kon(0));
   EXPECT_FALSE(kon(1));
   klicke("kon_0");
   klicke("kon_1");
-  EXPECT_EQ(EinstellungenZahl[53], 1) << "erst beim Schließen";
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.selektionAlteLöschen], 1) << "erst beim Schließen";
   klicke("schliessen");
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(EinstellungenZahl[53], 0);
-  EXPECT_EQ(EinstellungenZahl[52], 1);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.selektionAlteLöschen], 0);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.selektionNurBestand], 1);
 }
 
-TEST_F(TVSelektieren, EscUndFensterschliessenMerkenDieHaken) {
-  oeffne();
+TEST_F(TVSelektieren, EscUndFensterschließenMerkenDieHaken) {
+  öffne();
   klicke("kon_0");
   QTest::keyClick(form.get(), Qt::Key_Escape);
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(EinstellungenZahl[53], 1);
-  oeffne();
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.selektionAlteLöschen], 1);
+  öffne();
   EXPECT_TRUE(kon(0));
   klicke("kon_1");
   form->close();
-  EXPECT_EQ(EinstellungenZahl[52], 1);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.selektionNurBestand], 1);
 }
 
-TEST_F(TVSelektieren, BeimNaechstenOeffnenSindDieEingabenLeer) {
-  oeffne();
-  tippe(0, "Hof");
-  tippe(5, "MM");
-  tippe(6, "2");
+TEST_F(TVSelektieren, BeimNächstenÖffnenSindDieEingabenLeer) {
+  öffne();
+  tippe("Standort", "Hof");
+  tippe("Bezug", "MM");
+  tippe("Zahl, die der Bezug hat", "2");
   form->close();
   form->laden();
   for (int i = 0; i < 7; ++i) EXPECT_EQ(feld(i)->inhalt(), "") << i;
@@ -209,15 +209,15 @@ TEST_F(TVSelektieren, BeimNaechstenOeffnenSindDieEingabenLeer) {
 TEST_F(TVSelektieren, HilfeMitKnopfUndF1) {
   QStringList themen;
   Formular::setHilfe([&](QWidget*, const QString& thema) { themen << thema; });
-  const auto zurueck = qScopeGuard([] { Formular::setHilfe({}); });
-  oeffne();
+  const auto zurück = qScopeGuard([] { Formular::setHilfe({}); });
+  öffne();
   klicke("comhilfe");
-  QTest::keyClick(feld(0), Qt::Key_F1);
+  QTest::keyClick(feld("Standort"), Qt::Key_F1);
   EXPECT_EQ(themen, QStringList({"TV_Selektieren", "TV_Selektieren"}));
 }
 
-TEST_F(TVSelektieren, EinDatenbankfehlerLaesstDieFormOffen) {
-  oeffne();
+TEST_F(TVSelektieren, EinDatenbankfehlerLässtDieFormOffen) {
+  öffne();
   db().Execute("drop table Bienenvolk");
   boxen.hinweisMit("Bienenvolk");
   regel(0);
@@ -228,7 +228,7 @@ TEST_F(TVSelektieren, EinDatenbankfehlerLaesstDieFormOffen) {
 class SelektierenBild : public TVSelektieren, public ::testing::WithParamInterface<int> {
  protected:
   // Those of the form, not the ones within its inputs.
-  QList<QAbstractButton*> knoepfe() const {
+  QList<QAbstractButton*> knöpfe() const {
     QList<QAbstractButton*> alle;
     for (auto* knopf : form->findChildren<QAbstractButton*>())
       if (!knopf->parent()->inherits("QLineEdit")) alle << knopf;
@@ -236,21 +236,21 @@ class SelektierenBild : public TVSelektieren, public ::testing::WithParamInterfa
   }
 
  private:
-  const Schriftgroesse m_schrift{GetParam()};
+  const Schriftgröße m_schrift{GetParam()};
 };
 
 TEST_P(SelektierenBild, NichtsIstAbgeschnittenUndEsPasstAufEinenKleinenSchirm) {
   db().Execute(
       "update Bienenvolk set Standort = 'Waldrand hinter Hohenlinden, am Hang' where "
       "Volknr = '1'");
-  oeffne();
-  tippe(0, "Waldrand hinter Hohenlinden, am Hang");
-  tippe(5, "WWW");
-  tippe(6, "3,25");
+  öffne();
+  tippe("Standort", "Waldrand hinter Hohenlinden, am Hang");
+  tippe("Bezug", "WWW");
+  tippe("Zahl, die der Bezug hat", "3,25");
   regel(0);
   EXPECT_LE(form->width(), 1366);
   EXPECT_LE(form->height(), 700);  // less the window's title and the task bar
-  for (auto* knopf : knoepfe()) {
+  for (auto* knopf : knöpfe()) {
     EXPECT_GE(knopf->width(), knopf->sizeHint().width()) << qPrintable(knopf->text());
     EXPECT_GE(knopf->height(), knopf->sizeHint().height()) << qPrintable(knopf->text());
   }
@@ -258,15 +258,16 @@ TEST_P(SelektierenBild, NichtsIstAbgeschnittenUndEsPasstAufEinenKleinenSchirm) {
   EXPECT_GE(anzahl->width(), anzahl->sizeHint().width());
   EXPECT_GE(anzahl->height(), anzahl->sizeHint().height());
   for (int i = 0; i < 7; ++i) EXPECT_GE(feld(i)->height(), feld(i)->sizeHint().height()) << i;
-  EXPECT_GE(feld(5)->width(), feld(5)->fontMetrics().horizontalAdvance("Winterfestigkeit") + 30);
+  EXPECT_GE(feld("Bezug")->width(),
+            feld("Bezug")->fontMetrics().horizontalAdvance("Winterfestigkeit") + 30);
   bildAblegen(*form, QString("sel_%1").arg(GetParam()));
   form->resize(form->minimumSizeHint());
   QTest::qWait(1);
-  for (auto* knopf : knoepfe())
+  for (auto* knopf : knöpfe())
     EXPECT_GE(knopf->width(), knopf->minimumSizeHint().width()) << qPrintable(knopf->text());
   bildAblegen(*form, QString("sel_%1_klein").arg(GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Schriftgroessen, SelektierenBild, ::testing::Values(100, 150));
+INSTANTIATE_TEST_SUITE_P(Schriftgrößen, SelektierenBild, ::testing::Values(100, 150));
 
 }  // namespace

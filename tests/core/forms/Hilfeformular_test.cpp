@@ -4,14 +4,14 @@
 #include <QClipboard>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
 
 #include "core/forms/TH_Hilfe.h"
-#include "core/globals.h"
 #include "core/help.h"
+#include "gemeinsam/Programmordner.h"
+#include "platform/controls/Ereignis.h"
 #include "platform/controls/Meldungen.h"
 #include "platform/files/Textdatei.h"
 
@@ -21,12 +21,7 @@ namespace {
 
 class Hilfeformular : public testing::Test {
  protected:
-  Hilfeformular() {
-    zuruecksetzen();
-    AppPfad = m_ordner.path() + u'/';
-    HilfeThema = QStringLiteral("TA_TOVA");
-  }
-  ~Hilfeformular() override { zuruecksetzen(); }
+  Hilfeformular() { HilfeThema = QStringLiteral("TA_TOVA"); }
 
   static void legDatei() {
     Textdatei::schreiben(
@@ -40,13 +35,13 @@ class Hilfeformular : public testing::Test {
     return form->findChild<QTextBrowser*>(QStringLiteral("hilfetext"));
   }
 
-  QTemporaryDir m_ordner;
+  Programmordner m_ordner{"20.06.2026"};
 };
 
 TEST_F(Hilfeformular, ZeigtDenAbschnittDesThemas) {
   legDatei();
   TH_Hilfe form(nullptr);
-  ASSERT_TRUE(form.lesen());
+  form.laden();
   EXPECT_EQ(text(&form)->toPlainText(),
             QStringLiteral("Das Hauptfenster\nLinks <die> Völker.\nrechts die Daten"));
 }
@@ -54,9 +49,9 @@ TEST_F(Hilfeformular, ZeigtDenAbschnittDesThemas) {
 TEST_F(Hilfeformular, EinAnderesThemaErsetztDasErste) {
   legDatei();
   TH_Hilfe form(nullptr);
-  form.lesen();
+  form.laden();
   HilfeThema = QStringLiteral("Zwei");
-  ASSERT_TRUE(form.lesen());
+  form.laden();
   EXPECT_EQ(text(&form)->toPlainText(), QStringLiteral("Zweites Thema"));
 }
 
@@ -65,7 +60,7 @@ TEST_F(Hilfeformular, FehlendeDateiWirdGemeldetUndNichtsGezeigt) {
   probe.hinweis(QStringLiteral("Die Hilfedatei ") + AppPfad +
                 QStringLiteral("HILFETOVA.HLP existiert nicht!"));
   TH_Hilfe form(nullptr);
-  form.zeigen();
+  EXPECT_FALSE(Ereignis::ausführen(nullptr, [&] { form.zeigen(); }));
   EXPECT_FALSE(form.isVisible());
   EXPECT_EQ(probe.fehler().toStdString(), "");
 }
@@ -74,13 +69,13 @@ TEST_F(Hilfeformular, UnbekanntesThemaWirdGesagt) {
   legDatei();
   HilfeThema = QStringLiteral("TW_Statistik");
   TH_Hilfe form(nullptr);
-  ASSERT_TRUE(form.lesen());
+  form.laden();
   EXPECT_TRUE(text(&form)->toPlainText().contains(
       QStringLiteral("gibt es zum Thema TW_Statistik noch keinen Abschnitt")))
       << text(&form)->toPlainText().toStdString();
 }
 
-TEST_F(Hilfeformular, EscUndSchliessenBeenden) {
+TEST_F(Hilfeformular, EscUndSchließenBeenden) {
   legDatei();
   for (const bool mitTaste : {true, false}) {
     TH_Hilfe form(nullptr);
@@ -99,22 +94,22 @@ TEST_F(Hilfeformular, EscUndSchliessenBeenden) {
   }
 }
 
-TEST_F(Hilfeformular, F1OeffnetKeineZweiteHilfe) {
+TEST_F(Hilfeformular, F1ÖffnetKeineZweiteHilfe) {
   legDatei();
   int gerufen = 0;
   Formular::setHilfe([&](QWidget*, const QString&) { ++gerufen; });
   TH_Hilfe form(nullptr);
-  form.lesen();
+  form.laden();
   form.show();
   QTest::keyClick(text(&form), Qt::Key_F1);
   Formular::setHilfe({});
   EXPECT_EQ(gerufen, 0);
 }
 
-TEST_F(Hilfeformular, TextLaesstSichKopierenAberNichtAendern) {
+TEST_F(Hilfeformular, TextLässtSichKopierenAberNichtÄndern) {
   legDatei();
   TH_Hilfe form(nullptr);
-  form.lesen();
+  form.laden();
   form.show();
   QTest::keyClicks(text(&form), QStringLiteral("xyz"));
   EXPECT_FALSE(text(&form)->toPlainText().contains(QStringLiteral("xyz")));
@@ -129,11 +124,11 @@ TEST_F(Hilfeformular, EinLangerTextBeginntOben) {
   zeilen += QStringLiteral("#ende#");
   Textdatei::schreiben(Hilfe::datei(), zeilen);
   TH_Hilfe form(nullptr);
-  form.lesen();
+  form.laden();
   form.show();
   QTest::keyClick(text(&form), Qt::Key_End, Qt::ControlModifier);
   EXPECT_GT(text(&form)->verticalScrollBar()->value(), 0);
-  form.lesen();
+  form.laden();
   EXPECT_EQ(text(&form)->verticalScrollBar()->value(), 0);
 }
 

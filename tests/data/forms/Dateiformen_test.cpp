@@ -7,14 +7,13 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
-#include "core/globals.h"
 #include "data/forms/TS_Dateiauswahl.h"
 #include "data/forms/TS_Dateispeichern.h"
 #include "data/forms/helpers_forms.h"
+#include "gemeinsam/Programmordner.h"
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Meldungen.h"
 #include "platform/files/Ton.h"
@@ -25,14 +24,7 @@ namespace {
 
 class Formen : public testing::Test {
  protected:
-  Formen() {
-    zuruecksetzen();
-    AppPfad = m_ordner.path() + u'/';
-  }
-  ~Formen() override {
-    Ton::setSpieler({});
-    zuruecksetzen();
-  }
+  void TearDown() override { Ton::setSpieler({}); }
 
   void leg(const QStringList& namen) const {
     for (const QString& name : namen) {
@@ -65,11 +57,11 @@ class Formen : public testing::Test {
     return fenster->findChild<Eingabefeld*>(QStringLiteral("t"));
   }
 
-  QTemporaryDir m_ordner;
+  Programmordner m_ordner{"20.06.2026"};
 };
 
-TEST_F(Formen, LoeschenFragtMitJaUndNein) {
-  EinstellungenZahl[55] = 1;
+TEST_F(Formen, LöschenFragtMitJaUndNein) {
+  EinstellungenZahl[Zahlslots.löschabfrage] = 1;
   const QString frage =
       QStringLiteral("Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?");
   Meldungen::Probe probe;
@@ -80,25 +72,25 @@ TEST_F(Formen, LoeschenFragtMitJaUndNein) {
   EXPECT_EQ(probe.fehler().toStdString(), "");
 }
 
-TEST_F(Formen, LoeschenOhneFrageBeimErstenKlick) {
+TEST_F(Formen, LöschenOhneFrageBeimErstenKlick) {
   Meldungen::Probe probe;
   for (const int wert : {0, 2, -1}) {
-    EinstellungenZahl[55] = static_cast<qint16>(wert);
+    EinstellungenZahl[Zahlslots.löschabfrage] = static_cast<qint16>(wert);
     EXPECT_TRUE(LoeschenBestaetigt());
   }
   EXPECT_EQ(probe.fehler().toStdString(), "");
 }
 
 TEST_F(Formen, TastentonNurMitPlatzVierzehn) {
-  QStringList toene;
+  QStringList töne;
   Ton::setSpieler(
-      [&](int hertz, int dauer) { toene += QStringLiteral("%1/%2").arg(hertz).arg(dauer); });
-  EinstellungenZahl[24] = 1;  // the box of the settings form isn't joined to it
+      [&](int hertz, int dauer) { töne += QStringLiteral("%1/%2").arg(hertz).arg(dauer); });
+  EinstellungenZahl[Zahlslots.piepton] = 1;  // the box of the settings form isn't joined to it
   Tastenton();
-  EXPECT_EQ(toene, QStringList());
-  EinstellungenZahl[14] = 1;
+  EXPECT_EQ(töne, QStringList());
+  EinstellungenZahl[Zahlslots.tastenton] = 1;
   Tastenton();
-  EXPECT_EQ(toene, QStringList{QStringLiteral("1000/15")});
+  EXPECT_EQ(töne, QStringList{QStringLiteral("1000/15")});
 }
 
 TEST_F(Formen, KeineDateiGibtEinenStrich) {
@@ -112,7 +104,7 @@ TEST_F(Formen, EineDateiKommtOhneFrage) {
   EXPECT_EQ(DateiWaehlen(muster()), QStringLiteral("eins.TKS"));
 }
 
-TEST_F(Formen, GrossUndKleinschreibungDerEndungZaehltNicht) {
+TEST_F(Formen, GroßUndKleinschreibungDerEndungZähltNicht) {
   leg({QStringLiteral("eins.tks")});
   EXPECT_EQ(DateiWaehlen(muster()), QStringLiteral("eins.tks"));
 }
@@ -137,7 +129,7 @@ TEST_F(Formen, MehrereDateienZeigenDieAuswahlNachDemAlphabet) {
   EXPECT_EQ(DateiErgebnis, QStringLiteral("b.TKS"));
 }
 
-TEST_F(Formen, SchliessenLaesstDasErgebnisLeer) {
+TEST_F(Formen, SchließenLässtDasErgebnisLeer) {
   leg({QStringLiteral("a.TKS"), QStringLiteral("b.TKS")});
   DateiErgebnis = QStringLiteral("von vorhin");
   wennOffen(QStringLiteral("TS_Dateiauswahl"), [](QWidget* fenster) {
@@ -148,14 +140,14 @@ TEST_F(Formen, SchliessenLaesstDasErgebnisLeer) {
   EXPECT_EQ(DateiErgebnis, QString());
 }
 
-TEST_F(Formen, EscLaesstDasErgebnisLeer) {
+TEST_F(Formen, EscLässtDasErgebnisLeer) {
   leg({QStringLiteral("a.TKS"), QStringLiteral("b.TKS")});
   wennOffen(QStringLiteral("TS_Dateiauswahl"),
             [](QWidget* fenster) { QTest::keyClick(fenster, Qt::Key_Escape); });
   EXPECT_EQ(DateiWaehlen(muster()), QString());
 }
 
-TEST_F(Formen, DoppelklickUndEingabetasteWaehlen) {
+TEST_F(Formen, DoppelklickUndEingabetasteWählen) {
   leg({QStringLiteral("a.TKS"), QStringLiteral("b.TKS")});
   wennOffen(QStringLiteral("TS_Dateiauswahl"),
             [](QWidget* fenster) { QTest::keyClick(liste(fenster), Qt::Key_Return); });
@@ -168,12 +160,12 @@ TEST_F(Formen, DoppelklickUndEingabetasteWaehlen) {
   EXPECT_EQ(DateiWaehlen(muster()), QStringLiteral("b.TKS"));
 }
 
-TEST_F(Formen, LeereAuswahlLaesstSichNichtBestaetigen) {
+TEST_F(Formen, LeereAuswahlLässtSichNichtBestätigen) {
   TS_Dateiauswahl form(muster(), nullptr);
   EXPECT_FALSE(knopf(&form, "ok")->isEnabled());
 }
 
-TEST_F(Formen, DateinameWirdUebernommen) {
+TEST_F(Formen, DateinameWirdÜbernommen) {
   wennOffen(QStringLiteral("TS_Dateispeichern"), [](QWidget* fenster) {
     EXPECT_EQ(fenster->windowTitle(), QStringLiteral("Datei speichern"));
     EXPECT_EQ(feld(fenster)->accessibleName(),
@@ -193,14 +185,14 @@ TEST_F(Formen, ImDateinamenFallenAndereTastenWeg) {
   EXPECT_EQ(feld(&form)->inhalt(), QStringLiteral("abcdefgZ*_"));
 }
 
-TEST_F(Formen, EineTasteDieWegfaelltLaesstDenCursorStehen) {
+TEST_F(Formen, EineTasteDieWegfälltLässtDenCursorStehen) {
   TS_Dateispeichern form(nullptr, QStringLiteral("abcd"));
   feld(&form)->setCursorPosition(2);
   QTest::keyClicks(feld(&form), QStringLiteral("-x"));
   EXPECT_EQ(feld(&form)->inhalt(), QStringLiteral("abxcd"));
 }
 
-TEST_F(Formen, EingefuegterTextWirdBereinigt) {
+TEST_F(Formen, EingefügterTextWirdBereinigt) {
   TS_Dateispeichern form(nullptr);
   QApplication::clipboard()->setText(QStringLiteral("../Völker 2026.TKS"));
   feld(&form)->paste();
@@ -213,7 +205,7 @@ TEST_F(Formen, DerVorschlagStehtMarkiertDa) {
   EXPECT_EQ(feld(&form)->selectedText(), QStringLiteral("Vlker1"));
 }
 
-TEST_F(Formen, SpeichernAbbrechenLaesstDasErgebnisLeer) {
+TEST_F(Formen, SpeichernAbbrechenLässtDasErgebnisLeer) {
   for (const bool mitTaste : {true, false}) {
     DateiErgebnis = QStringLiteral("von vorhin");
     wennOffen(QStringLiteral("TS_Dateispeichern"), [mitTaste](QWidget* fenster) {
@@ -228,7 +220,7 @@ TEST_F(Formen, SpeichernAbbrechenLaesstDasErgebnisLeer) {
   }
 }
 
-TEST_F(Formen, JedeEingabeHatEinenNamenUndEinenZugaenglichenNamen) {
+TEST_F(Formen, JedeEingabeHatEinenNamenUndEinenZugänglichenNamen) {
   leg({QStringLiteral("a.TKS"), QStringLiteral("b.TKS")});
   TS_Dateiauswahl auswahl(muster(), nullptr);
   TS_Dateispeichern speichern(nullptr);

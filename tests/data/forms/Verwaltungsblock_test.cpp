@@ -1,6 +1,9 @@
 #include "data/forms/Verwaltungsblock.h"
 
+#include <sqlite3.h>
+
 #include <QAbstractButton>
+#include <QSignalBlocker>
 #include <QTest>
 #include <memory>
 
@@ -8,6 +11,7 @@
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
+#include "platform/database/verbindung/Verbindung.h"
 
 using namespace Verwaltung;
 
@@ -62,7 +66,7 @@ class Probeblock : public Verwaltungsblock {
     p.listentitel = "Kunden";
     p.eingabe = "sevt";
     p.neu = "neu";
-    p.loeschen = "löschen";
+    p.löschen = "löschen";
     return p;
   }
 };
@@ -95,7 +99,7 @@ class Verwaltungsblocktest : public Testbetrieb {
   void klicke(const QString& name) {
     QTest::mouseClick(block->findChild<QAbstractButton*>(name), Qt::LeftButton);
   }
-  void waehle(int zeile) {
+  void wähle(int zeile) {
     Grid* li = block->liste();
     QTest::mouseClick(li->viewport(), Qt::LeftButton, {},
                       li->visualRect(li->model()->index(zeile, 0)).center());
@@ -126,8 +130,8 @@ TEST_F(Verwaltungsblocktest, NeuFragtSchreibtLiestUndFindetDieZeile) {
   EXPECT_TRUE(block->eingabe("Kundenname")->hasFocus());
 }
 
-TEST_F(Verwaltungsblocktest, AendernSchreibtUeberDieAktuelleZeile) {
-  waehle(1);
+TEST_F(Verwaltungsblocktest, ÄndernSchreibtÜberDieAktuelleZeile) {
+  wähle(1);
   EXPECT_EQ(block->texte()["Kundenname"], "Berta");
   tippe("Kundenname", "Aaron");
   klicke("neu_1");
@@ -138,7 +142,7 @@ TEST_F(Verwaltungsblocktest, AendernSchreibtUeberDieAktuelleZeile) {
   EXPECT_EQ(block->liste()->aktuelleZeile(), 0);  // sorted to the top and found again
 }
 
-TEST_F(Verwaltungsblocktest, GruendeUndEinwandHaltenDasSpeichernAuf) {
+TEST_F(Verwaltungsblocktest, GründeUndEinwandHaltenDasSpeichernAuf) {
   block->gründe = QStringList{"...a.", "...b."};
   boxen.hinweis("Die Daten werden nicht gespeichert, weil...\n\n...a.\n...b.");
   klicke("neu_0");
@@ -155,14 +159,14 @@ TEST_F(Verwaltungsblocktest, GruendeUndEinwandHaltenDasSpeichernAuf) {
 }
 
 TEST_F(Verwaltungsblocktest, EineVerschwundeneZeileWirdGesagt) {
-  waehle(0);
+  wähle(0);
   db().Execute("delete from Kunden where Kundenname = 'Adam'");
   boxen.hinweisMit("in der Datenbank nicht mehr vorhanden");
   klicke("neu_1");
   EXPECT_EQ(anzahl("Kunden"), 1);
 }
 
-TEST_F(Verwaltungsblocktest, EntladenLaesstDieDatenbankLosUndLadenNimmtSieWieder) {
+TEST_F(Verwaltungsblocktest, EntladenLässtDieDatenbankLosUndLadenNimmtSieWieder) {
   block->entladen();
   tippe("Kundenname", "Caesar");
   boxen.hinweisMit("Die Datenbank ist geschlossen.");
@@ -174,11 +178,11 @@ TEST_F(Verwaltungsblocktest, EntladenLaesstDieDatenbankLosUndLadenNimmtSieWieder
   EXPECT_EQ(anzahl("Kunden"), 3);
 }
 
-TEST_F(Verwaltungsblocktest, LoeschenFragtUndZeigtDieNaechsteZeile) {
-  TZ_Variablen::EinstellungenZahl[55] = 1;
+TEST_F(Verwaltungsblocktest, LöschenFragtUndZeigtDieNächsteZeile) {
+  TZ_Variablen::EinstellungenZahl[Zahlslots.löschabfrage] = 1;
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
   klicke(QString("löschen"));
-  waehle(0);
+  wähle(0);
   boxen.frageMit("unwiederbringlich gelöscht werden?", false);
   klicke(QString("löschen"));
   EXPECT_EQ(anzahl("Kunden"), 2);
@@ -191,8 +195,8 @@ TEST_F(Verwaltungsblocktest, LoeschenFragtUndZeigtDieNaechsteZeile) {
   EXPECT_EQ(block->ablauf, QStringList({"loesche " + QString::number(adam), "geloescht"}));
 }
 
-TEST_F(Verwaltungsblocktest, ScheitertWasMitgeloeschtWirdBleibtDieZeileStehenUndGewaehlt) {
-  waehle(0);
+TEST_F(Verwaltungsblocktest, ScheitertWasMitgelöschtWirdBleibtDieZeileUndKeineIstGewählt) {
+  wähle(0);
   const auto adam = block->aktuelleId();
   ASSERT_TRUE(adam.has_value());
   block->löschenScheitert = true;
@@ -201,14 +205,79 @@ TEST_F(Verwaltungsblocktest, ScheitertWasMitgeloeschtWirdBleibtDieZeileStehenUnd
   EXPECT_EQ(anzahl("Kunden"), 2);
   EXPECT_EQ(anzahl("Kunden", QString("Firma = 'vor dem Löschen'")), 2);  // what was done stays
   EXPECT_EQ(block->liste()->zeilen(), 2);
-  EXPECT_EQ(block->aktuelleId(), adam);
   EXPECT_EQ(block->texte()["Kundenname"], "Adam");
   EXPECT_EQ(block->ablauf, QStringList("loesche " + QString::number(*adam)));
+  EXPECT_FALSE(block->aktuelleId().has_value());
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
+  klicke(QString("löschen"));
 }
 
-TEST_F(Verwaltungsblocktest, OeffnenAlleinLiestNochNichts) {
+// The row is deleted already when the commit fails, or what the list is read from is gone.
+TEST_F(Verwaltungsblocktest, ScheitertDasFestschreibenDesLöschensStehtDieZeileWiederDa) {
+  sqlite3* anderes = nullptr;
+  ASSERT_EQ(sqlite3_open(TZ_Variablen::DatenbankPfad.toUtf8(), &anderes), SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(anderes, "begin; select * from Kunden", nullptr, nullptr, nullptr),
+            SQLITE_OK);
+  Verbindung::zu(TZ_Variablen::DatenbankPfad)->steuere("pragma busy_timeout = 50");
+  wähle(0);
+  boxen.hinweisMit("Von diesem Vorgang wurde nichts gespeichert.");
+  klicke(QString("löschen"));
+  EXPECT_EQ(block->liste()->zeilen(), 2);
+  EXPECT_EQ(block->liste()->zelle(0, "Kundenname"), "Adam");
+  EXPECT_FALSE(block->aktuelleId().has_value());
+  boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
+  klicke(QString("löschen"));
+  sqlite3_exec(anderes, "rollback", nullptr, nullptr, nullptr);
+  sqlite3_close(anderes);
+  EXPECT_EQ(anzahl("Kunden"), 2);
+  wähle(0);
+  klicke(QString("löschen"));
+  EXPECT_EQ(anzahl("Kunden", "Kundenname = 'Adam'"), 0);
+}
+
+TEST_F(Verwaltungsblocktest, EineZeileDieDieEingabenNieZeigtenWirdNurAufNachfrageÜberschrieben) {
+  tippe("Kundenname", "Caesar");
+  {
+    const QSignalBlocker ohneEingaben(block->liste());
+    block->liste()->setAktuelleZeile(1);
+  }
+  const QString frage =
+      "Der gewählte Datensatz steht nicht in den Eingabefeldern:\n\nName: Berta, Lieferant: J, "
+      "Ort: Celle\n\nSoll er wirklich mit den jetzigen Eingaben überschrieben werden?";
+  boxen.frage(frage, false, Meldungen::Vorgabe::Nein);
+  klicke("neu_1");
+  EXPECT_EQ(block->ablauf, QStringList("pruefe aendern"));
+  EXPECT_EQ(anzahl("Kunden", "Kundenname = 'Berta'"), 1);
+  boxen.frage(frage, true, Meldungen::Vorgabe::Nein);
+  klicke("neu_1");
+  EXPECT_EQ(anzahl("Kunden", "Kundenname = 'Caesar'"), 1);
+  EXPECT_EQ(anzahl("Kunden"), 2);
+  klicke("neu_1");  // shown by now: nothing is asked
+}
+
+TEST_F(Verwaltungsblocktest, EineZeileDieDieEingabenNieZeigtenWirdNurAufNachfrageGelöscht) {
+  TZ_Variablen::EinstellungenZahl[Zahlslots.löschabfrage] = 0;  // not even then without a question
+  {
+    const QSignalBlocker ohneEingaben(block->liste());
+    block->liste()->setAktuelleZeile(1);
+  }
+  const qint64 berta = *block->aktuelleId();
+  const QString frage =
+      "Soll der markierte Datensatz wirklich unwiederbringlich gelöscht werden?\n\nName: Berta, "
+      "Lieferant: J, Ort: Celle";
+  boxen.frage(frage, false, Meldungen::Vorgabe::Nein);
+  klicke(QString("löschen"));
+  EXPECT_EQ(block->texte()["Kundenname"], "");
+  EXPECT_EQ(anzahl("Kunden"), 2);
+  boxen.frage(frage, true, Meldungen::Vorgabe::Nein);
+  klicke(QString("löschen"));
+  EXPECT_EQ(anzahl("Kunden", "Kundenname = 'Berta'"), 0);
+  EXPECT_EQ(block->ablauf, QStringList({"loesche " + QString::number(berta), "geloescht"}));
+}
+
+TEST_F(Verwaltungsblocktest, ÖffnenAlleinLiestNochNichts) {
   Probeblock neu;
-  neu.oeffnen(db());
+  neu.öffnen(db());
   EXPECT_EQ(neu.texte()["Lieferant"], "N");
   EXPECT_EQ(neu.liste()->zeilen(), 0);
   EXPECT_EQ(neu.eingabe("Ort")->liste(), QStringList());
@@ -218,8 +287,8 @@ TEST_F(Verwaltungsblocktest, OeffnenAlleinLiestNochNichts) {
   EXPECT_EQ(neu.ablauf, QStringList("liste"));
 }
 
-TEST_F(Verwaltungsblocktest, EinUnbekannterDatensatzAendertDieAnzeigeNicht) {
-  waehle(1);
+TEST_F(Verwaltungsblocktest, EinUnbekannterDatensatzÄndertDieAnzeigeNicht) {
+  wähle(1);
   const auto berta = block->aktuelleId();
   ASSERT_TRUE(berta.has_value());
   block->zeigeDatensatz(*berta + 1000);
@@ -227,7 +296,7 @@ TEST_F(Verwaltungsblocktest, EinUnbekannterDatensatzAendertDieAnzeigeNicht) {
   EXPECT_EQ(block->texte()["Kundenname"], "Berta");
 }
 
-TEST_F(Verwaltungsblocktest, DieTastenfolgeGehtVonDenEingabenUeberDieKnoepfeZurListe) {
+TEST_F(Verwaltungsblocktest, DieTastenfolgeGehtVonDenEingabenÜberDieKnöpfeZurListe) {
   QStringList namen;
   for (const QWidget* w : block->tabfolge()) namen << w->objectName();
   EXPECT_EQ(namen, QStringList({"sevt_0", "sevt_1", "sevt_2", "sevt_3", "neu_0", "neu_1",

@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include "gemeinsam/Formularprobe.h"
+#include "gemeinsam/Programmordner.h"
 #include "output/Listen.h"
 #include "output/Uebergabe.h"
 #include "platform/controls/Oeffnen.h"
@@ -30,43 +31,43 @@ const QString KeineDaten = "Es sind keine Daten in der Liste.";
 class Ausgabeordner : public testing::Test {
  protected:
   void SetUp() override {
-    EinstellungenText[4] = " | ";
+    EinstellungenText[Textslots.trennzeichen] = " | ";
     Fensterablage::setDatei({});
-    Oeffnen::setOeffner([this](const QString& pfad) {
-      geoeffnet += pfad;
-      return oeffnenGelingt;
+    Öffnen::setÖffner([this](const QString& pfad) {
+      geöffnet += pfad;
+      return öffnenGelingt;
     });
   }
   void TearDown() override {
-    Oeffnen::setOeffner({});
+    Öffnen::setÖffner({});
     Formular::setHilfe({});
     Fensterablage::setDatei({});
   }
 
-  Programmordner ordner;
-  QStringList geoeffnet;
-  bool oeffnenGelingt = true;
+  Programmordner ordner{"20.11.2026"};
+  QStringList geöffnet;
+  bool öffnenGelingt = true;
 };
 
 // The form over a list that was handed on.
 class ZwischenlisteTest : public Formularprobe<TA_Zwischenliste, Ausgabeordner> {
  protected:
-  using Formularprobe::oeffne;
-  void oeffne(const Ausgabeliste& liste) {
-    Uebergabe::schreiben(Uebergabe::datei(), liste);
-    oeffne();
+  using Formularprobe::öffne;
+  void öffne(const Ausgabeliste& liste) {
+    Übergabe::schreiben(Übergabe::datei(), liste);
+    öffne();
   }
   Grid* gridli() { return kind<Grid>("gridli"); }
   // Waits for the text output, looks at it and closes it.
-  void beiTextausgabe(std::function<void(QWidget*)> pruefung = {}) {
+  void beiTextausgabe(std::function<void(QWidget*)> prüfung = {}) {
     auto* uhr = new QTimer(form.get());
     uhr->setInterval(5);
-    QObject::connect(uhr, &QTimer::timeout, form.get(), [this, uhr, pruefung] {
+    QObject::connect(uhr, &QTimer::timeout, form.get(), [this, uhr, prüfung] {
       QWidget* fenster = QApplication::activeModalWidget();
       if (fenster == nullptr || fenster->objectName() != "TA_Textausgabe") return;
       uhr->stop();
       textausgaben++;
-      if (pruefung) pruefung(fenster);
+      if (prüfung) prüfung(fenster);
       fenster->close();
     });
     uhr->start();
@@ -79,16 +80,16 @@ class ZwischenlisteTest : public Formularprobe<TA_Zwischenliste, Ausgabeordner> 
 };
 
 TEST_F(ZwischenlisteTest, NamenUndBeschriftungen) {
-  oeffne(Ausgabeliste(Listen::ernte()));
+  öffne(Ausgabeliste(Listen::ernte()));
   EXPECT_EQ(form->objectName(), "TA_Zwischenliste");
   EXPECT_EQ(form->windowTitle(), "Daten listen");
-  const QMap<QString, QString> knoepfe{
+  const QMap<QString, QString> knöpfe{
       {"kon", "Automatische Spaltenbreite"},  {"comtext", "&Text-Auswertung"},
       {"comexcel", "&Excel-Auswertung"},      {"roexplorer_0", "Stan&dard-Explorer"},
       {"roexplorer_1", "&Internet-Explorer"}, {"hilfe", "&Hilfe"},
       {"cmdschließen", "&Schließen"}};
   QStringList mnemonics;
-  for (auto i = knoepfe.begin(); i != knoepfe.end(); ++i) {
+  for (auto i = knöpfe.begin(); i != knöpfe.end(); ++i) {
     EXPECT_EQ(kind<QAbstractButton>(i.key())->text(), i.value());
     const qsizetype und = i.value().indexOf('&');
     if (und >= 0) mnemonics += i.value().mid(und + 1, 1).toLower();
@@ -97,52 +98,52 @@ TEST_F(ZwischenlisteTest, NamenUndBeschriftungen) {
   EXPECT_FALSE(gridli()->accessibleName().isEmpty());
 }
 
-TEST_F(ZwischenlisteTest, DieEintraegeDesPopups) {
-  oeffne(Ausgabeliste(Listen::ernte()));
+TEST_F(ZwischenlisteTest, DieEinträgeDesPopups) {
+  öffne(Ausgabeliste(Listen::ernte()));
   const auto* popup = kind<QMenu>("popzeile");
-  QStringList eintraege;
+  QStringList einträge;
   for (const QAction* a : popup->actions())
-    eintraege += a->isSeparator() ? QString("-") : a->objectName() + " " + a->text();
+    einträge += a->isSeparator() ? QString("-") : a->objectName() + " " + a->text();
   EXPECT_EQ(
-      eintraege,
+      einträge,
       (QStringList{"popzeile_0 Übergabe an &Texteditor", "popzeile_1 Übergabe an &Excel",
                    "popzeile_2 Übergabe an &Standard-Explorer",
                    "popzeile_3 Übergabe an &Internet-Explorer", "-", "popzeile_5 &Schließen"}));
 }
 
-TEST_F(ZwischenlisteTest, DieListeStehtMitAllenSpaltenUndUeberschriftenDa) {
-  oeffne(Ausgabeliste(Listen::ernte(), {"Volk", "Ernten", "Menge", "Erlös €", "Tag"}));
+TEST_F(ZwischenlisteTest, DieListeStehtMitAllenSpaltenUndÜberschriftenDa) {
+  öffne(Ausgabeliste(Listen::ernte(), {"Volk", "Ernten", "Menge", "Erlös €", "Tag"}));
   ASSERT_EQ(gridli()->zeilen(), 3);
   ASSERT_EQ(gridli()->spalten(), 5);
-  EXPECT_EQ(gridli()->ueberschrift(0), "Volk");
-  EXPECT_EQ(gridli()->ueberschrift(4), "Tag");
+  EXPECT_EQ(gridli()->überschrift(0), "Volk");
+  EXPECT_EQ(gridli()->überschrift(4), "Tag");
   EXPECT_EQ(gridli()->zelle(1, "Erlös"), "1049,00");
   EXPECT_EQ(gridli()->zelle(0, "Datum"), "04.05.2026");
 }
 
 TEST_F(ZwischenlisteTest, OhneGridliIstDieListeLeerUndJedeAusgabeSagtEs) {
-  oeffne();
+  öffne();
   EXPECT_EQ(gridli()->zeilen(), 0);
   for (const char* name : {"comtext", "comexcel", "roexplorer_0", "roexplorer_1"}) {
     boxen.hinweis(KeineDaten);
     klicke(name);
   }
   EXPECT_EQ(QDir(AppPfad).entryList(QDir::Files), QStringList());
-  EXPECT_TRUE(geoeffnet.isEmpty());
+  EXPECT_TRUE(geöffnet.isEmpty());
 }
 
 TEST_F(ZwischenlisteTest, EineListeOhneZeilenSagtEsAuch) {
-  oeffne(Ausgabeliste(Listen::ernte(), {}, {}));
+  öffne(Ausgabeliste(Listen::ernte(), {}, {}));
   boxen.hinweis(KeineDaten);
   klicke("comtext");
 }
 
-TEST_F(ZwischenlisteTest, TextAuswertungSchreibtListeUndOeffnetDieTextausgabe) {
-  EinstellungenZahl[46] = 1;
-  EinstellungenText[0] = "Kopf";
-  EinstellungenText[4] = "";
-  oeffne(Ausgabeliste(Listen::block({{"Ort", Feldtyp::Text, 9}, {"kg", Feldtyp::Einfach, 0}},
-                                    {{"Wald", 7.5}, {".", QVariant()}, {"Wiese", 12}})));
+TEST_F(ZwischenlisteTest, TextAuswertungSchreibtListeUndÖffnetDieTextausgabe) {
+  EinstellungenZahl[Zahlslots.datumAlsListenkopf] = 1;
+  EinstellungenText[Textslots.kopftext] = "Kopf";
+  EinstellungenText[Textslots.trennzeichen] = "";
+  öffne(Ausgabeliste(Listen::block({{"Ort", Feldtyp::Text, 9}, {"kg", Feldtyp::Einfach, 0}},
+                                   {{"Wald", 7.5}, {".", QVariant()}, {"Wiese", 12}})));
   QString titel;
   beiTextausgabe([&](QWidget* fenster) { titel = fenster->windowTitle(); });
   klicke("comtext");
@@ -155,7 +156,7 @@ TEST_F(ZwischenlisteTest, TextAuswertungSchreibtListeUndOeffnetDieTextausgabe) {
 }
 
 TEST_F(ZwischenlisteTest, DieAusgabenFolgenDerSortierungImFenster) {
-  oeffne(Ausgabeliste(Listen::ernte()));
+  öffne(Ausgabeliste(Listen::ernte()));
   auto* kopf = gridli()->horizontalHeader();
   const QPoint aufMenge(kopf->sectionViewportPosition(1) + 5, kopf->height() / 2);
   QTest::mouseClick(kopf->viewport(), Qt::LeftButton, {}, aufMenge);
@@ -170,66 +171,66 @@ TEST_F(ZwischenlisteTest, DieAusgabenFolgenDerSortierungImFenster) {
   EXPECT_EQ(Xlsx(AppPfad + "tova_liste.xlsx").text("A2"), QString("Bärbel"));
 }
 
-TEST_F(ZwischenlisteTest, ExcelAuswertungSchreibtUndOeffnetDieTabelle) {
+TEST_F(ZwischenlisteTest, ExcelAuswertungSchreibtUndÖffnetDieTabelle) {
   FormModus = "";
-  oeffne(Ausgabeliste(Listen::ernte(), {"Volk"}));
+  öffne(Ausgabeliste(Listen::ernte(), {"Volk"}));
   klicke("comexcel");
-  EXPECT_EQ(geoeffnet, QStringList{AppPfad + "tova_liste.xlsx"});
+  EXPECT_EQ(geöffnet, QStringList{AppPfad + "tova_liste.xlsx"});
   EXPECT_EQ(Xlsx(AppPfad + "tova_liste.xlsx").text("A1"), "Volk");
   EXPECT_EQ(FormModus, "");
 }
 
-TEST_F(ZwischenlisteTest, OhneProgrammFuerTabellenSagtEsUndSetztFormModus) {
-  oeffnenGelingt = false;
-  oeffne(Ausgabeliste(Listen::ernte()));
+TEST_F(ZwischenlisteTest, OhneProgrammFürTabellenSagtEsUndSetztFormModus) {
+  öffnenGelingt = false;
+  öffne(Ausgabeliste(Listen::ernte()));
   boxen.hinweis("Excel konnte nicht geöffnet werden!");
   klicke("comexcel");
   EXPECT_EQ(FormModus, "xyz");
 }
 
-TEST_F(ZwischenlisteTest, EineGesperrteTabelleNenntDieMeldungUndOeffnetNichts) {
+TEST_F(ZwischenlisteTest, EineGesperrteTabelleNenntDieMeldungUndÖffnetNichts) {
   ASSERT_TRUE(QDir().mkdir(AppPfad + "tova_liste.xlsx"));
-  oeffne(Ausgabeliste(Listen::ernte()));
+  öffne(Ausgabeliste(Listen::ernte()));
   boxen.hinweisMit("tova_liste.xlsx");
   klicke("comexcel");
-  EXPECT_TRUE(geoeffnet.isEmpty());
+  EXPECT_TRUE(geöffnet.isEmpty());
 }
 
-TEST_F(ZwischenlisteTest, BeideExplorerOeffnenDenWebbericht) {
-  EinstellungenZahl[21] = 2;
-  EinstellungenZahl[47] = 1;
-  EinstellungenZahl[48] = 1;
-  oeffne(Ausgabeliste(Listen::ernte()));
+TEST_F(ZwischenlisteTest, BeideExplorerÖffnenDenWebbericht) {
+  EinstellungenZahl[Zahlslots.webzeilen] = 2;
+  EinstellungenZahl[Zahlslots.seitenzeile] = 1;
+  EinstellungenZahl[Zahlslots.anzahlzeile] = 1;
+  öffne(Ausgabeliste(Listen::ernte()));
   klicke("roexplorer_0");
   klicke("roexplorer_1");
-  EXPECT_EQ(geoeffnet, (QStringList{AppPfad + "report.htm", AppPfad + "report.htm"}));
+  EXPECT_EQ(geöffnet, (QStringList{AppPfad + "report.htm", AppPfad + "report.htm"}));
   const QByteArray zweite = Listen::bytes(AppPfad + "report-2.htm");
   EXPECT_TRUE(zweite.contains("Seite 2 von 2"));
   EXPECT_TRUE(zweite.contains("Anzahl Datensätze: 3"));
 }
 
 TEST_F(ZwischenlisteTest, OhneBrowserNenntDieMeldungDieDatei) {
-  oeffnenGelingt = false;
-  oeffne(Ausgabeliste(Listen::ernte()));
+  öffnenGelingt = false;
+  öffne(Ausgabeliste(Listen::ernte()));
   boxen.hinweisMit("report.htm");
   klicke("roexplorer_0");
 }
 
 TEST_F(ZwischenlisteTest, JederPunktDesPopupsTutWasSeinKnopfTut) {
-  oeffne(Ausgabeliste(Listen::ernte()));
+  öffne(Ausgabeliste(Listen::ernte()));
   beiTextausgabe();
   kind<QAction>("popzeile_0")->trigger();
   EXPECT_EQ(textausgaben, 1);
   for (const char* name : {"popzeile_1", "popzeile_2", "popzeile_3"})
     kind<QAction>(name)->trigger();
-  EXPECT_EQ(geoeffnet, (QStringList{AppPfad + "tova_liste.xlsx", AppPfad + "report.htm",
-                                    AppPfad + "report.htm"}));
+  EXPECT_EQ(geöffnet, (QStringList{AppPfad + "tova_liste.xlsx", AppPfad + "report.htm",
+                                   AppPfad + "report.htm"}));
   kind<QAction>("popzeile_5")->trigger();
   EXPECT_FALSE(form->isVisible());
 }
 
-TEST_F(ZwischenlisteTest, RechtsklickAufDieListeOeffnetDasPopup) {
-  oeffne(Ausgabeliste(Listen::ernte()));
+TEST_F(ZwischenlisteTest, RechtsklickAufDieListeÖffnetDasPopup) {
+  öffne(Ausgabeliste(Listen::ernte()));
   auto* popup = kind<QMenu>("popzeile");
   QContextMenuEvent rechts(QContextMenuEvent::Mouse, QPoint(20, 20),
                            gridli()->viewport()->mapToGlobal(QPoint(20, 20)));
@@ -241,77 +242,77 @@ TEST_F(ZwischenlisteTest, RechtsklickAufDieListeOeffnetDasPopup) {
 TEST_F(ZwischenlisteTest, AutomatischeSpaltenbreiteNachPlatz54) {
   const Daten d = Listen::block({{"A", Feldtyp::Text, 99}, {"x", Feldtyp::Text, 9}},
                                 {{QString(120, 'W'), "1"}});
-  EinstellungenZahl[54] = 0;
-  oeffne(Ausgabeliste(d));
+  EinstellungenZahl[Zahlslots.spaltenbreiteAutomatisch] = 0;
+  öffne(Ausgabeliste(d));
   EXPECT_FALSE(kind<QCheckBox>("kon")->isChecked());
   const int vorher = gridli()->columnWidth(0);
   EXPECT_LT(vorher, gridli()->fontMetrics().horizontalAdvance(QString(120, 'W')));
   form.reset();
 
-  EinstellungenZahl[54] = 1;
-  oeffne(Ausgabeliste(d));
+  EinstellungenZahl[Zahlslots.spaltenbreiteAutomatisch] = 1;
+  öffne(Ausgabeliste(d));
   EXPECT_TRUE(kind<QCheckBox>("kon")->isChecked());
   EXPECT_GE(gridli()->columnWidth(0), gridli()->fontMetrics().horizontalAdvance(QString(120, 'W')));
 }
 
 TEST_F(ZwischenlisteTest, KeineSpalteWirdSchmalerAlsSiebenundzwanzigPunkte) {
-  EinstellungenZahl[54] = 1;
-  oeffne(
+  EinstellungenZahl[Zahlslots.spaltenbreiteAutomatisch] = 1;
+  öffne(
       Ausgabeliste(Listen::block({{"i", Feldtyp::Text, 9}, {"l", Feldtyp::Text, 9}}, {{"", ""}})));
   for (int i : {0, 1}) EXPECT_GE(gridli()->columnWidth(i), 27);
 }
 
 TEST_F(ZwischenlisteTest, EinHakenInAutomatischeSpaltenbreitePasstDieSpaltenAn) {
-  oeffne(Ausgabeliste(Listen::block({{"A", Feldtyp::Text, 99}}, {{QString(120, 'W')}})));
+  öffne(Ausgabeliste(Listen::block({{"A", Feldtyp::Text, 99}}, {{QString(120, 'W')}})));
   const int vorher = gridli()->columnWidth(0);
   klicke("kon");
   EXPECT_TRUE(kind<QCheckBox>("kon")->isChecked());
   EXPECT_GT(gridli()->columnWidth(0), vorher);
 }
 
-TEST_F(ZwischenlisteTest, AngepassteBreitenVerdraengenDieGezogenenNicht) {
+TEST_F(ZwischenlisteTest, AngepassteBreitenVerdrängenDieGezogenenNicht) {
   Fensterablage::setDatei(AppPfad + "TOVA2.LAY");
   const Daten d =
       Listen::block({{"A", Feldtyp::Text, 99}, {"B", Feldtyp::Text, 9}}, {{QString(60, 'W'), "1"}});
-  oeffne(Ausgabeliste(d));
+  öffne(Ausgabeliste(d));
   gridli()->setColumnWidth(0, 133);
-  const QString schluessel = "Spaltenbreiten/TOVA/ta_zwischenliste_gridli/ColWidths";
-  const QVariant gezogen = Fensterablage::lesen(schluessel);
+  const QString schlüssel = "Spaltenbreiten/TOVA/ta_zwischenliste_gridli/ColWidths";
+  const QVariant gezogen = Fensterablage::lesen(schlüssel);
   EXPECT_EQ(gezogen.toList().value(0).toInt(), 133);
   klicke("kon");
   EXPECT_NE(gridli()->columnWidth(0), 133);
-  EXPECT_EQ(Fensterablage::lesen(schluessel), gezogen);
+  EXPECT_EQ(Fensterablage::lesen(schlüssel), gezogen);
   klicke("kon");
   form->close();
-  oeffne(Ausgabeliste(d));
+  öffne(Ausgabeliste(d));
   EXPECT_EQ(gridli()->columnWidth(0), 133);
 }
 
-TEST_F(ZwischenlisteTest, SchliessenMerktSichDenHakenUndLeertDieListe) {
-  EinstellungenZahl[54] = 5;
-  oeffne(Ausgabeliste(Listen::ernte()));
+TEST_F(ZwischenlisteTest, SchließenMerktSichDenHakenUndLeertDieListe) {
+  EinstellungenZahl[Zahlslots.spaltenbreiteAutomatisch] = 5;
+  öffne(Ausgabeliste(Listen::ernte()));
   klicke("cmdschließen");
-  EXPECT_EQ(EinstellungenZahl[54], 1);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.spaltenbreiteAutomatisch], 1);
   EXPECT_FALSE(form->isVisible());
   EXPECT_EQ(gridli()->zeilen(), 0);
-  oeffne();
+  öffne();
   klicke("kon");
   QTest::keyClick(form.get(), Qt::Key_Escape);
-  EXPECT_EQ(EinstellungenZahl[54], 0);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.spaltenbreiteAutomatisch], 0);
   EXPECT_TRUE(QFile::exists(AppPfad + "gridli.txt"));
 }
 
 TEST_F(ZwischenlisteTest, HilfeUndF1ZeigenDasThemaDesFormulars) {
   QStringList themen;
   Formular::setHilfe([&](QWidget*, const QString& thema) { themen += thema; });
-  oeffne(Ausgabeliste(Listen::ernte()));
+  öffne(Ausgabeliste(Listen::ernte()));
   klicke("hilfe");
   QTest::keyClick(form.get(), Qt::Key_F1);
   EXPECT_EQ(themen, (QStringList{"TA_Zwischenliste", "TA_Zwischenliste"}));
 }
 
-TEST_F(ZwischenlisteTest, EineUnlesbareUebergabeWirdGemeldetStattGezeigt) {
-  QFile datei(Uebergabe::datei());
+TEST_F(ZwischenlisteTest, EineUnlesbareÜbergabeWirdGemeldetStattGezeigt) {
+  QFile datei(Übergabe::datei());
   ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
   datei.write("etwas anderes");
   datei.close();
@@ -320,23 +321,23 @@ TEST_F(ZwischenlisteTest, EineUnlesbareUebergabeWirdGemeldetStattGezeigt) {
   EXPECT_FALSE(fenster.isVisible());
 }
 
-TEST_F(ZwischenlisteTest, EineLangeListeHaeltDasFensterLebendigUndZeigtDenFortschritt) {
+TEST_F(ZwischenlisteTest, EineLangeListeHältDasFensterLebendigUndZeigtDenFortschritt) {
   QList<QVariantList> zeilen;
   std::vector<Spalte> spalten;
   for (int i = 0; i < 20; ++i) spalten.push_back({"S" + QString::number(i), Feldtyp::Text, 9});
   QVariantList zeile;
   for (int i = 0; i < 20; ++i) zeile += "Wert";
   for (int i = 0; i < 15000; ++i) zeilen += zeile;
-  oeffne(Ausgabeliste(Listen::block(spalten, zeilen)));
+  öffne(Ausgabeliste(Listen::block(spalten, zeilen)));
   auto* meter = kind<QProgressBar>("meter");
   EXPECT_FALSE(meter->isVisible());
   bool gesehen = false;
   bool geschlossen = false;
-  int groesster = 0;
+  int größter = 0;
   QTimer uhr;
   QObject::connect(&uhr, &QTimer::timeout, form.get(), [&] {
     gesehen = gesehen || meter->isVisible();
-    groesster = std::max(groesster, meter->value());
+    größter = std::max(größter, meter->value());
     // A close in the middle of the run has to wait.
     if (meter->isVisible() && !geschlossen) {
       geschlossen = true;
@@ -347,13 +348,13 @@ TEST_F(ZwischenlisteTest, EineLangeListeHaeltDasFensterLebendigUndZeigtDenFortsc
   klicke("comexcel");
   uhr.stop();
   EXPECT_TRUE(gesehen);
-  EXPECT_GT(groesster, 0);
+  EXPECT_GT(größter, 0);
   EXPECT_TRUE(form->isVisible());
   EXPECT_FALSE(meter->isVisible());
-  EXPECT_EQ(geoeffnet.size(), 1);
+  EXPECT_EQ(geöffnet.size(), 1);
 }
 
-TEST_F(ZwischenlisteTest, AufrufMitZeilenZeigtSieMitIhrenUeberschriften) {
+TEST_F(ZwischenlisteTest, AufrufMitZeilenZeigtSieMitIhrenÜberschriften) {
   int gesehen = 0;
   QTimer uhr;
   QObject::connect(&uhr, &QTimer::timeout, qApp, [&] {
@@ -362,8 +363,8 @@ TEST_F(ZwischenlisteTest, AufrufMitZeilenZeigtSieMitIhrenUeberschriften) {
     uhr.stop();
     EXPECT_EQ(fenster->objectName(), "TA_Zwischenliste");
     auto* liste = fenster->findChild<Grid*>("gridli");
-    EXPECT_EQ(liste->ueberschrift(0), "Volk");
-    EXPECT_EQ(liste->ueberschrift(1), "Anz_Ernten");
+    EXPECT_EQ(liste->überschrift(0), "Volk");
+    EXPECT_EQ(liste->überschrift(1), "Anz_Ernten");
     gesehen = liste->zeilen();
     fenster->close();
   });
@@ -375,7 +376,7 @@ TEST_F(ZwischenlisteTest, AufrufMitZeilenZeigtSieMitIhrenUeberschriften) {
 TEST_F(ZwischenlisteTest, AufrufMitEinemGitterZeigtWasEsZeigt) {
   Grid grid;
   grid.setDaten(Listen::ernte());
-  grid.setUeberschrift("Volkname", "Volk");
+  grid.setÜberschrift("Volkname", "Volk");
   grid.setAnzeige("Anz_Ernten", [](const QVariant& w) { return w.toString() + " mal"; });
   grid.setSpalteVerborgen("Erlös", true);
   grid.sortiere(0, Qt::DescendingOrder);
@@ -386,7 +387,7 @@ TEST_F(ZwischenlisteTest, AufrufMitEinemGitterZeigtWasEsZeigt) {
     if (fenster == nullptr) return;
     uhr.stop();
     auto* liste = fenster->findChild<Grid*>("gridli");
-    EXPECT_EQ(liste->ueberschrift(0), "Volk");
+    EXPECT_EQ(liste->überschrift(0), "Volk");
     for (int z = 0; z < liste->zeilen(); ++z)
       for (int s = 0; s < liste->spalten(); ++s) zellen += liste->text(z, s);
     fenster->close();

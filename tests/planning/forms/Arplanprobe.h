@@ -12,7 +12,7 @@ inline const QString Neufrage =
     "gelöscht und neu berechnet. Es werden auch die erledigten Termine gelöscht. Berechnet werden "
     "die Termine lediglich ab dem aktuellen Datum 20.06.2006.\n\nSoll die Aktion wirklich "
     "ausgeführt werden?";
-inline const QString Aendernhinweis =
+inline const QString Ändernhinweis =
     "Sie haben [Ändern] ausgewählt. Bitte beachten Sie, daß lediglich der Inhalt des Feldes "
     "Arbeitsart geändert wird. Falls Sie ein anderes Datenfeld ändern möchten, dann müssen Sie den "
     "Termin vorher löschen und wieder neu anlegen.";
@@ -22,7 +22,7 @@ class Arplanprobe : public Formularprobe<TV_Arplanoptionen, Testbetrieb> {
  protected:
   void SetUp() override {
     Formularprobe::SetUp();
-    TZ_Variablen::EinstellungenZahl[55] = 1;
+    TZ_Variablen::EinstellungenZahl[Zahlslots.löschabfrage] = 1;
     db().Execute("delete from Arbeitsplanoptionen");
   }
 
@@ -32,20 +32,22 @@ class Arplanprobe : public Formularprobe<TV_Arplanoptionen, Testbetrieb> {
     return texte;
   }
   // A choice takes the first letter.
-  void tippe(int i, const QString& text) {
-    if (feld(i)->art() != Eingabefeld::Art::Auswahl) return Formularprobe::tippe(i, text);
-    feld(i)->setFocus();
-    feld(i)->setInhalt({});
-    QTest::keyClicks(feld(i), text.left(1));
+  void tippe(const QString& name, const QString& text) { tippe(feld(name), text); }
+  void tippe(int i, const QString& text) { tippe(feld(i), text); }
+  static void tippe(Eingabefeld* eingabe, const QString& text) {
+    if (eingabe->art() != Eingabefeld::Art::Auswahl) return Formularprobe::tippe(eingabe, text);
+    eingabe->setFocus();
+    eingabe->setInhalt({});
+    QTest::keyClicks(eingabe, text.left(1));
   }
-  void fuelle(const QString& name, const QString& start, const QString& ende, const QString& volk) {
-    tippe(0, name);
-    tippe(1, start);
-    tippe(2, ende);
-    tippe(4, volk);
+  void fülle(const QString& name, const QString& start, const QString& ende, const QString& volk) {
+    tippe("Arbeitsart", name);
+    tippe("Startzeitraum (TT.MM)", start);
+    tippe("Endzeitraum (TT.MM)", ende);
+    tippe("Volkabhängig (J/N)", volk);
   }
   Grid* liste() { return kind<Grid>("liarplan"); }
-  void klickeZeile(int zeile) { waehle("liarplan", zeile); }
+  void klickeZeile(int zeile) { wähle("liarplan", zeile); }
   QStringList namen() {
     QStringList texte;
     for (int i = 0; i < liste()->zeilen(); ++i) texte << liste()->zelle(i, "Arbeitsart");

@@ -10,7 +10,7 @@
 class TVStarttermine : public Terminformprobe<TV_Starttermine> {
  protected:
   // Colonies 1 and 2 at Hof; four open appointments within the horizon.
-  void fuenf() {
+  void fünf() {
     volk1 = neuesVolk("1", "X", "Hof");
     volk2 = neuesVolk("2", "X", "Hof");
     termin(tag(6, 15), "Durchsicht", volk1);

@@ -6,23 +6,23 @@ namespace {
 
 class ArplanBedienung : public Arplanprobe {};
 
-TEST_F(ArplanBedienung, DieListeIstLesbarUeberschrieben) {
-  oeffne();
-  QStringList koepfe;
+TEST_F(ArplanBedienung, DieListeIstLesbarÜberschrieben) {
+  öffne();
+  QStringList köpfe;
   for (int i = 0; i < liste()->spalten(); ++i)
-    koepfe << liste()->model()->headerData(i, Qt::Horizontal).toString();
-  EXPECT_EQ(koepfe.join("|").toStdString(),
+    köpfe << liste()->model()->headerData(i, Qt::Horizontal).toString();
+  EXPECT_EQ(köpfe.join("|").toStdString(),
             "Arbeitsart|Startzeitraum|Endzeitraum|Wiederholungsfrist (Tage)|"
             "Volkabhängig|Autom. Erled. Buchung|Autom. Erled. Arbeitsart|ID");
 }
 
 // Several options one after the other, without clearing the input in between.
-TEST_F(ArplanBedienung, NachDemSpeichernUeberschreibtDerNaechsteNameDenAlten) {
-  oeffne();
-  fuelle("Drohnen schneiden", "01.07", "31.07", "N");
+TEST_F(ArplanBedienung, NachDemSpeichernÜberschreibtDerNächsteNameDenAlten) {
+  öffne();
+  fülle("Drohnen schneiden", "01.07", "31.07", "N");
   klicke("neu_0");
-  QTest::keyClicks(feld(0), "Schwarmkontrolle");
-  EXPECT_EQ(inhalt(0), "Schwarmkontrolle");
+  QTest::keyClicks(feld("Arbeitsart"), "Schwarmkontrolle");
+  EXPECT_EQ(inhalt("Arbeitsart"), "Schwarmkontrolle");
   klicke("neu_0");
   EXPECT_EQ(namen(), QStringList({"Drohnen schneiden", "Schwarmkontrolle"}));
 }

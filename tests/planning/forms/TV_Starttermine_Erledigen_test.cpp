@@ -8,16 +8,16 @@ TEST_F(TVStarttermine, LangerStandortnameErledigtSeineTermine) {
   const QString ort = "Lindenallee am Schloßpark hinter der Mühle";
   const qint64 volk = neuesVolk("1", "X", ort);
   termin(tag(6, 15), "Durchsicht", volk);
-  oeffne();
+  öffne();
   klickeZeile(0);
-  EXPECT_EQ(inhalt(2), ort.toStdString());
+  EXPECT_EQ(inhalt("am Standort"), ort.toStdString());
   boxen.frageMit("Es wurden 1 Termine gefunden.", true);
   klicke("cmdok_3");
   EXPECT_EQ(spalte("Datum"), "");
 }
 
-TEST_F(TVStarttermine, AnpassenWirdBeiJedemOeffnenNeuGewaehlt) {
-  oeffne();
+TEST_F(TVStarttermine, AnpassenWirdBeiJedemÖffnenNeuGewählt) {
+  öffne();
   klicke("konterminreihe");
   ASSERT_TRUE(kind<QCheckBox>("konterminreihe")->isChecked());
   form->close();
@@ -26,18 +26,18 @@ TEST_F(TVStarttermine, AnpassenWirdBeiJedemOeffnenNeuGewaehlt) {
 }
 
 TEST_F(TVStarttermine, DoppelklickErledigtAmGeplantenTag) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   doppelklick(1);
   EXPECT_EQ(termine("Erledigt = 'J'"), "16.06. Durchsicht J " + std::to_string(volk2));
-  EXPECT_EQ(inhalt(0), "16.06.2006");
+  EXPECT_EQ(inhalt("Erledigungsdatum"), "16.06.2006");
   EXPECT_EQ(li()->zeilen(), 3);
   EXPECT_EQ(li()->aktuelleZeile(), 1);
 }
 
 TEST_F(TVStarttermine, OhneZeileWirdUmMarkierungGebeten) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   boxen.hinweis("Bitte markieren Sie zuerst den zu erledigenden Termin.");
   klicke("cmdok_0");
   boxen.hinweis("Bitter markieren Sie zuerst die zu erledigenden Termine.");
@@ -46,30 +46,30 @@ TEST_F(TVStarttermine, OhneZeileWirdUmMarkierungGebeten) {
 }
 
 TEST_F(TVStarttermine, AktuellerWirdZumObigenDatumErledigt) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   klickeZeile(0);
-  tippe(0, "19.6.06");
+  tippe("Erledigungsdatum", "19.6.06");
   klicke("cmdok_0");
   EXPECT_EQ(termine("Erledigt = 'J'"), "19.06. Durchsicht J " + std::to_string(volk1));
 }
 
-TEST_F(TVStarttermine, UngueltigesDatumErledigtOhneDenTagUndOhneDieReihe) {
-  fuenf();
+TEST_F(TVStarttermine, UngültigesDatumErledigtOhneDenTagUndOhneDieReihe) {
+  fünf();
   option("Durchsicht", "01.06", 14, "31.08");
-  oeffne();
+  öffne();
   klickeZeile(0);
   klicke("konterminreihe");
-  tippe(0, "31.02.2006");
+  tippe("Erledigungsdatum", "31.02.2006");
   klicke("cmdok_0");
   EXPECT_EQ(termine("Erledigt = 'J'"), "15.06. Durchsicht J " + std::to_string(volk1));
   EXPECT_EQ(anzahl("Termine"), 5);
 }
 
 TEST_F(TVStarttermine, HakenPasstDieReiheAn) {
-  fuenf();
+  fünf();
   option("Durchsicht", "01.06", 14, "31.07");
-  oeffne();
+  öffne();
   klickeZeile(0);
   klicke("konterminreihe");
   klicke("cmdok_0");
@@ -80,9 +80,9 @@ TEST_F(TVStarttermine, HakenPasstDieReiheAn) {
 }
 
 TEST_F(TVStarttermine, DoppelklickPasstDieReiheAbDemGeplantenTagAn) {
-  fuenf();
+  fünf();
   option("Durchsicht", "01.06", 14, "31.07");
-  oeffne();
+  öffne();
   klicke("konterminreihe");
   doppelklick(0);
   const std::string volk = std::to_string(volk1);
@@ -92,8 +92,8 @@ TEST_F(TVStarttermine, DoppelklickPasstDieReiheAbDemGeplantenTagAn) {
 }
 
 TEST_F(TVStarttermine, ZeileBleibtAktuellNachDemErledigenDerMarkierten) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   klickeZeile(0);
   QTest::mouseClick(li()->viewport(), Qt::LeftButton, Qt::ControlModifier, mitte(li(), 2));
   ASSERT_EQ(li()->aktuelleZeile(), 2);
@@ -109,9 +109,9 @@ TEST_F(TVStarttermine, ZeileBleibtAktuellNachDemErledigenDerMarkierten) {
 }
 
 TEST_F(TVStarttermine, ZeileOderDieLetzteBleibtAktuellNachAllenBisHeute) {
-  fuenf();
+  fünf();
   termin(tag(6, 25), "Fest");
-  oeffne();
+  öffne();
   klickeZeile(1);
   boxen.frageMit("Sollen wirklich alle Termine bis einschließlich zum 20.06.2006", true);
   klicke("cmdok_2");
@@ -126,8 +126,8 @@ TEST_F(TVStarttermine, ZeileOderDieLetzteBleibtAktuellNachAllenBisHeute) {
 }
 
 TEST_F(TVStarttermine, ZeileBleibtAktuellNachDemErledigenAmStandort) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   klickeZeile(1);
   boxen.frage("Es wurden 2 Termine gefunden. Sollen diese wirklich erledigt werden?", true);
   klicke("cmdok_3");
@@ -135,9 +135,9 @@ TEST_F(TVStarttermine, ZeileBleibtAktuellNachDemErledigenAmStandort) {
   EXPECT_EQ(li()->aktuelleZeile(), 1);
 }
 
-TEST_F(TVStarttermine, LetzterErledigterTerminLaesstKeineZeileAktuell) {
+TEST_F(TVStarttermine, LetzterErledigterTerminLässtKeineZeileAktuell) {
   termin(tag(6, 15), "Schau");
-  oeffne();
+  öffne();
   doppelklick(0);
   EXPECT_EQ(li()->zeilen(), 0);
   EXPECT_EQ(li()->aktuelleZeile(), -1);
@@ -146,8 +146,8 @@ TEST_F(TVStarttermine, LetzterErledigterTerminLaesstKeineZeileAktuell) {
 }
 
 TEST_F(TVStarttermine, SortierungPerKopfBleibtNachDemErledigen) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   auto* kopf = li()->horizontalHeader();
   const int stelle = kopf->sectionViewportPosition(li()->spaltenNummer("Volknr")) + 5;
   QTest::mouseClick(kopf->viewport(), Qt::LeftButton, {}, QPoint(stelle, kopf->height() / 2));
@@ -160,8 +160,8 @@ TEST_F(TVStarttermine, SortierungPerKopfBleibtNachDemErledigen) {
 }
 
 TEST_F(TVStarttermine, LetzteZeileErledigtMachtDieNeueLetzteAktuell) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   klickeZeile(3);
   klicke("cmdok_0");
   EXPECT_EQ(li()->zeilen(), 3);
@@ -169,8 +169,8 @@ TEST_F(TVStarttermine, LetzteZeileErledigtMachtDieNeueLetzteAktuell) {
 }
 
 TEST_F(TVStarttermine, MarkierteMitJaErledigenUndMitNeinNicht) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   li()->setMarkierteZeilen({0, 2});
   boxen.frage("Sollen die 2 Termine wirklich als erledigt markiert werden?", false);
   klicke("cmdok_1");
@@ -182,9 +182,9 @@ TEST_F(TVStarttermine, MarkierteMitJaErledigenUndMitNeinNicht) {
 }
 
 TEST_F(TVStarttermine, MarkiertePassenAuchMitHakenKeineReiheAn) {
-  fuenf();
+  fünf();
   option("Durchsicht", "01.06", 14, "31.07");
-  oeffne();
+  öffne();
   klicke("konterminreihe");
   klickeZeile(0);
   boxen.frage("Sollen die 1 Termine wirklich als erledigt markiert werden?", true);
@@ -196,8 +196,8 @@ TEST_F(TVStarttermine, MarkiertePassenAuchMitHakenKeineReiheAn) {
 }
 
 TEST_F(TVStarttermine, BisHeuteMitJaErledigenUndMitNeinNicht) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   const QString frage =
       "Sollen wirklich alle Termine bis einschließlich zum 20.06.2006 als erledigt markiert "
       "werden?";
@@ -210,9 +210,9 @@ TEST_F(TVStarttermine, BisHeuteMitJaErledigenUndMitNeinNicht) {
   EXPECT_EQ(spalte("Datum"), "04.07.2006");
 }
 
-TEST_F(TVStarttermine, StandortOhneAngabenWirdErklaert) {
-  fuenf();
-  oeffne();
+TEST_F(TVStarttermine, StandortOhneAngabenWirdErklärt) {
+  fünf();
+  öffne();
   boxen.hinweis(
       "Die Terminart, der betroffene Standort und der Zeitraum (bis wann eine Erledigung "
       "gewünscht wird) muss angegeben werden!");
@@ -220,28 +220,28 @@ TEST_F(TVStarttermine, StandortOhneAngabenWirdErklaert) {
 }
 
 TEST_F(TVStarttermine, StandortOhneTrefferBleibtStill) {
-  fuenf();
-  oeffne();
-  tippe(1, "Anderes");
-  tippe(2, "Hof");
+  fünf();
+  öffne();
+  tippe("Die Termine", "Anderes");
+  tippe("am Standort", "Hof");
   klicke("cmdok_3");
   EXPECT_EQ(anzahl("Termine", "Erledigt = 'J'"), 0);
 }
 
-TEST_F(TVStarttermine, StandortMitEinemEndeDasKeinDatumIstWirdErklaert) {
-  fuenf();
-  oeffne();
-  tippe(1, "Durchsicht");
-  tippe(2, "Hof");
-  tippe(3, "31.02.2006");
+TEST_F(TVStarttermine, StandortMitEinemEndeDasKeinDatumIstWirdErklärt) {
+  fünf();
+  öffne();
+  tippe("Die Termine", "Durchsicht");
+  tippe("am Standort", "Hof");
+  tippe("bis einschl.", "31.02.2006");
   boxen.hinweisMit("Die Terminart, der betroffene Standort und der Zeitraum");
   klicke("cmdok_3");
   EXPECT_EQ(anzahl("Termine", "Erledigt = 'J'"), 0);
 }
 
 TEST_F(TVStarttermine, StandortMitNeinErledigtNichts) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   klickeZeile(1);
   boxen.frage("Es wurden 2 Termine gefunden. Sollen diese wirklich erledigt werden?", false);
   klicke("cmdok_3");
@@ -250,9 +250,9 @@ TEST_F(TVStarttermine, StandortMitNeinErledigtNichts) {
 }
 
 TEST_F(TVStarttermine, StandortMitHakenPasstDieReiheJedesVolkesAn) {
-  fuenf();
+  fünf();
   option("Durchsicht", "01.06", 14, "10.07");
-  oeffne();
+  öffne();
   klickeZeile(1);
   klicke("konterminreihe");
   boxen.frage("Es wurden 2 Termine gefunden. Sollen diese wirklich erledigt werden?", true);
@@ -264,13 +264,13 @@ TEST_F(TVStarttermine, StandortMitHakenPasstDieReiheJedesVolkesAn) {
   }
 }
 
-TEST_F(TVStarttermine, StandortMitErledigungsdatumDasKeinesIstBehaeltTageUndReihe) {
-  fuenf();
+TEST_F(TVStarttermine, StandortMitErledigungsdatumDasKeinesIstBehältTageUndReihe) {
+  fünf();
   option("Durchsicht", "01.06", 14, "10.07");
-  oeffne();
+  öffne();
   klickeZeile(1);
   klicke("konterminreihe");
-  tippe(0, "31.02.2006");
+  tippe("Erledigungsdatum", "31.02.2006");
   boxen.frage("Es wurden 2 Termine gefunden. Sollen diese wirklich erledigt werden?", true);
   klicke("cmdok_3");
   EXPECT_EQ(termine("Erledigt = 'J'"), "15.06. Durchsicht J " + std::to_string(volk1) +
@@ -280,12 +280,12 @@ TEST_F(TVStarttermine, StandortMitErledigungsdatumDasKeinesIstBehaeltTageUndReih
                                            std::to_string(volk1));
 }
 
-TEST_F(TVStarttermine, StandortZaehltAlleUndErledigtDieDerListe) {
-  fuenf();
-  oeffne();
-  tippe(1, "Durchsicht");
-  tippe(2, "Hof");
-  tippe(3, "31.07.2006");
+TEST_F(TVStarttermine, StandortZähltAlleUndErledigtDieDerListe) {
+  fünf();
+  öffne();
+  tippe("Die Termine", "Durchsicht");
+  tippe("am Standort", "Hof");
+  tippe("bis einschl.", "31.07.2006");
   boxen.frage("Es wurden 4 Termine gefunden. Sollen diese wirklich erledigt werden?", true);
   klicke("cmdok_3");
   EXPECT_EQ(anzahl("Termine", "Erledigt = 'J' and Datum = #06/20/2006#"), 3);
@@ -295,8 +295,8 @@ TEST_F(TVStarttermine, StandortZaehltAlleUndErledigtDieDerListe) {
 
 // The option can't be read: the series' open appointments are gone by then.
 TEST_F(TVStarttermine, FehlschlagAufHalbemWegZeigtWasGeschriebenIst) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   klicke("konterminreihe");
   klickeZeile(0);
   db().Execute("drop table Arbeitsplanoptionen");
@@ -307,17 +307,17 @@ TEST_F(TVStarttermine, FehlschlagAufHalbemWegZeigtWasGeschriebenIst) {
   EXPECT_TRUE(form->isVisible());
 }
 
-TEST_F(TVStarttermine, FehlschlagErledigtNichtsUndLaesstDieEingaben) {
-  fuenf();
-  oeffne();
+TEST_F(TVStarttermine, FehlschlagErledigtNichtsUndLässtDieEingaben) {
+  fünf();
+  öffne();
   klickeZeile(0);
-  tippe(0, "19.06.2006");
+  tippe("Erledigungsdatum", "19.06.2006");
   scheitern("update");
   boxen.hinweisMit("kein Platz");
   klicke("cmdok_0");
   EXPECT_EQ(anzahl("Termine", "Erledigt = 'J'"), 0);
   EXPECT_EQ(li()->zeilen(), 4);
-  EXPECT_EQ(inhalt(0), "19.06.2006");
+  EXPECT_EQ(inhalt("Erledigungsdatum"), "19.06.2006");
 }
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace {
 using TZ_Variablen::EinstellungenZahl;
 
 TEST_F(TVStarttermine, JedesFeldHatNamenUndBeschriftung) {
-  oeffne();
+  öffne();
   EXPECT_EQ(form->objectName(), "TV_Starttermine");
   EXPECT_EQ(form->windowTitle(), "Aktuelle offene Termine (bis 14 Tage ab heute)");
   EXPECT_EQ(kind<QCheckBox>("kon")->text(),
@@ -25,76 +25,76 @@ TEST_F(TVStarttermine, ErsteWerteUndListen) {
   option("Durchsicht", "01.06", 14, "31.08");
   neuesVolk("1", "X", "Hof");
   neuesVolk("2", "X", "Heide");
-  oeffne();
-  EXPECT_EQ(inhalt(0), "20.06.2006");
-  EXPECT_EQ(inhalt(3), "20.06.2006");
-  EXPECT_EQ(feld(1)->liste(), QStringList({"Durchsicht"}));
-  EXPECT_EQ(feld(2)->liste(), QStringList({"Heide", "Hof"}));
+  öffne();
+  EXPECT_EQ(inhalt("Erledigungsdatum"), "20.06.2006");
+  EXPECT_EQ(inhalt("bis einschl."), "20.06.2006");
+  EXPECT_EQ(feld("Die Termine")->liste(), QStringList({"Durchsicht"}));
+  EXPECT_EQ(feld("am Standort")->liste(), QStringList({"Heide", "Hof"}));
   EXPECT_FALSE(kind<QCheckBox>("konterminreihe")->isChecked());
 }
 
-TEST_F(TVStarttermine, HakenKommtAusPlatz13UndGehtBeimSchliessenDorthin) {
-  EinstellungenZahl[13] = 1;
-  oeffne();
+TEST_F(TVStarttermine, HakenKommtAusPlatz13UndGehtBeimSchließenDorthin) {
+  EinstellungenZahl[Zahlslots.terminlisteBeimStart] = 1;
+  öffne();
   EXPECT_TRUE(kind<QCheckBox>("kon")->isChecked());
   klicke("kon");
-  EXPECT_EQ(EinstellungenZahl[13], 1);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminlisteBeimStart], 1);
   QTest::keyClick(form.get(), Qt::Key_Escape);
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(EinstellungenZahl[13], 0);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminlisteBeimStart], 0);
 }
 
 TEST_F(TVStarttermine, ListeZeigtOffeneBisZurGrenze) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   EXPECT_EQ(spalte("Datum"), "15.06.2006 16.06.2006 20.06.2006 04.07.2006");
   EXPECT_EQ(li()->aktuelleZeile(), -1);
 }
 
 TEST_F(TVStarttermine, EinKlickBereitetDieErledigungAmStandortVor) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   klickeZeile(3);
-  EXPECT_EQ(inhalt(0), "20.06.2006");
-  EXPECT_EQ(inhalt(1), "Durchsicht");
-  EXPECT_EQ(inhalt(2), "Hof");
-  EXPECT_EQ(inhalt(3), "04.07.2006");
+  EXPECT_EQ(inhalt("Erledigungsdatum"), "20.06.2006");
+  EXPECT_EQ(inhalt("Die Termine"), "Durchsicht");
+  EXPECT_EQ(inhalt("am Standort"), "Hof");
+  EXPECT_EQ(inhalt("bis einschl."), "04.07.2006");
 }
 
 TEST_F(TVStarttermine, AllgemeinerTerminLeertDenStandort) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   klickeZeile(0);
   klickeZeile(2);
-  EXPECT_EQ(inhalt(1), "Schau");
-  EXPECT_EQ(inhalt(2), "");
+  EXPECT_EQ(inhalt("Die Termine"), "Schau");
+  EXPECT_EQ(inhalt("am Standort"), "");
 }
 
 TEST_F(TVStarttermine, EingabetasteInDerListeIstEinDoppelklick) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   klickeZeile(1);
   QTest::keyClick(li(), Qt::Key_Return);
   EXPECT_EQ(termine("Erledigt = 'J'"), "16.06. Durchsicht J " + std::to_string(volk2));
 }
 
-TEST_F(TVStarttermine, EingabetasteInEinemFeldDruecktDenKnopfSeinerGruppe) {
-  fuenf();
-  oeffne();
+TEST_F(TVStarttermine, EingabetasteInEinemFeldDrücktDenKnopfSeinerGruppe) {
+  fünf();
+  öffne();
   klickeZeile(0);
-  tippe(0, "19.06.2006");
-  QTest::keyClick(feld(0), Qt::Key_Return);
+  tippe("Erledigungsdatum", "19.06.2006");
+  QTest::keyClick(feld("Erledigungsdatum"), Qt::Key_Return);
   EXPECT_EQ(termine("Erledigt = 'J'"), "19.06. Durchsicht J " + std::to_string(volk1));
-  tippe(1, "Durchsicht");
-  tippe(2, "Hof");
-  tippe(3, "16.06.2006");
+  tippe("Die Termine", "Durchsicht");
+  tippe("am Standort", "Hof");
+  tippe("bis einschl.", "16.06.2006");
   boxen.frage("Es wurden 1 Termine gefunden. Sollen diese wirklich erledigt werden?", false);
-  QTest::keyClick(feld(3), Qt::Key_Return);
+  QTest::keyClick(feld("bis einschl."), Qt::Key_Return);
   EXPECT_TRUE(form->isVisible());
 }
 
-TEST_F(TVStarttermine, LeereListenWerdenNichtUebergeben) {
-  oeffne();
+TEST_F(TVStarttermine, LeereListenWerdenNichtÜbergeben) {
+  öffne();
   boxen.hinweis("Keine zu listenden Daten gefunden");
   klicke("ok");
   boxen.hinweis("Keine zu listenden Daten gefunden");
@@ -103,8 +103,8 @@ TEST_F(TVStarttermine, LeereListenWerdenNichtUebergeben) {
 }
 
 TEST_F(TVStarttermine, ListeGehtAnDieZwischenliste) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   int zeilen = 0;
   Formblick blick([&](QWidget* f) { zeilen = f->findChild<Grid*>("gridli")->zeilen(); });
   klicke("ok");
@@ -114,8 +114,8 @@ TEST_F(TVStarttermine, ListeGehtAnDieZwischenliste) {
 }
 
 TEST_F(TVStarttermine, GruppierteListeHatIhreVierSpalten) {
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   QStringList spalten;
   int zeilen = 0;
   Formblick blick([&](QWidget* f) {
@@ -129,9 +129,9 @@ TEST_F(TVStarttermine, GruppierteListeHatIhreVierSpalten) {
   EXPECT_EQ(zeilen, 3);
 }
 
-TEST_F(TVStarttermine, GruppierteListeZaehltDieVoelkerJeStandortTagUndArt) {
+TEST_F(TVStarttermine, GruppierteListeZähltDieVölkerJeStandortTagUndArt) {
   saison();
-  oeffne();
+  öffne();
   QStringList zeilen;
   Formblick blick([&](QWidget* f) {
     auto* gridli = f->findChild<Grid*>("gridli");
@@ -149,10 +149,10 @@ TEST_F(TVStarttermine, GruppierteListeZaehltDieVoelkerJeStandortTagUndArt) {
             "16.06.2006 Behandlung mit Ameisensäure 2; 17.06.2006 Behandlung mit Ameisensäure 2");
 }
 
-TEST_F(TVStarttermine, SpaltenbreitenHabenIhrenSchluessel) {
+TEST_F(TVStarttermine, SpaltenbreitenHabenIhrenSchlüssel) {
   Fensterablage::setDatei(TZ_Variablen::AppPfad + "TOVA2.LAY");
-  fuenf();
-  oeffne();
+  fünf();
+  öffne();
   li()->setColumnWidth(1, 187);
   EXPECT_EQ(
       Fensterablage::lesen("Spaltenbreiten/tv_starttermine_litermine").toList().value(1).toInt(),
@@ -160,7 +160,7 @@ TEST_F(TVStarttermine, SpaltenbreitenHabenIhrenSchluessel) {
   Fensterablage::setDatei({});
 }
 
-TEST_F(TVStarttermine, GeschlossenHaeltDasFormularDieDatenbankNicht) {
+TEST_F(TVStarttermine, GeschlossenHältDasFormularDieDatenbankNicht) {
   form = std::make_unique<TV_Starttermine>();
   Formblick blick([](QWidget*) {});
   form->zeigen();
@@ -169,7 +169,7 @@ TEST_F(TVStarttermine, GeschlossenHaeltDasFormularDieDatenbankNicht) {
   kind<QPushButton>("okgruppiert")->click();
 }
 
-TEST_F(TVStarttermine, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieDatenbankNicht) {
+TEST_F(TVStarttermine, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHältDieDatenbankNicht) {
   db().Execute("drop table Arbeitsplanoptionen");
   form = std::make_unique<TV_Starttermine>();
   EXPECT_THROW(form->zeigen(), Datenbankfehler);
@@ -178,23 +178,23 @@ TEST_F(TVStarttermine, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieDaten
   kind<QPushButton>("okgruppiert")->click();
 }
 
-TEST_F(TVStarttermine, FuenfzigtausendFaelligeZeilenOeffnenAlle) {
+TEST_F(TVStarttermine, FünfzigtausendFälligeZeilenÖffnenAlle) {
   const qint64 volk = neuesVolk("1", "X", "Hof");
   db().Sammelschreiben([&] {
     for (int i = 0; i < 50000; ++i) termin(tag(6, 1).addDays(i % 30), "Durchsicht", volk);
   });
-  oeffne();
+  öffne();
   EXPECT_EQ(li()->zeilen(), 50000);
 }
 
-TEST_F(TVStarttermine, BildBeiHundertUndHundertfuenfzigProzent) {
+TEST_F(TVStarttermine, BildBeiHundertUndHundertfünfzigProzent) {
   saison();
   for (const int prozent : {100, 150}) {
-    const Schriftgroesse schrift(prozent);
-    oeffne();
+    const Schriftgröße schrift(prozent);
+    öffne();
     klickeZeile(1);
     passtAufKleinenSchirm(*form);
-    knoepfeSindLesbar(*form);
+    knöpfeSindLesbar(*form);
     bildAblegen(*form, QString("termine_start_%1").arg(prozent));
     form.reset();
   }

@@ -14,18 +14,18 @@ class TVTerminverwaltungGespeichert : public TVTerminverwaltung {
     return kind<QRadioButton>("opti_" + QString::number(index))->isChecked();
   }
   void standort(const QString& anfang) {
-    feld(10)->setFocus();
-    QTest::keyClicks(feld(10), anfang);
+    feld("oder alle Völker am Standort")->setFocus();
+    QTest::keyClicks(feld("oder alle Völker am Standort"), anfang);
   }
 };
 
 constexpr auto Ausgeblendet = "Gespeichert. Die Einschränkung oben blendet den Termin aus.";
 
-TEST_F(TVTerminverwaltungGespeichert, TerminFuerEinVolkZeigtDieVolkansicht) {
-  oeffne();
-  tippe(0, "24.06.2006");
-  tippe(1, "Umlarven");
-  tippe(8, "7");
+TEST_F(TVTerminverwaltungGespeichert, TerminFürEinVolkZeigtDieVolkansicht) {
+  öffne();
+  tippe("Datum", "24.06.2006");
+  tippe("Termin", "Umlarven");
+  tippe("Volknummer", "7");
   neu();
   EXPECT_TRUE(ansicht(1));
   EXPECT_EQ(spalte("Termin"), "Durchsicht Umlarven");
@@ -34,9 +34,9 @@ TEST_F(TVTerminverwaltungGespeichert, TerminFuerEinVolkZeigtDieVolkansicht) {
 }
 
 TEST_F(TVTerminverwaltungGespeichert, TerminAmStandortZeigtDieVolkansicht) {
-  oeffne();
-  tippe(0, "24.06.2006");
-  tippe(1, "Zarge");
+  öffne();
+  tippe("Datum", "24.06.2006");
+  tippe("Termin", "Zarge");
   standort("H");
   boxen.frageMit("Soll der Termin wirklich bei allen Völkern am Standort 'Heide'", true);
   neu();
@@ -46,21 +46,21 @@ TEST_F(TVTerminverwaltungGespeichert, TerminAmStandortZeigtDieVolkansicht) {
 }
 
 TEST_F(TVTerminverwaltungGespeichert, AllgemeinerTerminZeigtDieAllgemeinen) {
-  oeffne();
+  öffne();
   volkansicht();
-  tippe(0, "24.06.2006");
-  tippe(1, "Markt");
+  tippe("Datum", "24.06.2006");
+  tippe("Termin", "Markt");
   neu();
   EXPECT_TRUE(ansicht(0));
   EXPECT_EQ(spalte("Termin"), "Schau Steuer Markt");
   EXPECT_EQ(li()->aktuelleZeile(), 2);
 }
 
-TEST_F(TVTerminverwaltungGespeichert, AusserhalbDesZeitraumsWirdEsGesagtBisNeuGelesenWird) {
-  oeffne();
+TEST_F(TVTerminverwaltungGespeichert, AußerhalbDesZeitraumsWirdEsGesagtBisNeuGelesenWird) {
+  öffne();
   EXPECT_EQ(ausgeblendet(), "");
-  tippe(0, "24.12.2006");
-  tippe(1, "Weihnachtsmarkt");
+  tippe("Datum", "24.12.2006");
+  tippe("Termin", "Weihnachtsmarkt");
   neu();
   EXPECT_EQ(termine("Termin = 'Weihnachtsmarkt'"), "24.12. Weihnachtsmarkt N 0");
   EXPECT_EQ(li()->aktuelleZeile(), -1);
@@ -70,20 +70,20 @@ TEST_F(TVTerminverwaltungGespeichert, AusserhalbDesZeitraumsWirdEsGesagtBisNeuGe
 }
 
 // Who works through a list isn't taken out of it.
-TEST_F(TVTerminverwaltungGespeichert, AendernLaesstDieAnsichtStehenUndSagtEs) {
-  oeffne();
+TEST_F(TVTerminverwaltungGespeichert, ÄndernLässtDieAnsichtStehenUndSagtEs) {
+  öffne();
   volkansicht();
   klickeZeile(0);
-  tippe(8, "");
-  aendern();
+  tippe("Volknummer", "");
+  ändern();
   EXPECT_TRUE(ansicht(1));
   EXPECT_EQ(li()->zeilen(), 0);
   EXPECT_EQ(ausgeblendet(), Ausgeblendet);
 }
 
 TEST_F(TVTerminverwaltungGespeichert, WoNichtsEingetragenWurdeWirdAuchNichtsGesagt) {
-  oeffne();
-  tippe(1, "Zarge");
+  öffne();
+  tippe("Termin", "Zarge");
   standort("H");
   db().Execute("update Bienenvolk set Standort = 'Hof'");
   boxen.frageMit("Soll der Termin wirklich bei allen Völkern am Standort 'Heide'", true);
@@ -93,19 +93,19 @@ TEST_F(TVTerminverwaltungGespeichert, WoNichtsEingetragenWurdeWirdAuchNichtsGesa
 }
 
 // Down the left column, then down the right one, as they are read.
-TEST_F(TVTerminverwaltungGespeichert, DieTabulatortasteGehtSpalteFuerSpalte) {
-  oeffne();
-  feld(0)->setFocus();
-  for (const int naechstes : {9, 2, 1, 8, 10}) {
+TEST_F(TVTerminverwaltungGespeichert, DieTabulatortasteGehtSpalteFürSpalte) {
+  öffne();
+  feld("Datum")->setFocus();
+  for (const int nächstes : {9, 2, 1, 8, 10}) {
     QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
-    EXPECT_TRUE(feld(naechstes)->hasFocus()) << naechstes;
+    EXPECT_TRUE(feld(nächstes)->hasFocus()) << nächstes;
   }
 }
 
-TEST_F(TVTerminverwaltungGespeichert, EinAbgelehnterLaesstDieAnsichtStehen) {
-  oeffne();
-  tippe(1, "");
-  tippe(8, "7");
+TEST_F(TVTerminverwaltungGespeichert, EinAbgelehnterLässtDieAnsichtStehen) {
+  öffne();
+  tippe("Termin", "");
+  tippe("Volknummer", "7");
   boxen.hinweisMit("Die Daten werden nicht gespeichert, weil...");
   neu();
   EXPECT_TRUE(ansicht(0));

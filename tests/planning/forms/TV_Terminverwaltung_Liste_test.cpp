@@ -4,8 +4,8 @@
 
 namespace {
 
-TEST_F(TVTerminverwaltung, JedesOeffnenBeginntMitDenAllgemeinenTerminen) {
-  oeffne();
+TEST_F(TVTerminverwaltung, JedesÖffnenBeginntMitDenAllgemeinenTerminen) {
+  öffne();
   klicke("opti_1");
   form->close();
   form->laden();
@@ -13,7 +13,7 @@ TEST_F(TVTerminverwaltung, JedesOeffnenBeginntMitDenAllgemeinenTerminen) {
 }
 
 TEST_F(TVTerminverwaltung, DieZweiAnsichtenWechselnPerKlick) {
-  oeffne();
+  öffne();
   volkansicht();
   EXPECT_EQ(spalte("Termin"), "Durchsicht");
   EXPECT_EQ(spalte("Volknr"), "7");
@@ -21,116 +21,116 @@ TEST_F(TVTerminverwaltung, DieZweiAnsichtenWechselnPerKlick) {
   EXPECT_EQ(spalte("Termin"), "Schau Steuer");
 }
 
-TEST_F(TVTerminverwaltung, GeaenderterFilterWirktBeimVerlassen) {
-  oeffne();
-  tippe(4, "Steuer");
+TEST_F(TVTerminverwaltung, GeänderterFilterWirktBeimVerlassen) {
+  öffne();
+  tippe("...die Terminart", "Steuer");
   EXPECT_EQ(spalte("Termin"), "Schau Steuer");
-  feld(0)->setFocus();
+  feld("Datum")->setFocus();
   EXPECT_EQ(spalte("Termin"), "Steuer");
-  tippe(4, "");
-  tippe(7, "1.8.06");
-  feld(0)->setFocus();
+  tippe("...die Terminart", "");
+  tippe("...Termindatum bis", "1.8.06");
+  feld("Datum")->setFocus();
   EXPECT_EQ(spalte("Termin"), "Schau Steuer Fest");
 }
 
 // As when the user looks something up in another program while he types.
 TEST_F(TVTerminverwaltung, FilterWirktAuchNachEinemBlickInEinAnderesFenster) {
-  oeffne();
-  tippe(4, "Steuer");
+  öffne();
+  tippe("...die Terminart", "Steuer");
   QFocusEvent hinaus(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
-  QApplication::sendEvent(feld(4), &hinaus);
+  QApplication::sendEvent(feld("...die Terminart"), &hinaus);
   QFocusEvent herein(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
-  QApplication::sendEvent(feld(4), &herein);
+  QApplication::sendEvent(feld("...die Terminart"), &herein);
   EXPECT_EQ(spalte("Termin"), "Schau Steuer");
-  feld(0)->setFocus();
+  feld("Datum")->setFocus();
   EXPECT_EQ(spalte("Termin"), "Steuer");
 }
 
 // Saving by its key reads the list with the filter that is just being typed.
 TEST_F(TVTerminverwaltung, NachDemSpeichernAusEinemFilterBleibtDieNeueZeileAktuell) {
-  oeffne();
-  tippe(1, "Markt");
-  tippe(4, "Markt");
-  QTest::keyClick(feld(4), Qt::Key_N, Qt::AltModifier);
+  öffne();
+  tippe("Termin", "Markt");
+  tippe("...die Terminart", "Markt");
+  QTest::keyClick(feld("...die Terminart"), Qt::Key_N, Qt::AltModifier);
   ASSERT_TRUE(QTest::qWaitFor([this] { return spalte("Termin") == "Markt"; }));
   ASSERT_EQ(li()->aktuelleZeile(), 0);
-  feld(0)->setFocus();
+  feld("Datum")->setFocus();
   EXPECT_EQ(li()->aktuelleZeile(), 0);
 }
 
-TEST_F(TVTerminverwaltung, UnveraenderterFilterLiestNichtNeu) {
-  oeffne();
+TEST_F(TVTerminverwaltung, UnveränderterFilterLiestNichtNeu) {
+  öffne();
   klickeZeile(1);
-  feld(4)->setFocus();
-  feld(0)->setFocus();
+  feld("...die Terminart")->setFocus();
+  feld("Datum")->setFocus();
   EXPECT_EQ(li()->aktuelleZeile(), 1);
 }
 
 TEST_F(TVTerminverwaltung, EingabetasteImFilterZeigtDieListeUndSpeichertNichts) {
-  oeffne();
-  tippe(1, "Neues");
-  tippe(4, "Steuer");
-  QTest::keyClick(feld(4), Qt::Key_Return);
+  öffne();
+  tippe("Termin", "Neues");
+  tippe("...die Terminart", "Steuer");
+  QTest::keyClick(feld("...die Terminart"), Qt::Key_Return);
   EXPECT_EQ(spalte("Termin"), "Steuer");
   EXPECT_EQ(anzahl("Termine"), 4);
 }
 
-TEST_F(TVTerminverwaltung, LeeresVomDatumWirdBeimNaechstenLesenGefuellt) {
-  oeffne();
-  tippe(6, "");
-  feld(0)->setFocus();
-  EXPECT_EQ(inhalt(6), "13.06.2006");
+TEST_F(TVTerminverwaltung, LeeresVomDatumWirdBeimNächstenLesenGefüllt) {
+  öffne();
+  tippe("...Termindatum vom", "");
+  feld("Datum")->setFocus();
+  EXPECT_EQ(inhalt("...Termindatum vom"), "13.06.2006");
 }
 
-TEST_F(TVTerminverwaltung, LeeresBisDatumWirdBeimNaechstenLesenGefuellt) {
-  oeffne();
-  tippe(7, "");
-  feld(0)->setFocus();
-  EXPECT_EQ(inhalt(7), "04.07.2006");
-  EXPECT_EQ(inhalt(6), "13.06.2006");
+TEST_F(TVTerminverwaltung, LeeresBisDatumWirdBeimNächstenLesenGefüllt) {
+  öffne();
+  tippe("...Termindatum bis", "");
+  feld("Datum")->setFocus();
+  EXPECT_EQ(inhalt("...Termindatum bis"), "04.07.2006");
+  EXPECT_EQ(inhalt("...Termindatum vom"), "13.06.2006");
   EXPECT_EQ(spalte("Termin"), "Schau Steuer");
 }
 
 TEST_F(TVTerminverwaltung, FilterNachVolknummerInDerVolkansicht) {
   const qint64 anderes = neuesVolk("9", "X", "Hof");
   termin(tag(6, 24), "Zarge", anderes);
-  oeffne();
+  öffne();
   volkansicht();
   EXPECT_EQ(spalte("Volknr"), "7 9");
-  feld(3)->setFocus();
-  QTest::keyClicks(feld(3), "9");
-  feld(0)->setFocus();
+  feld("...die Volknummer")->setFocus();
+  QTest::keyClicks(feld("...die Volknummer"), "9");
+  feld("Datum")->setFocus();
   EXPECT_EQ(spalte("Termin"), "Zarge");
 }
 
 TEST_F(TVTerminverwaltung, FilterNachTerminartMitApostroph) {
-  oeffne();
-  tippe(1, "Rund um's Volk");
+  öffne();
+  tippe("Termin", "Rund um's Volk");
   neu();
-  tippe(4, "Rund um's Volk");
-  feld(0)->setFocus();
+  tippe("...die Terminart", "Rund um's Volk");
+  feld("Datum")->setFocus();
   EXPECT_EQ(spalte("Termin"), "Rund um`s Volk");
 }
 
-TEST_F(TVTerminverwaltung, FilterLaesstGetipptesStehen) {
-  oeffne();
+TEST_F(TVTerminverwaltung, FilterLässtGetipptesStehen) {
+  öffne();
   klickeZeile(0);
-  tippe(1, "halb getip");
-  tippe(4, "Steuer");
-  feld(0)->setFocus();
+  tippe("Termin", "halb getip");
+  tippe("...die Terminart", "Steuer");
+  feld("Datum")->setFocus();
   volkansicht();
-  EXPECT_EQ(inhalt(1), "halb getip");
-  EXPECT_EQ(inhalt(0), "21.06.2006");
+  EXPECT_EQ(inhalt("Termin"), "halb getip");
+  EXPECT_EQ(inhalt("Datum"), "21.06.2006");
 }
 
 TEST_F(TVTerminverwaltung, SortierungPerKopfBleibtBeimNeulesen) {
   termin(tag(6, 24), "Ausflug");
-  oeffne();
+  öffne();
   auto* kopf = li()->horizontalHeader();
   const int stelle = kopf->sectionViewportPosition(li()->spaltenNummer("Termin")) + 5;
   QTest::mouseClick(kopf->viewport(), Qt::LeftButton, {}, QPoint(stelle, kopf->height() / 2));
   ASSERT_EQ(spalte("Termin"), "Ausflug Schau Steuer");
-  tippe(1, "Markt");
+  tippe("Termin", "Markt");
   neu();
   EXPECT_EQ(spalte("Termin"), "Ausflug Markt Schau Steuer");
   EXPECT_EQ(li()->aktuelleZeile(), 1);
@@ -141,7 +141,7 @@ TEST_F(TVTerminverwaltung, SortierungPerKopfBleibtBeimNeulesen) {
 
 // The general view has no such column.
 TEST_F(TVTerminverwaltung, SortierungNachVolknummerEndetInDerAllgemeinenAnsicht) {
-  oeffne();
+  öffne();
   volkansicht();
   li()->sortiere(li()->spaltenNummer("Volknr"), Qt::DescendingOrder);
   klicke("opti_0");
@@ -150,35 +150,35 @@ TEST_F(TVTerminverwaltung, SortierungNachVolknummerEndetInDerAllgemeinenAnsicht)
 }
 
 TEST_F(TVTerminverwaltung, FilterNachErledigungsStatus) {
-  oeffne();
-  feld(5)->setFocus();
-  QTest::keyClicks(feld(5), "J");
-  feld(0)->setFocus();
+  öffne();
+  feld("...den Erledigungs-Status")->setFocus();
+  QTest::keyClicks(feld("...den Erledigungs-Status"), "J");
+  feld("Datum")->setFocus();
   EXPECT_EQ(spalte("Termin"), "Steuer");
 }
 
 TEST_F(TVTerminverwaltung, ZeileKommtInDieEingaben) {
-  oeffne();
+  öffne();
   klickeZeile(1);
-  EXPECT_EQ(inhalt(0), "22.06.2006");
-  EXPECT_EQ(inhalt(1), "Steuer");
-  EXPECT_EQ(inhalt(2), "J");
-  EXPECT_EQ(inhalt(8), "");
-  EXPECT_EQ(inhalt(9), "2");
+  EXPECT_EQ(inhalt("Datum"), "22.06.2006");
+  EXPECT_EQ(inhalt("Termin"), "Steuer");
+  EXPECT_EQ(inhalt("Erledigt (J/N)"), "J");
+  EXPECT_EQ(inhalt("Volknummer"), "");
+  EXPECT_EQ(inhalt("Heute in..."), "2");
   volkansicht();
   klickeZeile(0);
-  EXPECT_EQ(inhalt(8), "7");
+  EXPECT_EQ(inhalt("Volknummer"), "7");
 }
 
 TEST_F(TVTerminverwaltung, AllgemeinerTerminLeertDieVolknummer) {
-  oeffne();
-  tippe(8, "7");
+  öffne();
+  tippe("Volknummer", "7");
   klickeZeile(0);
-  EXPECT_EQ(inhalt(8), "");
+  EXPECT_EQ(inhalt("Volknummer"), "");
 }
 
-TEST_F(TVTerminverwaltung, OkOeffnetDieOffenenTermineUndLiestDanachNeu) {
-  oeffne();
+TEST_F(TVTerminverwaltung, OkÖffnetDieOffenenTermineUndLiestDanachNeu) {
+  öffne();
   klickeZeile(0);
   Formblick blick([](QWidget*) {
     TZ_Variablen::DB.Execute("update Termine set Erledigt = 'J' where Termin = 'Schau'");
@@ -189,43 +189,43 @@ TEST_F(TVTerminverwaltung, OkOeffnetDieOffenenTermineUndLiestDanachNeu) {
   EXPECT_EQ(li()->aktuelleZeile(), 0);
 }
 
-TEST_F(TVTerminverwaltung, RueckkehrAusDenOffenenTerminenZeigtDasNeueKennzeichen) {
-  oeffne();
+TEST_F(TVTerminverwaltung, RückkehrAusDenOffenenTerminenZeigtDasNeueKennzeichen) {
+  öffne();
   klickeZeile(0);
   Formblick blick([](QWidget*) {
     TZ_Variablen::DB.Execute("update Termine set Erledigt = 'J' where Termin = 'Schau'");
   });
   klicke("ok");
-  EXPECT_EQ(inhalt(2), "J");
+  EXPECT_EQ(inhalt("Erledigt (J/N)"), "J");
 }
 
-TEST_F(TVTerminverwaltung, RueckkehrAusDenOffenenTerminenLaesstGetipptesStehen) {
-  oeffne();
+TEST_F(TVTerminverwaltung, RückkehrAusDenOffenenTerminenLässtGetipptesStehen) {
+  öffne();
   klickeZeile(0);
-  tippe(0, "30.06.2006");
-  tippe(1, "Markt in der St");
+  tippe("Datum", "30.06.2006");
+  tippe("Termin", "Markt in der St");
   Formblick blick([](QWidget*) {});
   klicke("ok");
   EXPECT_EQ(blick.name, "TV_Starttermine");
-  EXPECT_EQ(inhalt(0), "30.06.2006");
-  EXPECT_EQ(inhalt(1), "Markt in der St");
-  EXPECT_EQ(inhalt(9), "10");
+  EXPECT_EQ(inhalt("Datum"), "30.06.2006");
+  EXPECT_EQ(inhalt("Termin"), "Markt in der St");
+  EXPECT_EQ(inhalt("Heute in..."), "10");
   EXPECT_EQ(li()->aktuelleZeile(), 0);
   klickeZeile(1);
-  EXPECT_EQ(inhalt(1), "Steuer");
+  EXPECT_EQ(inhalt("Termin"), "Steuer");
 }
 
-TEST_F(TVTerminverwaltung, RueckkehrAusDenOffenenTerminenLaesstEinenGewaehltenStandortStehen) {
-  oeffne();
+TEST_F(TVTerminverwaltung, RückkehrAusDenOffenenTerminenLässtEinenGewähltenStandortStehen) {
+  öffne();
   klickeZeile(0);
-  feld(10)->setFocus();
-  QTest::keyClicks(feld(10), "H");
+  feld("oder alle Völker am Standort")->setFocus();
+  QTest::keyClicks(feld("oder alle Völker am Standort"), "H");
   Formblick blick([](QWidget*) {});
   klicke("ok");
-  EXPECT_EQ(inhalt(10), "Heide");
+  EXPECT_EQ(inhalt("oder alle Völker am Standort"), "Heide");
 }
 
-TEST_F(TVTerminverwaltung, GeschlossenHaeltDasFormularDieDatenbankNicht) {
+TEST_F(TVTerminverwaltung, GeschlossenHältDasFormularDieDatenbankNicht) {
   form = std::make_unique<TV_Terminverwaltung>();
   Formblick blick([](QWidget*) {});
   form->zeigen();
@@ -234,7 +234,7 @@ TEST_F(TVTerminverwaltung, GeschlossenHaeltDasFormularDieDatenbankNicht) {
   kind<QRadioButton>("opti_1")->click();
 }
 
-TEST_F(TVTerminverwaltung, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieDatenbankNicht) {
+TEST_F(TVTerminverwaltung, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHältDieDatenbankNicht) {
   db().Execute("drop table Termine");
   form = std::make_unique<TV_Terminverwaltung>();
   EXPECT_THROW(form->zeigen(), Datenbankfehler);
@@ -243,9 +243,9 @@ TEST_F(TVTerminverwaltung, WasNichtGeladenWerdenKannWirdNichtGezeigtUndHaeltDieD
   kind<QRadioButton>("opti_1")->click();
 }
 
-TEST_F(TVTerminverwaltung, SpaltenbreitenHabenIhrenSchluessel) {
+TEST_F(TVTerminverwaltung, SpaltenbreitenHabenIhrenSchlüssel) {
   Fensterablage::setDatei(TZ_Variablen::AppPfad + "TOVA2.LAY");
-  oeffne();
+  öffne();
   li()->setColumnWidth(1, 187);
   EXPECT_EQ(Fensterablage::lesen("Spaltenbreiten/tv_terminverwaltung_litermine")
                 .toList()

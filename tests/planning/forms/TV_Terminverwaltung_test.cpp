@@ -7,16 +7,16 @@ namespace {
 
 using TZ_Variablen::EinstellungenZahl;
 
-TEST_F(TVTerminverwaltung, EinUngueltigesDatumLaesstDieTageStehen) {
-  oeffne();
-  tippe(9, "3");
-  ASSERT_EQ(inhalt(0), "23.06.2006");
-  tippe(0, "31.02.2006");
-  EXPECT_EQ(inhalt(9), "3");
+TEST_F(TVTerminverwaltung, EinUngültigesDatumLässtDieTageStehen) {
+  öffne();
+  tippe("Heute in...", "3");
+  ASSERT_EQ(inhalt("Datum"), "23.06.2006");
+  tippe("Datum", "31.02.2006");
+  EXPECT_EQ(inhalt("Heute in..."), "3");
 }
 
 TEST_F(TVTerminverwaltung, JedesFeldHatNamenUndBeschriftung) {
-  oeffne();
+  öffne();
   EXPECT_EQ(form->objectName(), "TV_Terminverwaltung");
   EXPECT_EQ(form->windowTitle(), "Terminverwaltung");
   EXPECT_EQ(kind<QRadioButton>("opti_0")->text(), "Allgemeine Termine");
@@ -37,165 +37,166 @@ TEST_F(TVTerminverwaltung, JedesFeldHatNamenUndBeschriftung) {
                              "Heute in...",
                              "oder alle Völker am Standort"};
   for (int i = 0; i < 11; ++i) EXPECT_EQ(feld(i)->accessibleName(), namen[i]);
-  EXPECT_EQ(feld(9)->beschreibung().einheit, "Tagen");
+  EXPECT_EQ(feld("Heute in...")->beschreibung().einheit, "Tagen");
 }
 
 TEST_F(TVTerminverwaltung, ErsteWerteUndAuswahlen) {
-  oeffne();
-  EXPECT_EQ(inhalt(0), "20.06.2006");
-  EXPECT_EQ(inhalt(2), "N");
-  EXPECT_EQ(inhalt(6), "13.06.2006");
-  EXPECT_EQ(inhalt(7), "04.07.2006");
-  EXPECT_EQ(inhalt(9), "0");
-  EXPECT_EQ(feld(3)->beschreibung().auswahl, QStringList({"", "7", "8"}));
-  EXPECT_EQ(feld(5)->beschreibung().auswahl, QStringList({"", "J", "N"}));
-  EXPECT_EQ(feld(2)->beschreibung().auswahl, QStringList({"J", "N"}));
-  EXPECT_EQ(feld(10)->beschreibung().auswahl, QStringList({"", "Heide"}));
+  öffne();
+  EXPECT_EQ(inhalt("Datum"), "20.06.2006");
+  EXPECT_EQ(inhalt("Erledigt (J/N)"), "N");
+  EXPECT_EQ(inhalt("...Termindatum vom"), "13.06.2006");
+  EXPECT_EQ(inhalt("...Termindatum bis"), "04.07.2006");
+  EXPECT_EQ(inhalt("Heute in..."), "0");
+  EXPECT_EQ(feld("...die Volknummer")->beschreibung().auswahl, QStringList({"", "7", "8"}));
+  EXPECT_EQ(feld("...den Erledigungs-Status")->beschreibung().auswahl, QStringList({"", "J", "N"}));
+  EXPECT_EQ(feld("Erledigt (J/N)")->beschreibung().auswahl, QStringList({"J", "N"}));
+  EXPECT_EQ(feld("oder alle Völker am Standort")->beschreibung().auswahl,
+            QStringList({"", "Heide"}));
   for (const int i : {1, 4})
     EXPECT_EQ(feld(i)->liste(), QStringList({"Durchsicht", "Fest", "Schau", "Steuer"}));
-  EXPECT_EQ(feld(8)->liste(), QStringList({"7", "8"}));
+  EXPECT_EQ(feld("Volknummer")->liste(), QStringList({"7", "8"}));
   EXPECT_TRUE(kind<QRadioButton>("opti_0")->isChecked());
   EXPECT_EQ(spalte("Termin"), "Schau Steuer");
 }
 
 TEST_F(TVTerminverwaltung, HeuteInTagenSetztDasDatumUndUmgekehrt) {
-  oeffne();
-  tippe(9, "14");
-  EXPECT_EQ(inhalt(0), "04.07.2006");
-  tippe(9, "-1");
-  EXPECT_EQ(inhalt(0), "19.06.2006");
-  EXPECT_EQ(inhalt(9), "-1");
-  tippe(0, "30.6.2006");
-  EXPECT_EQ(inhalt(9), "10");
+  öffne();
+  tippe("Heute in...", "14");
+  EXPECT_EQ(inhalt("Datum"), "04.07.2006");
+  tippe("Heute in...", "-1");
+  EXPECT_EQ(inhalt("Datum"), "19.06.2006");
+  EXPECT_EQ(inhalt("Heute in..."), "-1");
+  tippe("Datum", "30.6.2006");
+  EXPECT_EQ(inhalt("Heute in..."), "10");
 }
 
 TEST_F(TVTerminverwaltung, InTageKommenNurZiffernUndVorzeichen) {
-  oeffne();
-  tippe(9, "1a2,3");
-  EXPECT_EQ(inhalt(9), "123");
+  öffne();
+  tippe("Heute in...", "1a2,3");
+  EXPECT_EQ(inhalt("Heute in..."), "123");
 }
 
 TEST_F(TVTerminverwaltung, NeuerTerminStehtDanachAktuellInDerListe) {
-  oeffne();
-  tippe(0, "24.06.2006");
-  tippe(1, "Markt");
+  öffne();
+  tippe("Datum", "24.06.2006");
+  tippe("Termin", "Markt");
   neu();
   EXPECT_EQ(spalte("Termin"), "Schau Steuer Markt");
   EXPECT_EQ(li()->aktuelleZeile(), 2);
-  EXPECT_EQ(inhalt(2), "N");
-  EXPECT_TRUE(feld(1)->liste().contains("Markt"));
+  EXPECT_EQ(inhalt("Erledigt (J/N)"), "N");
+  EXPECT_TRUE(feld("Termin")->liste().contains("Markt"));
 }
 
-TEST_F(TVTerminverwaltung, NeuerTerminFuerEinVolk) {
-  oeffne();
+TEST_F(TVTerminverwaltung, NeuerTerminFürEinVolk) {
+  öffne();
   volkansicht();
-  tippe(1, "Zarge");
-  tippe(8, "7");
+  tippe("Termin", "Zarge");
+  tippe("Volknummer", "7");
   neu();
   EXPECT_EQ(termine("Termin = 'Zarge'"), "20.06. Zarge N " + std::to_string(volk));
 }
 
 TEST_F(TVTerminverwaltung, NachJedemSpeichernUndNurDannKommtDerTastenton) {
-  int toene = 0;
-  Ton::setSpieler([&](int, int) { ++toene; });
-  EinstellungenZahl[14] = 1;
-  oeffne();
+  int töne = 0;
+  Ton::setSpieler([&](int, int) { ++töne; });
+  EinstellungenZahl[Zahlslots.tastenton] = 1;
+  öffne();
   boxen.hinweisMit("...die Terminart angegeben werden muß.");
   neu();
   klickeZeile(0);
   boxen.hinweis("Dieser Termin existiert bereits.");
   neu();
-  EXPECT_EQ(toene, 0);
-  tippe(1, "Messe");
-  aendern();
-  EXPECT_EQ(toene, 1);
-  tippe(1, "Markt");
+  EXPECT_EQ(töne, 0);
+  tippe("Termin", "Messe");
+  ändern();
+  EXPECT_EQ(töne, 1);
+  tippe("Termin", "Markt");
   neu();
-  EXPECT_EQ(toene, 2);
+  EXPECT_EQ(töne, 2);
   Ton::setSpieler({});
 }
 
 TEST_F(TVTerminverwaltung, TexteSindSoLangWieIhreFelder) {
-  oeffne();
-  for (const int i : {1, 4}) EXPECT_EQ(feld(i)->beschreibung().maxLaenge, 30);
-  EXPECT_EQ(feld(8)->beschreibung().maxLaenge, 10);
-  tippe(1, QString(31, u'x'));
+  öffne();
+  for (const int i : {1, 4}) EXPECT_EQ(feld(i)->beschreibung().maxLänge, 30);
+  EXPECT_EQ(feld("Volknummer")->beschreibung().maxLänge, 10);
+  tippe("Termin", QString(31, u'x'));
   neu();
   EXPECT_EQ(anzahl("Termine", "Termin = '" + QString(30, u'x') + "'"), 1);
 }
 
 TEST_F(TVTerminverwaltung, BlankAlsVolknummerIstEinAllgemeinerTermin) {
-  oeffne();
-  tippe(1, "Markt");
-  tippe(8, " ");
+  öffne();
+  tippe("Termin", "Markt");
+  tippe("Volknummer", " ");
   neu();
   EXPECT_EQ(termine("Termin = 'Markt'"), "20.06. Markt N 0");
 }
 
 // Else the next new appointment would be entered as done.
 TEST_F(TVTerminverwaltung, ErledigtStehtNachJedemSpeichernWiederAufN) {
-  oeffne();
-  tippe(1, "Markt");
-  feld(2)->setFocus();
-  QTest::keyClicks(feld(2), "J");
-  ASSERT_EQ(inhalt(2), "J");
+  öffne();
+  tippe("Termin", "Markt");
+  feld("Erledigt (J/N)")->setFocus();
+  QTest::keyClicks(feld("Erledigt (J/N)"), "J");
+  ASSERT_EQ(inhalt("Erledigt (J/N)"), "J");
   neu();
   EXPECT_EQ(termine("Termin = 'Markt'"), "20.06. Markt J 0");
-  EXPECT_EQ(inhalt(2), "N");
+  EXPECT_EQ(inhalt("Erledigt (J/N)"), "N");
   doppelklick(1);
   EXPECT_EQ(termine("Termin = 'Schau'"), "21.06. Schau J 0");
-  EXPECT_EQ(inhalt(2), "N");
+  EXPECT_EQ(inhalt("Erledigt (J/N)"), "N");
   klickeZeile(1);
-  EXPECT_EQ(inhalt(2), "J");
+  EXPECT_EQ(inhalt("Erledigt (J/N)"), "J");
 }
 
-TEST_F(TVTerminverwaltung, LeeresDatumWirdNachDemLoeschenDerErledigtenHeute) {
-  oeffne();
+TEST_F(TVTerminverwaltung, LeeresDatumWirdNachDemLöschenDerErledigtenHeute) {
+  öffne();
   klickeZeile(1);
-  tippe(0, "");
-  feld(10)->setFocus();
-  QTest::keyClicks(feld(10), "H");
-  ASSERT_EQ(inhalt(10), "Heide");
-  ASSERT_EQ(inhalt(2), "J");
+  tippe("Datum", "");
+  feld("oder alle Völker am Standort")->setFocus();
+  QTest::keyClicks(feld("oder alle Völker am Standort"), "H");
+  ASSERT_EQ(inhalt("oder alle Völker am Standort"), "Heide");
+  ASSERT_EQ(inhalt("Erledigt (J/N)"), "J");
   boxen.frageMit("Sollen wirklich alle als erledigt markierte Termine", true);
   klicke("lschalleerledigte");
-  EXPECT_EQ(inhalt(0), "20.06.2006");
-  EXPECT_EQ(inhalt(2), "N");
-  EXPECT_EQ(inhalt(10), "");
-  EXPECT_EQ(feld(1)->liste(), QStringList({"Durchsicht", "Fest", "Schau"}));
+  EXPECT_EQ(inhalt("Datum"), "20.06.2006");
+  EXPECT_EQ(inhalt("Erledigt (J/N)"), "N");
+  EXPECT_EQ(inhalt("oder alle Völker am Standort"), "");
+  EXPECT_EQ(feld("Termin")->liste(), QStringList({"Durchsicht", "Fest", "Schau"}));
 }
 
-TEST_F(TVTerminverwaltung, ErstKommenDieGruendeDannDieZeile) {
-  oeffne();
+TEST_F(TVTerminverwaltung, ErstKommenDieGründeDannDieZeile) {
+  öffne();
   boxen.hinweis(
       "Die Daten werden nicht gespeichert, weil...\n\n"
       "...die Terminart angegeben werden muß.\n");
-  aendern();
+  ändern();
 }
 
 TEST_F(TVTerminverwaltung, ErstKommtDieZeileDannDerDoppelteTermin) {
-  oeffne();
-  tippe(0, "21.06.2006");
-  tippe(1, "Schau");
+  öffne();
+  tippe("Datum", "21.06.2006");
+  tippe("Termin", "Schau");
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!");
-  aendern();
+  ändern();
 }
 
 TEST_F(TVTerminverwaltung, ErstKommtDerDoppelteTerminDannDieFrageNachDemStandort) {
-  oeffne();
+  öffne();
   klickeZeile(0);
-  feld(10)->setFocus();
-  QTest::keyClicks(feld(10), "H");
+  feld("oder alle Völker am Standort")->setFocus();
+  QTest::keyClicks(feld("oder alle Völker am Standort"), "H");
   boxen.hinweis("Dieser Termin existiert bereits.");
   neu();
   EXPECT_EQ(anzahl("Termine"), 4);
-  EXPECT_EQ(inhalt(10), "Heide");
+  EXPECT_EQ(inhalt("oder alle Völker am Standort"), "Heide");
 }
 
-TEST_F(TVTerminverwaltung, AlleGruendeStehenInEinemHinweis) {
-  oeffne();
-  tippe(0, "31.02.2006");
-  tippe(8, "8");
+TEST_F(TVTerminverwaltung, AlleGründeStehenInEinemHinweis) {
+  öffne();
+  tippe("Datum", "31.02.2006");
+  tippe("Volknummer", "8");
   boxen.hinweis(
       "Die Daten werden nicht gespeichert, weil...\n\n"
       "...das Datum des Termins angegeben werden muß.\n"
@@ -205,72 +206,72 @@ TEST_F(TVTerminverwaltung, AlleGruendeStehenInEinemHinweis) {
   EXPECT_EQ(anzahl("Termine"), 4);
 }
 
-TEST_F(TVTerminverwaltung, AendernOhneZeileWirdErklaert) {
-  oeffne();
-  tippe(1, "Markt");
+TEST_F(TVTerminverwaltung, ÄndernOhneZeileWirdErklärt) {
+  öffne();
+  tippe("Termin", "Markt");
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie ändern möchten!");
-  aendern();
+  ändern();
 }
 
 TEST_F(TVTerminverwaltung, DoppelterTerminWirdAbgelehnt) {
-  oeffne();
+  öffne();
   klickeZeile(0);
   boxen.hinweis("Dieser Termin existiert bereits.");
   neu();
   EXPECT_EQ(anzahl("Termine"), 4);
 }
 
-TEST_F(TVTerminverwaltung, AendernMitStandortFragtUndAendertNurDieZeile) {
-  oeffne();
+TEST_F(TVTerminverwaltung, ÄndernMitStandortFragtUndÄndertNurDieZeile) {
+  öffne();
   klickeZeile(0);
-  tippe(1, "Messe");
-  feld(10)->setFocus();
-  QTest::keyClicks(feld(10), "H");
+  tippe("Termin", "Messe");
+  feld("oder alle Völker am Standort")->setFocus();
+  QTest::keyClicks(feld("oder alle Völker am Standort"), "H");
   const QString frage =
       "Soll der Termin wirklich bei allen Völkern am Standort 'Heide' eingetragen werden?";
   boxen.frage(frage, false);
-  aendern();
+  ändern();
   EXPECT_EQ(anzahl("Termine", "Termin = 'Messe'"), 0);
-  EXPECT_EQ(inhalt(1), "Messe");
+  EXPECT_EQ(inhalt("Termin"), "Messe");
   boxen.frage(frage, true);
-  aendern();
+  ändern();
   EXPECT_EQ(termine("Termin = 'Messe'"), "21.06. Messe N 0");
   EXPECT_EQ(anzahl("Termine"), 4);
-  EXPECT_EQ(inhalt(10), "");
+  EXPECT_EQ(inhalt("oder alle Völker am Standort"), "");
 }
 
-TEST_F(TVTerminverwaltung, AendernKannDasVolkWegnehmen) {
-  oeffne();
+TEST_F(TVTerminverwaltung, ÄndernKannDasVolkWegnehmen) {
+  öffne();
   volkansicht();
   klickeZeile(0);
-  tippe(8, "");
-  aendern();
+  tippe("Volknummer", "");
+  ändern();
   EXPECT_EQ(termine("Termin = 'Durchsicht'"), "23.06. Durchsicht N 0");
   EXPECT_EQ(li()->zeilen(), 0);
   EXPECT_EQ(li()->aktuelleZeile(), -1);
 }
 
-TEST_F(TVTerminverwaltung, AendernSchreibtDieZeileUndBehaeltIhrKennzeichen) {
-  oeffne();
+TEST_F(TVTerminverwaltung, ÄndernSchreibtDieZeileUndBehältIhrKennzeichen) {
+  öffne();
   klickeZeile(1);
-  tippe(0, "25.06.2006");
-  aendern();
+  tippe("Datum", "25.06.2006");
+  ändern();
   EXPECT_EQ(termine("Termin = 'Steuer'"), "25.06. Steuer J 0");
   EXPECT_EQ(li()->aktuelleZeile(), 1);
 }
 
-TEST_F(TVTerminverwaltung, AendernAufEinenVorhandenenWirdAbgelehnt) {
-  oeffne();
+TEST_F(TVTerminverwaltung, ÄndernAufEinenVorhandenenWirdAbgelehnt) {
+  öffne();
   klickeZeile(1);
-  tippe(0, "21.06.2006");
-  tippe(1, "Schau");
+  tippe("Datum", "21.06.2006");
+  tippe("Termin", "Schau");
   boxen.hinweis("Dieser Termin existiert bereits.");
-  aendern();
+  ändern();
   EXPECT_EQ(termine("Termin = 'Steuer'"), "22.06. Steuer J 0");
 }
 
 TEST_F(TVTerminverwaltung, DoppelklickMarkiertAlsErledigt) {
-  oeffne();
+  öffne();
   doppelklick(0);
   EXPECT_EQ(termine("Termin = 'Schau'"), "21.06. Schau J 0");
   EXPECT_EQ(spalte("Erledigt"), "J J");
@@ -278,7 +279,7 @@ TEST_F(TVTerminverwaltung, DoppelklickMarkiertAlsErledigt) {
 
 TEST_F(TVTerminverwaltung, DoppelklickBeimVolkNichtImBestandWirdAbgelehnt) {
   db().Execute("update Bienenvolk set Akt_im_Bestand = '' where ID = ?", {volk});
-  oeffne();
+  öffne();
   volkansicht();
   boxen.hinweisMit("...das angegebene Volk nicht existiert (aktuell im Bestand ist).");
   doppelklick(0);
@@ -286,25 +287,25 @@ TEST_F(TVTerminverwaltung, DoppelklickBeimVolkNichtImBestandWirdAbgelehnt) {
 }
 
 // The colonies have moved away since the form was opened.
-TEST_F(TVTerminverwaltung, StandortOhneVoelkerTraegtNichtsEin) {
-  oeffne();
-  tippe(1, "Zarge");
-  feld(10)->setFocus();
-  QTest::keyClicks(feld(10), "H");
+TEST_F(TVTerminverwaltung, StandortOhneVölkerTrägtNichtsEin) {
+  öffne();
+  tippe("Termin", "Zarge");
+  feld("oder alle Völker am Standort")->setFocus();
+  QTest::keyClicks(feld("oder alle Völker am Standort"), "H");
   db().Execute("update Bienenvolk set Standort = 'Hof'");
   boxen.frageMit("Soll der Termin wirklich bei allen Völkern am Standort 'Heide'", true);
   neu();
   EXPECT_EQ(anzahl("Termine"), 4);
   EXPECT_EQ(li()->aktuelleZeile(), -1);
-  EXPECT_EQ(feld(10)->beschreibung().auswahl, QStringList({"", "Hof"}));
+  EXPECT_EQ(feld("oder alle Völker am Standort")->beschreibung().auswahl, QStringList({"", "Hof"}));
 }
 
-TEST_F(TVTerminverwaltung, StandortFragtUndTraegtBeiAllenVoelkernEin) {
-  oeffne();
+TEST_F(TVTerminverwaltung, StandortFragtUndTrägtBeiAllenVölkernEin) {
+  öffne();
   volkansicht();
-  tippe(1, "Zarge");
-  feld(10)->setFocus();
-  QTest::keyClicks(feld(10), "H");
+  tippe("Termin", "Zarge");
+  feld("oder alle Völker am Standort")->setFocus();
+  QTest::keyClicks(feld("oder alle Völker am Standort"), "H");
   const QString frage =
       "Soll der Termin wirklich bei allen Völkern am Standort 'Heide' eingetragen werden?";
   boxen.frage(frage, false);
@@ -313,49 +314,49 @@ TEST_F(TVTerminverwaltung, StandortFragtUndTraegtBeiAllenVoelkernEin) {
   boxen.frage(frage, true);
   neu();
   EXPECT_EQ(anzahl("Termine", "Termin = 'Zarge'"), 2);
-  EXPECT_EQ(inhalt(10), "");
+  EXPECT_EQ(inhalt("oder alle Völker am Standort"), "");
   EXPECT_EQ(li()->zelle(li()->aktuelleZeile(), "Termin"), "Zarge");
 }
 
-TEST_F(TVTerminverwaltung, LoeschenFragtUndNimmtDieZeileWeg) {
-  EinstellungenZahl[55] = 1;
-  oeffne();
+TEST_F(TVTerminverwaltung, LöschenFragtUndNimmtDieZeileWeg) {
+  EinstellungenZahl[Zahlslots.löschabfrage] = 1;
+  öffne();
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
   klicke(QString("löschen"));
   klickeZeile(0);
-  boxen.frageMit(Loeschfrage, false);
+  boxen.frageMit(Löschfrage, false);
   klicke(QString("löschen"));
   EXPECT_EQ(anzahl("Termine"), 4);
-  boxen.frageMit(Loeschfrage, true);
+  boxen.frageMit(Löschfrage, true);
   klicke(QString("löschen"));
   EXPECT_EQ(anzahl("Termine", "Termin = 'Schau'"), 0);
   EXPECT_EQ(spalte("Termin"), "Steuer");
-  EXPECT_EQ(inhalt(1), "Steuer");
+  EXPECT_EQ(inhalt("Termin"), "Steuer");
 }
 
-TEST_F(TVTerminverwaltung, LoeschenDerLetztenZeileZeigtDieDavor) {
-  oeffne();
+TEST_F(TVTerminverwaltung, LöschenDerLetztenZeileZeigtDieDavor) {
+  öffne();
   klickeZeile(1);
   klicke(QString("löschen"));
   EXPECT_EQ(spalte("Termin"), "Schau");
   EXPECT_EQ(li()->aktuelleZeile(), 0);
-  EXPECT_EQ(inhalt(1), "Schau");
+  EXPECT_EQ(inhalt("Termin"), "Schau");
 }
 
-TEST_F(TVTerminverwaltung, LoeschenDerEinzigenZeileLaesstDieEingabenStehen) {
-  oeffne();
+TEST_F(TVTerminverwaltung, LöschenDerEinzigenZeileLässtDieEingabenStehen) {
+  öffne();
   volkansicht();
   klickeZeile(0);
   klicke(QString("löschen"));
   EXPECT_EQ(li()->zeilen(), 0);
   EXPECT_EQ(li()->aktuelleZeile(), -1);
-  EXPECT_EQ(inhalt(1), "Durchsicht");
+  EXPECT_EQ(inhalt("Termin"), "Durchsicht");
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
   klicke(QString("löschen"));
 }
 
-TEST_F(TVTerminverwaltung, AlleErledigtenLoeschenFragt) {
-  oeffne();
+TEST_F(TVTerminverwaltung, AlleErledigtenLöschenFragt) {
+  öffne();
   const QString frage =
       "Sollen wirklich alle als erledigt markierte Termine aus der Terminverwaltung gelöscht "
       "werden?";
@@ -368,28 +369,28 @@ TEST_F(TVTerminverwaltung, AlleErledigtenLoeschenFragt) {
   EXPECT_EQ(spalte("Termin"), "Schau");
 }
 
-TEST_F(TVTerminverwaltung, FehlschlagBeimSpeichernLaesstDieEingabenStehen) {
-  oeffne();
-  tippe(0, "24.06.2006");
-  tippe(1, "Markt");
+TEST_F(TVTerminverwaltung, FehlschlagBeimSpeichernLässtDieEingabenStehen) {
+  öffne();
+  tippe("Datum", "24.06.2006");
+  tippe("Termin", "Markt");
   scheitern("insert");
   boxen.hinweisMit("kein Platz");
   neu();
   EXPECT_EQ(anzahl("Termine"), 4);
-  EXPECT_EQ(inhalt(0), "24.06.2006");
-  EXPECT_EQ(inhalt(1), "Markt");
+  EXPECT_EQ(inhalt("Datum"), "24.06.2006");
+  EXPECT_EQ(inhalt("Termin"), "Markt");
   EXPECT_TRUE(form->isVisible());
 }
 
 // Two colonies stand there; the second one's row can't be written.
-TEST_F(TVTerminverwaltung, FehlschlagAmStandortZeigtWasEingetragenIstUndLaesstDieEingaben) {
-  oeffne();
+TEST_F(TVTerminverwaltung, FehlschlagAmStandortZeigtWasEingetragenIstUndLässtDieEingaben) {
+  öffne();
   volkansicht();
   klickeZeile(0);
-  tippe(0, "22.06.2006");
-  tippe(1, "Zarge");
-  feld(10)->setFocus();
-  QTest::keyClicks(feld(10), "H");
+  tippe("Datum", "22.06.2006");
+  tippe("Termin", "Zarge");
+  feld("oder alle Völker am Standort")->setFocus();
+  QTest::keyClicks(feld("oder alle Völker am Standort"), "H");
   scheitern("insert", "(select count(*) from Termine) = 5");
   boxen.frageMit("Soll der Termin wirklich bei allen Völkern am Standort 'Heide'", true)
       .hinweisMit(
@@ -399,13 +400,13 @@ TEST_F(TVTerminverwaltung, FehlschlagAmStandortZeigtWasEingetragenIstUndLaesstDi
   EXPECT_EQ(termine("Termin = 'Zarge'"), "22.06. Zarge N " + std::to_string(volk));
   EXPECT_EQ(spalte("Termin"), "Zarge Durchsicht");
   EXPECT_EQ(li()->aktuelleZeile(), 1);
-  EXPECT_EQ(inhalt(0), "22.06.2006");
-  EXPECT_EQ(inhalt(1), "Zarge");
-  EXPECT_EQ(inhalt(10), "Heide");
+  EXPECT_EQ(inhalt("Datum"), "22.06.2006");
+  EXPECT_EQ(inhalt("Termin"), "Zarge");
+  EXPECT_EQ(inhalt("oder alle Völker am Standort"), "Heide");
 }
 
-TEST_F(TVTerminverwaltung, FehlschlagBeimLoeschenLaesstDieZeileStehen) {
-  oeffne();
+TEST_F(TVTerminverwaltung, FehlschlagBeimLöschenLässtDieZeileStehen) {
+  öffne();
   klickeZeile(1);
   scheitern("delete");
   boxen.hinweisMit("kein Platz");
@@ -414,15 +415,15 @@ TEST_F(TVTerminverwaltung, FehlschlagBeimLoeschenLaesstDieZeileStehen) {
   EXPECT_EQ(li()->aktuelleZeile(), 1);
 }
 
-TEST_F(TVTerminverwaltung, BildBeiHundertUndHundertfuenfzigProzent) {
+TEST_F(TVTerminverwaltung, BildBeiHundertUndHundertfünfzigProzent) {
   saison();
   for (const int prozent : {100, 150}) {
-    const Schriftgroesse schrift(prozent);
-    oeffne();
+    const Schriftgröße schrift(prozent);
+    öffne();
     volkansicht();
     klickeZeile(0);
     passtAufKleinenSchirm(*form);
-    knoepfeSindLesbar(*form);
+    knöpfeSindLesbar(*form);
     bildAblegen(*form, QString("termine_verwaltung_%1").arg(prozent));
     form.reset();
   }

@@ -6,14 +6,14 @@
 #include "gemeinsam/Bildschirm.h"
 #include "gemeinsam/Formularprobe.h"
 #include "planning/Terminbestand.h"
-#include "platform/database/Verbindung.h"
+#include "platform/database/verbindung/Verbindung.h"
 
 // A form of the calendar: its list is litermine.
 template <typename T>
 class Terminformprobe : public Formularprobe<T, Terminbestand> {
  protected:
   Grid* li() { return this->liste("litermine"); }
-  void klickeZeile(int zeile) { this->waehle("litermine", zeile); }
+  void klickeZeile(int zeile) { this->wähle("litermine", zeile); }
   void doppelklick(int zeile) {
     klickeZeile(zeile);
     QTest::mouseDClick(li()->viewport(), Qt::LeftButton, {}, this->mitte(li(), zeile));

@@ -5,7 +5,7 @@
 #include <QProgressDialog>
 
 #include "Arplanprobe.h"
-#include "platform/database/Verbindung.h"
+#include "platform/database/verbindung/Verbindung.h"
 
 using namespace TZ_Variablen;
 
@@ -22,10 +22,10 @@ class Terminlauf : public Arplanprobe {
 
 }  // namespace
 
-TEST_F(Terminlauf, DerJahreslaufFragtUndMeldetUeberDemFenster) {
+TEST_F(Terminlauf, DerJahreslaufFragtUndMeldetÜberDemFenster) {
   neuesVolk("1");
   option("Honig", "01.07", 0, "01.07");
-  oeffne();
+  öffne();
   boxen.frageMit("Sie starten TOVA das erste mal im neuen Jahr", true)
       .hinweis(
           "Die volkabhängigen Termine wurden für das Jahr 2006 neu berechnet und im "
@@ -44,17 +44,17 @@ TEST_F(Terminlauf, DerJahreslaufFragtUndMeldetUeberDemFenster) {
 }
 
 TEST_F(Terminlauf, EinKurzerLaufZeigtKeinFenster) {
-  oeffne();
+  öffne();
   const Laufanzeige anzeige(form.get());
   EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
   ASSERT_NE(fortschritt(), nullptr);
   EXPECT_FALSE(fortschritt()->isVisible());
 }
 
-TEST_F(Terminlauf, EinLangerLaufZeigtWieWeitErIstUndLaesstSichNichtSchliessen) {
-  oeffne();
+TEST_F(Terminlauf, EinLangerLaufZeigtWieWeitErIstUndLässtSichNichtSchließen) {
+  öffne();
   for (const int prozent : {100, 150}) {
-    const Schriftgroesse schrift(prozent);
+    const Schriftgröße schrift(prozent);
     Laufanzeige anzeige(form.get());
     QTest::qWait(800);
     anzeige.zeige(30, 120);
@@ -73,19 +73,19 @@ TEST_F(Terminlauf, EinLangerLaufZeigtWieWeitErIstUndLaesstSichNichtSchliessen) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(Terminlauf, EinFehlerDesJahreslaufsLaesstKeinFensterUndKeineSanduhrZurueck) {
-  EinstellungenZahl[28] = 2005;
+TEST_F(Terminlauf, EinFehlerDesJahreslaufsLässtKeinFensterUndKeineSanduhrZurück) {
+  EinstellungenZahl[Zahlslots.terminjahr] = 2005;
   for (int i = 0; i < 200; ++i) neuesVolk(QString::number(i));
   option("Honig", "01.07", 9, "31.12");
-  oeffne();
+  öffne();
   auto& verbindung = *Verbindung::zu(DatenbankPfad);
   const int seiten = verbindung.steuere("pragma page_count").toInt();
   verbindung.steuere("pragma max_page_count = " + QByteArray::number(seiten + 1));
   boxen.frageMit("Sie starten TOVA das erste mal im neuen Jahr", true)
       .hinweisMit("Auf dem Datenträger ist kein Platz mehr");
-  EXPECT_FALSE(Ereignis::ausfuehren(form.get(), [this] { volkTermineSetzen(form.get()); }));
+  EXPECT_FALSE(Ereignis::ausführen(form.get(), [this] { volkTermineSetzen(form.get()); }));
   EXPECT_EQ(fortschritt(), nullptr);
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
   EXPECT_EQ(anzahl("Termine"), 0);
-  EXPECT_EQ(EinstellungenZahl[28], 2005);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.terminjahr], 2005);
 }

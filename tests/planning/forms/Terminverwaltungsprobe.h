@@ -21,7 +21,7 @@ class TVTerminverwaltung : public Terminformprobe<TV_Terminverwaltung> {
   }
   void volkansicht() { klicke("opti_1"); }
   void neu() { klicke("neu_0"); }
-  void aendern() { klicke("neu_1"); }
+  void ändern() { klicke("neu_1"); }
 
   qint64 volk = 0;
 };

@@ -23,23 +23,23 @@ class AufklapperTest : public testing::Test {
     auto* lage = new QVBoxLayout(&fenster);
     lage->addWidget(feld = new Eingabefeld);
     Eingabefeld::setHeute([] { return QDate(2024, 5, 17); });
-    Eingabefeld::setSteuersaetze([] { return std::pair<int, int>(19, 7); });
+    Eingabefeld::setSteuersätze([] { return std::pair<int, int>(19, 7); });
   }
   ~AufklapperTest() override {
     Eingabefeld::setHeute({});
-    Eingabefeld::setSteuersaetze({});
+    Eingabefeld::setSteuersätze({});
   }
   void SetUp() override {
     zeige(fenster);
     feld->setFocus(Qt::OtherFocusReason);
   }
   template <typename Fenster>
-  Fenster* oeffne() {
+  Fenster* öffne() {
     QTest::keyClick(feld, Qt::Key_F4);
     return qobject_cast<Fenster*>(QApplication::activePopupWidget());
   }
   Kalender* kalender() {
-    auto* k = oeffne<Kalender>();
+    auto* k = öffne<Kalender>();
     return k;
   }
   // Keys go where the keyboard is within the popup.
@@ -50,7 +50,7 @@ class AufklapperTest : public testing::Test {
   static QString anzeige(Rechner* rechner) {
     return rechner->findChild<QLabel*>(QStringLiteral("anzeige"))->text();
   }
-  static void druecke(Rechner* rechner, const char* name, Qt::MouseButton knopf = Qt::LeftButton) {
+  static void drücke(Rechner* rechner, const char* name, Qt::MouseButton knopf = Qt::LeftButton) {
     auto* ziel = rechner->findChild<QPushButton*>(QString::fromUtf8(name));
     ASSERT_NE(ziel, nullptr) << name;
     QTest::mouseClick(ziel, knopf);
@@ -87,7 +87,7 @@ TEST_F(AufklapperTest, KalenderPfeilUndEnterNehmenDenTag) {
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
-TEST_F(AufklapperTest, KalenderEscLaesstDasFeld) {
+TEST_F(AufklapperTest, KalenderEscLässtDasFeld) {
   feld->einrichten({Art::Datum, 0, 0, {}, QStringLiteral("30.05.2024"), {}, {}});
   auto* k = kalender();
   ASSERT_NE(k, nullptr);
@@ -117,9 +117,9 @@ TEST_F(AufklapperTest, KalenderSchreibtTagUndMonatKurz) {
   EXPECT_EQ(feld->inhalt(), QStringLiteral("01.05"));
 }
 
-TEST_F(AufklapperTest, RechnerBeginntMitDemInhaltUndUebernimmt) {
+TEST_F(AufklapperTest, RechnerBeginntMitDemInhaltUndÜbernimmt) {
   feld->einrichten({Art::Dezimal, 8, 2, {}, QStringLiteral("12,50"), {}, {}});
-  auto* r = oeffne<Rechner>();
+  auto* r = öffne<Rechner>();
   ASSERT_NE(r, nullptr);
   EXPECT_EQ(anzeige(r), QStringLiteral("12,5"));
   QTest::keyClicks(r, QStringLiteral("*3"));
@@ -130,29 +130,29 @@ TEST_F(AufklapperTest, RechnerBeginntMitDemInhaltUndUebernimmt) {
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
-TEST_F(AufklapperTest, RechnerMitDenKnoepfen) {
+TEST_F(AufklapperTest, RechnerMitDenKnöpfen) {
   feld->einrichten({Art::Dezimal, 8, 2, {}, {}, {}, {}});
-  auto* r = oeffne<Rechner>();
+  auto* r = öffne<Rechner>();
   ASSERT_NE(r, nullptr);
   for (const char* name :
        {"ziffer_7", "komma", "ziffer_5", "plus", "ziffer_1", "ziffer_0", "zurueck", "gleich"})
-    druecke(r, name);
+    drücke(r, name);
   EXPECT_EQ(anzeige(r), QStringLiteral("8,5"));
-  druecke(r, "uebernehmen");
+  drücke(r, "uebernehmen");
   EXPECT_EQ(feld->inhalt(), QStringLiteral("8,50"));
 }
 
 TEST_F(AufklapperTest, MwStLinksSatzEinsRechtsSatzZwei) {
   feld->einrichten({Art::Dezimal, 8, 2, {}, QStringLiteral("100,00"), {}, {}});
-  auto* r = oeffne<Rechner>();
+  auto* r = öffne<Rechner>();
   ASSERT_NE(r, nullptr);
   auto* mwst = r->findChild<QPushButton*>(QStringLiteral("mwst"));
   EXPECT_TRUE(mwst->text().contains(QStringLiteral("19")));
   EXPECT_TRUE(mwst->text().contains(QStringLiteral("7")));
-  druecke(r, "mwst", Qt::LeftButton);
+  drücke(r, "mwst", Qt::LeftButton);
   EXPECT_EQ(anzeige(r), QStringLiteral("119"));
   QTest::keyClicks(r, QStringLiteral("c100"));
-  druecke(r, "mwst", Qt::RightButton);
+  drücke(r, "mwst", Qt::RightButton);
   EXPECT_EQ(anzeige(r), QStringLiteral("107"));
   QTest::keyClicks(r, QStringLiteral("c100m"));
   EXPECT_EQ(anzeige(r), QStringLiteral("119"));
@@ -162,21 +162,21 @@ TEST_F(AufklapperTest, MwStLinksSatzEinsRechtsSatzZwei) {
   r->close();
 }
 
-TEST_F(AufklapperTest, DurchNullWirdNichtUebernommen) {
+TEST_F(AufklapperTest, DurchNullWirdNichtÜbernommen) {
   feld->einrichten({Art::Dezimal, 8, 2, {}, QStringLiteral("5,00"), {}, {}});
-  auto* r = oeffne<Rechner>();
+  auto* r = öffne<Rechner>();
   ASSERT_NE(r, nullptr);
   QTest::keyClicks(r, QStringLiteral("/0="));
   EXPECT_EQ(anzeige(r), QStringLiteral("Fehler"));
-  druecke(r, "uebernehmen");
+  drücke(r, "uebernehmen");
   EXPECT_EQ(feld->inhalt(), QStringLiteral("5,00"));
   EXPECT_EQ(QApplication::activePopupWidget(), r);
   r->close();
 }
 
-TEST_F(AufklapperTest, ErgebnisDasNichtPasstBleibtDraussen) {
+TEST_F(AufklapperTest, ErgebnisDasNichtPasstBleibtDraußen) {
   feld->einrichten({Art::Ganzzahl, 3, 0, 100, QStringLiteral("60"), {}, {}});
-  auto* r = oeffne<Rechner>();
+  auto* r = öffne<Rechner>();
   ASSERT_NE(r, nullptr);
   QTest::keyClicks(r, QStringLiteral("*2="));
   taste(r, Qt::Key_Return);
@@ -189,7 +189,7 @@ TEST_F(AufklapperTest, ErgebnisDasNichtPasstBleibtDraussen) {
 
 TEST_F(AufklapperTest, NegativesErgebnisPasstInKeinFeld) {
   feld->einrichten({Art::Dezimal, 8, 2, {}, QStringLiteral("1,00"), {}, {}});
-  auto* r = oeffne<Rechner>();
+  auto* r = öffne<Rechner>();
   ASSERT_NE(r, nullptr);
   QTest::keyClicks(r, QStringLiteral("-3="));
   taste(r, Qt::Key_Return);
@@ -197,9 +197,9 @@ TEST_F(AufklapperTest, NegativesErgebnisPasstInKeinFeld) {
   r->close();
 }
 
-TEST_F(AufklapperTest, RechnerEscLaesstDasFeld) {
+TEST_F(AufklapperTest, RechnerEscLässtDasFeld) {
   feld->einrichten({Art::Dezimal, 8, 2, {}, QStringLiteral("1,00"), {}, {}});
-  auto* r = oeffne<Rechner>();
+  auto* r = öffne<Rechner>();
   ASSERT_NE(r, nullptr);
   QTest::keyClicks(r, QStringLiteral("99"));
   taste(r, Qt::Key_Escape);

@@ -8,7 +8,7 @@ namespace {
 
 // While the program starts the main form isn't on the screen yet: a box over it would stand where
 // the form is to be created, in a corner.
-TEST(Bauteile, EineMeldungStehtUeberEinemSichtbarenFensterSonstInDerMitte) {
+TEST(Bauteile, EineMeldungStehtÜberEinemSichtbarenFensterSonstInDerMitte) {
   QWidget fenster;
   auto* feld = new QWidget(&fenster);
   EXPECT_EQ(Bauteile::fensterDarunter(feld), nullptr);

@@ -19,9 +19,9 @@ namespace {
 
 class Drucktest : public testing::Test {
  protected:
-  static QFont schrift(int groesse = 10) {
+  static QFont schrift(int größe = 10) {
     QFont f(Druck::schriften(true).value(0));
-    f.setPointSize(groesse);
+    f.setPointSize(größe);
     return f;
   }
   // These pages, whatever room there is.
@@ -57,7 +57,7 @@ class Drucktest : public testing::Test {
   QTemporaryDir ordner;
 };
 
-TEST_F(Drucktest, JedeSeiteTraegtIhreZeilen) {
+TEST_F(Drucktest, JedeSeiteTrägtIhreZeilen) {
   const Pdf pdf = drucke(auftrag({{"Königin", "Völker ß € 5"}, {"zweite"}, {}, {"vierte"}}));
   EXPECT_EQ(pdf.seitenzahl(), 4);
   EXPECT_EQ(pdf.zeilen(1), QStringList({"Königin", "Völker ß € 5"}));
@@ -73,7 +73,7 @@ TEST_F(Drucktest, HochUndQuerformatAufA4) {
   EXPECT_TRUE(drucke(a).querformat());
 }
 
-TEST_F(Drucktest, DasDokumentTraegtSeinenTitel) {
+TEST_F(Drucktest, DasDokumentTrägtSeinenTitel) {
   EXPECT_EQ(drucke(auftrag({{"x"}})).titel(), QString("Listen-Ausgabe Prüfung"));
 }
 
@@ -88,9 +88,9 @@ TEST_F(Drucktest, SchriftFettUndKursivStehenImDokument) {
   EXPECT_FALSE(drucke(auftrag({{"x"}})).schriften().contains("Bold"));
 }
 
-TEST_F(Drucktest, DieSchriftgroesseWirktAufZeilenUndZeichen) {
-  const auto breite = [this](int groesse) {
-    const auto w = drucke(auftrag({{"0123456789"}}, schrift(groesse))).woerter(1);
+TEST_F(Drucktest, DieSchriftgrößeWirktAufZeilenUndZeichen) {
+  const auto breite = [this](int größe) {
+    const auto w = drucke(auftrag({{"0123456789"}}, schrift(größe))).wörter(1);
     return w.isEmpty() ? 0.0 : w[0].rechts - w[0].x;
   };
   const double zehn = breite(10);
@@ -99,7 +99,7 @@ TEST_F(Drucktest, DieSchriftgroesseWirktAufZeilenUndZeichen) {
 }
 
 TEST_F(Drucktest, SpaltenStehenGenauUntereinander) {
-  const auto w = drucke(auftrag({{QString(40, 'i') + " A", QString(40, 'W') + " B"}})).woerter(1);
+  const auto w = drucke(auftrag({{QString(40, 'i') + " A", QString(40, 'W') + " B"}})).wörter(1);
   ASSERT_EQ(w.size(), 4);
   EXPECT_NEAR(w[1].x, w[3].x, 0.2);
 }
@@ -109,16 +109,16 @@ TEST_F(Drucktest, EineVolleSeiteStehtGanzAufDemPapier) {
   QStringList voll;
   const qsizetype zeichen = s.passend(QString(1000, '0'));
   for (int i = 0; i < s.zeilen; ++i) voll << QString(zeichen, '0');
-  const auto w = drucke(auftrag({voll})).woerter(1);
+  const auto w = drucke(auftrag({voll})).wörter(1);
   ASSERT_EQ(w.size(), s.zeilen);
-  constexpr double Breite = 595, Hoehe = 842, Rand = 28;  // A4 and 10 mm in points
+  constexpr double Breite = 595, Höhe = 842, Rand = 28;  // A4 and 10 mm in points
   EXPECT_GE(w.first().x, Rand);
   EXPECT_LE(w.first().rechts, Breite - Rand + 1);
   EXPECT_GT(w.first().rechts, Breite - Rand - 10);  // one more wouldn't have fitted
-  EXPECT_LE(w.last().y, Hoehe - Rand);
+  EXPECT_LE(w.last().y, Höhe - Rand);
 }
 
-TEST_F(Drucktest, QuerformatHatWenigerUndLaengereZeilen) {
+TEST_F(Drucktest, QuerformatHatWenigerUndLängereZeilen) {
   const auto hoch = spiegel(schrift());
   const auto quer = spiegel(schrift(), true);
   const QString lang(1000, '0');
@@ -136,7 +136,7 @@ TEST_F(Drucktest, EineProportionaleSchriftWirdGemessen) {
   EXPECT_EQ(s.passend(u"kurz"), 4);
 }
 
-TEST_F(Drucktest, NurDieGewaehltenSeitenUndDieAnzahlDerExemplare) {
+TEST_F(Drucktest, NurDieGewähltenSeitenUndDieAnzahlDerExemplare) {
   const auto a = auftrag({{"eins"}, {"zwei"}, {"drei"}});
   const Pdf teil = drucke(a, [](QPrinter& d) {
     d.setPrintRange(QPrinter::PageRange);
@@ -161,7 +161,7 @@ TEST_F(Drucktest, EinFehlenderOrdnerWirdMitDemNamenDerDateiGemeldet) {
   }
 }
 
-TEST_F(Drucktest, EinVollerDatentraegerWirdGemeldet) {
+TEST_F(Drucktest, EinVollerDatenträgerWirdGemeldet) {
   const Dateigrenze voll(2000);
   EXPECT_THROW(drucke(auftrag({{"x"}})), Dateifehler);
 }

@@ -14,24 +14,23 @@ QString nach(const Beschreibung& b, const QString& mitMarke, const QString& neu)
   vorher.remove(ort, 1);
   QString nachher = vorher;
   nachher.insert(ort, neu);
-  const auto ergebnis =
-      Eingaberegel::pruefe(b, vorher, nachher, ort + static_cast<int>(neu.size()));
+  const auto ergebnis = Eingaberegel::prüfe(b, vorher, nachher, ort + static_cast<int>(neu.size()));
   return ergebnis ? ergebnis->text : QString();
 }
 
-Beschreibung dezimal(int laenge, int stellen) {
-  return {Art::Dezimal, laenge, stellen, {}, {}, {}, {}};
+Beschreibung dezimal(int länge, int stellen) {
+  return {Art::Dezimal, länge, stellen, {}, {}, {}, {}};
 }
 
-Beschreibung ganz(int laenge, qint64 bis) { return {Art::Ganzzahl, laenge, 0, bis, {}, {}, {}}; }
+Beschreibung ganz(int länge, qint64 bis) { return {Art::Ganzzahl, länge, 0, bis, {}, {}, {}}; }
 
-Beschreibung text(int laenge) { return {Art::Text, laenge, 0, {}, {}, {}, {}}; }
+Beschreibung text(int länge) { return {Art::Text, länge, 0, {}, {}, {}, {}}; }
 
 Beschreibung datum() { return {Art::Datum, 0, 0, {}, {}, {}, {}}; }
 
 }  // namespace
 
-TEST(Eingaberegel, UmbruecheUndTabsWerdenLeerzeichen) {
+TEST(Eingaberegel, UmbrücheUndTabsWerdenLeerzeichen) {
   EXPECT_EQ(Eingaberegel::bereinigt(QStringLiteral("a\r\nb\nc\td\re")),
             QStringLiteral("a b c d e"));
 }
@@ -50,12 +49,12 @@ TEST(Eingaberegel, EmojiBleiben) {
   EXPECT_EQ(Eingaberegel::bereinigt(QStringLiteral("Biene 🐝")), QStringLiteral("Biene 🐝"));
 }
 
-TEST(Eingaberegel, KuerzenTrenntKeinPaar) {
-  EXPECT_EQ(Eingaberegel::gekuerzt(QStringLiteral("ab🐝"), 3), QStringLiteral("ab"));
-  EXPECT_EQ(Eingaberegel::gekuerzt(QStringLiteral("ab🐝"), 4), QStringLiteral("ab🐝"));
+TEST(Eingaberegel, KürzenTrenntKeinPaar) {
+  EXPECT_EQ(Eingaberegel::gekürzt(QStringLiteral("ab🐝"), 3), QStringLiteral("ab"));
+  EXPECT_EQ(Eingaberegel::gekürzt(QStringLiteral("ab🐝"), 4), QStringLiteral("ab🐝"));
 }
 
-TEST(Eingaberegel, ZuLangerTextWirdAufDenPlatzGekuerzt) {
+TEST(Eingaberegel, ZuLangerTextWirdAufDenPlatzGekürzt) {
   EXPECT_EQ(nach(text(10), QStringLiteral("Vo|lk"), QStringLiteral("xxxxxxxxxxxx")),
             QStringLiteral("Voxxxxxxlk"));
 }
@@ -64,7 +63,7 @@ TEST(Eingaberegel, VollesTextfeldNimmtNichtsMehr) {
   EXPECT_EQ(nach(text(4), QStringLiteral("Volk|"), QStringLiteral("x")), QString());
 }
 
-TEST(Eingaberegel, ZehntausendZeichenBleibenBisZurLaenge) {
+TEST(Eingaberegel, ZehntausendZeichenBleibenBisZurLänge) {
   EXPECT_EQ(nach(text(30), QStringLiteral("|"), QString(10000, u'x')).size(), 30);
 }
 
@@ -75,9 +74,40 @@ TEST(Eingaberegel, DezimalNimmtZiffernUndEinKomma) {
   EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("|1"), QStringLiteral("-")), QString());
 }
 
-TEST(Eingaberegel, PunktWirdKommaSolangeKeinesDaIst) {
-  EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("12|"), QStringLiteral(".")), QStringLiteral("12,"));
+TEST(Eingaberegel, PunktBleibtPunkt) {
+  EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("12|"), QStringLiteral(".")), QStringLiteral("12."));
   EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("1,2|"), QStringLiteral(".")), QString());
+  EXPECT_EQ(nach(dezimal(8, 0), QStringLiteral("12|"), QStringLiteral(".")), QString());
+}
+
+TEST(Eingaberegel, PunkteTeilenTausender) {
+  EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("1.23|"), QStringLiteral("4")),
+            QStringLiteral("1.234"));
+  EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("1.234|"), QStringLiteral(",")),
+            QStringLiteral("1.234,"));
+  EXPECT_EQ(nach(dezimal(10, 2), QStringLiteral("1.234|"), QStringLiteral(".")),
+            QStringLiteral("1.234."));
+  EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("1.234|"), QStringLiteral("5")), QString());
+  EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("1234.56|"), QStringLiteral("7")), QString());
+  EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("12.5|"), QStringLiteral(",")), QString());
+  EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral(".5|"), QStringLiteral("6")), QStringLiteral(".56"));
+  EXPECT_EQ(nach(dezimal(6, 2), QStringLiteral("1.234,5|"), QStringLiteral("6")), QString())
+      << "länger als das Feld";
+  EXPECT_EQ(nach(dezimal(7, 2), QStringLiteral("1.234,5|"), QStringLiteral("6")),
+            QStringLiteral("1.234,56"));
+}
+
+TEST(Eingaberegel, ZahlformHatDenselbenWert) {
+  EXPECT_EQ(Eingaberegel::zahlform(QStringLiteral("1.234,56")), QStringLiteral("1234,56"));
+  EXPECT_EQ(Eingaberegel::zahlform(QStringLiteral("1.234.567,8")), QStringLiteral("1234567,8"));
+  EXPECT_EQ(Eingaberegel::zahlform(QStringLiteral("12.5")), QStringLiteral("12,5"));
+  EXPECT_EQ(Eingaberegel::zahlform(QStringLiteral("1.234")), QStringLiteral("1,234"));
+  EXPECT_EQ(Eingaberegel::zahlform(QStringLiteral("12.")), QStringLiteral("12"));
+  EXPECT_EQ(Eingaberegel::zahlform(QStringLiteral("12,")), QStringLiteral("12"));
+  EXPECT_EQ(Eingaberegel::zahlform(QStringLiteral("1.234.")), QStringLiteral("1,234"));
+  EXPECT_EQ(Eingaberegel::zahlform(QStringLiteral("0,50")), QStringLiteral("0,50"));
+  EXPECT_EQ(Eingaberegel::zahlform(QStringLiteral("-3,55")), QStringLiteral("-3,55"));
+  EXPECT_EQ(Eingaberegel::zahlform(QString()), QString());
 }
 
 TEST(Eingaberegel, MehrNachkommastellenAlsErlaubtWerdenNichtAngenommen) {
@@ -91,7 +121,7 @@ TEST(Eingaberegel, DezimalOhneNachkommastellenNimmtKeinKomma) {
   EXPECT_EQ(nach(dezimal(8, 0), QStringLiteral("12|"), QStringLiteral(",")), QString());
 }
 
-TEST(Eingaberegel, EingefuegteZahlMitTausenderpunkten) {
+TEST(Eingaberegel, EingefügteZahlMitTausenderpunkten) {
   EXPECT_EQ(nach(dezimal(10, 2), QStringLiteral("|"), QStringLiteral("1.234,56")),
             QStringLiteral("1234,56"));
   EXPECT_EQ(nach(dezimal(10, 2), QStringLiteral("|"), QStringLiteral(" 1.234,56 €\n")),
@@ -100,13 +130,13 @@ TEST(Eingaberegel, EingefuegteZahlMitTausenderpunkten) {
             QStringLiteral("1234567"));
 }
 
-TEST(Eingaberegel, EingefuegterPunktOhneKommaIstDasKomma) {
+TEST(Eingaberegel, EingefügterPunktOhneKommaIstDasKomma) {
   EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("|"), QStringLiteral("2.5")), QStringLiteral("2,5"));
   EXPECT_EQ(nach(dezimal(8, 3), QStringLiteral("|"), QStringLiteral("1.234")),
             QStringLiteral("1,234"));
 }
 
-TEST(Eingaberegel, EingefuegteZahlGanzOderGarNicht) {
+TEST(Eingaberegel, EingefügteZahlGanzOderGarNicht) {
   EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("|"), QStringLiteral("1,239")), QString());
   EXPECT_EQ(nach(dezimal(4, 1), QStringLiteral("|"), QStringLiteral("1234,5")), QString());
   EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("|"), QStringLiteral("-3,5")), QString());
@@ -114,7 +144,7 @@ TEST(Eingaberegel, EingefuegteZahlGanzOderGarNicht) {
   EXPECT_EQ(nach(dezimal(8, 2), QStringLiteral("|"), QStringLiteral("1.23,4")), QString());
 }
 
-TEST(Eingaberegel, NullenAmEndeEinerEingefuegtenZahlDuerfenFehlen) {
+TEST(Eingaberegel, NullenAmEndeEinerEingefügtenZahlDürfenFehlen) {
   EXPECT_EQ(nach(dezimal(8, 1), QStringLiteral("|"), QStringLiteral("3,500")),
             QStringLiteral("3,5"));
 }
@@ -131,13 +161,43 @@ TEST(Eingaberegel, GanzzahlBisZurGrenze) {
 
 TEST(Eingaberegel, GanzzahlOhneNullBeginntMitEins) {
   Beschreibung anteil = ganz(3, 100);
-  anteil.ohneNull = true;
+  anteil.von = 1;
   EXPECT_EQ(nach(anteil, QStringLiteral("|"), QStringLiteral("0")), QString());
   EXPECT_EQ(nach(anteil, QStringLiteral("|"), QStringLiteral("00")), QString());
   EXPECT_EQ(nach(anteil, QStringLiteral("|"), QStringLiteral("1")), QStringLiteral("1"));
   EXPECT_EQ(nach(anteil, QStringLiteral("10|"), QStringLiteral("0")), QStringLiteral("100"));
   EXPECT_FALSE(Eingaberegel::passt(anteil, QStringLiteral("0")));  // from the calculator
   EXPECT_TRUE(Eingaberegel::passt(anteil, QString()));
+}
+
+TEST(Eingaberegel, GanzzahlUnterNullNimmtEinVorzeichenUndHältDieUntereGrenze) {
+  Beschreibung grad = ganz(3, 60);
+  grad.von = -40;
+  EXPECT_EQ(nach(grad, QStringLiteral("|"), QStringLiteral("-")), QStringLiteral("-"));
+  EXPECT_EQ(nach(grad, QStringLiteral("-|"), QStringLiteral("4")), QStringLiteral("-4"));
+  EXPECT_EQ(nach(grad, QStringLiteral("-4|"), QStringLiteral("0")), QStringLiteral("-40"));
+  EXPECT_EQ(nach(grad, QStringLiteral("-4|"), QStringLiteral("1")), QString());
+  EXPECT_EQ(nach(grad, QStringLiteral("|12"), QStringLiteral("-")), QStringLiteral("-12"));
+  EXPECT_EQ(nach(grad, QStringLiteral("|60"), QStringLiteral("-")), QString());
+  EXPECT_EQ(nach(grad, QStringLiteral("6|"), QStringLiteral("1")), QString());
+  EXPECT_EQ(nach(grad, QStringLiteral("1|"), QStringLiteral("-")), QString());
+  EXPECT_EQ(nach(grad, QStringLiteral("-|"), QStringLiteral("-")), QString());
+  EXPECT_EQ(nach(grad, QStringLiteral("-|"), QStringLiteral("0")), QString());
+  EXPECT_EQ(nach(grad, QStringLiteral("|"), QStringLiteral("0")), QStringLiteral("0"));
+  EXPECT_EQ(nach(grad, QStringLiteral("|"), QStringLiteral(" -12 ")), QStringLiteral("-12"));
+  EXPECT_EQ(nach(grad, QStringLiteral("|"), QStringLiteral("\u22127")), QStringLiteral("-7"));
+  EXPECT_EQ(nach(grad, QStringLiteral("|"), QStringLiteral("-41")), QString());
+  EXPECT_EQ(nach(grad, QStringLiteral("|"), QStringLiteral("61")), QString());
+  EXPECT_TRUE(Eingaberegel::passt(grad, QStringLiteral("-40")));  // from the calculator
+  EXPECT_FALSE(Eingaberegel::passt(grad, QStringLiteral("-41")));
+}
+
+TEST(Eingaberegel, GanzzahlAbDreißigLässtSichZiffernweiseTippen) {
+  Beschreibung zeilen = ganz(4, 9999);
+  zeilen.von = 30;
+  EXPECT_EQ(nach(zeilen, QStringLiteral("|"), QStringLiteral("3")), QStringLiteral("3"));
+  EXPECT_EQ(nach(zeilen, QStringLiteral("3|"), QStringLiteral("0")), QStringLiteral("30"));
+  EXPECT_EQ(nach(zeilen, QStringLiteral("|"), QStringLiteral("0")), QString());
 }
 
 TEST(Eingaberegel, GanzzahlMitSehrVielenZiffernWirdAbgelehnt) {
@@ -158,7 +218,7 @@ TEST(Eingaberegel, DatumNimmtZiffernUndPunkteBisZehnZeichen) {
 
 TEST(Eingaberegel, WegnehmenGehtImmer) {
   const auto ergebnis =
-      Eingaberegel::pruefe(dezimal(4, 1), QStringLiteral("-12345"), QStringLiteral("-1234"), 5);
+      Eingaberegel::prüfe(dezimal(4, 1), QStringLiteral("-12345"), QStringLiteral("-1234"), 5);
   ASSERT_TRUE(ergebnis.has_value());
   EXPECT_EQ(ergebnis->text, QStringLiteral("-1234"));
 }
@@ -168,7 +228,7 @@ TEST(Eingaberegel, AuswahlNurAusIhrenTexten) {
   EXPECT_EQ(nach(b, QStringLiteral("|"), QStringLiteral("J")), QStringLiteral("J"));
   EXPECT_EQ(nach(b, QStringLiteral("|"), QStringLiteral("n")), QStringLiteral("N"));
   EXPECT_EQ(nach(b, QStringLiteral("|"), QStringLiteral("X")), QString());
-  EXPECT_FALSE(Eingaberegel::pruefe(b, QStringLiteral("J"), QString(), 0).has_value());
+  EXPECT_FALSE(Eingaberegel::prüfe(b, QStringLiteral("J"), QString(), 0).has_value());
 }
 
 TEST(Eingaberegel, TagUndMonat) {

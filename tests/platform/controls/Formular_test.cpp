@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -15,15 +18,15 @@
 #include "platform/controls/Gestaltung.h"
 #include "platform/controls/Hilfen.h"
 #include "platform/controls/Meldungen.h"
-#include "platform/database/Datenbankfehler.h"
+#include "platform/database/werte/Datenbankfehler.h"
 #include "platform/files/Textdatei.h"
 
 namespace {
 
 class TestFormular : public Formular {
  public:
-  explicit TestFormular(QWidget* oeffner = nullptr)
-      : Formular(QStringLiteral("TE_Test"), QStringLiteral("Test"), oeffner) {
+  explicit TestFormular(QWidget* öffner = nullptr)
+      : Formular(QStringLiteral("TE_Test"), QStringLiteral("Test"), öffner) {
     auto* lage = new QVBoxLayout(this);
     eingabe = new QLineEdit;
     schild = beschriften(QStringLiteral("&Menge (kg):"), eingabe);
@@ -50,7 +53,29 @@ class FormularTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(FormularTest, NameTitelUndKnoepfeDesFensters) {
+// Nobody else works on the folder: such a lock is a remainder, here of another computer.
+TEST_F(FormularTest, EineLiegengebliebeneSperreHältDieAblageNichtAuf) {
+  QFile sperre(ordner.filePath(QStringLiteral("Fenster.ini.lock")));
+  ASSERT_TRUE(sperre.open(QIODevice::WriteOnly));
+  sperre.write("1\ntova\nIMKER-PC\n");
+  sperre.close();
+  QElapsedTimer uhr;
+  uhr.start();
+  Fensterablage::schreiben(QStringLiteral("a"), 7);
+  EXPECT_LT(uhr.elapsed(), 10000);
+  EXPECT_EQ(Fensterablage::lesen(QStringLiteral("a")).toInt(), 7);
+  EXPECT_FALSE(sperre.exists());
+}
+
+TEST_F(FormularTest, EinWeggenommenerOrdnerEntstehtNichtNeu) {
+  const QString weg = ordner.filePath(QStringLiteral("weg"));
+  Fensterablage::setDatei(weg + QStringLiteral("/Fenster.ini"));
+  Fensterablage::schreiben(QStringLiteral("a"), 7);
+  EXPECT_FALSE(QFileInfo::exists(weg));
+  EXPECT_FALSE(Fensterablage::lesen(QStringLiteral("a")).isValid());
+}
+
+TEST_F(FormularTest, NameTitelUndKnöpfeDesFensters) {
   TestFormular form;
   EXPECT_EQ(form.objectName(), QStringLiteral("TE_Test"));
   EXPECT_EQ(form.windowTitle(), QStringLiteral("Test"));
@@ -67,7 +92,7 @@ TEST_F(FormularTest, BeschriftenNenntDieEingabe) {
   EXPECT_EQ(andere.accessibleName(), QStringLiteral("Vor- & Nachname"));
 }
 
-TEST_F(FormularTest, EscSchliesstUndZeigenKehrtZurueck) {
+TEST_F(FormularTest, EscSchließtUndZeigenKehrtZurück) {
   TestFormular form;
   bool offen = false;
   imDialog([&](QWidget* dialog) {
@@ -88,7 +113,7 @@ TEST_F(FormularTest, F1RuftDieHilfeDesFormulars) {
   EXPECT_EQ(thema, QStringLiteral("TE_Test"));
 }
 
-TEST_F(FormularTest, GroesseUndOrtWerdenGemerkt) {
+TEST_F(FormularTest, GrößeUndOrtWerdenGemerkt) {
   QRect gemerkt;
   {
     TestFormular form;
@@ -102,14 +127,14 @@ TEST_F(FormularTest, GroesseUndOrtWerdenGemerkt) {
   EXPECT_EQ(form.geometry(), gemerkt);
 }
 
-TEST_F(FormularTest, NachDerZerstoerungBleibtDerKnopfOhneFolgen) {
+TEST_F(FormularTest, NachDerZerstörungBleibtDerKnopfOhneFolgen) {
   // The window is deleted by its own action and the failure comes afterwards.
   auto* form = new TestFormular;
   QPointer<TestFormular> noch(form);
   zeige(*form);
   Meldungen::Probe probe;
   probe.hinweis(QStringLiteral("Zu spät."));
-  const bool gut = Ereignis::ausfuehren(form, [form] {
+  const bool gut = Ereignis::ausführen(form, [form] {
     delete form;
     throw Dateifehler(QStringLiteral("Zu spät."));
   });
@@ -118,7 +143,7 @@ TEST_F(FormularTest, NachDerZerstoerungBleibtDerKnopfOhneFolgen) {
   EXPECT_EQ(probe.fehler(), QString());
 }
 
-TEST_F(FormularTest, FensterAusserhalbKommtAufDenSchirm) {
+TEST_F(FormularTest, FensterAußerhalbKommtAufDenSchirm) {
   {
     TestFormular form;
     zeige(form);
@@ -132,7 +157,7 @@ TEST_F(FormularTest, FensterAusserhalbKommtAufDenSchirm) {
       << form.frameGeometry().x() << "," << form.frameGeometry().y();
 }
 
-TEST_F(FormularTest, ZuGrossesFensterWirdAufDenSchirmVerkleinert) {
+TEST_F(FormularTest, ZuGroßesFensterWirdAufDenSchirmVerkleinert) {
   {
     TestFormular form;
     zeige(form);
@@ -158,7 +183,7 @@ TEST_F(FormularTest, AblageStehtSofortInDerDatei) {
 }
 
 // A file stands where the folder should be: not even the administrator can write there.
-TEST_F(FormularTest, AblageInUnbeschreibbaremOrdnerStoertNicht) {
+TEST_F(FormularTest, AblageInUnbeschreibbaremOrdnerStörtNicht) {
   QFile keinOrdner(ordner.filePath(QStringLiteral("belegt")));
   ASSERT_TRUE(keinOrdner.open(QFile::WriteOnly));
   const QString datei = keinOrdner.fileName() + QStringLiteral("/Fenster.ini");
@@ -169,25 +194,28 @@ TEST_F(FormularTest, AblageInUnbeschreibbaremOrdnerStoertNicht) {
 
 TEST(Ereignis, GibtTrueWennAllesGutGing) {
   bool gelaufen = false;
-  EXPECT_TRUE(Ereignis::ausfuehren(nullptr, [&] { gelaufen = true; }));
+  EXPECT_TRUE(Ereignis::ausführen(nullptr, [&] { gelaufen = true; }));
   EXPECT_TRUE(gelaufen);
 }
 
 TEST(Ereignis, DatenbankfehlerZeigtSeinenText) {
   Meldungen::Probe probe;
   probe.hinweis(QStringLiteral("Die Tabelle fehlt."));
-  EXPECT_FALSE(Ereignis::ausfuehren(nullptr, [] {
+  EXPECT_FALSE(Ereignis::ausführen(nullptr, [] {
     throw Datenbankfehler(Datenbankfehler::Art::Anweisung, QStringLiteral("Die Tabelle fehlt."));
   }));
   EXPECT_EQ(probe.fehler(), QString());
 }
 
-TEST(Ereignis, AndereAusnahmeZeigtIhrenText) {
+// What a library says is English: the box says in German that the action has ended.
+TEST(Ereignis, AndereAusnahmeWirdAufDeutschGemeldet) {
   Meldungen::Probe probe;
-  probe.hinweisMit(QStringLiteral("etwas Böses"));
-  EXPECT_FALSE(Ereignis::ausfuehren(nullptr, [] { throw std::runtime_error("etwas Böses"); }));
+  probe.hinweis(
+      QStringLiteral("Der Vorgang wurde wegen eines unerwarteten Fehlers abgebrochen. Bitte prüfen "
+                     "Sie, was davon gespeichert ist, bevor Sie ihn wiederholen."));
+  EXPECT_FALSE(Ereignis::ausführen(nullptr, [] { throw std::runtime_error("vector::at"); }));
   probe.hinweisMit(QStringLiteral("unbekannten Fehlers"));
-  EXPECT_FALSE(Ereignis::ausfuehren(nullptr, [] { throw 5; }));
+  EXPECT_FALSE(Ereignis::ausführen(nullptr, [] { throw 5; }));
   EXPECT_EQ(probe.fehler(), QString());
 }
 
@@ -221,7 +249,7 @@ TEST(Ereignis, FehlerImKnopfMeldetUndDasProgrammGehtWeiter) {
 TEST(Ereignis, SanduhrEndetAuchBeiFehlern) {
   Meldungen::Probe probe;
   probe.hinweisMit(QStringLiteral("x"));
-  Ereignis::ausfuehren(nullptr, [] {
+  Ereignis::ausführen(nullptr, [] {
     const Ereignis::Sanduhr uhr;
     throw std::runtime_error("x");
   });
@@ -234,30 +262,30 @@ class Vorgabeform : public Formular {
   Vorgabeform() : Formular(QStringLiteral("Vorgabeform"), QString(), nullptr) {
     neu = new QPushButton(QStringLiteral("Neu"));
     neu->setDefault(true);
-    loeschen = new QPushButton(QStringLiteral("Löschen"));
+    löschen = new QPushButton(QStringLiteral("Löschen"));
     feld = new QLineEdit;
     auto* spalte = new QVBoxLayout(this);
-    for (QWidget* teil : std::initializer_list<QWidget*>{loeschen, feld, neu})
+    for (QWidget* teil : std::initializer_list<QWidget*>{löschen, feld, neu})
       spalte->addWidget(teil);
     connect(neu, &QPushButton::clicked, this, [this] { ++gebucht; });
-    connect(loeschen, &QPushButton::clicked, this, [this] { ++geloescht; });
+    connect(löschen, &QPushButton::clicked, this, [this] { ++gelöscht; });
   }
   QPushButton* neu;
-  QPushButton* loeschen;
+  QPushButton* löschen;
   QLineEdit* feld;
   int gebucht = 0;
-  int geloescht = 0;
+  int gelöscht = 0;
 };
 
-TEST(Formular, EnterDruecktDenVorgabeknopfAuchNachdemEinAndererGedruecktWurde) {
+TEST(Formular, EnterDrücktDenVorgabeknopfAuchNachdemEinAndererGedrücktWurde) {
   Vorgabeform form;
   form.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
-  QTest::mouseClick(form.loeschen, Qt::LeftButton);
-  form.loeschen->setFocus();
+  QTest::mouseClick(form.löschen, Qt::LeftButton);
+  form.löschen->setFocus();
   form.feld->setFocus();
   QTest::keyClick(form.feld, Qt::Key_Return);
-  EXPECT_EQ(form.geloescht, 1);
+  EXPECT_EQ(form.gelöscht, 1);
   EXPECT_EQ(form.gebucht, 1);
   form.close();
   form.show();
@@ -273,18 +301,18 @@ TEST(Dateidialoge, ProbeGibtDieAntwortenDerReiheNach) {
   probe.antwort(QStringLiteral("/a.jpg"))
       .antwort(QStringLiteral("Speichern"), ordner.filePath(QStringLiteral("b")))
       .antwort(QString());
-  EXPECT_EQ(Dateidialoge::oeffnen(nullptr, QStringLiteral("Bild"), {}, {}),
+  EXPECT_EQ(Dateidialoge::öffnen(nullptr, QStringLiteral("Bild"), {}, {}),
             QStringLiteral("/a.jpg"));
   EXPECT_EQ(
       Dateidialoge::speichern(nullptr, QStringLiteral("Speichern"), {}, {}, QStringLiteral("txt")),
       ordner.filePath(QStringLiteral("b.txt")));
-  EXPECT_EQ(Dateidialoge::ordnerWaehlen(nullptr, QStringLiteral("Ordner"), {}), QString());
+  EXPECT_EQ(Dateidialoge::ordnerWählen(nullptr, QStringLiteral("Ordner"), {}), QString());
   EXPECT_EQ(probe.fehler(), QString());
-  Dateidialoge::oeffnen(nullptr, QStringLiteral("Noch eins"), {}, {});
+  Dateidialoge::öffnen(nullptr, QStringLiteral("Noch eins"), {}, {});
   EXPECT_EQ(probe.fehler(), QStringLiteral("Nicht erwartet: Dialog \"Noch eins\""));
 }
 
-TEST(Dateidialoge, VorhandeneDateiWirdErstNachFrageUeberschrieben) {
+TEST(Dateidialoge, VorhandeneDateiWirdErstNachFrageÜberschrieben) {
   QTemporaryDir ordner;
   const QString pfad = ordner.filePath(QStringLiteral("da.txt"));
   QFile datei(pfad);

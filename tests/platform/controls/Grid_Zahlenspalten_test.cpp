@@ -9,7 +9,7 @@ namespace {
 QVariant null() { return {}; }
 
 // Columns that are expressions, as sum(Zugang) or max(Datum) give them.
-Daten ausdruecke(const QStringList& namen, const std::vector<QVariantList>& zeilen) {
+Daten ausdrücke(const QStringList& namen, const std::vector<QVariantList>& zeilen) {
   std::vector<Spalte> spalten;
   for (const QString& name : namen) spalten.push_back({name, Feldtyp::Ausdruck, 0});
   Datenblock::Bauer bauer(std::move(spalten));
@@ -30,10 +30,10 @@ bool zelleRechts(const Grid& grid, int zeile, int spalte) {
 struct Tinte {
   int von = -1, bis = -1;
 };
-Tinte tinte(const QImage& bild, const QRect& flaeche) {
+Tinte tinte(const QImage& bild, const QRect& fläche) {
   Tinte ergebnis;
-  for (int x = flaeche.left(); x <= flaeche.right(); ++x)
-    for (int y = flaeche.top(); y <= flaeche.bottom(); ++y) {
+  for (int x = fläche.left(); x <= fläche.right(); ++x)
+    for (int y = fläche.top(); y <= fläche.bottom(); ++y) {
       if (bild.pixelColor(x, y).lightness() >= 100) continue;
       if (ergebnis.von < 0) ergebnis.von = x;
       ergebnis.bis = x;
@@ -67,20 +67,20 @@ class Zahlenspalten : public testing::TestWithParam<double> {
 
 }  // namespace
 
-TEST(Zahlenspalte, EinAusdruckAusZahlenStehtMitSeinerUeberschriftRechts) {
+TEST(Zahlenspalte, EinAusdruckAusZahlenStehtMitSeinerÜberschriftRechts) {
   Grid grid;
-  grid.setDaten(ausdruecke({"Summe", "Anzahl"}, {{null(), 3}, {7.5, 0}, {0.25, 12}}));
+  grid.setDaten(ausdrücke({"Summe", "Anzahl"}, {{null(), 3}, {7.5, 0}, {0.25, 12}}));
   for (const int spalte : {0, 1}) {
     EXPECT_TRUE(kopfRechts(grid, spalte)) << spalte;
     for (const int zeile : {0, 1, 2}) EXPECT_TRUE(zelleRechts(grid, zeile, spalte)) << spalte;
   }
 }
 
-TEST(Zahlenspalte, TexteTageGemischtesUndLeeresStehenMitIhrerUeberschriftLinks) {
+TEST(Zahlenspalte, TexteTageGemischtesUndLeeresStehenMitIhrerÜberschriftLinks) {
   Grid grid;
-  grid.setDaten(ausdruecke({"Text", "Tag", "Gemischt", "Leer"},
-                           {{QString("7"), QDate(2026, 5, 1), 3, null()},
-                            {QString("8"), null(), QString("drei"), null()}}));
+  grid.setDaten(ausdrücke({"Text", "Tag", "Gemischt", "Leer"},
+                          {{QString("7"), QDate(2026, 5, 1), 3, null()},
+                           {QString("8"), null(), QString("drei"), null()}}));
   for (const int spalte : {0, 1, 2, 3}) {
     EXPECT_FALSE(kopfRechts(grid, spalte)) << spalte;
     for (const int zeile : {0, 1}) EXPECT_FALSE(zelleRechts(grid, zeile, spalte)) << spalte;
@@ -95,8 +95,8 @@ TEST(Zahlenspalte, OhneZeilenGiltDerTypDesFeldes) {
   EXPECT_FALSE(kopfRechts(grid, 1));
 }
 
-TEST_P(Zahlenspalten, DieUeberschriftEndetUeberDenZiffern) {
-  zeigeDaten(ausdruecke({"HHH", "Art"}, {{88888, QString("H")}}));
+TEST_P(Zahlenspalten, DieÜberschriftEndetÜberDenZiffern) {
+  zeigeDaten(ausdrücke({"HHH", "Art"}, {{88888, QString("H")}}));
   grid.setColumnWidth(0, 300);
   const Tinte kopf = tinteDesKopfes(grid, 0);
   const Tinte zelle = tinteDerZelle(grid, 0, 0);
@@ -105,7 +105,7 @@ TEST_P(Zahlenspalten, DieUeberschriftEndetUeberDenZiffern) {
 }
 
 TEST_P(Zahlenspalten, ZwischenZahlUndFolgendemTextPassenZweiZeichen) {
-  zeigeDaten(ausdruecke({"Tage", "Volkabhängig"}, {{14, QString("H")}}));
+  zeigeDaten(ausdrücke({"Tage", "Volkabhängig"}, {{14, QString("H")}}));
   const Tinte zahl = tinteDerZelle(grid, 0, 0);
   const Tinte text = tinteDerZelle(grid, 0, 1);
   ASSERT_GT(zahl.bis, 0);
@@ -115,7 +115,7 @@ TEST_P(Zahlenspalten, ZwischenZahlUndFolgendemTextPassenZweiZeichen) {
 }
 
 TEST_P(Zahlenspalten, DieBreitesteZahlStehtGanzDa) {
-  zeigeDaten(ausdruecke({"n", "H"}, {{qlonglong{8888888888}, QString("H")}, {8, QString("H")}}));
+  zeigeDaten(ausdrücke({"n", "H"}, {{qlonglong{8888888888}, QString("H")}, {8, QString("H")}}));
   const Tinte angepasst = tinteDerZelle(grid, 0, 0);
   grid.setColumnWidth(0, 600);
   const Tinte weit = tinteDerZelle(grid, 0, 0);
@@ -125,4 +125,4 @@ TEST_P(Zahlenspalten, DieBreitesteZahlStehtGanzDa) {
   EXPECT_EQ(nochmal.bis - nochmal.von, weit.bis - weit.von);
 }
 
-INSTANTIATE_TEST_SUITE_P(Schriftgroessen, Zahlenspalten, testing::Values(1.0, 1.5));
+INSTANTIATE_TEST_SUITE_P(Schriftgrößen, Zahlenspalten, testing::Values(1.0, 1.5));

@@ -23,15 +23,15 @@ Daten block(std::vector<Spalte> spalten, const std::vector<QVariantList>& zeilen
   return bauer.fertig();
 }
 
-const std::vector<Spalte> Voelkerspalten = {
+const std::vector<Spalte> Völkerspalten = {
     {QStringLiteral("Volknr"), Feldtyp::Text, 10},
     {QStringLiteral("Volkname"), Feldtyp::Text, 30},
     {QStringLiteral("Honigmenge_Gesamt"), Feldtyp::Einfach, 0},
     {QStringLiteral("Volk_Zugangsdatum"), Feldtyp::Datum, 0},
-    {QStringLiteral("ID"), Feldtyp::Zaehler, 0}};
+    {QStringLiteral("ID"), Feldtyp::Zähler, 0}};
 
-Daten voelker() {
-  return block(Voelkerspalten,
+Daten völker() {
+  return block(Völkerspalten,
                {{QStringLiteral("1"), QStringLiteral("Müller"), 12.5, QDate(2023, 5, 1), 11},
                 {QStringLiteral("10"), QStringLiteral("ahre"), 9.0, QDate(2022, 12, 31), 12},
                 {QStringLiteral("2"), QStringLiteral("Ähre"), 100.0, null(), 13},
@@ -52,7 +52,7 @@ class GridTest : public testing::Test {
   }
   ~GridTest() override { Fensterablage::setDatei({}); }
   void SetUp() override {
-    grid->setDaten(voelker());
+    grid->setDaten(völker());
     zeige(fenster);
   }
 
@@ -89,6 +89,26 @@ TEST_F(GridTest, NachSetDatenIstNichtsAktuellUndNichtsMarkiert) {
   EXPECT_EQ(grid->sortierSpalte(), -1);
 }
 
+TEST_F(GridTest, DieAktuelleZeileBleibtZuSehenWennDieListeWenigerPlatzHat) {
+  grid->setAktuelleZeile(4);
+  fenster.resize(900, 700);
+  const QRect vorher = grid->visualRect(grid->model()->index(4, 0));
+  ASSERT_TRUE(grid->viewport()->rect().contains(vorher));
+  const int kopf = grid->height() - grid->viewport()->height();
+  grid->resize(grid->width(), kopf + 3 * grid->rowHeight(0));
+  const QRect jetzt = grid->visualRect(grid->model()->index(4, 0));
+  EXPECT_TRUE(grid->viewport()->rect().contains(jetzt)) << jetzt.y();
+}
+
+TEST_F(GridTest, WasDerBenutzerWeggerolltHatBleibtWegWennDieListeWenigerPlatzHat) {
+  const int kopf = grid->height() - grid->viewport()->height();
+  grid->resize(grid->width(), kopf + 3 * grid->rowHeight(0));
+  grid->setAktuelleZeile(4);
+  grid->verticalScrollBar()->setValue(0);
+  grid->resize(grid->width(), kopf + 2 * grid->rowHeight(0));
+  EXPECT_EQ(grid->verticalScrollBar()->value(), 0);
+}
+
 TEST_F(GridTest, ZellenNachNamenWieGezeigt) {
   EXPECT_EQ(grid->zelle(0, QStringLiteral("Honigmenge_Gesamt")), QStringLiteral("12,5"));
   EXPECT_EQ(grid->zelle(0, QStringLiteral("volk_zugangsdatum")), QStringLiteral("01.05.2023"));
@@ -98,15 +118,15 @@ TEST_F(GridTest, ZellenNachNamenWieGezeigt) {
   EXPECT_FALSE(grid->wert(3, QStringLiteral("Honigmenge_Gesamt")).isValid());
 }
 
-TEST_F(GridTest, EigeneAnzeigeUndUeberschrift) {
+TEST_F(GridTest, EigeneAnzeigeUndÜberschrift) {
   grid->setAnzeige(QStringLiteral("Honigmenge_Gesamt"), [](const QVariant& wert) {
     return wert.isValid() ? QStringLiteral("%1 kg").arg(wert.toDouble()) : QStringLiteral("-");
   });
-  grid->setUeberschrift(QStringLiteral("Honigmenge_Gesamt"), QStringLiteral("Honig"));
+  grid->setÜberschrift(QStringLiteral("Honigmenge_Gesamt"), QStringLiteral("Honig"));
   EXPECT_EQ(grid->zelle(2, QStringLiteral("Honigmenge_Gesamt")), QStringLiteral("100 kg"));
   EXPECT_EQ(grid->zelle(3, QStringLiteral("Honigmenge_Gesamt")), QStringLiteral("-"));
   EXPECT_EQ(grid->model()->headerData(2, Qt::Horizontal).toString(), QStringLiteral("Honig"));
-  grid->setDaten(voelker());
+  grid->setDaten(völker());
   EXPECT_EQ(grid->zelle(2, QStringLiteral("Honigmenge_Gesamt")), QStringLiteral("100 kg"));
 }
 
@@ -174,14 +194,14 @@ TEST_F(GridTest, RechtsklickNebenDieMarkierungMachtDieZeileAktuell) {
   EXPECT_EQ(grid->markierteZeilen(), QList<int>({3}));
 }
 
-TEST_F(GridTest, RechtsklickInDieMarkierungLaesstSie) {
+TEST_F(GridTest, RechtsklickInDieMarkierungLässtSie) {
   klicke(0);
   klicke(2, Qt::ShiftModifier);
   klicke(1, {}, Qt::RightButton);
   EXPECT_EQ(grid->markierteZeilen(), QList<int>({0, 1, 2}));
 }
 
-TEST_F(GridTest, KlickUnterDieLetzteZeileLaesstDieMarkierung) {
+TEST_F(GridTest, KlickUnterDieLetzteZeileLässtDieMarkierung) {
   klicke(1);
   QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
                     QPoint(20, grid->viewport()->height() - 3));
@@ -233,7 +253,27 @@ TEST_F(GridTest, BuchstabenSuchenOhneSortierungInDerErsten) {
   EXPECT_EQ(grid->zelle(grid->aktuelleZeile(), QStringLiteral("Volknr")), QStringLiteral("4"));
 }
 
-TEST_F(GridTest, DerselbeBuchstabeGehtZurNaechstenZeile) {
+TEST_F(GridTest, GetippteZifferfolgeIstEinWort) {
+  std::vector<QVariantList> zeilen;
+  for (const char* nr : {"1", "2", "20", "22", "11", "110", "111", "21"})
+    zeilen.push_back({QString::fromUtf8(nr), QString(), null(), null(), null()});
+  const auto nummer = [this](const char* tasten) {
+    grid->setDaten(grid->daten());  // the next key begins a new word
+    grid->setAktuelleZeile(0);
+    QTest::keyClicks(grid, QString::fromUtf8(tasten));
+    return grid->zelle(grid->aktuelleZeile(), QStringLiteral("Volknr")).toStdString();
+  };
+  grid->setDaten(block(Völkerspalten, zeilen));
+  grid->setFocus();
+  EXPECT_EQ(nummer("22"), "22");
+  EXPECT_EQ(nummer("111"), "111");
+  EXPECT_EQ(nummer("110"), "110");
+  EXPECT_EQ(nummer("21"), "21");
+  EXPECT_EQ(nummer("2"), "2");
+  EXPECT_EQ(nummer("29"), "2") << "die 9 gehört zum Wort und springt nirgends hin";
+}
+
+TEST_F(GridTest, DerselbeBuchstabeGehtZurNächstenZeile) {
   grid->setFocus();
   QTest::keyClicks(grid, QStringLiteral("1"));
   EXPECT_EQ(grid->aktuelleZeile(), 0);
@@ -264,7 +304,7 @@ TEST_F(GridTest, ZahlenSortierenAlsZahlenUndGleicheBleiben) {
   EXPECT_EQ(spalteAlsListe("ID"),
             QStringList({QStringLiteral("14"), QStringLiteral("12"), QStringLiteral("15"),
                          QStringLiteral("11"), QStringLiteral("13")}));
-  grid->setDaten(voelker());
+  grid->setDaten(völker());
   grid->sortiere(2, Qt::DescendingOrder);
   EXPECT_EQ(spalteAlsListe("ID"),
             QStringList({QStringLiteral("13"), QStringLiteral("11"), QStringLiteral("12"),
@@ -278,14 +318,14 @@ TEST_F(GridTest, DatumSortiertAlsDatum) {
                          QStringLiteral("15.01.2023"), QStringLiteral("01.05.2023")}));
 }
 
-TEST_F(GridTest, SortierungMinusEinsGibtDieUrspruenglicheFolge) {
+TEST_F(GridTest, SortierungMinusEinsGibtDieUrsprünglicheFolge) {
   grid->sortiere(2, Qt::DescendingOrder);
   grid->sortiere(-1, Qt::AscendingOrder);
   EXPECT_EQ(spalteAlsListe("ID").first(), QStringLiteral("11"));
   EXPECT_EQ(grid->sortierSpalte(), -1);
 }
 
-TEST_F(GridTest, SortierenHaeltAktuelleUndMarkierteDatensaetze) {
+TEST_F(GridTest, SortierenHältAktuelleUndMarkierteDatensätze) {
   grid->setMarkierteZeilen({0, 2});
   klicke(0, Qt::ControlModifier);
   klicke(0, Qt::ControlModifier);
@@ -341,7 +381,7 @@ TEST_F(GridTest, FindeZeileInLeererListe) {
 TEST_F(GridTest, NeueDatenMeldenEinmalMinusEins) {
   klicke(3);
   QSignalSpy wechsel(grid, &Grid::zeileGewechselt);
-  grid->setDaten(block(Voelkerspalten, {{QStringLiteral("1"), null(), null(), null(), 11}}));
+  grid->setDaten(block(Völkerspalten, {{QStringLiteral("1"), null(), null(), null(), 11}}));
   ASSERT_EQ(wechsel.count(), 1);
   EXPECT_EQ(wechsel.first().first().toInt(), -1);
   EXPECT_EQ(grid->aktuelleZeile(), -1);
@@ -364,7 +404,7 @@ TEST_F(GridTest, SetAktuelleZeileMinusEinsHebtAuf) {
 }
 
 TEST_F(GridTest, MarkierteZeilenSetzenUndMelden) {
-  QSignalSpy spion(grid, &Grid::markierungGeaendert);
+  QSignalSpy spion(grid, &Grid::markierungNeu);
   grid->setMarkierteZeilen({4, 0, 1, 99, -3});
   EXPECT_EQ(grid->markierteZeilen(), QList<int>({0, 1, 4}));
   EXPECT_EQ(spion.count(), 1);
@@ -414,7 +454,7 @@ TEST_F(GridTest, VerborgeneSpalteBleibtAuchNachNeuenDaten) {
   grid->setSpalteVerborgen(QStringLiteral("id"), true);
   EXPECT_TRUE(grid->isColumnHidden(4));
   EXPECT_EQ(grid->zelle(0, QStringLiteral("ID")), QStringLiteral("11"));
-  grid->setDaten(voelker());
+  grid->setDaten(völker());
   EXPECT_TRUE(grid->isColumnHidden(4));
   grid->setSpalteVerborgen(QStringLiteral("ID"), false);
   EXPECT_FALSE(grid->isColumnHidden(4));
@@ -422,7 +462,7 @@ TEST_F(GridTest, VerborgeneSpalteBleibtAuchNachNeuenDaten) {
 }
 
 TEST_F(GridTest, BreitenWerdenGemerktUndGeladen) {
-  grid->setLayoutSchluessel(QStringLiteral("tv_völker/datali"));
+  grid->setLayoutSchlüssel(QStringLiteral("tv_völker/datali"));
   auto* kopf = grid->horizontalHeader();
   const int rand = kopf->sectionViewportPosition(0) + kopf->sectionSize(0) - 1;
   const int breite = kopf->sectionSize(0);
@@ -433,13 +473,13 @@ TEST_F(GridTest, BreitenWerdenGemerktUndGeladen) {
   EXPECT_EQ(kopf->sectionSize(0), breite + 40);
 
   Grid anderer;
-  anderer.setLayoutSchluessel(QStringLiteral("tv_völker/datali"));
-  anderer.setDaten(voelker());
+  anderer.setLayoutSchlüssel(QStringLiteral("tv_völker/datali"));
+  anderer.setDaten(völker());
   EXPECT_EQ(anderer.columnWidth(0), breite + 40);
 }
 
-TEST_F(GridTest, GezogeneBreiteIstMindestensFuenfundzwanzig) {
-  grid->setLayoutSchluessel(QStringLiteral("datali"));
+TEST_F(GridTest, GezogeneBreiteIstMindestensFünfundzwanzig) {
+  grid->setLayoutSchlüssel(QStringLiteral("datali"));
   auto* kopf = grid->horizontalHeader();
   const int rand = kopf->sectionViewportPosition(1) + kopf->sectionSize(1) - 1;
   QTest::mousePress(kopf->viewport(), Qt::LeftButton, {}, QPoint(rand, 5));
@@ -454,7 +494,7 @@ TEST_F(GridTest, GezogeneBreiteIstMindestensFuenfundzwanzig) {
 
 TEST_F(GridTest, GemerkteBreitenNurBeiGleicherSpaltenzahl) {
   Fensterablage::schreiben(QStringLiteral("Spaltenbreiten/datali"), QVariantList({200, 10}));
-  grid->setLayoutSchluessel(QStringLiteral("datali"));
+  grid->setLayoutSchlüssel(QStringLiteral("datali"));
   const int vorher = grid->columnWidth(0);
   EXPECT_NE(vorher, 200);
   grid->setDaten(block(
@@ -467,33 +507,33 @@ TEST_F(GridTest, EineEinzigeSpalteMerktSichIhreBreite) {
   const auto eine = [] {
     return block({{QStringLiteral("a"), Feldtyp::Text, 5}}, {{QStringLiteral("x")}});
   };
-  grid->setLayoutSchluessel(QStringLiteral("einzeln"));
+  grid->setLayoutSchlüssel(QStringLiteral("einzeln"));
   grid->setDaten(eine());
   grid->horizontalHeader()->resizeSection(0, 133);
   Grid anderer;
-  anderer.setLayoutSchluessel(QStringLiteral("einzeln"));
+  anderer.setLayoutSchlüssel(QStringLiteral("einzeln"));
   anderer.setDaten(eine());
   EXPECT_EQ(anderer.columnWidth(0), 133);
 }
 
-TEST_F(GridTest, BreitenHaltenOhneSchluesselBeiNeuemLesen) {
+TEST_F(GridTest, BreitenHaltenOhneSchlüsselBeiNeuemLesen) {
   grid->horizontalHeader()->resizeSection(1, 177);
-  grid->setDaten(voelker());
+  grid->setDaten(völker());
   EXPECT_EQ(grid->columnWidth(1), 177);
 }
 
 // As much of a long text shows in a larger font, and a text without end leaves room for others.
-TEST_F(GridTest, GroessteBreiteWaechstMitDerSchrift) {
+TEST_F(GridTest, GrößteBreiteWächstMitDerSchrift) {
   const auto langer = [](const QString& text) {
     return block({{QStringLiteral("Ort"), Feldtyp::Text, 100}}, {{text}});
   };
   const QString ort = QStringLiteral("Lindenallee am Schloßpark, hinten");
   QFont schrift = grid->font();
   for (const double faktor : {1.0, 1.5, 2.0}) {
-    QFont gross = schrift;
-    gross.setPointSizeF(schrift.pointSizeF() * faktor);
+    QFont groß = schrift;
+    groß.setPointSizeF(schrift.pointSizeF() * faktor);
     Grid gitter;
-    gitter.setFont(gross);
+    gitter.setFont(groß);
     gitter.setDaten(langer(ort));
     EXPECT_GT(gitter.columnWidth(0), gitter.fontMetrics().horizontalAdvance(ort)) << faktor;
     gitter.setDaten(langer(QString(100, u'W')));
@@ -513,7 +553,7 @@ TEST_F(GridTest, StrgCKopiertDieMarkiertenZeilen) {
 
 namespace {
 
-class GridLoeschenTest : public GridTest {
+class GridLöschenTest : public GridTest {
  protected:
   void SetUp() override {
     db = raum.CreateDatabase(ordner.filePath(QStringLiteral("TEST.MDB")));
@@ -534,39 +574,39 @@ class GridLoeschenTest : public GridTest {
 
 }  // namespace
 
-TEST_F(GridLoeschenTest, LoeschtDatensatzUndZeileUndDieNaechsteWirdAktuell) {
+TEST_F(GridLöschenTest, LöschtDatensatzUndZeileUndDieNächsteWirdAktuell) {
   klicke(1);
   QSignalSpy wechsel(grid, &Grid::zeileGewechselt);
-  grid->loescheZeile(1, db, QStringLiteral("Notizen"));
+  grid->löscheZeile(1, db, QStringLiteral("Notizen"));
   EXPECT_EQ(spalteAlsListe("Notiz"), QStringList({QStringLiteral("eins"), QStringLiteral("drei")}));
   EXPECT_EQ(anzahl(), 2);
   EXPECT_EQ(grid->aktuelleZeile(), 1);
   ASSERT_EQ(wechsel.count(), 1);
   EXPECT_EQ(wechsel.first().first().toInt(), 1);
-  grid->loescheZeile(1, db, QStringLiteral("Notizen"));
+  grid->löscheZeile(1, db, QStringLiteral("Notizen"));
   EXPECT_EQ(grid->aktuelleZeile(), 0);
-  grid->loescheZeile(0, db, QStringLiteral("Notizen"));
+  grid->löscheZeile(0, db, QStringLiteral("Notizen"));
   EXPECT_EQ(grid->aktuelleZeile(), -1);
   EXPECT_EQ(wechsel.last().first().toInt(), -1);
   EXPECT_EQ(anzahl(), 0);
 }
 
-TEST_F(GridLoeschenTest, LoeschtInSortierterListeDenRichtigen) {
+TEST_F(GridLöschenTest, LöschtInSortierterListeDenRichtigen) {
   grid->sortiere(0, Qt::AscendingOrder);  // drei, eins, zwei
-  grid->loescheZeile(0, db, QStringLiteral("Notizen"));
+  grid->löscheZeile(0, db, QStringLiteral("Notizen"));
   grid->sortiere(-1, Qt::AscendingOrder);
   EXPECT_EQ(spalteAlsListe("Notiz"), QStringList({QStringLiteral("eins"), QStringLiteral("zwei")}));
 }
 
-TEST_F(GridLoeschenTest, FehlerLaesstDieZeileStehen) {
+TEST_F(GridLöschenTest, FehlerLässtDieZeileStehen) {
   klicke(1);
-  EXPECT_THROW(grid->loescheZeile(1, db, QStringLiteral("GibtEsNicht")), Datenbankfehler);
+  EXPECT_THROW(grid->löscheZeile(1, db, QStringLiteral("GibtEsNicht")), Datenbankfehler);
   EXPECT_EQ(grid->zeilen(), 3);
   EXPECT_EQ(grid->aktuelleZeile(), 1);
 }
 
-TEST_F(GridLoeschenTest, OhneSpalteIdWirdNichtsGeloescht) {
+TEST_F(GridLöschenTest, OhneSpalteIdWirdNichtsGelöscht) {
   grid->setDaten(db.Lesen(QStringLiteral("select Notiz from Notizen")));
-  EXPECT_THROW(grid->loescheZeile(0, db, QStringLiteral("Notizen")), Datenbankfehler);
+  EXPECT_THROW(grid->löscheZeile(0, db, QStringLiteral("Notizen")), Datenbankfehler);
   EXPECT_EQ(anzahl(), 3);
 }

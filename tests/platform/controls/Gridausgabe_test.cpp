@@ -36,13 +36,13 @@ TEST(Gridausgabe, DieOrdnungFolgtDerSortierung) {
   EXPECT_EQ(gitter.text(0, 0), "Anna");
 }
 
-TEST(Gridausgabe, UeberschriftenUndEigeneTexte) {
+TEST(Gridausgabe, ÜberschriftenUndEigeneTexte) {
   Grid gitter;
   gitter.setDaten(zeilen());
-  gitter.setUeberschrift("n", "Anzahl");
+  gitter.setÜberschrift("n", "Anzahl");
   gitter.setAnzeige("N", [](const QVariant& wert) { return wert.toString() + " Stück"; });
-  EXPECT_EQ(gitter.ueberschrift(0), "Volk");
-  EXPECT_EQ(gitter.ueberschrift(1), "Anzahl");
+  EXPECT_EQ(gitter.überschrift(0), "Volk");
+  EXPECT_EQ(gitter.überschrift(1), "Anzahl");
   EXPECT_FALSE(gitter.hatAnzeige(0));
   EXPECT_TRUE(gitter.hatAnzeige(1));
   EXPECT_EQ(gitter.text(0, 1), "3 Stück");
@@ -74,17 +74,17 @@ TEST(Gridausgabe, VerborgeneSpaltenBleibenBeimAnpassenVerborgen) {
   EXPECT_FALSE(gitter.isColumnHidden(0));
 }
 
-TEST(Oeffnen, DerGesetzteOeffnerBekommtDiePfade) {
+TEST(Öffnen, DerGesetzteÖffnerBekommtDiePfade) {
   QStringList pfade;
   bool gelingt = true;
-  Oeffnen::setOeffner([&](const QString& pfad) {
+  Öffnen::setÖffner([&](const QString& pfad) {
     pfade += pfad;
     return gelingt;
   });
-  EXPECT_TRUE(Oeffnen::datei("/imkerei/report.htm"));
+  EXPECT_TRUE(Öffnen::datei("/imkerei/report.htm"));
   gelingt = false;
-  EXPECT_FALSE(Oeffnen::datei("/imkerei/tova_liste.xlsx"));
-  Oeffnen::setOeffner({});
+  EXPECT_FALSE(Öffnen::datei("/imkerei/tova_liste.xlsx"));
+  Öffnen::setÖffner({});
   EXPECT_EQ(pfade, (QStringList{"/imkerei/report.htm", "/imkerei/tova_liste.xlsx"}));
 }
 

@@ -44,16 +44,15 @@ TEST(Meldungen, HinweisZeigtTextTitelUndOk) {
   EXPECT_EQ(knopf, QStringLiteral("&OK"));
 }
 
-TEST(Meldungen, FrageHatDeutscheKnoepfe) {
-  QStringList knoepfe;
+TEST(Meldungen, FrageHatDeutscheKnöpfe) {
+  QStringList knöpfe;
   imDialog([&](QWidget* dialog) {
-    for (const auto* knopf : qobject_cast<QMessageBox*>(dialog)->buttons())
-      knoepfe += knopf->text();
+    for (const auto* knopf : qobject_cast<QMessageBox*>(dialog)->buttons()) knöpfe += knopf->text();
     taste(dialog, Qt::Key_Escape);
   });
   Meldungen::Frage(QStringLiteral("Wirklich?"));
-  knoepfe.sort();
-  EXPECT_EQ(knoepfe, QStringList({QStringLiteral("&Ja"), QStringLiteral("&Nein")}));
+  knöpfe.sort();
+  EXPECT_EQ(knöpfe, QStringList({QStringLiteral("&Ja"), QStringLiteral("&Nein")}));
 }
 
 TEST(Meldungen, EnterNimmtDieVorgabe) {
@@ -70,7 +69,7 @@ TEST(Meldungen, KlickAufJaIstJa) {
   EXPECT_TRUE(Meldungen::Frage(QStringLiteral("Wirklich?"), Vorgabe::Nein));
 }
 
-TEST(Meldungen, SchliessenDesFenstersIstNein) {
+TEST(Meldungen, SchließenDesFenstersIstNein) {
   imDialog([](QWidget* dialog) { dialog->close(); });
   EXPECT_FALSE(Meldungen::Frage(QStringLiteral("Wirklich?"), Vorgabe::Ja));
 }
@@ -78,28 +77,28 @@ TEST(Meldungen, SchliessenDesFenstersIstNein) {
 TEST(Meldungen, SehrLangerTextPasstAufDenSchirm) {
   QString text;
   for (int i = 0; i < 300; ++i) text += QStringLiteral("... Grund %1\r\n").arg(i);
-  QSize groesse;
+  QSize größe;
   imDialog([&](QWidget* dialog) {
-    groesse = dialog->size();
+    größe = dialog->size();
     taste(dialog, Qt::Key_Return);
   });
   Meldungen::Hinweis(text);
-  EXPECT_LE(groesse.height(), QGuiApplication::primaryScreen()->availableGeometry().height());
+  EXPECT_LE(größe.height(), QGuiApplication::primaryScreen()->availableGeometry().height());
 }
 
 TEST(Meldungen, LangerTextOhneUmbruchPasstAuchAufDenSchirm) {
-  QSize groesse;
+  QSize größe;
   imDialog([&](QWidget* dialog) {
-    groesse = dialog->size();
+    größe = dialog->size();
     taste(dialog, Qt::Key_Return);
   });
   Meldungen::Hinweis(QStringLiteral("Ein langer Satz ohne Zeilenumbruch. ").repeated(200));
   const QSize schirm = QGuiApplication::primaryScreen()->availableGeometry().size();
-  EXPECT_LE(groesse.height(), schirm.height());
-  EXPECT_LE(groesse.width(), schirm.width());
+  EXPECT_LE(größe.height(), schirm.height());
+  EXPECT_LE(größe.width(), schirm.width());
 }
 
-TEST(Meldungen, UeberDerSanduhrStehtDerGewoehnlicheZeiger) {
+TEST(Meldungen, ÜberDerSanduhrStehtDerGewöhnlicheZeiger) {
   Qt::CursorShape zeiger = Qt::BlankCursor;
   imDialog([&](QWidget* dialog) {
     zeiger = QApplication::overrideCursor()->shape();
@@ -135,7 +134,7 @@ TEST(MeldungenProbe, UnerwartetesIstEinFehler) {
   EXPECT_EQ(probe.fehler(), QString());
 }
 
-TEST(MeldungenProbe, UebriggebliebenesIstEinFehler) {
+TEST(MeldungenProbe, ÜbriggebliebenesIstEinFehler) {
   Meldungen::Probe probe;
   probe.frage(QStringLiteral("Löschen?"), true);
   EXPECT_EQ(probe.fehler(), QStringLiteral("Ausgeblieben: Frage \"Löschen?\""));

@@ -28,10 +28,10 @@ QString rechne(const char* tasten, Rechenwerk& werk) {
         werk.gleich();
         break;
       case 'C':
-        werk.loeschen();
+        werk.löschen();
         break;
       case '<':
-        werk.zurueck();
+        werk.zurück();
         break;
       default:
         werk.ziffer(*t - '0');
@@ -76,29 +76,29 @@ TEST(Rechenwerk, DurchNullInEinerKetteZeigtFehler) {
   EXPECT_EQ(rechne("5/0+"), QStringLiteral("Fehler"));
 }
 
-TEST(Rechenwerk, NullDurchFuenfIstNull) { EXPECT_EQ(rechne("0/5="), QStringLiteral("0")); }
+TEST(Rechenwerk, NullDurchFünfIstNull) { EXPECT_EQ(rechne("0/5="), QStringLiteral("0")); }
 
-TEST(Rechenwerk, ZuGrosseZahlZeigtFehler) {
+TEST(Rechenwerk, ZuGroßeZahlZeigtFehler) {
   EXPECT_EQ(rechne("999999999999999*999="), QStringLiteral("Fehler"));
 }
 
-TEST(Rechenwerk, MehrAlsFuenfzehnZiffernWerdenNichtAngenommen) {
+TEST(Rechenwerk, MehrAlsFünfzehnZiffernWerdenNichtAngenommen) {
   EXPECT_EQ(rechne("1234567890123456789"), QStringLiteral("123456789012345"));
 }
 
-TEST(Rechenwerk, RuecktasteNimmtDieLetzteStelle) {
+TEST(Rechenwerk, RücktasteNimmtDieLetzteStelle) {
   EXPECT_EQ(rechne("12,5<"), QStringLiteral("12,"));
   EXPECT_EQ(rechne("12,5<<<<"), QStringLiteral("0"));
   EXPECT_EQ(rechne("12,5<<<<<<7"), QStringLiteral("7"));
 }
 
-TEST(Rechenwerk, ZweitesKommaZaehltNicht) { EXPECT_EQ(rechne("1,2,3"), QStringLiteral("1,23")); }
+TEST(Rechenwerk, ZweitesKommaZähltNicht) { EXPECT_EQ(rechne("1,2,3"), QStringLiteral("1,23")); }
 
 TEST(Rechenwerk, KommaZuerstWirdNullKomma) { EXPECT_EQ(rechne(",5+,5="), QStringLiteral("1")); }
 
-TEST(Rechenwerk, FuehrendeNullenVerschwinden) { EXPECT_EQ(rechne("007"), QStringLiteral("7")); }
+TEST(Rechenwerk, FührendeNullenVerschwinden) { EXPECT_EQ(rechne("007"), QStringLiteral("7")); }
 
-TEST(Rechenwerk, LetzteOperationGiltWennMehrereGedruecktWerden) {
+TEST(Rechenwerk, LetzteOperationGiltWennMehrereGedrücktWerden) {
   EXPECT_EQ(rechne("8+-*/2="), QStringLiteral("4"));
 }
 

@@ -22,7 +22,7 @@ class Reiterformular : public Formular {
   QPushButton* knopf;
 };
 
-TEST(Reiterwechsel, StrgTabBlaettertAuchVonEinemKnopfUnterDenReiternAus) {
+TEST(Reiterwechsel, StrgTabBlättertAuchVonEinemKnopfUnterDenReiternAus) {
   Reiterformular form;
   zeige(form);
   form.knopf->setFocus();
@@ -35,7 +35,7 @@ TEST(Reiterwechsel, StrgTabBlaettertAuchVonEinemKnopfUnterDenReiternAus) {
   EXPECT_EQ(form.reiter->currentIndex(), 2);
 }
 
-TEST(Reiterwechsel, TabAlleinGehtZumNaechstenFeld) {
+TEST(Reiterwechsel, TabAlleinGehtZumNächstenFeld) {
   Reiterformular form;
   zeige(form);
   form.knopf->setFocus();

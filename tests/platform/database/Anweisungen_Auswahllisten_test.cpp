@@ -53,7 +53,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& fall) { return QString(fall.param.tabelle).replace("ö", "oe").toStdString(); });
 
 TEST_F(Anweisungsprobe, AuswahllistenMitIhremInhalt) {
-  pruefe({
+  prüfe({
       {"Beutearten, groß oder klein", "select distinct Beuteart from Bienenvolk order by Beuteart",
        zeilen({"<>", "Dadant", "Zander"})},
       {"Orte", "select distinct Ort from Kunden order by Ort", zeilen({"Bonn", "Ulm"})},

@@ -4,15 +4,15 @@
 namespace {
 
 TEST_F(Anweisungsprobe, ListeDerBuchungsart) {
-  pruefe({
+  prüfe({
       {"Liste der Buchungsart", QString(stockkartenfelder) +
                                     " where Volk_ID = 1 and Datum >= #01/01/2006# and Datum <= "
                                     "#12/31/2006# order by Datum"},
   });
 }
 
-TEST_F(Anweisungsprobe, VorschlaegeAusFrueherenBuchungen) {
-  pruefe({
+TEST_F(Anweisungsprobe, VorschlägeAusFrüherenBuchungen) {
+  prüfe({
       {"Vorschlag aus der letzten Behandlung",
        "select top 1 * from Behandlung where Behandlungsart = 'varroa' order by Datum DESC",
        zeilen({"2006-12-20|Varroa|Oxalsäure|30|<>|<>|<>|<>|<>|<>|1|2"})},
@@ -33,7 +33,7 @@ TEST_F(Anweisungsprobe, VorschlaegeAusFrueherenBuchungen) {
 }
 
 TEST_F(Anweisungsprobe, EineBuchungErledigtIhrenTermin) {
-  pruefe({
+  prüfe({
       {"Die eine Buchung", "select top 1 * from Honigernte where Volk_ID = 1 and ID = 2"},
       {"Optionen, die eine Buchung erledigt",
        "select * from Arbeitsplanoptionen where Auto_erledigt_Buchung = 'Honigernte'",
@@ -51,7 +51,7 @@ TEST_F(Anweisungsprobe, EineBuchungErledigtIhrenTermin) {
 }
 
 TEST_F(Anweisungsprobe, NeuesteBuchungen) {
-  pruefe({
+  prüfe({
       {"Leere Zeilen zum Anfügen", "select * from Honiglager where ID = 0", QStringList()},
       {"Neueste Stockkarte, bei gleichem Tag die erste",
        "select top 1 * from Stockkarte where Volk_ID = 1 order by Datum DESC"},
@@ -68,7 +68,7 @@ TEST_F(Anweisungsprobe, NeuesteBuchungen) {
 
 TEST_F(Anweisungsprobe, AustauschJederBuchungsart) {
   for (const QString& tabelle : buchungstabellen) {
-    pruefe({
+    prüfe({
         {"Buchungen ab einem Tag",
          "select * from " + tabelle +
              " where Volk_ID = 1 and Datum >= #01/01/2006# order by Datum DESC"},
@@ -80,8 +80,8 @@ TEST_F(Anweisungsprobe, AustauschJederBuchungsart) {
   }
 }
 
-TEST_F(Anweisungsprobe, AustauschVonTerminenUndVoelkern) {
-  pruefe({
+TEST_F(Anweisungsprobe, AustauschVonTerminenUndVölkern) {
+  prüfe({
       {"Termine zum Mitnehmen",
        "select Datum, Volknr, Volkname, Termin, Standort, Erledigt, Termine.ID from Bienenvolk, "
        "Termine "
@@ -98,7 +98,7 @@ TEST_F(Anweisungsprobe, AustauschVonTerminenUndVoelkern) {
 }
 
 TEST_F(Anweisungsprobe, WasSchonEingelesenIst) {
-  pruefe({
+  prüfe({
       {"Arbeit schon eingelesen",
        "select datum from Arbeiten where Volk_ID = 1 and Arbeitsart = 'durchsicht' and datum = "
        "#04/01/2006#",

@@ -3,8 +3,8 @@
 // The statements of purchases, sales, the honey store, articles, customers and seals.
 namespace {
 
-TEST_F(Anweisungsprobe, EinkaeufeVerkaeufeUndIhreBewegungen) {
-  pruefe({
+TEST_F(Anweisungsprobe, EinkäufeVerkäufeUndIhreBewegungen) {
+  prüfe({
       {"Einkäufe", "select * from Einkauf order by Datum"},
       {"Verkäufe", "select * from Verkauf order by Datum"},
       {"Honiglager", "select * from Honiglager order by Datum"},
@@ -18,8 +18,8 @@ TEST_F(Anweisungsprobe, EinkaeufeVerkaeufeUndIhreBewegungen) {
   });
 }
 
-TEST_F(Anweisungsprobe, HonigbestandUndDasLoeschenEinerBewegung) {
-  pruefe({
+TEST_F(Anweisungsprobe, HonigbestandUndDasLöschenEinerBewegung) {
+  prüfe({
       {"Bestand nach Produkt und Charge",
        "select Produkt, Charge, sum(Zugang - Abgang) as Summe, count(*) as Anzahl, sum(Zugang) as "
        "Zugänge, sum(Abgang) as Abgänge from Honiglager group by Produkt, Charge",
@@ -34,7 +34,7 @@ TEST_F(Anweisungsprobe, HonigbestandUndDasLoeschenEinerBewegung) {
 }
 
 TEST_F(Anweisungsprobe, LagerartikelUndLagerbuchungen) {
-  pruefe({
+  prüfe({
       {"Artikel", "select * from Lagerartikel order by Artikel"},
       {"Lagerbuchungen", "select * from Lagerbuchungen order by Datum, Artikel"},
       {"Artikel doppelt", "select Artikel from Lagerartikel where Artikel = 'gläser' and ID <> 1",
@@ -64,7 +64,7 @@ TEST_F(Anweisungsprobe, LagerartikelUndLagerbuchungen) {
 }
 
 TEST_F(Anweisungsprobe, KundenUndInventar) {
-  pruefe({
+  prüfe({
       {"Kunden", "select * from Kunden order by Kundenname"},
       {"Kunde doppelt", "select Kundenname from Kunden where Kundenname = 'Meier' and ID <> 1",
        QStringList()},
@@ -79,8 +79,8 @@ TEST_F(Anweisungsprobe, KundenUndInventar) {
   });
 }
 
-TEST_F(Anweisungsprobe, Verschluesse) {
-  pruefe({
+TEST_F(Anweisungsprobe, Verschlüsse) {
+  prüfe({
       {"Verschlüsse", "select * from DIBVerschluss order by Verschlussnr"},
       {"Verschlüsse listen",
        "select Verschlussnr, Charge, Kunde, Datum, Bemerkung from DIBVerschluss where ID <> 0 and "
@@ -97,9 +97,9 @@ TEST_F(Anweisungsprobe, Verschluesse) {
   });
 }
 
-TEST_F(Anweisungsprobe, VerkaeufeNachProduktQualitaetUndAbnehmer) {
+TEST_F(Anweisungsprobe, VerkäufeNachProduktQualitätUndAbnehmer) {
   const QString zeit = " where Datum >= #01/01/2006# and Datum <= #12/31/2006#";
-  pruefe({
+  prüfe({
       {"Verkäufe einzeln",
        "select Datum, Produkt, Qualität, Charge, Abnehmer, Menge, Einheit, Einnahmen from "
        "Verkauf " +
@@ -130,9 +130,9 @@ TEST_F(Anweisungsprobe, VerkaeufeNachProduktQualitaetUndAbnehmer) {
   });
 }
 
-TEST_F(Anweisungsprobe, VerkaeufeNachMonatUndJahr) {
+TEST_F(Anweisungsprobe, VerkäufeNachMonatUndJahr) {
   const QString zeit = " where Datum >= #01/01/2006# and Datum <= #12/31/2006#";
-  pruefe({
+  prüfe({
       {"Ein Monat",
        "select count(*) as Anzahl, sum(Menge) as summe1, sum(Einnahmen) as summe2 from Verkauf" +
            zeit + " and month(Datum) = 8",
@@ -157,7 +157,7 @@ TEST_F(Anweisungsprobe, VerkaeufeNachMonatUndJahr) {
 
 TEST_F(Anweisungsprobe, HoniglagerNachProduktChargeUndMonat) {
   const QString zeit = " where Datum >= #01/01/2006# and Datum <= #12/31/2006#";
-  pruefe({
+  prüfe({
       {"Honiglager einzeln",
        "select Datum, Produkt, Zugang, Abgang, Charge, Abfülldatum, Bemerkung from Honiglager" +
            zeit + " order by Datum"},

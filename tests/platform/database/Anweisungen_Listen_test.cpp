@@ -4,7 +4,7 @@
 namespace {
 
 TEST_F(Anweisungsprobe, Stockkarten) {
-  pruefe({
+  prüfe({
       {"Völker der Stockkarten", "select Volknr, Volkname, ID from Bienenvolk order by Volknr"},
       {"Die erste Stockkarte trotz der Beschriftung",
        "select top 1 * from Stockkarte where Volk_ID = 1 order by Datum"},
@@ -18,8 +18,8 @@ TEST_F(Anweisungsprobe, Stockkarten) {
   });
 }
 
-TEST_F(Anweisungsprobe, Voelkerdaten) {
-  pruefe({
+TEST_F(Anweisungsprobe, Völkerdaten) {
+  prüfe({
       {"Völkerdaten",
        "select Volknr, Volkname, ID from Bienenvolk where Selektiert = 'X' order by Volknr",
        zeilen({"1|Anna|1"})},
@@ -29,7 +29,7 @@ TEST_F(Anweisungsprobe, Voelkerdaten) {
 }
 
 TEST_F(Anweisungsprobe, Buchungsliste) {
-  pruefe({
+  prüfe({
       {"Buchungsliste",
        "select Bienenvolk.Volknr as Volknr, Bienenvolk.Volkname as Volkname, Honigernte.Datum as "
        "Datum, "
@@ -65,7 +65,7 @@ TEST_F(Anweisungsprobe, Buchungsliste) {
 }
 
 TEST_F(Anweisungsprobe, Standortlisten) {
-  pruefe({
+  prüfe({
       {"Pflanzen je Standort",
        "select Standort, Zusatzortshinweis, Pflanze, Entfernung_m, Proz_Anteil from Standorte, "
        "Standorte_Pflanzen where Standort_Kennung = Standorte.ID order by Standort, Pflanze",
@@ -85,9 +85,9 @@ TEST_F(Anweisungsprobe, Standortlisten) {
   });
 }
 
-TEST_F(Anweisungsprobe, VoelkerJeMerkmal) {
+TEST_F(Anweisungsprobe, VölkerJeMerkmal) {
   const QString bestand = " from Bienenvolk where Akt_im_Bestand = 'X'";
-  pruefe({
+  prüfe({
       {"Völker je Standort", "select Standort, count(*) as Anzahl" + bestand + " group by Standort",
        zeilen({"Wald|2", "Wiese|1"})},
       {"Völker je Beuteart", "select Beuteart, count(*) as Anzahl" + bestand + " group by Beuteart",
@@ -100,9 +100,9 @@ TEST_F(Anweisungsprobe, VoelkerJeMerkmal) {
   });
 }
 
-TEST_F(Anweisungsprobe, KreuztabellenDerVoelker) {
+TEST_F(Anweisungsprobe, KreuztabellenDerVölker) {
   const QString bestand = " from Bienenvolk where Akt_im_Bestand = 'X'";
-  pruefe({
+  prüfe({
       {"Standort und Waben",
        "transform count(*) select Standort, count(*) as Völker" + bestand +
            " group by Standort pivot Wabenanzahl;",
@@ -128,7 +128,7 @@ TEST_F(Anweisungsprobe, KreuztabellenDerVoelker) {
 }
 
 TEST_F(Anweisungsprobe, KreuztabellenDerBuchungen) {
-  pruefe({
+  prüfe({
       {"Sorten je Volk",
        "transform count(*) select Volknr, count(*) as Anzahl from Bienenvolk, Honigernte where "
        "Akt_im_Bestand = 'X' and Volk_ID = Bienenvolk.ID group by Volknr pivot Honigsorte;",
@@ -146,7 +146,7 @@ TEST_F(Anweisungsprobe, KreuztabellenDerBuchungen) {
 }
 
 TEST_F(Anweisungsprobe, KostenDerHonigernteJeVolk) {
-  pruefe({
+  prüfe({
       {"Kosten der Honigernte je Volk",
        "select Volknr, count(*) as Buchungen, sum(Kosten) as S_Kosten, sum(Honig_Wert) as "
        "Honigwert, "
@@ -163,25 +163,24 @@ TEST_F(Anweisungsprobe, KostenDerAnderenErntenJeVolk) {
   const std::vector<std::pair<const char*, const char*>> ernten = {
       {"Wachsernte", "Wachs_Wert"}, {"Pollenernte", "Pollen_Wert"}, {"Sonstigeernte", "Wert"}};
   for (const auto& [tabelle, wert] : ernten) {
-    pruefe(
-        {{"Kosten der Ernte",
-          QString(
-              "select Volkname, count(*) as Buchungen, sum(Kosten) as S_Kosten, sum(%2) as "
-              "Wachswert, "
-              "sum(Zeit_h) as Zeit, avg(%2) as D_Wert from Bienenvolk, %1 where Akt_im_Bestand = "
-              "'X' and Volk_ID = Bienenvolk.ID group by Volkname")
-              .arg(QString(tabelle), QString(wert))}});
+    prüfe({{"Kosten der Ernte",
+            QString(
+                "select Volkname, count(*) as Buchungen, sum(Kosten) as S_Kosten, sum(%2) as "
+                "Wachswert, "
+                "sum(Zeit_h) as Zeit, avg(%2) as D_Wert from Bienenvolk, %1 where Akt_im_Bestand = "
+                "'X' and Volk_ID = Bienenvolk.ID group by Volkname")
+                .arg(QString(tabelle), QString(wert))}});
   }
 }
 
 TEST_F(Anweisungsprobe, KostenDerBuchungenJeVolk) {
   for (const char* tabelle :
        {"Arbeiten", "Wanderung", "Gewichtsmessung", "Behandlung", "Königinwechsel"}) {
-    pruefe({{"Kosten der Buchungen",
-             "select Volknr, count(*) as Buchungen, sum(Kosten) as S_Kosten, sum(Zeit_h) as Zeit, "
-             "avg(Kosten) as D_Kosten, avg(Zeit_h) as D_Zeit from Bienenvolk, " +
-                 QString(tabelle) +
-                 " where Akt_im_Bestand = 'X' and Volk_ID = Bienenvolk.ID group by Volknr"}});
+    prüfe({{"Kosten der Buchungen",
+            "select Volknr, count(*) as Buchungen, sum(Kosten) as S_Kosten, sum(Zeit_h) as Zeit, "
+            "avg(Kosten) as D_Kosten, avg(Zeit_h) as D_Zeit from Bienenvolk, " +
+                QString(tabelle) +
+                " where Akt_im_Bestand = 'X' and Volk_ID = Bienenvolk.ID group by Volknr"}});
   }
 }
 

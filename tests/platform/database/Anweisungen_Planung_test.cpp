@@ -4,7 +4,7 @@
 namespace {
 
 TEST_F(Anweisungsprobe, Arbeitsplanoptionen) {
-  pruefe({
+  prüfe({
       {"Optionen", "select * from Arbeitsplanoptionen order by Arbeitsart"},
       {"Name der Option schon da",
        "select Arbeitsart from Arbeitsplanoptionen where Arbeitsart = 'honigernte' and ID <> 1",
@@ -15,7 +15,7 @@ TEST_F(Anweisungsprobe, Arbeitsplanoptionen) {
 }
 
 TEST_F(Anweisungsprobe, BuchungenSeitDerSchwelle) {
-  pruefe({
+  prüfe({
       {"Letzte Buchung seit der Schwelle",
        "select top 1 Datum from Honigernte where Volk_ID = 1 and Datum >= #07/01/2006# order by "
        "Datum DESC",
@@ -29,7 +29,7 @@ TEST_F(Anweisungsprobe, BuchungenSeitDerSchwelle) {
 }
 
 TEST_F(Anweisungsprobe, TermineDesJahres) {
-  pruefe({
+  prüfe({
       {"Optionen je Volk", "select ID from Arbeitsplanoptionen where Volkabhängig = 'J'",
        zeilen({"1", "2"})},
       {"Termine des Jahres",
@@ -41,16 +41,16 @@ TEST_F(Anweisungsprobe, TermineDesJahres) {
 }
 
 TEST_F(Anweisungsprobe, Terminverwaltung) {
-  const QString voelkertermine =
+  const QString völkertermine =
       "select Datum, Termin, Erledigt, Volknr, Volkname, Standort, Volk_ID, Termine.ID from "
       "Bienenvolk, Termine where Volk_ID = Bienenvolk.ID";
-  pruefe({
+  prüfe({
       {"Termine der Völker",
-       voelkertermine + " and Datum >= #05/01/2006# and Datum <= #12/31/2006# and Termin = "
-                        "'Schwarmkontrolle' and Erledigt = 'N' order by Datum",
+       völkertermine + " and Datum >= #05/01/2006# and Datum <= #12/31/2006# and Termin = "
+                       "'Schwarmkontrolle' and Erledigt = 'N' order by Datum",
        zeilen({"2006-05-01|Schwarmkontrolle|N|1|Anna|Wald|1|1",
                "2006-05-10|Schwarmkontrolle|N|2|Berta|Wald|2|3"})},
-      {"Termine eines Volkes", voelkertermine + " and Volk_ID = 2 order by Datum",
+      {"Termine eines Volkes", völkertermine + " and Volk_ID = 2 order by Datum",
        zeilen({"2006-05-01|Schwarmkontrolle|J|2|Berta|Wald|2|2",
                "2006-05-10|Schwarmkontrolle|N|2|Berta|Wald|2|3"})},
       {"Allgemeine Termine",
@@ -73,7 +73,7 @@ TEST_F(Anweisungsprobe, Terminverwaltung) {
 }
 
 TEST_F(Anweisungsprobe, Starttermine) {
-  pruefe({
+  prüfe({
       {"Starttermine der Völker",
        "select Datum, Termin, Volknr, Volkname, Standort, Termine.ID from Termine, Bienenvolk "
        "where Datum "
@@ -87,7 +87,7 @@ TEST_F(Anweisungsprobe, Starttermine) {
 }
 
 TEST_F(Anweisungsprobe, TermineNachStandort) {
-  pruefe({
+  prüfe({
       {"Termine am Standort",
        "select Datum, Termin, Standort, Volk_ID, Termine.ID from Termine, Bienenvolk where Datum "
        "<= "
@@ -112,8 +112,8 @@ TEST_F(Anweisungsprobe, TermineNachStandort) {
   });
 }
 
-TEST_F(Anweisungsprobe, TermineErledigenUmbenennenUndLoeschen) {
-  pruefe({
+TEST_F(Anweisungsprobe, TermineErledigenUmbenennenUndLöschen) {
+  prüfe({
       {"Einen Termin erledigen", "UPDATE Termine SET Erledigt = 'J' where ID = 3"},
       {"Offene Termine der Reihe löschen",
        "delete from Termine where Erledigt = 'N' and Volk_ID = 1 and Termin = 'Schwarmkontrolle'"},
@@ -132,11 +132,11 @@ TEST_F(Anweisungsprobe, TermineErledigenUmbenennenUndLoeschen) {
 }
 
 TEST_F(Anweisungsprobe, Arbeitszeiten) {
-  const auto jahressumme = [](const QString& einschraenkung) {
-    return "select sum(Zeit_h) as summe from Arbeiten, Bienenvolk" + einschraenkung +
+  const auto jahressumme = [](const QString& einschränkung) {
+    return "select sum(Zeit_h) as summe from Arbeiten, Bienenvolk" + einschränkung +
            " and Datum >= #01/01/2006# and Datum <= #12/31/2006# and Volk_ID = Bienenvolk.ID";
   };
-  pruefe({
+  prüfe({
       {"Im Bestand", jahressumme(" where Bienenvolk.Akt_im_Bestand = 'X'"), zeilen({"2.0"})},
       {"Alle Völker", jahressumme(" where Bienenvolk.Volknr IS NOT NULL"), zeilen({"2.0"})},
       {"Selektierte", jahressumme(" where Bienenvolk.Selektiert = 'X'"), zeilen({"1.5"})},

@@ -4,7 +4,7 @@
 namespace {
 
 TEST_F(Anweisungsprobe, DatenhaltungUndSchema) {
-  pruefe({
+  prüfe({
       {"Felder einer Tabelle", "select top 1 * from Bienenvolk"},
       {"Volknummer schon da", "select Volknr from Bienenvolk where Volknr = '10'", zeilen({"10"})},
       {"Volknummer bei anderen", "select Volknr from Bienenvolk where Volknr = '10' and ID <>  3",
@@ -83,8 +83,8 @@ TEST_F(Anweisungsprobe, SchemaErweitern) {
   EXPECT_THROW(alt.lies("ALTER TABLE Honigernte ADD COLUMN Charge TEXT (15)"), Datenbankfehler);
 }
 
-TEST_F(Anweisungsprobe, UebernahmeDerBewegungen) {
-  pruefe({
+TEST_F(Anweisungsprobe, ÜbernahmeDerBewegungen) {
+  prüfe({
       {"Bewegungen zum Verkauf", "select * from Honiglager where Abgang > 0 and EVK_ID = 1"},
       {"Bewegungen zum Einkauf", "select * from Honiglager where Zugang > 0 and EVK_ID = 1",
        QStringList()},
@@ -96,9 +96,8 @@ TEST_F(Anweisungsprobe, UebernahmeDerBewegungen) {
 
 TEST_F(Anweisungsprobe, JedeTabelleLeeren) {
   for (const Tabellenangabe& tabelle : tabellen) {
-    pruefe(
-        {{"Leeren", QString("delete from ") + QString(tabelle.name)},
-         {"Leer", QString("select count(*) as n from ") + QString(tabelle.name), zeilen({"0"})}});
+    prüfe({{"Leeren", QString("delete from ") + QString(tabelle.name)},
+           {"Leer", QString("select count(*) as n from ") + QString(tabelle.name), zeilen({"0"})}});
   }
 }
 
@@ -110,10 +109,10 @@ TEST(AnweisungenDerDatenbank, TabellennamenAuswahllistenUndKreuztabellen) {
   db.Execute(
       "create table Königinwechsel(Farbe TEXT (10), Standort TEXT (20), Waben INTEGER, ID "
       "COUNTER)");
-  EXPECT_FALSE(db.Uebersetzung("select distinct Farbe from Königinwechsel order by Farbe")
+  EXPECT_FALSE(db.Übersetzung("select distinct Farbe from Königinwechsel order by Farbe")
                    .contains("RECURSIVE"));
   db.Execute("create index Königinwechsel1 on KÖNIGINWECHSEL(Farbe)");
-  EXPECT_TRUE(db.Uebersetzung("select distinct Farbe from Königinwechsel order by Farbe")
+  EXPECT_TRUE(db.Übersetzung("select distinct Farbe from Königinwechsel order by Farbe")
                   .contains("RECURSIVE"));
   for (const char* farbe : {"rot", "Weiß", "ROT", "weiss "}) {
     db.Execute("insert into KÖNIGINWECHSEL(farbe, Standort, Waben) values (?, 'Wald', 10)",

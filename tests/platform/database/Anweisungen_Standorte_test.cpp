@@ -4,7 +4,7 @@
 namespace {
 
 TEST_F(Anweisungsprobe, StandorteUndIhrePflanzen) {
-  pruefe({
+  prüfe({
       {"Standorte", "select * from Standorte order by Standort"},
       {"Pflanzen am Standort",
        "select * from Standorte_Pflanzen where Standort_Kennung = 2 order by Pflanze",
@@ -21,7 +21,7 @@ TEST_F(Anweisungsprobe, StandorteUndIhrePflanzen) {
 }
 
 TEST_F(Anweisungsprobe, Trachtzeiten) {
-  pruefe({
+  prüfe({
       {"Trachtzeit eines Standorts",
        "select Trachtzeit_von, Trachtzeit_bis, ID from Standorte where Standort = 'Wald'",
        zeilen({"<>|<>|2"})},
@@ -39,7 +39,7 @@ TEST_F(Anweisungsprobe, Trachtzeiten) {
 }
 
 TEST_F(Anweisungsprobe, Standortkarte) {
-  pruefe({
+  prüfe({
       {"Standorte der Karte", "select Standort, PTop, PLeft from Standorte order by Standort",
        zeilen({"Wald|10|20", "Wiese|250|0"})},
       {"Völker der Karte",
@@ -51,7 +51,7 @@ TEST_F(Anweisungsprobe, Standortkarte) {
 }
 
 TEST_F(Anweisungsprobe, Wetterdaten) {
-  pruefe({
+  prüfe({
       {"Wetter", "select * from Wetterdaten order by Datum DESC"},
       {"Tag schon da", "select Datum from Wetterdaten where Datum = #05/01/2006# and ID <> 2",
        zeilen({"2006-05-01"})},
@@ -68,7 +68,7 @@ TEST_F(Anweisungsprobe, WetterGruppiert) {
       "count(*) as Anzahl, avg(Temperatur) as D_Temperatur, avg(Niederschlag_mm) as "
       "D_Niederschlag, "
       "avg(Windstärke) as D_Windstärke from Wetterdaten";
-  pruefe({
+  prüfe({
       {"Nach Wetter", "select Wetter, " + mittel + " group by Wetter",
        zeilen({"Regen|1|11.0|12.0|5.0", "sonnig|2|21.5|0.0|1.5"})},
       {"Nach Temperatur",
@@ -93,7 +93,7 @@ TEST_F(Anweisungsprobe, WetterGruppiert) {
 }
 
 TEST_F(Anweisungsprobe, Zuchtbuch) {
-  pruefe({
+  prüfe({
       {"Zuchtbuch", "select * from Zuchtbuch order by Jahr, Zuchtbuchnr"},
       {"Zuchtbuch eines Jahres",
        "select Zuchtbuchnr from Zuchtbuch where Jahr = '2006' order by Jahr, Zuchtbuchnr",
@@ -106,7 +106,7 @@ TEST_F(Anweisungsprobe, Zuchtbuch) {
 }
 
 TEST_F(Anweisungsprobe, ZuchtbuchNachRasse) {
-  pruefe({
+  prüfe({
       {"Zuchtbuch nach Rasse",
        "select Rasse, count(*) as Buchungen, avg(Sanftmut) as Sanftm, avg(Wabensitz) as Wabens, "
        "avg(Schwarmtrieb) as Schwarmtr, avg(Winterfestigkeit) as Winterf, avg(Frühjahrsentw) as "

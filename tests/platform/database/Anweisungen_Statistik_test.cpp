@@ -35,10 +35,10 @@ TEST_F(Anweisungsprobe, MittelUndSummeJederAngabe) {
         "Eigener_Futtervorrat"}}};
   for (const auto& [tabelle, felder] : masse) {
     const QString von = " from " + QString(tabelle) + zeit;
-    pruefe({{"Anzahl", "select count(*) as summe" + von + " and Volk_ID = 1"}});
+    prüfe({{"Anzahl", "select count(*) as summe" + von + " and Volk_ID = 1"}});
     for (const QString& feld : felder) {
-      pruefe({{"Durchschnitt", "select avg(" + feld + ") as summe" + von + " and Volk_ID = 1"},
-              {"Summe", "select sum(" + feld + ") as summe" + von}});
+      prüfe({{"Durchschnitt", "select avg(" + feld + ") as summe" + von + " and Volk_ID = 1"},
+             {"Summe", "select sum(" + feld + ") as summe" + von}});
     }
   }
 }
@@ -46,18 +46,18 @@ TEST_F(Anweisungsprobe, MittelUndSummeJederAngabe) {
 TEST_F(Anweisungsprobe, KostenJederBuchungsart) {
   for (const QString& tabelle : buchungstabellen) {
     if (tabelle == "Stockkarte" || tabelle == "Notizen") continue;
-    pruefe({{"Kosten", "select sum(Kosten) as summe from " + tabelle +
-                           ", Bienenvolk where Bienenvolk.Akt_im_Bestand = 'X' and Datum >= "
-                           "#01/01/2006# and Datum <= #12/31/2006# and Volk_ID = Bienenvolk.ID"},
-            {"Kosten eines Volkes", "select sum(Kosten) as summe from " + tabelle +
-                                        " where Volk_ID = 1 and Datum >= #01/01/2006# and Datum <= "
-                                        "#12/31/2006#"}});
+    prüfe({{"Kosten", "select sum(Kosten) as summe from " + tabelle +
+                          ", Bienenvolk where Bienenvolk.Akt_im_Bestand = 'X' and Datum >= "
+                          "#01/01/2006# and Datum <= #12/31/2006# and Volk_ID = Bienenvolk.ID"},
+           {"Kosten eines Volkes", "select sum(Kosten) as summe from " + tabelle +
+                                       " where Volk_ID = 1 and Datum >= #01/01/2006# and Datum <= "
+                                       "#12/31/2006#"}});
   }
 }
 
-TEST_F(Anweisungsprobe, HonigwertVolkstaerkeUndPraemien) {
+TEST_F(Anweisungsprobe, HonigwertVolkstärkeUndPrämien) {
   const QString zeit = " where Datum >= #01/01/2006# and Datum <= #12/31/2006#";
-  pruefe({
+  prüfe({
       {"Honigwert je kg",
        "select sum(Menge_kg) as summe, sum(Honig_Wert) as summe1 from Honigernte" + zeit +
            " and Volk_ID = 1",
@@ -79,7 +79,7 @@ TEST_F(Anweisungsprobe, Deckungsbeitrag) {
   const QString imBestand =
       ", Bienenvolk where Bienenvolk.Akt_im_Bestand = 'X' and Datum >= #01/01/2006# and Datum <= "
       "#12/31/2006# and Volk_ID = Bienenvolk.ID";
-  pruefe({
+  prüfe({
       {"Verkaufserlös",
        "select sum(Einnahmen) as summe from Verkauf where Datum >= #01/01/2006# and Datum <= "
        "#12/31/2006#",
@@ -109,7 +109,7 @@ TEST_F(Anweisungsprobe, Deckungsbeitrag) {
 }
 
 TEST_F(Anweisungsprobe, Diagramme) {
-  pruefe({
+  prüfe({
       {"Völker je Standort",
        "select Standort as Inhalt1, count(*) as Wert1 from Bienenvolk group by Standort",
        zeilen({"<>|1", "Wald|2", "Wiese|2"})},

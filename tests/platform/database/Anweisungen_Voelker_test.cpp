@@ -4,8 +4,8 @@
 // from.
 namespace {
 
-TEST_F(Anweisungsprobe, FaelligeTermine) {
-  pruefe({
+TEST_F(Anweisungsprobe, FälligeTermine) {
+  prüfe({
       {"Fällige Termine",
        "select top 1 * from Termine where Datum <= #05/02/2006# and Erledigt = 'N'",
        zeilen({"2006-05-01|Schwarmkontrolle|N|1|1"})},
@@ -16,7 +16,7 @@ TEST_F(Anweisungsprobe, FaelligeTermine) {
 
 TEST_F(Anweisungsprobe, BestandsUndAbgangsliste) {
   const QString liste = listenfelder;
-  pruefe({
+  prüfe({
       {"Bestandsliste", liste + " where Akt_im_Bestand = 'X'"},
       {"Abgangsliste", liste + " where Akt_im_Bestand <> 'X'"},
       {"Gesamtliste", liste},
@@ -35,7 +35,7 @@ TEST_F(Anweisungsprobe, BestandsUndAbgangsliste) {
 }
 
 TEST_F(Anweisungsprobe, LetzteErnteUndHonigmengen) {
-  pruefe({
+  prüfe({
       {"Letzte Honigernte", "select top 1 * from Honigernte where Volk_ID = 1 order by Datum DESC",
        zeilen({"2006-07-15|20.0|Linde|gut|2.0|7.0|120.0|L1|nass|1|2"})},
       {"Honig des Jahres",
@@ -49,8 +49,8 @@ TEST_F(Anweisungsprobe, LetzteErnteUndHonigmengen) {
   });
 }
 
-TEST_F(Anweisungsprobe, VoelkerImBestandUndIhreStockkarten) {
-  pruefe({
+TEST_F(Anweisungsprobe, VölkerImBestandUndIhreStockkarten) {
+  prüfe({
       {"Völker im Bestand", "select ID from Bienenvolk where Akt_im_Bestand = 'X'",
        zeilen({"1", "2", "3"})},
       {"Nummer mit Leerzeichen davor", "select * from Stockkarte where Volk_ID = 7", QStringList()},
@@ -60,7 +60,7 @@ TEST_F(Anweisungsprobe, VoelkerImBestandUndIhreStockkarten) {
 
 TEST_F(Anweisungsprobe, BuchungenEinesVolkes) {
   for (const QString& tabelle : buchungstabellen) {
-    pruefe({
+    prüfe({
         {"Buchungen eines Volkes",
          "select * from " + tabelle + " where Volk_ID = 1 order by Datum DESC"},
         {"Buchungen seit Jahresbeginn", "select * from " + tabelle +
@@ -72,16 +72,16 @@ TEST_F(Anweisungsprobe, BuchungenEinesVolkes) {
   }
 }
 
-TEST_F(Anweisungsprobe, AlleVoelkerUndDieLetzteWanderung) {
-  pruefe({
+TEST_F(Anweisungsprobe, AlleVölkerUndDieLetzteWanderung) {
+  prüfe({
       {"Alle Völker", "select * from Bienenvolk"},
       {"Letzte Wanderung", "select top 1 * from Wanderung where Volk_ID = 1 order by Datum DESC",
        zeilen({"2006-07-01|Wald|<>|6.0|30.0|N|<>|1|2"})},
   });
 }
 
-TEST_F(Anweisungsprobe, SelektionAufhebenLaesstNiemandenUnentschieden) {
-  pruefe({
+TEST_F(Anweisungsprobe, SelektionAufhebenLässtNiemandenUnentschieden) {
+  prüfe({
       {"Selektion aufheben", "update Bienenvolk set Selektiert = ''"},
       {"Niemand ist selektiert", "select count(*) as n from Bienenvolk where Selektiert = 'X'",
        zeilen({"0"})},
@@ -92,18 +92,18 @@ TEST_F(Anweisungsprobe, SelektionAufhebenLaesstNiemandenUnentschieden) {
   });
 }
 
-TEST_F(Anweisungsprobe, TermineEinesVolkesLoeschen) {
-  pruefe({
+TEST_F(Anweisungsprobe, TermineEinesVolkesLöschen) {
+  prüfe({
       {"Termine eines Volkes löschen", "delete from termine where Volk_ID = 4"},
       {"Seine Termine sind weg", "select count(*) as n from Termine", zeilen({"4"})},
   });
 }
 
-TEST_F(Anweisungsprobe, BuchungenEinesVolkesLoeschen) {
+TEST_F(Anweisungsprobe, BuchungenEinesVolkesLöschen) {
   for (const QString& tabelle : buchungstabellen + QStringList{"Termine"}) {
-    pruefe({{"Buchungen löschen", "delete from " + tabelle + " where Volk_ID = 1"},
-            {"Keine mehr da", "select count(*) as n from " + tabelle + " where Volk_ID = 1",
-             zeilen({"0"})}});
+    prüfe({{"Buchungen löschen", "delete from " + tabelle + " where Volk_ID = 1"},
+           {"Keine mehr da", "select count(*) as n from " + tabelle + " where Volk_ID = 1",
+            zeilen({"0"})}});
   }
 }
 

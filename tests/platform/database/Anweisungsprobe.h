@@ -129,8 +129,8 @@ class Anweisungsprobe : public testing::Test {
   }
   ~Anweisungsprobe() override { Funktionen::setzeUhr({}); }
 
-  void pruefe(const std::vector<Fall>& faelle) {
-    for (const Fall& fall : faelle) {
+  void prüfe(const std::vector<Fall>& fälle) {
+    for (const Fall& fall : fälle) {
       try {
         const QStringList ergebnis = bank.lies(fall.anweisung);
         if (fall.zeilen) {

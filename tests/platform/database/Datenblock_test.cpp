@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "platform/database/Datenbankfehler.h"
-#include "platform/database/Datenblock.h"
-#include "platform/database/Kreuztabelle.h"
+#include "platform/database/werte/Datenbankfehler.h"
+#include "platform/database/werte/Datenblock.h"
+#include "platform/database/werte/Kreuztabelle.h"
 
 namespace {
 
@@ -12,7 +12,7 @@ Daten beispiel() {
   Datenblock::Bauer bauer({{s("Volkname"), Feldtyp::Text, 20},
                            {s("Anzahl"), Feldtyp::Lang, 0},
                            {s("Menge_kg"), Feldtyp::Einfach, 0},
-                           {s("Preis"), Feldtyp::Waehrung, 0},
+                           {s("Preis"), Feldtyp::Währung, 0},
                            {s("Datum"), Feldtyp::Datum, 0},
                            {s("letztes"), Feldtyp::Ausdruck, 0}});
   bauer.text(u"Müller 1");
@@ -32,7 +32,7 @@ Daten beispiel() {
 
 }  // namespace
 
-TEST(Datenblock, WerteKommenMitIhrerArtZurueck) {
+TEST(Datenblock, WerteKommenMitIhrerArtZurück) {
   const Daten d = beispiel();
   ASSERT_EQ(d->zeilen(), 2);
   ASSERT_EQ(d->spalten(), 6);
@@ -69,12 +69,12 @@ TEST(Datenblock, AnzeigeIstDeutsch) {
   EXPECT_EQ(d->anzeige(1, 3), s("1,2345"));
 }
 
-TEST(Datenblock, RauschenHinterDerFuenfzehntenStelleZeigtSichNicht) {
+TEST(Datenblock, RauschenHinterDerFünfzehntenStelleZeigtSichNicht) {
   EXPECT_EQ(beispiel()->anzeige(1, 2), s("0,3"));
 }
 
 TEST(Datenblock, AuchEinGeldbetragZeigtKeinRauschen) {
-  Datenblock::Bauer bauer({{s("Erlös"), Feldtyp::Waehrung, 0}});
+  Datenblock::Bauer bauer({{s("Erlös"), Feldtyp::Währung, 0}});
   double summe = 0;
   for (int i = 0; i < 7; ++i) summe += 11.1;
   ASSERT_NE(summe, 77.7);
@@ -88,7 +88,7 @@ TEST(Datenblock, AuchEinGeldbetragZeigtKeinRauschen) {
 }
 
 // 223.7 - 223 is 0.69999999999998863: the noise stands where the larger numbers end.
-TEST(Datenblock, WasVonEinerSummeUebrigBleibtZeigtKeinRauschen) {
+TEST(Datenblock, WasVonEinerSummeÜbrigBleibtZeigtKeinRauschen) {
   Datenblock::Bauer bauer({{s("Summe"), Feldtyp::Ausdruck, 0}});
   for (const double wert : {223.7 - 223, 223 - 223.7, 1234567.25, 3.33}) bauer.gleitkomma(wert);
   const Daten d = bauer.fertig();
@@ -98,13 +98,13 @@ TEST(Datenblock, WasVonEinerSummeUebrigBleibtZeigtKeinRauschen) {
   EXPECT_EQ(d->anzeige(3, 0), s("3,33"));
 }
 
-TEST(Datenblock, SpaltenFindetManOhneRuecksichtAufGrossschreibung) {
+TEST(Datenblock, SpaltenFindetManOhneRücksichtAufGroßschreibung) {
   const Daten d = beispiel();
   EXPECT_EQ(d->spaltenNummer(u"menge_KG"), 2);
   EXPECT_EQ(d->spaltenNummer(u"Menge"), -1);
 }
 
-TEST(Datenblock, ZahlVonTextNimmtDieFuehrendeZahlUndVonNullNull) {
+TEST(Datenblock, ZahlVonTextNimmtDieFührendeZahlUndVonNullNull) {
   Datenblock::Bauer bauer({{s("a"), Feldtyp::Text, 20}, {s("b"), Feldtyp::Einfach, 0}});
   bauer.text(u"12.5 kg");
   bauer.null();
@@ -124,7 +124,7 @@ TEST(Datenblock, RohtextIstUtf8) {
   EXPECT_TRUE(d->rohtext(0, 1).isEmpty());
 }
 
-TEST(Datenblock, EineUnvollstaendigeZeileIstEinFehler) {
+TEST(Datenblock, EineUnvollständigeZeileIstEinFehler) {
   Datenblock::Bauer bauer({{s("a"), Feldtyp::Lang, 0}, {s("b"), Feldtyp::Lang, 0}});
   bauer.ganz(1);
   EXPECT_THROW(bauer.fertig(), Datenbankfehler);
@@ -176,7 +176,7 @@ TEST(Kreuztabelle, ZahlenSpaltenAufsteigendNullZuerstLeereZellenBleibenNull) {
   EXPECT_TRUE(t->istNull(1, 4));
 }
 
-TEST(Kreuztabelle, TexteNachDerKollationUndGrossschreibungIstEineSpalte) {
+TEST(Kreuztabelle, TexteNachDerKollationUndGroßschreibungIstEineSpalte) {
   const Daten roh = gruppiert({{s("Garten"), 2, s("Zarge"), 1},
                                {s("Garten"), 2, s("Ähre"), 1},
                                {s("Wald"), 2, s("ZARGE"), 1},
@@ -198,7 +198,7 @@ TEST(Kreuztabelle, DieGruppenBehaltenIhreFolge) {
   EXPECT_EQ(t->wert(1, 0).toString(), s("Garten"));
 }
 
-TEST(Kreuztabelle, UeberschriftenSindDeutsch) {
+TEST(Kreuztabelle, ÜberschriftenSindDeutsch) {
   const Daten roh = gruppiert({{s("Wald"), 1, 2.5, 1}, {s("Wald"), 1, QDate(2006, 2, 5), 1}});
   const Daten t = Kreuztabelle::baue(*roh, 2);
   EXPECT_EQ(t->spalte(2).name, s("2,5"));

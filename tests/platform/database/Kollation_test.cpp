@@ -1,4 +1,4 @@
-#include "platform/database/Kollation.h"
+#include "platform/database/werte/Kollation.h"
 
 #include <gtest/gtest.h>
 
@@ -16,11 +16,11 @@ int vorzeichen(int zahl) { return zahl < 0 ? -1 : zahl > 0 ? 1 : 0; }
 int vergleiche(const QString& links, const QString& rechts) {
   const int texte = vorzeichen(Kollation::vergleiche(links, rechts));
   const int utf8 = vorzeichen(Kollation::vergleicheUtf8(links.toUtf8(), rechts.toUtf8()));
-  const QByteArray l = Kollation::schluessel(links);
-  const QByteArray r = Kollation::schluessel(rechts);
-  const int schluessel = l < r ? -1 : r < l ? 1 : 0;
+  const QByteArray l = Kollation::schlüssel(links);
+  const QByteArray r = Kollation::schlüssel(rechts);
+  const int schlüssel = l < r ? -1 : r < l ? 1 : 0;
   EXPECT_EQ(texte, utf8) << links.toStdString() << " | " << rechts.toStdString();
-  EXPECT_EQ(texte, schluessel) << links.toStdString() << " | " << rechts.toStdString();
+  EXPECT_EQ(texte, schlüssel) << links.toStdString() << " | " << rechts.toStdString();
   return texte;
 }
 
@@ -71,7 +71,7 @@ TEST(Kollation, HandsortierteListeSteigtAn) {
   }
 }
 
-TEST(Kollation, GemischteListeKommtSortiertZurueck) {
+TEST(Kollation, GemischteListeKommtSortiertZurück) {
   QStringList liste = sortiert();
   std::mt19937 zufall(7);
   std::shuffle(liste.begin(), liste.end(), zufall);
@@ -81,7 +81,7 @@ TEST(Kollation, GemischteListeKommtSortiertZurueck) {
   EXPECT_EQ(liste, sortiert());
 }
 
-TEST(Kollation, GrossUndKleinZaehltNie) {
+TEST(Kollation, GroßUndKleinZähltNie) {
   EXPECT_TRUE(gleich("Königin", "KÖNIGIN"));
   EXPECT_TRUE(gleich("x", "X"));
   EXPECT_TRUE(gleich("жук", "ЖУК"));
@@ -99,7 +99,7 @@ TEST(Kollation, ScharfesSIstSsUndLigaturenSindIhreBuchstaben) {
   EXPECT_TRUE(kleiner("Masr", "Maß"));
 }
 
-TEST(Kollation, AkzenteZaehlenNurZwischenSonstGleichenWoertern) {
+TEST(Kollation, AkzenteZählenNurZwischenSonstGleichenWörtern) {
   EXPECT_TRUE(kleiner("Ahre", "Ähre"));
   EXPECT_TRUE(kleiner("Ähre", "Ahrens"));
   EXPECT_TRUE(kleiner("Muller", "Müller"));
@@ -116,7 +116,7 @@ TEST(Kollation, ZerlegterUmlautIstDerUmlaut) {
   EXPECT_TRUE(gleich("e\u0323\u0302", "ệ"));
 }
 
-TEST(Kollation, LeerzeichenAmEndeZaehlenNicht) {
+TEST(Kollation, LeerzeichenAmEndeZählenNicht) {
   EXPECT_TRUE(gleich("Wald", "Wald   "));
   EXPECT_TRUE(gleich("", "   "));
   EXPECT_TRUE(gleich("Ä", "Ä "));
@@ -125,7 +125,7 @@ TEST(Kollation, LeerzeichenAmEndeZaehlenNicht) {
   EXPECT_FALSE(gleich("Wald Wiese", "WaldWiese"));
 }
 
-TEST(Kollation, FestesLeerzeichenIstEinLeerzeichenUndUnsichtbaresZaehltNicht) {
+TEST(Kollation, FestesLeerzeichenIstEinLeerzeichenUndUnsichtbaresZähltNicht) {
   EXPECT_TRUE(
       gleich("Volk\u00A0"
              "1",
@@ -173,9 +173,9 @@ QString zufallstext(std::mt19937& zufall) {
   static const QString vorrat =
       QString("aAbBzZäÄöéèßsSæeEøo019  -!~§€\t\u00A0\u00AD\u0308\u0301αΑж😀ﬁ") + QChar(0);
   QString text;
-  const int laenge = std::uniform_int_distribution<int>(0, 5)(zufall);
+  const int länge = std::uniform_int_distribution<int>(0, 5)(zufall);
   std::uniform_int_distribution<qsizetype> ort(0, vorrat.size() - 1);
-  for (int i = 0; i < laenge; ++i) {
+  for (int i = 0; i < länge; ++i) {
     const qsizetype stelle = ort(zufall);
     if (vorrat[stelle].isHighSurrogate()) {
       text += vorrat.mid(stelle, 2);
@@ -188,7 +188,7 @@ QString zufallstext(std::mt19937& zufall) {
 
 }  // namespace
 
-TEST(Kollation, ZufaelligeTexteBildenEineOrdnung) {
+TEST(Kollation, ZufälligeTexteBildenEineOrdnung) {
   std::mt19937 zufall(20061);
   for (int lauf = 0; lauf < 40000; ++lauf) {
     const QString a = zufallstext(zufall);
@@ -210,11 +210,11 @@ TEST(Kollation, ZufaelligeTexteBildenEineOrdnung) {
   }
 }
 
-TEST(Kollation, AlleEinzelnenZeichenStimmenMitIhremSchluesselUeberein) {
+TEST(Kollation, AlleEinzelnenZeichenStimmenMitIhremSchlüsselÜberein) {
   for (char32_t z = 1; z < 0x3000; ++z) {
     const QString links = QString::fromUcs4(&z, 1);
-    const char32_t naechstes = z + 1;
-    vergleiche(links, QString::fromUcs4(&naechstes, 1));
+    const char32_t nächstes = z + 1;
+    vergleiche(links, QString::fromUcs4(&nächstes, 1));
     vergleiche(links, QStringLiteral("m"));
     vergleiche(QStringLiteral("a") + links, QStringLiteral("a"));
   }
@@ -248,7 +248,7 @@ TEST(Kollation, KaputtesUtf8BringtNichtsDurcheinander) {
   EXPECT_NE(vgl("Wald\xFF", "Wald"), 0);
 }
 
-TEST(Kollation, EinzelneErsatzzeichenStoerenNicht) {
+TEST(Kollation, EinzelneErsatzzeichenStörenNicht) {
   const QString halb = QStringLiteral("a") + QChar(0xD83D);
   EXPECT_EQ(Kollation::vergleiche(halb, halb), 0);
   EXPECT_GT(Kollation::vergleiche(halb, u"a"), 0);

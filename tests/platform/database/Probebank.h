@@ -7,10 +7,10 @@
 #include <QVariant>
 #include <map>
 
-#include "platform/database/Datenbankfehler.h"
-#include "platform/database/Dialekt.h"
-#include "platform/database/Funktionen.h"
 #include "platform/database/Tabellen.h"
+#include "platform/database/dialekt/Dialekt.h"
+#include "platform/database/verbindung/Funktionen.h"
+#include "platform/database/werte/Datenbankfehler.h"
 
 // A database in memory that sees nothing but the translator: statements go in as the program gives
 // them, rows come out as the engine gives them.
@@ -35,15 +35,14 @@ class Probebank {
     }
   }
 
-  Dialekt::Uebersetzt uebersetze(const QString& anweisung) {
-    return Dialekt::uebersetze(anweisung,
-                               [this](const QString& tabelle) { return felder(tabelle); },
-                               {[this](const QString& tabelle) { return tabellenname(tabelle); },
-                                [this](const QString& tabelle, const QString& feld) {
-                                  return beginntIndex(tabelle, feld);
-                                }});
+  Dialekt::Übersetzt übersetze(const QString& anweisung) {
+    return Dialekt::übersetze(anweisung, [this](const QString& tabelle) { return felder(tabelle); },
+                              {[this](const QString& tabelle) { return tabellenname(tabelle); },
+                               [this](const QString& tabelle, const QString& feld) {
+                                 return beginntIndex(tabelle, feld);
+                               }});
   }
-  QString sql(const QString& anweisung) { return uebersetze(anweisung).sql; }
+  QString sql(const QString& anweisung) { return übersetze(anweisung).sql; }
 
   // The rows, each as its values joined by "|", null as "<>".
   QStringList lies(const QString& anweisung, const QVariantList& werte = {}) {
@@ -129,16 +128,16 @@ class Probebank {
     return ergebnis;
   }
 
-  static Spalte spalte(const QString& name, const QString& typ, bool schluessel) {
+  static Spalte spalte(const QString& name, const QString& typ, bool schlüssel) {
     static const std::map<QString, Feldtyp> feldtypen = {
-        {"TEXT", Feldtyp::Text},         {"MEMO", Feldtyp::Memo},     {"SHORT", Feldtyp::Kurz},
-        {"INTEGER", Feldtyp::Lang},      {"LONG", Feldtyp::Lang},     {"SINGLE", Feldtyp::Einfach},
-        {"CURRENCY", Feldtyp::Waehrung}, {"DATETIME", Feldtyp::Datum}};
+        {"TEXT", Feldtyp::Text},        {"MEMO", Feldtyp::Memo},     {"SHORT", Feldtyp::Kurz},
+        {"INTEGER", Feldtyp::Lang},     {"LONG", Feldtyp::Lang},     {"SINGLE", Feldtyp::Einfach},
+        {"CURRENCY", Feldtyp::Währung}, {"DATETIME", Feldtyp::Datum}};
     const QStringList worte = typ.split(' ');
-    if (schluessel) return {name, Feldtyp::Zaehler, 0};
+    if (schlüssel) return {name, Feldtyp::Zähler, 0};
     const Feldtyp feldtyp = feldtypen.at(worte[0]);
-    const int laenge = feldtyp == Feldtyp::Text ? worte[1].mid(1).chopped(1).toInt() : 0;
-    return {name, feldtyp, laenge};
+    const int länge = feldtyp == Feldtyp::Text ? worte[1].mid(1).chopped(1).toInt() : 0;
+    return {name, feldtyp, länge};
   }
 
   bool beginntIndex(const QString& tabelle, const QString& feld) {

@@ -6,7 +6,7 @@ QString s(const char* text) { return QString::fromUtf8(text); }
 
 class RecordsetTest : public Testdatenbank {
  protected:
-  void dreiVoelker() {
+  void dreiVölker() {
     volk(s("Anna"));
     volk(s("Berta"));
     volk(s("Cäsar"));
@@ -19,7 +19,7 @@ class RecordsetTest : public Testdatenbank {
   }
 };
 
-TEST_F(RecordsetTest, RecordCountNullHeisstKeineZeilen) {
+TEST_F(RecordsetTest, RecordCountNullHeißtKeineZeilen) {
   Recordset rs = alle();
   EXPECT_EQ(rs.RecordCount(), 0);
   EXPECT_TRUE(rs.AmEnde());
@@ -33,7 +33,7 @@ TEST_F(RecordsetTest, RecordCountNullHeisstKeineZeilen) {
 }
 
 TEST_F(RecordsetTest, DieErsteZeileIstGleichAktuell) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   EXPECT_EQ(rs.RecordCount(), 3);
   EXPECT_EQ(rs.Wert(s("Volkname")).toString(), s("Anna"));
@@ -48,7 +48,7 @@ TEST_F(RecordsetTest, DieErsteZeileIstGleichAktuell) {
 }
 
 TEST_F(RecordsetTest, FelderMitNameUndMitNummer) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   EXPECT_EQ(rs.FieldCount(), 9);
   EXPECT_EQ(rs.Fields(0).Name(), s("Volkname"));
@@ -57,14 +57,14 @@ TEST_F(RecordsetTest, FelderMitNameUndMitNummer) {
   EXPECT_EQ(rs.Fields(0).Value().toString(), s("Anna"));
   EXPECT_EQ(rs.Fields(s("VOLKNAME")).Value().toString(), s("Anna"));
   EXPECT_EQ(rs[s("ID")].Value().toLongLong(), 1);
-  EXPECT_EQ(rs.Fields(8).Type(), Feldtyp::Zaehler);
+  EXPECT_EQ(rs.Fields(8).Type(), Feldtyp::Zähler);
   ERWARTE_FEHLER(rs.Fields(s("Gewicht")), Anweisung, "Gewicht");
   ERWARTE_FEHLER(rs.Fields(9), Anweisung, "9");
   ERWARTE_FEHLER(rs.Fields(-1), Anweisung, "-1");
 }
 
 TEST_F(RecordsetTest, FindFirstSuchtNachNummerUndNachText) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   rs.FindFirst(s("ID = 3"));
   EXPECT_FALSE(rs.NoMatch());
@@ -78,7 +78,7 @@ TEST_F(RecordsetTest, FindFirstSuchtNachNummerUndNachText) {
 }
 
 TEST_F(RecordsetTest, OhneTrefferBleibtDieAktuelleZeile) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   rs.MoveNext();
   rs.FindFirst(s("ID = 99"));
@@ -112,7 +112,7 @@ TEST_F(RecordsetTest, FindFirstMitDatumNullUndApostroph) {
 }
 
 TEST_F(RecordsetTest, EineUnlesbareSuchbedingungIstEinFehler) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   for (const char* text : {"", "ID", "ID =", "ID = 1 or ID = 2", "ID = 'x", "ID > 1", "= 1"}) {
     ERWARTE_FEHLER(rs.FindFirst(s(text)), Anweisung, "Suchbedingung");
@@ -132,7 +132,7 @@ TEST_F(RecordsetTest, AddNewOhneUpdateSchreibtNichts) {
 }
 
 TEST_F(RecordsetTest, EditOhneUpdateSchreibtNichts) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   rs.Edit();
   rs[s("Volkname")] = s("Zora");
@@ -143,7 +143,7 @@ TEST_F(RecordsetTest, EditOhneUpdateSchreibtNichts) {
 }
 
 TEST_F(RecordsetTest, NachUpdateIstDieNeueZeileDieLetzteUndDieAktuelleBleibt) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   rs.MoveNext();
   rs.AddNew();
@@ -170,8 +170,8 @@ TEST_F(RecordsetTest, EineNeueZeileOhneZuweisungIstLeer) {
   EXPECT_EQ(anzahl(s("where Volkname is null")), 1);
 }
 
-TEST_F(RecordsetTest, EditAendertNurDieZugewiesenenFelder) {
-  dreiVoelker();
+TEST_F(RecordsetTest, EditÄndertNurDieZugewiesenenFelder) {
+  dreiVölker();
   Recordset rs = alle();
   db.Execute(s("update Bienenvolk set Bemerkung = 'von anderswo' where ID = 1"));
   rs.Edit();
@@ -184,7 +184,7 @@ TEST_F(RecordsetTest, EditAendertNurDieZugewiesenenFelder) {
 }
 
 TEST_F(RecordsetTest, FelderMitIhremAltenWertWerdenNichtGeschrieben) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   db.Execute(s("update Bienenvolk set Volkname = 'neuer' where ID = 1"));
   rs.Edit();
@@ -196,7 +196,7 @@ TEST_F(RecordsetTest, FelderMitIhremAltenWertWerdenNichtGeschrieben) {
 }
 
 TEST_F(RecordsetTest, AndereSchreibungIstEinAndererWert) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   rs.Edit();
   rs[s("Volkname")] = s("ANNA");
@@ -204,8 +204,8 @@ TEST_F(RecordsetTest, AndereSchreibungIstEinAndererWert) {
   EXPECT_EQ(einWert(s("select Volkname from Bienenvolk where ID = 1")).toString(), s("ANNA"));
 }
 
-TEST_F(RecordsetTest, NullLoeschtEinFeld) {
-  dreiVoelker();
+TEST_F(RecordsetTest, NullLöschtEinFeld) {
+  dreiVölker();
   Recordset rs = alle();
   rs.Edit();
   rs[s("Volkname")] = QVariant();
@@ -214,8 +214,8 @@ TEST_F(RecordsetTest, NullLoeschtEinFeld) {
   EXPECT_EQ(anzahl(s("where Volkname is null")), 1);
 }
 
-TEST_F(RecordsetTest, EinGescheitertesUpdateLaesstZeileUndEingabeStehen) {
-  dreiVoelker();
+TEST_F(RecordsetTest, EinGescheitertesUpdateLässtZeileUndEingabeStehen) {
+  dreiVölker();
   Recordset rs = alle();
   rs.Edit();
   rs[s("Jahre")] = 5;
@@ -227,7 +227,7 @@ TEST_F(RecordsetTest, EinGescheitertesUpdateLaesstZeileUndEingabeStehen) {
   EXPECT_EQ(anzahl(s("where Jahre = 5 and Volkname = 'kurz'")), 1);
 }
 
-TEST_F(RecordsetTest, EineAngehaengteZeileLaesstSichAendernUndLoeschen) {
+TEST_F(RecordsetTest, EineAngehängteZeileLässtSichÄndernUndLöschen) {
   Recordset rs = alle();
   rs.AddNew();
   rs[s("Volkname")] = s("Anna");
@@ -243,8 +243,8 @@ TEST_F(RecordsetTest, EineAngehaengteZeileLaesstSichAendernUndLoeschen) {
   EXPECT_EQ(anzahl(), 0);
 }
 
-TEST_F(RecordsetTest, NachDeleteIstDieNaechsteZeileAktuell) {
-  dreiVoelker();
+TEST_F(RecordsetTest, NachDeleteIstDieNächsteZeileAktuell) {
+  dreiVölker();
   Recordset rs = alle();
   rs.MoveNext();
   rs.Delete();
@@ -261,8 +261,8 @@ TEST_F(RecordsetTest, NachDeleteIstDieNaechsteZeileAktuell) {
   EXPECT_EQ(anzahl(), 2);
 }
 
-TEST_F(RecordsetTest, EineZeileDieEinAndererGeloeschtHatIstEinFehler) {
-  dreiVoelker();
+TEST_F(RecordsetTest, EineZeileDieEinAndererGelöschtHatIstEinFehler) {
+  dreiVölker();
   Recordset rs = alle();
   db.Execute(s("delete from Bienenvolk where ID = 1"));
   rs.Edit();
@@ -272,15 +272,15 @@ TEST_F(RecordsetTest, EineZeileDieEinAndererGeloeschtHatIstEinFehler) {
   EXPECT_EQ(anzahl(), 2);
 }
 
-TEST_F(RecordsetTest, DasAbbildBleibtWieEsBeimOeffnenWar) {
-  dreiVoelker();
+TEST_F(RecordsetTest, DasAbbildBleibtWieEsBeimÖffnenWar) {
+  dreiVölker();
   Recordset rs = alle();
   db.Execute(s("delete from Bienenvolk"));
   EXPECT_EQ(namen(rs), (QStringList{s("Anna"), s("Berta"), s("Cäsar")}));
 }
 
 TEST_F(RecordsetTest, OhneIdOderMitRechenergebnisWirdNichtGeschrieben) {
-  dreiVoelker();
+  dreiVölker();
   Recordset ohne = db.OpenRecordset(s("select Volkname from Bienenvolk"));
   ERWARTE_FEHLER(ohne.Edit(), Anweisung, "nur gelesen");
   Recordset gruppiert =
@@ -290,7 +290,7 @@ TEST_F(RecordsetTest, OhneIdOderMitRechenergebnisWirdNichtGeschrieben) {
 }
 
 TEST_F(RecordsetTest, EinUmbenanntesFeldSchreibtInSeinEigenes) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs =
       db.OpenRecordset(s("select Bemerkung as Volkname, ID from Bienenvolk where ID = 1"));
   rs.Edit();
@@ -300,8 +300,8 @@ TEST_F(RecordsetTest, EinUmbenanntesFeldSchreibtInSeinEigenes) {
   EXPECT_EQ(einWert(s("select Volkname from Bienenvolk where ID = 1")).toString(), s("Anna"));
 }
 
-TEST_F(RecordsetTest, DieNummerLaesstSichNichtAendern) {
-  dreiVoelker();
+TEST_F(RecordsetTest, DieNummerLässtSichNichtÄndern) {
+  dreiVölker();
   Recordset rs = alle();
   rs.Edit();
   rs[s("ID")] = 77;
@@ -310,13 +310,13 @@ TEST_F(RecordsetTest, DieNummerLaesstSichNichtAendern) {
 }
 
 TEST_F(RecordsetTest, ZuweisenOhneEditIstEinFehler) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   ERWARTE_FEHLER(rs[s("Volkname")] = s("Zora"), Anweisung, "Volkname");
 }
 
 TEST_F(RecordsetTest, VonFeldZuFeldGehtDerWert) {
-  dreiVoelker();
+  dreiVölker();
   Recordset von = alle();
   Recordset nach = alle();
   nach.AddNew();
@@ -326,7 +326,7 @@ TEST_F(RecordsetTest, VonFeldZuFeldGehtDerWert) {
 }
 
 TEST_F(RecordsetTest, NachCloseIstSchluss) {
-  dreiVoelker();
+  dreiVölker();
   Recordset rs = alle();
   rs.Close();
   rs.Close();
@@ -335,8 +335,8 @@ TEST_F(RecordsetTest, NachCloseIstSchluss) {
   ERWARTE_FEHLER(rs.Fields(0), Allgemein, "geschlossen");
 }
 
-TEST_F(RecordsetTest, LesenGehtNachDemSchliessenDerDatenbankSchreibenNicht) {
-  dreiVoelker();
+TEST_F(RecordsetTest, LesenGehtNachDemSchließenDerDatenbankSchreibenNicht) {
+  dreiVölker();
   Recordset rs = alle();
   arbeitsbereich.Close();
   EXPECT_EQ(rs.Wert(s("Volkname")).toString(), s("Anna"));
@@ -345,7 +345,7 @@ TEST_F(RecordsetTest, LesenGehtNachDemSchliessenDerDatenbankSchreibenNicht) {
   ERWARTE_FEHLER(rs.Update(), Allgemein, "geschlossen");
 }
 
-TEST_F(RecordsetTest, KreuztabelleUeberDieAnweisung) {
+TEST_F(RecordsetTest, KreuztabelleÜberDieAnweisung) {
   for (const auto& [standort, waben] : std::vector<std::pair<const char*, QVariant>>{
            {"Wald", 10}, {"Wald", 10}, {"Wald", 9}, {"Garten", QVariant()}}) {
     db.Execute(

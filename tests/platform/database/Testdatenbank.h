@@ -10,7 +10,7 @@
 
 #include "platform/database/Datenbank.h"
 #include "platform/database/Recordset.h"
-#include "platform/database/Verbindung.h"
+#include "platform/database/verbindung/Verbindung.h"
 
 // A database with a colony table of all field types, in a folder of its own.
 class Testdatenbank : public ::testing::Test {

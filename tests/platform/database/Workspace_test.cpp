@@ -11,11 +11,16 @@ namespace {
 
 QString s(const char* text) { return QString::fromUtf8(text); }
 
+const QString alleTabellen = s(
+    "create table Bienenvolk (Volknr text, ID integer primary key); create table Stockkarte (ID "
+    "int); create table Honigernte (ID int); create table Standorte (ID int); create table Termine "
+    "(ID int);");
+
 // A database of the same engine that isn't of this program.
-void fremdeDatenbank(const QString& pfad, const char* sql) {
+void fremdeDatenbank(const QString& pfad, const QString& sql) {
   sqlite3* db = nullptr;
   ASSERT_EQ(sqlite3_open(pfad.toUtf8().constData(), &db), SQLITE_OK);
-  ASSERT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, nullptr), SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(db, sql.toUtf8().constData(), nullptr, nullptr, nullptr), SQLITE_OK);
   sqlite3_close(db);
 }
 
@@ -46,7 +51,7 @@ class WorkspaceTest : public Testdatenbank {
   }
 };
 
-TEST_F(WorkspaceTest, EineNeueDatenbankUeberschreibtKeineDatei) {
+TEST_F(WorkspaceTest, EineNeueDatenbankÜberschreibtKeineDatei) {
   const QByteArray vorher = dateiinhalt(pfad());
   ERWARTE_FEHLER(arbeitsbereich.CreateDatabase(pfad()), Allgemein, "schon vorhanden");
   EXPECT_EQ(dateiinhalt(pfad()), vorher);
@@ -56,7 +61,7 @@ TEST_F(WorkspaceTest, EineNeueDatenbankInEinemOrdnerDenEsNichtGibtIstEinFehler) 
   ERWARTE_FEHLER(arbeitsbereich.CreateDatabase(imOrdner(s("fehlt/TOVA2.MDB"))), NurLesen, "Ordner");
 }
 
-TEST_F(WorkspaceTest, GeschriebenesIstNachDemWiederoeffnenDa) {
+TEST_F(WorkspaceTest, GeschriebenesIstNachDemWiederöffnenDa) {
   volk(s("Anna"));
   arbeitsbereich.Close();
   Workspace neu;
@@ -66,7 +71,7 @@ TEST_F(WorkspaceTest, GeschriebenesIstNachDemWiederoeffnenDa) {
   EXPECT_EQ(dateien(), QStringList{s("TOVA2.MDB")});
 }
 
-TEST_F(WorkspaceTest, ZweiGriffeSehenDieAenderungenDesAndernSofort) {
+TEST_F(WorkspaceTest, ZweiGriffeSehenDieÄnderungenDesAndernSofort) {
   Database anderer = arbeitsbereich.OpenDatabase(pfad());
   volk(s("Anna"));
   EXPECT_EQ(anderer.Lesen(s("select * from Bienenvolk"))->zeilen(), 1);
@@ -93,7 +98,7 @@ TEST_F(WorkspaceTest, EinAndererWegZurSelbenDateiIstDieselbeVerbindung) {
   });
 }
 
-TEST_F(WorkspaceTest, CloseEinesGriffsSchliesstNurIhn) {
+TEST_F(WorkspaceTest, CloseEinesGriffsSchließtNurIhn) {
   Database anderer = arbeitsbereich.OpenDatabase(pfad());
   anderer.Close();
   EXPECT_FALSE(anderer.IsOpen());
@@ -101,7 +106,7 @@ TEST_F(WorkspaceTest, CloseEinesGriffsSchliesstNurIhn) {
   EXPECT_EQ(anzahl(), 0);
 }
 
-TEST_F(WorkspaceTest, NachDemSchliessenDesArbeitsbereichsScheiternAlleGriffe) {
+TEST_F(WorkspaceTest, NachDemSchließenDesArbeitsbereichsScheiternAlleGriffe) {
   Database anderer = arbeitsbereich.OpenDatabase(pfad());
   EXPECT_TRUE(db.IsOpen());
   arbeitsbereich.Close();
@@ -112,7 +117,7 @@ TEST_F(WorkspaceTest, NachDemSchliessenDesArbeitsbereichsScheiternAlleGriffe) {
   ERWARTE_FEHLER(db.Sammelschreiben([] {}), Allgemein, "geschlossen");
 }
 
-TEST_F(WorkspaceTest, EineErsetzteDateiWirdNeuGeoeffnet) {
+TEST_F(WorkspaceTest, EineErsetzteDateiWirdNeuGeöffnet) {
   volk(s("Anna"));
   arbeitsbereich.Close();
   ASSERT_TRUE(QFile::copy(pfad(), imOrdner(s("sicherung"))));
@@ -156,12 +161,12 @@ TEST_F(WorkspaceTest, EineTextdatei) {
   erwarteAbgelehnt(imOrdner(s("x.MDB")), Keine, "Textdatei");
 }
 
-TEST_F(WorkspaceTest, EineAndereBinaerdatei) {
+TEST_F(WorkspaceTest, EineAndereBinärdatei) {
   schreibeDatei(imOrdner(s("x.MDB")), QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16).repeated(20));
   erwarteAbgelehnt(imOrdner(s("x.MDB")), Keine, "keine Datenbank von TOVA");
 }
 
-TEST_F(WorkspaceTest, DieDatenbankEinerAelterenVersion) {
+TEST_F(WorkspaceTest, DieDatenbankEinerÄlterenVersion) {
   schreibeDatei(
       imOrdner(s("x.MDB")),
       QByteArray::fromHex("000100005374616e64617264204a657420444200") + QByteArray(2028, '\7'));
@@ -170,14 +175,39 @@ TEST_F(WorkspaceTest, DieDatenbankEinerAelterenVersion) {
 
 TEST_F(WorkspaceTest, EineDatenbankOhneBienenvolk) {
   const QString fremd = imOrdner(s("x.MDB"));
-  fremdeDatenbank(fremd, "create table Kunden (Name text)");
+  fremdeDatenbank(fremd, s("create table Kunden (Name text)"));
   erwarteAbgelehnt(fremd, Keine, "keine Datenbank von TOVA");
 }
 
-TEST_F(WorkspaceTest, EineFremdeDatenbankMitSchreibprotokollBleibtUnberuehrt) {
+TEST_F(WorkspaceTest, EineFremdeDatenbankMitSchreibprotokollBleibtUnberührt) {
   const QString fremd = imOrdner(s("x.MDB"));
-  fremdeDatenbank(fremd, "pragma journal_mode = wal; create table Kunden (Name text)");
+  fremdeDatenbank(fremd, s("pragma journal_mode = wal; create table Kunden (Name text)"));
   erwarteAbgelehnt(fremd, Keine, "keine Datenbank von TOVA");
+}
+
+// Whatever tables it has: the mark of another program, or texts that this one never writes.
+TEST_F(WorkspaceTest, EineDatenbankMitDerKennungEinesAnderenProgramms) {
+  const QString fremd = imOrdner(s("x.MDB"));
+  fremdeDatenbank(fremd, alleTabellen + s("pragma application_id = 1196444487"));
+  erwarteAbgelehnt(fremd, Keine, "eines anderen Programms");
+}
+
+TEST_F(WorkspaceTest, EineDatenbankInUtf16) {
+  const QString fremd = imOrdner(s("x.MDB"));
+  fremdeDatenbank(fremd, s("pragma encoding = 'UTF-16le';") + alleTabellen);
+  erwarteAbgelehnt(fremd, Keine, "eines anderen Programms");
+}
+
+TEST_F(WorkspaceTest, OhneKennungReichtDieTabelleBienenvolkAlleinNicht) {
+  const QString fremd = imOrdner(s("x.MDB"));
+  fremdeDatenbank(fremd, s("create table Bienenvolk (Art text)"));
+  erwarteAbgelehnt(fremd, Keine, "keine Datenbank von TOVA");
+}
+
+TEST_F(WorkspaceTest, OhneKennungAberMitDenTabellenIstEsEineEigene) {
+  const QString eigene = imOrdner(s("x.MDB"));
+  fremdeDatenbank(eigene, alleTabellen);
+  EXPECT_TRUE(arbeitsbereich.OpenDatabase(eigene).IsOpen());
 }
 
 TEST_F(WorkspaceTest, EineEigeneDatenbankMitSchreibprotokollWirdUmgestellt) {
@@ -195,14 +225,14 @@ TEST_F(WorkspaceTest, EineAbgeschnitteneDatei) {
   arbeitsbereich.Close();
   const QByteArray ganz = dateiinhalt(pfad());
   ASSERT_GT(ganz.size(), 4096);
-  for (const qsizetype laenge : {ganz.size() - 1, ganz.size() - 4096, qsizetype(4096),
-                                 qsizetype(1000), qsizetype(100), qsizetype(99), qsizetype(16)}) {
-    schreibeDatei(imOrdner(s("x.MDB")), ganz.left(laenge));
+  for (const qsizetype länge : {ganz.size() - 1, ganz.size() - 4096, qsizetype(4096),
+                                qsizetype(1000), qsizetype(100), qsizetype(99), qsizetype(16)}) {
+    schreibeDatei(imOrdner(s("x.MDB")), ganz.left(länge));
     erwarteAbgelehnt(imOrdner(s("x.MDB")), Keine, "unvollständig");
   }
 }
 
-TEST_F(WorkspaceTest, EinZerstoerterKopf) {
+TEST_F(WorkspaceTest, EinZerstörterKopf) {
   arbeitsbereich.Close();
   QByteArray inhalt = dateiinhalt(pfad());
   inhalt[16] = 3;  // no page has such a size
@@ -210,7 +240,7 @@ TEST_F(WorkspaceTest, EinZerstoerterKopf) {
   erwarteAbgelehnt(imOrdner(s("x.MDB")), Keine, "beschädigt");
 }
 
-TEST_F(WorkspaceTest, EinZerstoertesInhaltsverzeichnis) {
+TEST_F(WorkspaceTest, EinZerstörtesInhaltsverzeichnis) {
   arbeitsbereich.Close();
   QByteArray inhalt = dateiinhalt(pfad());
   for (int i = 100; i < 4096; ++i) inhalt[i] = '\x5A';
@@ -218,7 +248,7 @@ TEST_F(WorkspaceTest, EinZerstoertesInhaltsverzeichnis) {
   erwarteAbgelehnt(imOrdner(s("x.MDB")), Keine, "beschädigt");
 }
 
-TEST_F(WorkspaceTest, EineSchreibgeschuetzteDatei) {
+TEST_F(WorkspaceTest, EineSchreibgeschützteDatei) {
   arbeitsbereich.Close();
   QFile::setPermissions(m_ordner.path(), QFile::Permissions::fromInt(0x7777));
   QFile::setPermissions(pfad(), QFile::Permissions::fromInt(0x4444));
@@ -229,7 +259,7 @@ TEST_F(WorkspaceTest, EineSchreibgeschuetzteDatei) {
   EXPECT_EQ(dateiinhalt(pfad()), vorher);
 }
 
-TEST_F(WorkspaceTest, EinSchreibgeschuetzterOrdner) {
+TEST_F(WorkspaceTest, EinSchreibgeschützterOrdner) {
   arbeitsbereich.Close();
   QFile::setPermissions(pfad(), QFile::Permissions::fromInt(0x6666));
   QFile::setPermissions(m_ordner.path(), QFile::Permissions::fromInt(0x5555));
@@ -248,7 +278,7 @@ TEST_F(WorkspaceTest, EineDateiOhneLeserecht) {
   EXPECT_TRUE(ergebnis.contains("nicht gelesen")) << ergebnis.constData();
 }
 
-TEST_F(WorkspaceTest, MitAllenRechtenOeffnetDerselbeBenutzerSie) {
+TEST_F(WorkspaceTest, MitAllenRechtenÖffnetDerselbeBenutzerSie) {
   arbeitsbereich.Close();
   QFile::setPermissions(m_ordner.path(), QFile::Permissions::fromInt(0x7777));
   QFile::setPermissions(pfad(), QFile::Permissions::fromInt(0x6666));
@@ -274,7 +304,7 @@ class Komprimieren : public WorkspaceTest {
   QString ziel() const { return imOrdner(s("TOVA2.$$$")); }
 };
 
-TEST_F(Komprimieren, DieKopieIstKleinerUndEnthaeltAlles) {
+TEST_F(Komprimieren, DieKopieIstKleinerUndEnthältAlles) {
   const QByteArray vorher = dateiinhalt(pfad());
   Workspace::CompactDatabase(pfad(), ziel());
   EXPECT_EQ(dateiinhalt(pfad()), vorher);
@@ -310,7 +340,7 @@ TEST_F(Komprimieren, EtwasAnderesAlsEineDatenbankWirdNichtKomprimiert) {
   EXPECT_FALSE(QFile::exists(ziel()));
 }
 
-TEST_F(Komprimieren, BeiVollemDatentraegerBleibtDieQuelleUndKeinHalbesZiel) {
+TEST_F(Komprimieren, BeiVollemDatenträgerBleibtDieQuelleUndKeinHalbesZiel) {
   const QByteArray vorher = dateiinhalt(pfad());
   {
     const Dateigrenze grenze(20000);
@@ -324,4 +354,85 @@ TEST_F(Komprimieren, EinZielImFehlendenOrdnerIstEinFehler) {
   const QByteArray vorher = dateiinhalt(pfad());
   EXPECT_THROW(Workspace::CompactDatabase(pfad(), imOrdner(s("fehlt/x.$$$"))), Datenbankfehler);
   EXPECT_EQ(dateiinhalt(pfad()), vorher);
+}
+
+// What another program does with the file meanwhile.
+class Nachbar {
+ public:
+  explicit Nachbar(const QString& pfad) {
+    EXPECT_EQ(sqlite3_open(pfad.toUtf8().constData(), &m_db), SQLITE_OK);
+  }
+  ~Nachbar() { sqlite3_close(m_db); }
+  Nachbar(const Nachbar&) = delete;
+  Nachbar& operator=(const Nachbar&) = delete;
+  int tut(const char* sql) const { return sqlite3_exec(m_db, sql, nullptr, nullptr, nullptr); }
+
+ private:
+  sqlite3* m_db = nullptr;
+};
+
+TEST_F(Komprimieren, SolangeEinAnderesProgrammSchreibtBleibtJedesByte) {
+  const Nachbar nachbar(pfad());
+  ASSERT_EQ(nachbar.tut("begin immediate; create table Gast (x); insert into Gast values (1)"),
+            SQLITE_OK);
+  const QByteArray vorher = dateiinhalt(pfad());
+  ERWARTE_FEHLER(Workspace::CompactInPlace(pfad(), ziel()), Gesperrt, "anderen Programm");
+  EXPECT_EQ(dateiinhalt(pfad()), vorher);
+  EXPECT_FALSE(QFile::exists(ziel()));
+  ASSERT_EQ(nachbar.tut("commit"), SQLITE_OK);
+  EXPECT_EQ(nachbar.tut("select x from Gast"), SQLITE_OK);
+  db = arbeitsbereich.OpenDatabase(pfad());
+  EXPECT_EQ(db.Lesen(s("select x from Gast"))->zeilen(), 1);
+}
+
+TEST_F(Komprimieren, SolangeEinAnderesProgrammLiestBleibtJedesByte) {
+  const Nachbar nachbar(pfad());
+  ASSERT_EQ(nachbar.tut("begin; select count(*) from sqlite_master"), SQLITE_OK);
+  const QByteArray vorher = dateiinhalt(pfad());
+  ERWARTE_FEHLER(Workspace::CompactDatabase(pfad(), ziel()), Gesperrt, "anderen Programm");
+  EXPECT_EQ(dateiinhalt(pfad()), vorher);
+  EXPECT_FALSE(QFile::exists(ziel()));
+}
+
+// One that has the file open but at rest can't write into the file that is gone.
+TEST_F(Komprimieren, WasEinRuhenderNachbarDanachSchreibtGehtNichtVerloren) {
+  const Nachbar nachbar(pfad());
+  ASSERT_EQ(nachbar.tut("select count(*) from sqlite_master"), SQLITE_OK);
+  Workspace::CompactInPlace(pfad(), ziel());
+  EXPECT_NE(nachbar.tut("create table Gast (x)"), SQLITE_OK);
+}
+
+TEST_F(Komprimieren, DieKopieTrittAnDieStelleDerDatei) {
+  const qint64 größe = QFileInfo(pfad()).size();
+  Workspace::CompactInPlace(pfad(), ziel());
+  EXPECT_LT(QFileInfo(pfad()).size(), größe / 2);
+  EXPECT_EQ(dateien(), QStringList{s("TOVA2.MDB")});
+  db = arbeitsbereich.OpenDatabase(pfad());
+  EXPECT_EQ(anzahl(), 50);
+}
+
+TEST_F(Komprimieren, DerStandDesSchemasGehtMit) {
+  db = arbeitsbereich.OpenDatabase(pfad());
+  db.setSchemastand(7);
+  arbeitsbereich.Close();
+  Workspace::CompactInPlace(pfad(), ziel());
+  EXPECT_EQ(arbeitsbereich.OpenDatabase(pfad()).Schemastand(), 7);
+}
+
+// An index that no longer tells what its table holds: nothing in the structure is wrong.
+TEST_F(Komprimieren, EineBeschädigteDateiWirdVorherErkanntUndBleibt) {
+  db = arbeitsbereich.OpenDatabase(pfad());
+  const int seite =
+      verbindung().steuere("select rootpage from sqlite_schema where name = 'volk1'").toInt();
+  const int größe = verbindung().steuere("pragma page_size").toInt();
+  arbeitsbereich.Close();
+  QByteArray inhalt = dateiinhalt(pfad());
+  const qsizetype ort = inhalt.indexOf("Volk 17", qsizetype{größe} * (seite - 1));
+  ASSERT_LT(ort, qsizetype{größe} * seite);
+  ASSERT_GT(ort, 0);
+  inhalt[ort + 6] = ':';
+  schreibeDatei(pfad(), inhalt);
+  ERWARTE_FEHLER(Workspace::CompactInPlace(pfad(), ziel()), KeineDatenbank, "ist beschädigt");
+  EXPECT_EQ(dateiinhalt(pfad()), inhalt);
+  EXPECT_EQ(dateien(), QStringList{s("TOVA2.MDB")});
 }

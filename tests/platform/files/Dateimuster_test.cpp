@@ -25,7 +25,7 @@ class DateimusterTest : public testing::Test {
   QTemporaryDir m_ordner;
 };
 
-TEST_F(DateimusterTest, SternUndEndungOhneGrossUndKlein) {
+TEST_F(DateimusterTest, SternUndEndungOhneGroßUndKlein) {
   EXPECT_EQ(namen("*.TKS"), "A.tks b.TKS");
 }
 
@@ -48,7 +48,7 @@ TEST_F(DateimusterTest, LeereOderFehlendeOrdnerHabenKeine) {
   EXPECT_EQ(Dateimuster::namen(m_ordner.path() + u'/'), QStringList());
 }
 
-TEST_F(DateimusterTest, RueckwaertsstricheTrennenAuchOrdner) {
+TEST_F(DateimusterTest, RückwärtsstricheTrennenAuchOrdner) {
   EXPECT_EQ(Dateimuster::ordner(QStringLiteral("C:\\Imkerei\\*.TKS")),
             QStringLiteral("C:/Imkerei/"));
   EXPECT_EQ(Dateimuster::ordner(QStringLiteral("*.TKS")), QString());

@@ -20,7 +20,7 @@ void leg(const QString& pfad, const QByteArray& bytes = "x") {
 
 constexpr auto NurLesen = QFileDevice::ReadOwner | QFileDevice::ReadUser;
 
-TEST(Schreibschutz, NurGeschuetzteDateienNachNamen) {
+TEST(Schreibschutz, NurGeschützteDateienNachNamen) {
   const QTemporaryDir ordner;
   for (const char* name : {"b.txt", "a.txt", "frei.txt"})
     leg(ordner.filePath(QString::fromLatin1(name)));
@@ -31,7 +31,7 @@ TEST(Schreibschutz, NurGeschuetzteDateienNachNamen) {
                          ordner.filePath(QStringLiteral("b.txt"))}));
 }
 
-TEST(Schreibschutz, OrdnerUndDateienInUnterordnernZaehlenNicht) {
+TEST(Schreibschutz, OrdnerUndDateienInUnterordnernZählenNicht) {
   const QTemporaryDir ordner;
   ASSERT_TRUE(QDir(ordner.path()).mkdir(QStringLiteral("unter")));
   leg(ordner.filePath(QStringLiteral("unter/a.txt")));
@@ -43,7 +43,7 @@ TEST(Schreibschutz, FehlenderOrdnerHatKeine) {
   EXPECT_EQ(Schreibschutz::dateien(QStringLiteral("/gibt/es/nicht")), QStringList());
 }
 
-TEST(Schreibschutz, EntfernenLaesstDieAnderenRechteStehen) {
+TEST(Schreibschutz, EntfernenLässtDieAnderenRechteStehen) {
   const QTemporaryDir ordner;
   const QString pfad = ordner.filePath(QStringLiteral("a.txt"));
   leg(pfad);
@@ -56,17 +56,31 @@ TEST(Schreibschutz, EntfernenLaesstDieAnderenRechteStehen) {
   EXPECT_EQ(Schreibschutz::dateien(ordner.path()), QStringList());
 }
 
-TEST(Schreibschutz, InzwischenGeloeschteDateiIstKeinFehler) {
+TEST(Schreibschutz, InzwischenGelöschteDateiIstKeinFehler) {
   const QTemporaryDir ordner;
   EXPECT_EQ(Schreibschutz::entfernen({ordner.filePath(QStringLiteral("weg.txt"))}), QStringList());
+}
+
+// What a link leads to lies elsewhere and belongs to somebody else.
+TEST(Schreibschutz, EinerVerknüpfungWirdNichtGefolgt) {
+  const QTemporaryDir ordner;
+  const QTemporaryDir woanders;
+  const QString fremde = woanders.filePath(QStringLiteral("fremd.txt"));
+  const QString link = ordner.filePath(QStringLiteral("link.txt"));
+  leg(fremde);
+  QFile::setPermissions(fremde, NurLesen);
+  ASSERT_TRUE(QFile::link(fremde, link));
+  EXPECT_EQ(Schreibschutz::dateien(ordner.path()), QStringList());
+  EXPECT_EQ(Schreibschutz::entfernen({link}), QStringList());
+  EXPECT_FALSE(QFile::permissions(fremde) & QFileDevice::WriteOwner);
 }
 
 TEST(Einzelstart, DerErsteDarfDerZweiteNicht) {
   const QTemporaryDir ordner;
   const Einzelstart erster(ordner.path());
-  EXPECT_FALSE(erster.laeuftBereits());
-  EXPECT_TRUE(Einzelstart(ordner.path()).laeuftBereits());
-  EXPECT_TRUE(Einzelstart(ordner.path()).laeuftBereits());
+  EXPECT_FALSE(erster.läuftBereits());
+  EXPECT_TRUE(Einzelstart(ordner.path()).läuftBereits());
+  EXPECT_TRUE(Einzelstart(ordner.path()).läuftBereits());
 }
 
 TEST(Einzelstart, EinAbgewiesenerNimmtDemErstenDieSperreNicht) {
@@ -76,21 +90,21 @@ TEST(Einzelstart, EinAbgewiesenerNimmtDemErstenDieSperreNicht) {
   EXPECT_TRUE(QFile::exists(Einzelstart::sperrdatei(ordner.path())));
 }
 
-TEST(Einzelstart, NachDemEndeDarfDerNaechste) {
+TEST(Einzelstart, NachDemEndeDarfDerNächste) {
   const QTemporaryDir ordner;
   { const Einzelstart erster(ordner.path()); }
   EXPECT_FALSE(QFile::exists(Einzelstart::sperrdatei(ordner.path())));
-  EXPECT_FALSE(Einzelstart(ordner.path()).laeuftBereits());
+  EXPECT_FALSE(Einzelstart(ordner.path()).läuftBereits());
 }
 
-TEST(Einzelstart, VerschiedeneOrdnerStoerenSichNicht) {
+TEST(Einzelstart, VerschiedeneOrdnerStörenSichNicht) {
   const QTemporaryDir einer;
   const QTemporaryDir anderer;
   const Einzelstart erster(einer.path());
-  EXPECT_FALSE(Einzelstart(anderer.path()).laeuftBereits());
+  EXPECT_FALSE(Einzelstart(anderer.path()).läuftBereits());
 }
 
-TEST(Einzelstart, DieSperreEinesAbgestuerztenProgrammsZaehltNicht) {
+TEST(Einzelstart, DieSperreEinesAbgestürztenProgrammsZähltNicht) {
   const QTemporaryDir ordner;
   const pid_t kind = fork();
   ASSERT_GE(kind, 0);
@@ -101,10 +115,10 @@ TEST(Einzelstart, DieSperreEinesAbgestuerztenProgrammsZaehltNicht) {
   int status = 0;
   ASSERT_EQ(waitpid(kind, &status, 0), kind);
   ASSERT_TRUE(QFile::exists(Einzelstart::sperrdatei(ordner.path())));
-  EXPECT_FALSE(Einzelstart(ordner.path()).laeuftBereits());
+  EXPECT_FALSE(Einzelstart(ordner.path()).läuftBereits());
 }
 
-TEST(Einzelstart, EinLebenderAndererProzessZaehlt) {
+TEST(Einzelstart, EinLebenderAndererProzessZählt) {
   const QTemporaryDir ordner;
   int bereit[2];
   int ende[2];
@@ -119,35 +133,58 @@ TEST(Einzelstart, EinLebenderAndererProzessZaehlt) {
     _exit(1);
   }
   ASSERT_EQ(read(bereit[0], &byte, 1), 1);
-  EXPECT_TRUE(Einzelstart(ordner.path()).laeuftBereits());
+  EXPECT_TRUE(Einzelstart(ordner.path()).läuftBereits());
   ASSERT_EQ(write(ende[1], &byte, 1), 1);
   int status = 0;
   ASSERT_EQ(waitpid(kind, &status, 0), kind);
 }
 
-TEST(Einzelstart, EineLeereOderVerstuemmelteSperrdateiZaehltNicht) {
-  for (const char* inhalt : {"", "\n", "Unsinn", "abc\ndef\n"}) {
+TEST(Einzelstart, DieSperreEinesAnderenRechnersNenntIhnUndLässtSichÜbernehmen) {
+  for (const char* inhalt : {"4711\ntova\nIMKER-PC\n", "1\ntova\nIMKER-PC\nabc\ndef\n"}) {
     const QTemporaryDir ordner;
     leg(Einzelstart::sperrdatei(ordner.path()), inhalt);
-    EXPECT_FALSE(Einzelstart(ordner.path()).laeuftBereits()) << inhalt;
+    Einzelstart start(ordner.path());
+    EXPECT_TRUE(start.läuftBereits());
+    EXPECT_EQ(start.andererRechner(), QStringLiteral("IMKER-PC"));
+    EXPECT_TRUE(QFile::exists(Einzelstart::sperrdatei(ordner.path())));
+    start.übernehmen();
+    EXPECT_FALSE(start.läuftBereits());
+    EXPECT_TRUE(Einzelstart(ordner.path()).läuftBereits());
+    EXPECT_EQ(Einzelstart(ordner.path()).andererRechner(), QString());
   }
 }
 
-TEST(Einzelstart, OrdnerOhneSchreibrechtZaehltNichtAlsGestartet) {
-  EXPECT_FALSE(Einzelstart(QStringLiteral("/gibt/es/nicht")).laeuftBereits());
-  EXPECT_FALSE(Einzelstart(QStringLiteral("/proc")).laeuftBereits());
+TEST(Einzelstart, EinLebenderProzessDiesesRechnersIstKeinAndererRechner) {
+  const QTemporaryDir ordner;
+  const Einzelstart erster(ordner.path());
+  const Einzelstart zweiter(ordner.path());
+  EXPECT_TRUE(zweiter.läuftBereits());
+  EXPECT_EQ(zweiter.andererRechner(), QString());
 }
 
-TEST(Ton, DerGesetzteSpielerBekommtHoeheUndDauer) {
-  int hoehe = 0;
+TEST(Einzelstart, EineLeereOderVerstümmelteSperrdateiZähltNicht) {
+  for (const char* inhalt : {"", "\n", "Unsinn", "abc\ndef\n"}) {
+    const QTemporaryDir ordner;
+    leg(Einzelstart::sperrdatei(ordner.path()), inhalt);
+    EXPECT_FALSE(Einzelstart(ordner.path()).läuftBereits()) << inhalt;
+  }
+}
+
+TEST(Einzelstart, OrdnerOhneSchreibrechtZähltNichtAlsGestartet) {
+  EXPECT_FALSE(Einzelstart(QStringLiteral("/gibt/es/nicht")).läuftBereits());
+  EXPECT_FALSE(Einzelstart(QStringLiteral("/proc")).läuftBereits());
+}
+
+TEST(Ton, DerGesetzteSpielerBekommtHöheUndDauer) {
+  int höhe = 0;
   int dauer = 0;
   Ton::setSpieler([&](int hertz, int millisekunden) {
-    hoehe = hertz;
+    höhe = hertz;
     dauer = millisekunden;
   });
   EXPECT_TRUE(Ton::piep(1000, 15));
   Ton::setSpieler({});
-  EXPECT_EQ(hoehe, 1000);
+  EXPECT_EQ(höhe, 1000);
   EXPECT_EQ(dauer, 15);
 }
 

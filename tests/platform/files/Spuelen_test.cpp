@@ -37,13 +37,25 @@ extern "C" int rename(const char* von, const char* nach) noexcept {
 
 namespace {
 
-TEST(Spuelen, InhaltVorDemUmbenennenUndOrdnerDanach) {
+TEST(Spülen, InhaltVorDemUmbenennenUndOrdnerDanach) {
   const QTemporaryDir ordner;
   const QString pfad = ordner.filePath(QStringLiteral("a.txt"));
   Textdatei::schreiben(pfad, {QStringLiteral("alt")});
   aufrufe.clear();
   Textdatei::schreiben(pfad, {QStringLiteral("neu")});
   EXPECT_EQ(aufrufe, (std::vector<std::string>{"spuelen", "umbenennen", "spuelen"}));
+}
+
+TEST(Spülen, WasFlüchtigIstWirdErsetztAberNichtGespült) {
+  const QTemporaryDir ordner;
+  const QString pfad = ordner.filePath(QStringLiteral("a.txt"));
+  Textdatei::flüchtigSchreiben(pfad, {QStringLiteral("alt")});
+  aufrufe.clear();
+  Textdatei::flüchtigSchreiben(pfad, {QStringLiteral("neu"), QStringLiteral("Völker")});
+  EXPECT_EQ(aufrufe, (std::vector<std::string>{"umbenennen"}));
+  EXPECT_EQ(Textdatei::bytesLesen(pfad), QByteArray("neu\r\nV\xF6lker\r\n"));
+  Textdatei::flüchtigSchreibenGanz(pfad, QStringLiteral("ganz"));
+  EXPECT_EQ(Textdatei::bytesLesen(pfad), QByteArray("ganz"));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "platform/files/Tabellenblatt.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
@@ -41,7 +42,7 @@ TEST_F(TabellenblattTest, TexteUndZahlenStehenInIhrenZellen) {
   EXPECT_TRUE(gelesen.rechts("AB2"));
 }
 
-TEST_F(TabellenblattTest, DieFormEinerSpalteGiltFuerIhreLeerenZellen) {
+TEST_F(TabellenblattTest, DieFormEinerSpalteGiltFürIhreLeerenZellen) {
   Tabellenblatt blatt(pfad, "Liste");
   blatt.setSpalte(2, 12, Form::Zahl);
   blatt.text(0, 0, "x", Form::Standard);
@@ -52,7 +53,7 @@ TEST_F(TabellenblattTest, DieFormEinerSpalteGiltFuerIhreLeerenZellen) {
   EXPECT_EQ(gelesen.spaltenformat(2), "");
 }
 
-TEST_F(TabellenblattTest, EinUeberlangerTextWirdGekuerztUndNichtWeggelassen) {
+TEST_F(TabellenblattTest, EinÜberlangerTextWirdGekürztUndNichtWeggelassen) {
   const QByteArray lang = QByteArray(40000, 'a');
   Tabellenblatt blatt(pfad, "Liste");
   blatt.text(0, 0, lang.constData(), Form::Standard);
@@ -82,6 +83,16 @@ TEST_F(TabellenblattTest, EineVorhandeneTabelleWirdErsetzt) {
   EXPECT_EQ(dateien(), QStringList{"tova_liste.xlsx"});
 }
 
+TEST_F(TabellenblattTest, EineNeueTabelleHatDieRechteDieDerBenutzerWill) {
+  for (const auto& [maske, rechte] : {std::pair(0077, 0x600), {0002, 0x664}}) {
+    const mode_t bisher = umask(static_cast<mode_t>(maske));
+    Tabellenblatt(pfad, "Liste").speichern();
+    umask(bisher);
+    EXPECT_EQ(QFile::permissions(pfad).toInt() & 0x0fff, rechte) << maske;
+    ASSERT_TRUE(QFile::remove(pfad));
+  }
+}
+
 TEST_F(TabellenblattTest, EinOrdnerDesNamensWirdMitNamenGemeldet) {
   ASSERT_TRUE(QDir().mkdir(pfad));
   try {
@@ -92,7 +103,7 @@ TEST_F(TabellenblattTest, EinOrdnerDesNamensWirdMitNamenGemeldet) {
   }
 }
 
-TEST_F(TabellenblattTest, EineSchreibgeschuetzteTabelleBleibtUndWirdGemeldet) {
+TEST_F(TabellenblattTest, EineSchreibgeschützteTabelleBleibtUndWirdGemeldet) {
   {
     QFile alt(pfad);
     ASSERT_TRUE(alt.open(QIODevice::WriteOnly));
@@ -110,7 +121,7 @@ TEST_F(TabellenblattTest, EineSchreibgeschuetzteTabelleBleibtUndWirdGemeldet) {
   EXPECT_EQ(Textdatei::bytesLesen(pfad), "alt");
 }
 
-TEST_F(TabellenblattTest, VollerDatentraegerGibtKeineHalbeTabelle) {
+TEST_F(TabellenblattTest, VollerDatenträgerGibtKeineHalbeTabelle) {
   {
     Tabellenblatt alt(pfad, "Liste");
     alt.text(0, 0, "alt", Form::Standard);

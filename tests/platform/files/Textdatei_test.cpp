@@ -76,7 +76,7 @@ TEST_F(TextdateiTest, UmlauteUndEuroStehenInDerCodepage) {
   EXPECT_EQ(Textdatei::lesen(pfad()), QStringList{QStringLiteral("äöüÄÖÜß €")});
 }
 
-TEST_F(TextdateiTest, ZeichenAusserhalbDerCodepageWerdenFragezeichen) {
+TEST_F(TextdateiTest, ZeichenAußerhalbDerCodepageWerdenFragezeichen) {
   Textdatei::schreiben(pfad(), {QStringLiteral("aЖb漢c")});
   EXPECT_EQ(bytes(), QByteArray("a?b?c\r\n"));
 }
@@ -91,7 +91,7 @@ TEST_F(TextdateiTest, SteuerzeichenAchtzigIstNichtDasEurozeichen) {
   EXPECT_EQ(Textdatei::nachCp1252(QString(QChar(0x80))), QByteArray("?"));
 }
 
-TEST_F(TextdateiTest, AlleZweihundertsechsundfuenfzigBytesBleibenErhalten) {
+TEST_F(TextdateiTest, AlleZweihundertsechsundfünfzigBytesBleibenErhalten) {
   QByteArray alle;
   for (int i = 0; i < 256; ++i) alle += static_cast<char>(i);
   const QString text = Textdatei::vonCp1252(alle);
@@ -122,7 +122,7 @@ TEST_F(TextdateiTest, LeereDateiHatKeineZeile) {
   EXPECT_EQ(Textdatei::lesen(pfad()), QStringList());
 }
 
-TEST_F(TextdateiTest, NullbytesStoerenNicht) {
+TEST_F(TextdateiTest, NullbytesStörenNicht) {
   leg(QByteArray("a\0b\r\nc", 6));
   const QStringList zeilen = Textdatei::lesen(pfad());
   ASSERT_EQ(zeilen.size(), 2);
@@ -152,7 +152,7 @@ TEST_F(TextdateiTest, SchreibenInFehlendenOrdnerNenntDenOrdner) {
   EXPECT_TRUE(text.contains(QStringLiteral("legen Sie den Ordner an")));
 }
 
-TEST_F(TextdateiTest, VolleScheibeLaesstDieAlteDateiByteFuerByte) {
+TEST_F(TextdateiTest, VolleScheibeLässtDieAlteDateiByteFürByte) {
   const QByteArray alt = "Kopf \xE4\r\nalt\r\n";
   leg(alt);
   QString text;
@@ -167,7 +167,7 @@ TEST_F(TextdateiTest, VolleScheibeLaesstDieAlteDateiByteFuerByte) {
   EXPECT_EQ(imOrdner(), QStringList{QStringLiteral("Probe.TV2")});
 }
 
-TEST_F(TextdateiTest, VolleScheibeOhneAlteDateiLaesstKeineHalbeZurueck) {
+TEST_F(TextdateiTest, VolleScheibeOhneAlteDateiLässtKeineHalbeZurück) {
   {
     const VolleScheibe voll(100);
     EXPECT_THROW(Textdatei::schreibenGanz(pfad(), QString(5000, u'x')), Dateifehler);
@@ -180,7 +180,7 @@ constexpr QFileDevice::Permissions OrdnerNurLesen = QFileDevice::ReadOwner | QFi
                                                     QFileDevice::ReadGroup | QFileDevice::ExeGroup |
                                                     QFileDevice::ReadOther | QFileDevice::ExeOther;
 
-TEST_F(TextdateiTest, SchreibgeschuetzterOrdnerLaesstDieAlteDatei) {
+TEST_F(TextdateiTest, SchreibgeschützterOrdnerLässtDieAlteDatei) {
   leg("alt\r\n");
   QFile::setPermissions(m_ordner.path(), OrdnerNurLesen);
   QString text;
@@ -207,7 +207,7 @@ TEST_F(TextdateiTest, NichtLesbareDateiWirdGenannt) {
   EXPECT_TRUE(text.contains(QStringLiteral("kann nicht gelesen werden"))) << text.toStdString();
 }
 
-TEST_F(TextdateiTest, AbgeschossenesSchreibenLaesstEineGanzeDatei) {
+TEST_F(TextdateiTest, AbgeschossenesSchreibenLässtEineGanzeDatei) {
   const QString a(300000, u'a');
   const QString b(300000, u'b');
   std::mt19937 zufall(2);
@@ -229,7 +229,7 @@ TEST_F(TextdateiTest, AbgeschossenesSchreibenLaesstEineGanzeDatei) {
     const QString danach = Textdatei::lesenGanz(pfad());
     ASSERT_TRUE(danach == a || danach == b) << danach.size();
   }
-  Textdatei::resteLoeschen(m_ordner.path(), {QStringLiteral("Probe.TV2")});
+  Textdatei::resteLöschen(m_ordner.path(), {QStringLiteral("Probe.TV2")});
   static const QRegularExpression wort(
       QStringLiteral("\\AProbe\\.TV2(\\.[A-Z]?[a-z]+|\\.[A-Z]+)?\\z"));
   for (const QString& name : imOrdner())
@@ -246,7 +246,7 @@ TEST_F(TextdateiTest, ResteEinesAbgeschossenenSchreibensVerschwindenKopienBleibe
     QFile datei(m_ordner.filePath(name));
     ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
   }
-  Textdatei::resteLoeschen(m_ordner.path(), {QStringLiteral("Probe.TV2")});
+  Textdatei::resteLöschen(m_ordner.path(), {QStringLiteral("Probe.TV2")});
   QStringList soll = bleiben;
   QStringList ist = imOrdner();
   soll.sort();
@@ -263,22 +263,22 @@ TEST_F(TextdateiTest, EinRestDerBleibtWirdGenannt) {
   QString text;
   {
     const AndererBenutzer niemand;
-    text = fehlertext(
-        [this] { Textdatei::resteLoeschen(m_ordner.path(), {QStringLiteral("*.TV2")}); });
+    text =
+        fehlertext([this] { Textdatei::resteLöschen(m_ordner.path(), {QStringLiteral("*.TV2")}); });
   }
   QFile::setPermissions(m_ordner.path(), OrdnerNurLesen | QFileDevice::WriteOwner);
   EXPECT_TRUE(text.contains(rest)) << text.toStdString();
 }
 
-TEST_F(TextdateiTest, ZufaelligeBytesLassenSichLesenUndWiederSchreiben) {
+TEST_F(TextdateiTest, ZufälligeBytesLassenSichLesenUndWiederSchreiben) {
   std::mt19937 zufall(3);
   for (int runde = 0; runde < 50; ++runde) {
-    QByteArray zufaellig;
-    for (auto n = zufall() % 3000; n > 0; --n) zufaellig += static_cast<char>(zufall());
-    leg(zufaellig);
+    QByteArray zufällig;
+    for (auto n = zufall() % 3000; n > 0; --n) zufällig += static_cast<char>(zufall());
+    leg(zufällig);
     Textdatei::lesen(pfad());
     Textdatei::schreibenGanz(pfad(), Textdatei::lesenGanz(pfad()));
-    ASSERT_EQ(bytes(), zufaellig);
+    ASSERT_EQ(bytes(), zufällig);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLocale>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -34,13 +35,13 @@ TEST(Zahl, HalbeWirdVonNullWegGerundet) {
   EXPECT_EQ(zahl(0.05, 1), "0,1");
 }
 
-TEST(Zahl, KnappUnterDerHaelfteWirdAbgerundet) {
+TEST(Zahl, KnappUnterDerHälfteWirdAbgerundet) {
   EXPECT_EQ(zahl(1.0049, 2), "1,00");
   EXPECT_EQ(zahl(0.49, 0), "0");
   EXPECT_EQ(zahl(0.0049999, 2), "0,00");
 }
 
-TEST(Zahl, UebertragLaeuftBisVorDasKomma) {
+TEST(Zahl, ÜbertragLäuftBisVorDasKomma) {
   EXPECT_EQ(zahl(9.999, 2), "10,00");
   EXPECT_EQ(zahl(999.995, 2), "1000,00");
   EXPECT_EQ(zahl(0.995, 2), "1,00");
@@ -73,31 +74,31 @@ TEST(Zahl, UnendlichUndKeineZahlSindNull) {
   EXPECT_EQ(zahl(KeineZahl, 3), "0,000");
 }
 
-TEST(Zahl, StellenAusserhalbVonNullBisFuenfzehnWerdenBegrenzt) {
+TEST(Zahl, StellenAußerhalbVonNullBisFünfzehnWerdenBegrenzt) {
   EXPECT_EQ(zahl(1.5, -3), "2");
   EXPECT_EQ(zahl(1.5, 99), "1,500000000000000");
 }
 
-TEST(Zahl, HaengtNichtVonDerSpracheDesRechnersAb) {
+TEST(Zahl, HängtNichtVonDerSpracheDesRechnersAb) {
   QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
   EXPECT_EQ(zahl(1234.5, 2), "1234,50");
   QLocale::setDefault(QLocale::c());
 }
 
-TEST(Waehrung, GruppiertTausenderUndSetztDasZeichenDahinter) {
-  EXPECT_EQ(Deutsch::waehrung(0), QStringLiteral("0,00 €"));
-  EXPECT_EQ(Deutsch::waehrung(999.99), QStringLiteral("999,99 €"));
-  EXPECT_EQ(Deutsch::waehrung(1000), QStringLiteral("1.000,00 €"));
-  EXPECT_EQ(Deutsch::waehrung(1234.5), QStringLiteral("1.234,50 €"));
-  EXPECT_EQ(Deutsch::waehrung(123456), QStringLiteral("123.456,00 €"));
-  EXPECT_EQ(Deutsch::waehrung(1234567.891), QStringLiteral("1.234.567,89 €"));
+TEST(Währung, GruppiertTausenderUndSetztDasZeichenDahinter) {
+  EXPECT_EQ(Deutsch::währung(0), QStringLiteral("0,00 €"));
+  EXPECT_EQ(Deutsch::währung(999.99), QStringLiteral("999,99 €"));
+  EXPECT_EQ(Deutsch::währung(1000), QStringLiteral("1.000,00 €"));
+  EXPECT_EQ(Deutsch::währung(1234.5), QStringLiteral("1.234,50 €"));
+  EXPECT_EQ(Deutsch::währung(123456), QStringLiteral("123.456,00 €"));
+  EXPECT_EQ(Deutsch::währung(1234567.891), QStringLiteral("1.234.567,89 €"));
 }
 
-TEST(Waehrung, NegativMitMinusDavor) {
-  EXPECT_EQ(Deutsch::waehrung(-1234.5), QStringLiteral("-1.234,50 €"));
-  EXPECT_EQ(Deutsch::waehrung(-123.45), QStringLiteral("-123,45 €"));
-  EXPECT_EQ(Deutsch::waehrung(-123456), QStringLiteral("-123.456,00 €"));
-  EXPECT_EQ(Deutsch::waehrung(-0.001), QStringLiteral("0,00 €"));
+TEST(Währung, NegativMitMinusDavor) {
+  EXPECT_EQ(Deutsch::währung(-1234.5), QStringLiteral("-1.234,50 €"));
+  EXPECT_EQ(Deutsch::währung(-123.45), QStringLiteral("-123,45 €"));
+  EXPECT_EQ(Deutsch::währung(-123456), QStringLiteral("-123.456,00 €"));
+  EXPECT_EQ(Deutsch::währung(-0.001), QStringLiteral("0,00 €"));
 }
 
 TEST(FesteZahl, PunktZweiStellenUndBlanksLinks) {
@@ -112,7 +113,7 @@ TEST(FesteZahl, ZuBreitWirdRechtsAbgeschnitten) {
   EXPECT_EQ(Deutsch::festeZahl(-5, 1), QString());
 }
 
-TEST(Schlicht, KuerzesterTextMitKomma) {
+TEST(Schlicht, KürzesterTextMitKomma) {
   EXPECT_EQ(schlicht(3.5), "3,5");
   EXPECT_EQ(schlicht(12), "12");
   EXPECT_EQ(schlicht(0), "0");
@@ -150,7 +151,7 @@ TEST(Datum, ZweistelligesJahrBisNeunundzwanzigIstZwanzigX) {
   EXPECT_EQ(Deutsch::datum(u"1.5.99"), QDate(1999, 5, 1));
 }
 
-TEST(Datum, BlanksRundherumZaehlenNicht) {
+TEST(Datum, BlanksRundherumZählenNicht) {
   EXPECT_EQ(Deutsch::datum(u"  1.5.2026 "), QDate(2026, 5, 1));
   EXPECT_FALSE(Deutsch::datum(u"1. 5.2026"));
 }
@@ -197,7 +198,7 @@ TEST(Datum, AndereFormenSindKeineDaten) {
     EXPECT_FALSE(Deutsch::datum(text)) << QString::fromUtf16(text).toStdString();
 }
 
-TEST(Datum, JederTagLaesstSichSchreibenUndLesen) {
+TEST(Datum, JederTagLässtSichSchreibenUndLesen) {
   for (QDate tag(1899, 12, 1); tag < QDate(2101, 1, 1); tag = tag.addDays(1))
     ASSERT_EQ(Deutsch::datum(Deutsch::datumText(tag)), tag);
 }
@@ -208,7 +209,7 @@ TEST(DatumText, ZehnZeichenOderLeer) {
   EXPECT_EQ(Deutsch::datumText(QDate()), QString());
 }
 
-TEST(Val, FuehrendeZahlMitPunkt) {
+TEST(Val, FührendeZahlMitPunkt) {
   EXPECT_EQ(Deutsch::val(u"12"), 12);
   EXPECT_EQ(Deutsch::val(u"1.5"), 1.5);
   EXPECT_EQ(Deutsch::val(u"1,5"), 1);
@@ -219,7 +220,7 @@ TEST(Val, FuehrendeZahlMitPunkt) {
   EXPECT_EQ(Deutsch::val(u"1.2.3"), 1.2);
 }
 
-TEST(Val, BlanksWerdenUebergangen) {
+TEST(Val, BlanksWerdenÜbergangen) {
   EXPECT_EQ(Deutsch::val(u"  1 2 3 "), 123);
   EXPECT_EQ(Deutsch::val(u"- 5"), -5);
   EXPECT_EQ(Deutsch::val(u"\t4\r\n2"), 42);
@@ -242,11 +243,11 @@ TEST(Val, OhneZahlNull) {
 }
 
 TEST(Val, RiesigeZahlenWerdenNieUnendlich) {
-  constexpr double groesste = std::numeric_limits<double>::max();
-  EXPECT_EQ(Deutsch::val(u"1e999"), groesste);
-  EXPECT_EQ(Deutsch::val(u"-1e999"), -groesste);
-  EXPECT_EQ(Deutsch::val(u"1e99999999999999999999"), groesste);
-  EXPECT_EQ(Deutsch::val(QString(400, u'9')), groesste);
+  constexpr double größte = std::numeric_limits<double>::max();
+  EXPECT_EQ(Deutsch::val(u"1e999"), größte);
+  EXPECT_EQ(Deutsch::val(u"-1e999"), -größte);
+  EXPECT_EQ(Deutsch::val(u"1e99999999999999999999"), größte);
+  EXPECT_EQ(Deutsch::val(QString(400, u'9')), größte);
   EXPECT_EQ(Deutsch::val(u"1e-999"), 0);
   EXPECT_EQ(Deutsch::val(QString(QStringLiteral("0.") + QString(400, u'0') + u'1')), 0);
   EXPECT_EQ(
@@ -266,7 +267,7 @@ TEST(Val, BeliebigerTextGibtImmerEineEndlicheZahl) {
   }
 }
 
-TEST(Einfach, KuerzesterDezimalwertDesFloat) {
+TEST(Einfach, KürzesterDezimalwertDesFloat) {
   EXPECT_EQ(Deutsch::einfach(3.33), 3.33);
   EXPECT_EQ(Deutsch::einfach(static_cast<double>(3.33F)), 3.33);
   EXPECT_EQ(Deutsch::einfach(10.0 / 3), 3.3333333);
@@ -280,7 +281,7 @@ TEST(Einfach, NullHatKeinVorzeichen) {
   EXPECT_EQ(Deutsch::einfach(1e-60), 0);
 }
 
-TEST(Einfach, AusserhalbDesBereichsBleibtDerWert) {
+TEST(Einfach, AußerhalbDesBereichsBleibtDerWert) {
   EXPECT_EQ(Deutsch::einfach(1e39), 1e39);
   EXPECT_EQ(Deutsch::einfach(-1e300), -1e300);
   EXPECT_EQ(Deutsch::einfach(Unendlich), Unendlich);
@@ -297,15 +298,15 @@ TEST(Einfach, ZweimalIstWieEinmalUndDerFloatBleibt) {
   }
 }
 
-TEST(Waehrungswert, VierStellenHalbeZurGeraden) {
-  EXPECT_EQ(Deutsch::waehrungswert(1.00005), 1.0);
-  EXPECT_EQ(Deutsch::waehrungswert(1.00015), 1.0002);
-  EXPECT_EQ(Deutsch::waehrungswert(1.000051), 1.0001);
-  EXPECT_EQ(Deutsch::waehrungswert(-1.00015), -1.0002);
-  EXPECT_EQ(Deutsch::waehrungswert(12.5), 12.5);
-  EXPECT_EQ(Deutsch::waehrungswert(0.00005), 0);
-  EXPECT_EQ(Deutsch::waehrungswert(0.00006), 0.0001);
-  EXPECT_EQ(Deutsch::waehrungswert(123456789.1234), 123456789.1234);
+TEST(Währungswert, VierStellenHalbeZurGeraden) {
+  EXPECT_EQ(Deutsch::währungswert(1.00005), 1.0);
+  EXPECT_EQ(Deutsch::währungswert(1.00015), 1.0002);
+  EXPECT_EQ(Deutsch::währungswert(1.000051), 1.0001);
+  EXPECT_EQ(Deutsch::währungswert(-1.00015), -1.0002);
+  EXPECT_EQ(Deutsch::währungswert(12.5), 12.5);
+  EXPECT_EQ(Deutsch::währungswert(0.00005), 0);
+  EXPECT_EQ(Deutsch::währungswert(0.00006), 0.0001);
+  EXPECT_EQ(Deutsch::währungswert(123456789.1234), 123456789.1234);
 }
 
 TEST(Gerade, HalbeZurGeradenZahl) {
@@ -318,6 +319,29 @@ TEST(Gerade, HalbeZurGeradenZahl) {
   EXPECT_EQ(Deutsch::gerade(2.51), 3);
   EXPECT_EQ(Deutsch::gerade(9.5), 10);
   EXPECT_EQ(Deutsch::gerade(1e18), 1e18);
+}
+
+// Short decimals are known at sight; what they give must be what the long way gives.
+TEST(Einfach, GibtFürKurzeZahlenSieSelbst) {
+  for (int n = 1; n < 20'000'000; n += n < 1'000'000 ? 7 : 101) {
+    for (const double einheit : {1.0, 10.0, 100.0, 1000.0, 10000.0, 100000.0}) {
+      const double zahl = n / einheit;
+      char puffer[64];
+      const auto ende = std::to_chars(puffer, puffer + sizeof puffer, static_cast<float>(zahl)).ptr;
+      double erwartet = 0;
+      std::from_chars(puffer, ende, erwartet);
+      ASSERT_EQ(Deutsch::einfach(zahl), erwartet) << zahl;
+      ASSERT_EQ(Deutsch::einfach(-zahl), -erwartet) << zahl;
+    }
+  }
+}
+
+TEST(Gerundet, ZähltDieStellenVomMaßAn) {
+  EXPECT_EQ(Deutsch::gerundet(0.04999999999994543, 1234.5, 15), 0.05);
+  EXPECT_EQ(Deutsch::gerundet(4.4e-16, 10, 15), 0);
+  EXPECT_EQ(Deutsch::gerundet(12.345, 12.3, 3), 12.3);
+  EXPECT_EQ(Deutsch::gerundet(1254, 5000, 3), 1250);
+  EXPECT_EQ(Deutsch::gerundet(-0.125, 0.5, 2), -0.12);
 }
 
 }  // namespace

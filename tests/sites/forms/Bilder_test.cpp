@@ -22,18 +22,18 @@ class OrteBild : public Orteprobe, public ::testing::WithParamInterface<int> {
   }
 
  private:
-  const Schriftgroesse m_schrift{GetParam()};
+  const Schriftgröße m_schrift{GetParam()};
 };
 
 TEST_P(OrteBild, PasstAufDenBildschirmUndJederKnopfIstLesbar) {
-  oeffne();
+  öffne();
   passtAufKleinenSchirm(*form);
   for (int nummer = 0; nummer < 3; ++nummer) {
     zumReiter(nummer);
     const QStringList listen = {"listandorte", "lijepflanze", "lipflanzen"};
-    waehle(listen[nummer], 0);
+    wähle(listen[nummer], 0);
     QTest::qWait(1);
-    knoepfeSindLesbar(*form);
+    knöpfeSindLesbar(*form);
     bild(QString::number(nummer));
   }
 }
@@ -42,13 +42,13 @@ TEST_P(OrteBild, PasstAufDenBildschirmUndJederKnopfIstLesbar) {
 TEST_P(OrteBild, LeerStehenDieVorgabenInDenEingaben) {
   for (const char* tabelle : {"Standorte", "Pflanzen", "Standorte_Pflanzen"})
     db().Execute(QString("delete from %1").arg(tabelle));
-  oeffne();
+  öffne();
   const QStringList erste = {"sevtstandort_7", "sevtje_2", "sevt_3"};
   const QStringList vorgaben = {"10", "", "5"};
   for (int nummer = 0; nummer < 3; ++nummer) {
     if (nummer == 1) {
       standort("Hof");
-      oeffne();
+      öffne();
     }
     zumReiter(nummer);
     QTest::qWait(1);
@@ -58,6 +58,6 @@ TEST_P(OrteBild, LeerStehenDieVorgabenInDenEingaben) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Schriftgroessen, OrteBild, ::testing::Values(100, 150));
+INSTANTIATE_TEST_SUITE_P(Schriftgrößen, OrteBild, ::testing::Values(100, 150));
 
 }  // namespace

@@ -8,35 +8,35 @@ namespace {
 
 class JeStandortReiter : public ZweiOrte {};
 
-TEST_F(JeStandortReiter, ZeigtDiePflanzenDesGewaehltenStandorts) {
+TEST_F(JeStandortReiter, ZeigtDiePflanzenDesGewähltenStandorts) {
   tracht(hof, "Raps", 60);
   tracht(hof, "Linde", 25);
-  oeffne();
+  öffne();
   zumStandort(1);
   EXPECT_EQ(liste("lijeort")->zelle(1, "Standort"), "Hof");
   ASSERT_EQ(liste("lijepflanze")->zeilen(), 2);
   EXPECT_EQ(liste("lijepflanze")->zelle(0, "Pflanze"), "Linde");
   EXPECT_EQ(text("bezproz"), "85");
-  waehle("lijeort", 0);
+  wähle("lijeort", 0);
   EXPECT_EQ(liste("lijepflanze")->zeilen(), 0);
   EXPECT_EQ(text("bezproz"), "0");
-  EXPECT_EQ(feld("sevtje_0")->liste(), QStringList({"Linde", "Raps"}));
+  EXPECT_EQ(feld("Pflanzen je Standort", "Pflanze")->liste(), QStringList({"Linde", "Raps"}));
 }
 
 TEST_F(JeStandortReiter, BeginntMitDemStandortDesErstenReitersUndNimmtIhnMit) {
-  oeffne();
-  waehle("listandorte", 1);
+  öffne();
+  wähle("listandorte", 1);
   zumReiter(1);
   EXPECT_EQ(liste("lijeort")->aktuelleZeile(), 1);
-  waehle("lijeort", 0);
+  wähle("lijeort", 0);
   EXPECT_EQ(liste("listandorte")->aktuelleZeile(), 0);
   zumReiter(0);
-  EXPECT_EQ(inhalt("sevtstandort_0"), "Heide");
+  EXPECT_EQ(inhalt("Standort"), "Heide");
 }
 
-TEST_F(JeStandortReiter, AuchNachSortierenGehoertDieZeileZumGewaehltenStandort) {
+TEST_F(JeStandortReiter, AuchNachSortierenGehörtDieZeileZumGewähltenStandort) {
   tracht(heide, "Raps", 60);
-  oeffne();
+  öffne();
   liste("listandorte")->sortiere(0, Qt::DescendingOrder);
   zumStandort(0);
   EXPECT_EQ(liste("lijeort")->zelle(0, "Standort"), "Heide");
@@ -46,19 +46,19 @@ TEST_F(JeStandortReiter, AuchNachSortierenGehoertDieZeileZumGewaehltenStandort) 
   EXPECT_EQ(anzahl("Standorte_Pflanzen", QString("Standort_Kennung = %1").arg(heide)), 2);
 }
 
-TEST_F(JeStandortReiter, WerEinePflanzeNachschlaegtBehaeltWasErGetipptHat) {
-  oeffne();
+TEST_F(JeStandortReiter, WerEinePflanzeNachschlägtBehältWasErGetipptHat) {
+  öffne();
   zumStandort(1);
   tippeTracht("Raps", "500", "60");
   zumReiter(2);
   zumReiter(1);
-  EXPECT_EQ(inhalt("sevtje_0"), "Raps");
-  EXPECT_EQ(inhalt("sevtje_1"), "500");
-  EXPECT_EQ(inhalt("sevtje_2"), "60");
+  EXPECT_EQ(inhalt("Pflanzen je Standort", "Pflanze"), "Raps");
+  EXPECT_EQ(inhalt("Entfernung m"), "500");
+  EXPECT_EQ(inhalt("Anteil in %"), "60");
 }
 
 TEST_F(JeStandortReiter, NeuSchreibtMitDerKennungDesStandorts) {
-  oeffne();
+  öffne();
   zumStandort(1);
   tippeTracht("Raps", "500", "60");
   klicke("neuje_0");
@@ -74,7 +74,7 @@ TEST_F(JeStandortReiter, NeuSchreibtMitDerKennungDesStandorts) {
 }
 
 TEST_F(JeStandortReiter, SechzigUndVierzigGehenEinProzentMehrNicht) {
-  oeffne();
+  öffne();
   zumStandort(1);
   tippeTracht("Raps", "500", "60");
   klicke("neuje_0");
@@ -88,27 +88,27 @@ TEST_F(JeStandortReiter, SechzigUndVierzigGehenEinProzentMehrNicht) {
   EXPECT_EQ(anzahl("Standorte_Pflanzen"), 2);
 }
 
-TEST_F(JeStandortReiter, AusSechzigWirdNeunundfuenfzigAberNichtEinundsechzig) {
+TEST_F(JeStandortReiter, AusSechzigWirdNeunundfünfzigAberNichtEinundsechzig) {
   tracht(hof, "Linde", 40);
   tracht(hof, "Raps", 60);
-  oeffne();
+  öffne();
   zumStandort(1);
-  waehle("lijepflanze", 1);
-  EXPECT_EQ(inhalt("sevtje_0"), "Raps");
-  EXPECT_EQ(inhalt("sevtje_1"), "100");
-  tippe("sevtje_2", "61");
+  wähle("lijepflanze", 1);
+  EXPECT_EQ(inhalt("Pflanzen je Standort", "Pflanze"), "Raps");
+  EXPECT_EQ(inhalt("Entfernung m"), "100");
+  tippe("Anteil in %", "61");
   boxen.hinweis(Weil +
                 "...der prozentuale Anteil bei den Pflanzen am Standort nicht über 100 sein darf.");
   klicke("neuje_1");
   EXPECT_EQ(wert("select Proz_Anteil from Standorte_Pflanzen where Pflanze = 'Raps'").toInt(), 60);
-  tippe("sevtje_2", "59");
+  tippe("Anteil in %", "59");
   klicke("neuje_1");
   EXPECT_EQ(wert("select Proz_Anteil from Standorte_Pflanzen where Pflanze = 'Raps'").toInt(), 59);
   EXPECT_EQ(text("bezproz"), "99");
 }
 
-TEST_F(JeStandortReiter, AlleGruendeInIhrerFolge) {
-  oeffne();
+TEST_F(JeStandortReiter, AlleGründeInIhrerFolge) {
+  öffne();
   zumStandort(1);
   boxen.hinweis(Weil +
                 "...die Pflanze angegeben werden muß.\r\n"
@@ -121,8 +121,8 @@ TEST_F(JeStandortReiter, AlleGruendeInIhrerFolge) {
   EXPECT_EQ(anzahl("Standorte_Pflanzen"), 0);
 }
 
-TEST_F(JeStandortReiter, UnbekanntePflanzeWirdGespeichertUndAendertDieTrachtzeitNicht) {
-  oeffne();
+TEST_F(JeStandortReiter, UnbekanntePflanzeWirdGespeichertUndÄndertDieTrachtzeitNicht) {
+  öffne();
   zumStandort(1);
   tippeTracht("Wunderkraut", "10", "5");
   klicke("neuje_0");
@@ -133,7 +133,7 @@ TEST_F(JeStandortReiter, UnbekanntePflanzeWirdGespeichertUndAendertDieTrachtzeit
 }
 
 TEST_F(JeStandortReiter, EinePflanzeDarfMehrmalsAnEinemStandortStehen) {
-  oeffne();
+  öffne();
   zumStandort(1);
   tippeTracht("Raps", "500", "10");
   klicke("neuje_0");
@@ -142,20 +142,20 @@ TEST_F(JeStandortReiter, EinePflanzeDarfMehrmalsAnEinemStandortStehen) {
   EXPECT_EQ(text("bezproz"), "20");
 }
 
-TEST_F(JeStandortReiter, LoeschenZeigtDieSummeNeu) {
+TEST_F(JeStandortReiter, LöschenZeigtDieSummeNeu) {
   tracht(hof, "Linde", 40);
   tracht(hof, "Raps", 60);
-  TZ_Variablen::EinstellungenZahl[55] = 1;
-  oeffne();
+  TZ_Variablen::EinstellungenZahl[Zahlslots.löschabfrage] = 1;
+  öffne();
   zumStandort(1);
   boxen.hinweis("Bitte markieren Sie zuerst den Datensatz, den Sie löschen möchten.");
   klicke("lschje");
-  waehle("lijepflanze", 0);
-  boxen.frage(Loeschfrage, true);
+  wähle("lijepflanze", 0);
+  boxen.frage(Löschfrage, true);
   klicke("lschje");
   EXPECT_EQ(anzahl("Standorte_Pflanzen"), 1);
   EXPECT_EQ(text("bezproz"), "60");
-  EXPECT_EQ(inhalt("sevtje_0"), "Raps");
+  EXPECT_EQ(inhalt("Pflanzen je Standort", "Pflanze"), "Raps");
 }
 
 }  // namespace

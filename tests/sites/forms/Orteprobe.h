@@ -9,9 +9,9 @@
 
 class Orteprobe : public Formularprobe<TV_Pflanzen_Standorte, Ortebetrieb> {
  protected:
-  void oeffne(const QString& modus = "0") {
+  void öffne(const QString& modus = "0") {
     TZ_Variablen::FormModus = modus;
-    Formularprobe::oeffne();
+    Formularprobe::öffne();
   }
   QString text(const QString& name) { return kind<QLabel>(name)->text(); }
   int reiter() { return kind<QTabWidget>("reiter")->currentIndex(); }
@@ -20,14 +20,14 @@ class Orteprobe : public Formularprobe<TV_Pflanzen_Standorte, Ortebetrieb> {
     QTest::mouseClick(leiste, Qt::LeftButton, {}, leiste->tabRect(nummer).center());
   }
   void tippePflanze(const QString& name, const QString& von, const QString& bis) {
-    tippe("sevt_0", name);
-    tippe("sevt_1", von);
-    tippe("sevt_2", bis);
+    tippe("Pflanzen", "Pflanze", name);
+    tippe("Weidezeit von", von);
+    tippe("Weidezeit bis", bis);
   }
   void tippeTracht(const QString& name, const QString& entfernung, const QString& anteil) {
-    tippe("sevtje_0", name);
-    tippe("sevtje_1", entfernung);
-    tippe("sevtje_2", anteil);
+    tippe("Pflanzen je Standort", "Pflanze", name);
+    tippe("Entfernung m", entfernung);
+    tippe("Anteil in %", anteil);
   }
 };
 
@@ -44,7 +44,7 @@ class ZweiOrte : public Orteprobe {
   // The tab of the plants at a site, with the site chosen.
   void zumStandort(int zeile) {
     zumReiter(1);
-    waehle("lijeort", zeile);
+    wähle("lijeort", zeile);
   }
   qint64 hof = 0;
   qint64 heide = 0;

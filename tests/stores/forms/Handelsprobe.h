@@ -17,10 +17,10 @@ class Handelsprobe : public Formularprobe<TV_EinVerkauf_Lager, Handelsbetrieb> {
  protected:
   enum Reiter { Einkauf, Verkauf, Lager };
 
-  void oeffne(int reiter) { oeffneMit(QString::number(reiter)); }
-  void oeffneMit(const QString& modus) {
+  void öffne(int reiter) { öffneMit(QString::number(reiter)); }
+  void öffneMit(const QString& modus) {
     TZ_Variablen::FormModus = modus;
-    Formularprobe::oeffne();
+    Formularprobe::öffne();
   }
   // The texts of all inputs of a tab, joined by "|".
   QString inhalte(const QString& tab) {
@@ -36,26 +36,25 @@ class Handelsprobe : public Formularprobe<TV_EinVerkauf_Lager, Handelsbetrieb> {
     QTabBar* leiste = kind<QTabWidget>("reiter")->findChild<QTabBar*>();
     QTest::mouseClick(leiste, Qt::LeftButton, {}, leiste->tabRect(nummer).center());
   }
-  void fuegeEin(const QString& name, const QString& neu) {
+  static void fügeEin(Eingabefeld* f, const QString& neu) {
     QApplication::clipboard()->setText(neu);
-    Eingabefeld* f = feld(name);
     f->setFocus();
     f->selectAll();
     QTest::keyClick(f, Qt::Key_V, Qt::ControlModifier);
   }
   void tippeVerkauf(const QString& produkt, const QString& menge, const QString& abnehmer = {}) {
-    tippe("sevtverkauf_1", produkt);
-    tippe("sevtverkauf_3", abnehmer);
-    tippe("sevtverkauf_4", menge);
+    tippe("Verkäufe", "Produkt", produkt);
+    tippe("Abnehmer", abnehmer);
+    tippe("Verkäufe", "Menge", menge);
   }
   void tippeEinkauf(const QString& produkt, const QString& menge, const QString& lieferant = {}) {
-    tippe("sevteinkauf_1", produkt);
-    tippe("sevteinkauf_3", lieferant);
-    tippe("sevteinkauf_4", menge);
+    tippe("Einkäufe", "Produkt", produkt);
+    tippe("Lieferant", lieferant);
+    tippe("Einkäufe", "Menge", menge);
   }
   void tippeLager(const QString& produkt, const QString& zugang, const QString& abgang) {
-    tippe("sevthonig_1", produkt);
-    tippe("sevthonig_2", zugang);
-    tippe("sevthonig_3", abgang);
+    tippe("Produkt (Sorte)", produkt);
+    tippe("Eingang (kg)", zugang);
+    tippe("Ausgang (kg)", abgang);
   }
 };

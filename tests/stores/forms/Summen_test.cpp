@@ -8,16 +8,16 @@ class Summenstand : public Handelsprobe {
   bool veraltet() { return kind<QLabel>("summenstand")->isVisible(); }
 };
 
-TEST_F(Summenstand, FrischGeoeffnetSindSieAktuell) {
+TEST_F(Summenstand, FrischGeöffnetSindSieAktuell) {
   verkaufe("Honig", "3");
-  oeffne(Verkauf);
+  öffne(Verkauf);
   EXPECT_FALSE(veraltet());
 }
 
 TEST_F(Summenstand, NachEinemVerkaufSindSieAltBisZumKnopf) {
-  oeffne(Verkauf);
+  öffne(Verkauf);
   tippeVerkauf("Kerzen", "3");
-  tippe("sevtverkauf_6", "12,50");
+  tippe("Einnahmen", "12,50");
   const QString vorher = summen();
   klicke("neuverkauf_0");
   EXPECT_TRUE(veraltet());
@@ -28,16 +28,16 @@ TEST_F(Summenstand, NachEinemVerkaufSindSieAltBisZumKnopf) {
   EXPECT_EQ(summen(), "Einkauf: 0,00 €   Verkauf: 12,50 €   Summe: 12,50 €");
 }
 
-TEST_F(Summenstand, NachDemLoeschenSindSieAlt) {
+TEST_F(Summenstand, NachDemLöschenSindSieAlt) {
   verkaufe("Kerzen", "3");
-  oeffne(Verkauf);
-  waehle("liverkauf", 0);
+  öffne(Verkauf);
+  wähle("liverkauf", 0);
   klicke("lschverkauf");
   EXPECT_TRUE(veraltet());
 }
 
-TEST_F(Summenstand, EineLagerbuchungAendertSieNicht) {
-  oeffne(Lager);
+TEST_F(Summenstand, EineLagerbuchungÄndertSieNicht) {
+  öffne(Lager);
   tippeLager("Raps", "5", "0");
   klicke("neuhonig_0");
   EXPECT_FALSE(veraltet());

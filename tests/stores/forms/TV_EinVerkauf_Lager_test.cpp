@@ -12,8 +12,8 @@ class Handelssummen : public Handelsprobe {};
 
 // ---- the form ----
 
-TEST_F(TVEinVerkaufLager, TitelReiterBloeckeUndKnoepfe) {
-  oeffne(Einkauf);
+TEST_F(TVEinVerkaufLager, TitelReiterBlöckeUndKnöpfe) {
+  öffne(Einkauf);
   EXPECT_EQ(form->objectName(), "TV_EinVerkauf_Lager");
   EXPECT_EQ(form->windowTitle(), "Ein- und Verkäufe / Honiglager");
   auto* reiter = kind<QTabWidget>("reiter");
@@ -37,14 +37,14 @@ TEST_F(TVEinVerkaufLager, TitelReiterBloeckeUndKnoepfe) {
   EXPECT_EQ(kind<QPushButton>("beenden")->text(), "&Schließen");
 }
 
-TEST_F(TVEinVerkaufLager, FormModusWaehltDenReiter) {
+TEST_F(TVEinVerkaufLager, FormModusWähltDenReiter) {
   for (const int nummer : {0, 1, 2}) {
-    oeffne(nummer);
+    öffne(nummer);
     EXPECT_EQ(reiter(), nummer);
   }
-  EXPECT_TRUE(feld("sevthonig_0")->hasFocus());
+  EXPECT_TRUE(feld("Honiglager", "Datum")->hasFocus());
   for (const char* modus : {"", "x", "3", "-1"}) {
-    oeffneMit(modus);
+    öffneMit(modus);
     EXPECT_EQ(reiter(), 0) << modus;
   }
 }
@@ -52,7 +52,7 @@ TEST_F(TVEinVerkaufLager, FormModusWaehltDenReiter) {
 TEST_F(TVEinVerkaufLager, DieListenZeigenAlleSpaltenUndMerkenIhreBreiten) {
   kaufe("Gläser", "1");
   verkaufe("Honig", "1");
-  oeffne(Einkauf);
+  öffne(Einkauf);
   const auto spalten = [&](const char* name) {
     QStringList alle;
     for (int i = 0; i < liste(name)->spalten(); ++i) {
@@ -67,14 +67,14 @@ TEST_F(TVEinVerkaufLager, DieListenZeigenAlleSpaltenUndMerkenIhreBreiten) {
                                                "Einheit", "Einnahmen", "Charge", "ID"}));
   EXPECT_EQ(spalten("lihonig"), QStringList({"Datum", "Produkt", "Zugang", "Abgang", "Charge",
                                              "Abfülldatum", "Bemerkung", "EVK_ID", "ID"}));
-  EXPECT_EQ(liste("lihonig")->ueberschrift(2), "Eingang (kg)");  // as the inputs
-  EXPECT_EQ(liste("lihonig")->ueberschrift(7), "EVK_ID");
+  EXPECT_EQ(liste("lihonig")->überschrift(2), "Eingang (kg)");  // as the inputs
+  EXPECT_EQ(liste("lihonig")->überschrift(7), "EVK_ID");
   const QString ablage = m_ordner.path() + "/TOVA2.LAY";
   Fensterablage::setDatei(ablage);
   for (const auto& [nummer, name] : {std::pair(0, "lieinkauf"), {1, "liverkauf"}, {2, "lihonig"}}) {
-    oeffne(nummer);
+    öffne(nummer);
     liste(name)->setColumnWidth(1, 200 + nummer);
-    oeffne(nummer);
+    öffne(nummer);
     EXPECT_EQ(liste(name)->columnWidth(1), 200 + nummer) << name;
   }
   form.reset();
@@ -100,12 +100,12 @@ TEST_F(TVEinVerkaufLager, GelesenWerdenLagerEinkaufVerkaufDannDiePicklistenDannD
     EXPECT_EQ(feld(produkt)->liste(), QStringList("Honig")) << produkt;
 }
 
-TEST_F(TVEinVerkaufLager, BeimOeffnenVorgabenUndDieLetzteZeileAktuell) {
+TEST_F(TVEinVerkaufLager, BeimÖffnenVorgabenUndDieLetzteZeileAktuell) {
   verkaufe("Honig", "2");
   db().Execute("update Verkauf set Datum = ?", {QDate(2006, 8, 1)});
   verkaufe("Wachs", "3");
   db().Execute("insert into Einkauf(Datum, Produkt) values (?, 'Gläser')", {QDate(2006, 1, 1)});
-  oeffne(Verkauf);
+  öffne(Verkauf);
   EXPECT_EQ(inhalte("einkauf"), "20.06.2006||||0||0|");
   EXPECT_EQ(inhalte("verkauf"), "20.06.2006||||0||0|");
   EXPECT_EQ(inhalte("honig"), "20.06.2006||0|0|||");
@@ -116,7 +116,7 @@ TEST_F(TVEinVerkaufLager, BeimOeffnenVorgabenUndDieLetzteZeileAktuell) {
 }
 
 TEST_F(TVEinVerkaufLager, DieselbeInstanzBeginntJedesMalNeu) {
-  oeffne(Verkauf);
+  öffne(Verkauf);
   tippeVerkauf("Honig", "3");
   klicke("neuverkauf_0");
   klicke("comalle");
@@ -127,8 +127,8 @@ TEST_F(TVEinVerkaufLager, DieselbeInstanzBeginntJedesMalNeu) {
   EXPECT_EQ(liste("ligroup")->zeilen(), 0);
 }
 
-TEST_F(TVEinVerkaufLager, WaehrendEineListeLaedtSindDieKnoepfeGesperrt) {
-  oeffne(Verkauf);
+TEST_F(TVEinVerkaufLager, WährendEineListeLädtSindDieKnöpfeGesperrt) {
+  öffne(Verkauf);
   tippeVerkauf("Honig", "3");
   int gelesen = 0;
   for (const char* name : {"liverkauf", "lihonig"})
@@ -144,53 +144,53 @@ TEST_F(TVEinVerkaufLager, WaehrendEineListeLaedtSindDieKnoepfeGesperrt) {
         << qPrintable(knopf->objectName());
 }
 
-TEST_F(TVEinVerkaufLager, EingabetasteDruecktNeuDesReiters) {
-  oeffne(Einkauf);
+TEST_F(TVEinVerkaufLager, EingabetasteDrücktNeuDesReiters) {
+  öffne(Einkauf);
   EXPECT_TRUE(kind<QPushButton>("neueinkauf_0")->isDefault());
   zumReiter(Verkauf);
   EXPECT_TRUE(kind<QPushButton>("neuverkauf_0")->isDefault());
   zumReiter(Lager);
   EXPECT_TRUE(kind<QPushButton>("neuhonig_0")->isDefault());
   tippeLager("Raps", "5", "0");
-  QTest::keyClick(feld("sevthonig_3"), Qt::Key_Return);
+  QTest::keyClick(feld("Ausgang (kg)"), Qt::Key_Return);
   EXPECT_EQ(anzahl("Honiglager"), 1);
   EXPECT_TRUE(offen());
 }
 
-TEST_F(TVEinVerkaufLager, NachDemSpeichernDruecktDieEingabetasteWiederNeu) {
-  oeffne(Lager);
+TEST_F(TVEinVerkaufLager, NachDemSpeichernDrücktDieEingabetasteWiederNeu) {
+  öffne(Lager);
   tippeLager("Raps", "5", "0");
-  QTest::keyClick(feld("sevthonig_3"), Qt::Key_Return);
+  QTest::keyClick(feld("Ausgang (kg)"), Qt::Key_Return);
   EXPECT_TRUE(kind<QPushButton>("neuhonig_0")->isDefault());
-  EXPECT_TRUE(feld("sevthonig_0")->hasFocus());
-  QTest::keyClick(feld("sevthonig_0"), Qt::Key_Return);
+  EXPECT_TRUE(feld("Honiglager", "Datum")->hasFocus());
+  QTest::keyClick(feld("Honiglager", "Datum"), Qt::Key_Return);
   EXPECT_EQ(anzahl("Honiglager"), 2);
 }
 
-TEST_F(TVEinVerkaufLager, NachDemLoeschenMitDerTastaturBleibtDerKnopf) {
+TEST_F(TVEinVerkaufLager, NachDemLöschenMitDerTastaturBleibtDerKnopf) {
   for (const char* produkt : {"Honig A", "Honig B"}) verkaufe(produkt, "1");
-  oeffne(Verkauf);
-  waehle("liverkauf", 0);
+  öffne(Verkauf);
+  wähle("liverkauf", 0);
   kind<QPushButton>("lschverkauf")->setFocus();
   QTest::keyClick(kind<QPushButton>("lschverkauf"), Qt::Key_Space);
   EXPECT_EQ(anzahl("Verkauf"), 1);
   EXPECT_TRUE(kind<QPushButton>("lschverkauf")->hasFocus());
-  EXPECT_EQ(inhalt("sevtverkauf_1"), "Honig B");
+  EXPECT_EQ(inhalt("Verkäufe", "Produkt"), "Honig B");
 }
 
-TEST_F(TVEinVerkaufLager, SchliessenUndEscSchliessen) {
-  oeffne(Einkauf);
+TEST_F(TVEinVerkaufLager, SchließenUndEscSchließen) {
+  öffne(Einkauf);
   klicke("beenden");
   EXPECT_FALSE(offen());
-  oeffne(Einkauf);
+  öffne(Einkauf);
   QTest::keyClick(form.get(), Qt::Key_Escape);
   EXPECT_FALSE(offen());
 }
 
-TEST_F(TVEinVerkaufLager, HilfeOeffnetDasThemaDesFormulars) {
+TEST_F(TVEinVerkaufLager, HilfeÖffnetDasThemaDesFormulars) {
   QString thema;
   Formular::setHilfe([&](QWidget*, const QString& t) { thema = t; });
-  oeffne(Einkauf);
+  öffne(Einkauf);
   klicke("hilfe");
   Formular::setHilfe(nullptr);
   EXPECT_EQ(thema, "TV_EinVerkauf_Lager");
@@ -198,18 +198,18 @@ TEST_F(TVEinVerkaufLager, HilfeOeffnetDasThemaDesFormulars) {
 
 // ---- sums ----
 
-TEST_F(Handelssummen, OhneGeschaefteDreimalNull) {
-  oeffne(Einkauf);
+TEST_F(Handelssummen, OhneGeschäfteDreimalNull) {
+  öffne(Einkauf);
   EXPECT_EQ(summen(), "Einkauf: 0,00 €   Verkauf: 0,00 €   Summe: 0,00 €");
 }
 
-TEST_F(Handelssummen, BeimOeffnenUndAufKnopfdruckNichtNachDemSpeichern) {
+TEST_F(Handelssummen, BeimÖffnenUndAufKnopfdruckNichtNachDemSpeichern) {
   verkaufe("Wachs", "1");
   db().Execute("update Verkauf set Einnahmen = 100");
-  oeffne(Einkauf);
+  öffne(Einkauf);
   EXPECT_EQ(summen(), "Einkauf: 0,00 €   Verkauf: 100,00 €   Summe: 100,00 €");
   tippeEinkauf("Gläser", "1");
-  tippe("sevteinkauf_6", "130,5");
+  tippe("Ausgaben", "130,5");
   klicke("neueinkauf_0");
   EXPECT_EQ(summen(), "Einkauf: 0,00 €   Verkauf: 100,00 €   Summe: 100,00 €");
   klicke("rosumme");

@@ -1,0 +1,6 @@
+// What most tests of windows include; compiled once.
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "fenster.h"

@@ -1,0 +1,46 @@
+#include "platform/database/verbindung/Laufzeile.h"
+
+#include <sqlite3.h>
+
+#include "platform/database/werte/Feldregeln.h"
+#include "platform/locale/Deutsch.h"
+
+int Laufzeile::spalten() const { return sqlite3_column_count(m_stmt); }
+
+bool Laufzeile::istNull(int spalte) const {
+  return sqlite3_column_type(m_stmt, spalte) == SQLITE_NULL;
+}
+
+bool Laufzeile::istText(int spalte) const {
+  return sqlite3_column_type(m_stmt, spalte) == SQLITE_TEXT;
+}
+
+qint64 Laufzeile::ganzzahl(int spalte) const {
+  if (sqlite3_column_type(m_stmt, spalte) == SQLITE_INTEGER)
+    return sqlite3_column_int64(m_stmt, spalte);
+  return Deutsch::ganzzahl(zahl(spalte));
+}
+
+double Laufzeile::zahl(int spalte) const {
+  if (istText(spalte)) return Deutsch::val(text(spalte));
+  return sqlite3_column_double(m_stmt, spalte);
+}
+
+QByteArrayView Laufzeile::rohtext(int spalte) const {
+  if (!istText(spalte)) return {};
+  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(m_stmt, spalte));
+  return {text, static_cast<qsizetype>(sqlite3_column_bytes(m_stmt, spalte))};
+}
+
+QDate Laufzeile::datum(int spalte) const { return Feldregeln::isoDatum(rohtext(spalte)); }
+
+int Laufzeile::jahr(int spalte) const {
+  const QByteArrayView text = rohtext(spalte);
+  if (text.size() != 10 || text[4] != '-') return 0;
+  int jahr = 0;
+  for (int i = 0; i < 4; ++i) {
+    if (text[i] < '0' || text[i] > '9') return 0;
+    jahr = jahr * 10 + (text[i] - '0');
+  }
+  return jahr;
+}
