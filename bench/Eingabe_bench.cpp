@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPushButton>
 
+#include "Blankfenster.h"
 #include "Messwerk.h"
 #include "bookings/Buchungstypen.h"
 #include "bookings/forms/TE_Eingabe.h"
@@ -15,79 +16,83 @@ namespace {
 
 constexpr int honigernte = 1;
 
-int voelker(const benchmark::State& zustand) { return static_cast<int>(zustand.range(0)); }
+int völker(const benchmark::State& zustand) { return static_cast<int>(zustand.range(0)); }
 
 // What stands in the two lists: the bookings of one colony, and each pick list's texts once.
 class BlankeMaske {
  public:
   explicit BlankeMaske(Blank& blank)
       : m_liste(blank.db(), "select * from Honigernte where Volk_ID = ?1 order by Datum") {
-    for (const Buchungsslot& platz : buchungstyp(honigernte).plaetze) {
-      if (platz.listenFeld.isEmpty()) continue;
-      m_erster.push_back(std::make_unique<Blank::Anweisung>(
-          blank.db(), QStringLiteral("select min(%1) from Honigernte")
-                          .arg(platz.listenFeld)
-                          .toUtf8()
-                          .constData()));
-      m_naechster.push_back(std::make_unique<Blank::Anweisung>(
-          blank.db(), QStringLiteral("select min(%1) from Honigernte where %1 > ?1")
-                          .arg(platz.listenFeld)
-                          .toUtf8()
-                          .constData()));
-    }
+    for (const Buchungsslot& platz : buchungstyp(honigernte).plätze)
+      if (!platz.listenFeld.isEmpty())
+        m_auswahl.push_back(std::make_unique<Blank::Sprungliste>(blank.db(), "Honigernte",
+                                                                 platz.listenFeld.toStdString()));
   }
-  void lese(qint64 volkId) {
+  // Gives the number of bookings.
+  int lese(qint64 volkId) {
     m_liste.binde(1, volkId);
-    m_liste.lese();
-    for (size_t i = 0; i < m_erster.size(); ++i) {
-      std::string text = m_erster[i]->text();
-      while (!text.empty()) {
-        m_naechster[i]->binde(1, text.c_str());
-        text = m_naechster[i]->text();
-      }
-    }
+    const int zeilen = m_liste.lese();
+    for (auto& eine : m_auswahl) eine->lese();
+    return zeilen;
   }
 
  private:
   Blank::Anweisung m_liste;
-  std::vector<std::unique_ptr<Blank::Anweisung>> m_erster;
-  std::vector<std::unique_ptr<Blank::Anweisung>> m_naechster;
+  std::vector<std::unique_ptr<Blank::Sprungliste>> m_auswahl;
 };
 
-void MaskeOeffnen_programm(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
+void MaskeÖffnen_programm(benchmark::State& zustand) {
+  betriebÖffnen(völker(zustand));
   Testliste liste;
   liste.setAktuelleZeile(0);
   BuchungsArt = honigernte;
   for (auto _ : zustand) {
     TE_Eingabe form(nullptr);
+    form.laden();
     form.show();
     QApplication::processEvents();
     ListeNeuLesen = 0;
     form.close();
   }
 }
-void MaskeOeffnen_blank(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
+Bauteilzahl maskenteile() {
+  Testliste liste;
+  liste.setAktuelleZeile(0);
+  BuchungsArt = honigernte;
+  TE_Eingabe vorbild(nullptr);
+  vorbild.show();
+  QApplication::processEvents();
+  ListeNeuLesen = 0;
+  vorbild.close();
+  return zähle(vorbild);
+}
+
+// A window of as many bare controls, and what stands in its lists.
+void MaskeÖffnen_blank(benchmark::State& zustand) {
+  betriebÖffnen(völker(zustand));
+  const Bauteilzahl zahl = maskenteile();
   Blank blank(DatenbankPfad);
   Blank::Anweisung register_(
       blank.db(),
       "select Volknr, Volkname, Standort, ID from Bienenvolk where Akt_im_Bestand = 'X'");
-  Blank::Anweisung orte(blank.db(), "select distinct Standort from Bienenvolk order by Standort");
   BlankeMaske maske(blank);
   for (auto _ : zustand) {
-    register_.lese();
-    orte.lese();
-    maske.lese(1);
+    Blankfenster fenster(zahl);
+    register_.lese();  // the sites of the colonies come along
+    fenster.fülle(maske.lese(1), QStringLiteral("31.08.2026"));
+    fenster.show();
+    QApplication::processEvents();
+    fenster.close();
   }
 }
 
-void NaechstesVolk_programm(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
+void NächstesVolk_programm(benchmark::State& zustand) {
+  betriebÖffnen(völker(zustand));
   Testliste liste;
   liste.setAktuelleZeile(0);
   BuchungsArt = honigernte;
   TE_Eingabe form(nullptr);
+  form.laden();
   form.show();
   QApplication::processEvents();
   auto* weiter = form.findChild<QPushButton*>("nextvolk1_1");
@@ -95,21 +100,28 @@ void NaechstesVolk_programm(benchmark::State& zustand) {
   ListeNeuLesen = 0;
   form.close();
 }
-void NaechstesVolk_blank(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
+void NächstesVolk_blank(benchmark::State& zustand) {
+  betriebÖffnen(völker(zustand));
+  Blankfenster fenster(maskenteile());
+  fenster.show();
+  QApplication::processEvents();
   Blank blank(DatenbankPfad);
   BlankeMaske maske(blank);
   qint64 id = 0;
-  for (auto _ : zustand) maske.lese(id = id % voelker(zustand) + 1);
+  for (auto _ : zustand) {
+    const int zeilen = maske.lese(id = id % völker(zustand) + 1);
+    fenster.fülle(zeilen, QString::number(id));
+  }
+  fenster.close();
 }
 
-void groessen(benchmark::internal::Benchmark* messung) {
+void größen(benchmark::internal::Benchmark* messung) {
   messung->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 }
 
-BENCHMARK(MaskeOeffnen_programm)->Name("MaskeOeffnen/programm")->Apply(groessen);
-BENCHMARK(MaskeOeffnen_blank)->Name("MaskeOeffnen/blank")->Apply(groessen);
-BENCHMARK(NaechstesVolk_programm)->Name("NaechstesVolk/programm")->Apply(groessen);
-BENCHMARK(NaechstesVolk_blank)->Name("NaechstesVolk/blank")->Apply(groessen);
+BENCHMARK(MaskeÖffnen_programm)->Name("MaskeOeffnen/programm")->Apply(größen);
+BENCHMARK(MaskeÖffnen_blank)->Name("MaskeOeffnen/blank")->Apply(größen);
+BENCHMARK(NächstesVolk_programm)->Name("NaechstesVolk/programm")->Apply(größen);
+BENCHMARK(NächstesVolk_blank)->Name("NaechstesVolk/blank")->Apply(größen);
 
 }  // namespace

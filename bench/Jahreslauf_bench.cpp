@@ -12,11 +12,11 @@ constexpr int optionen = 30;
 constexpr int tageJeOption = 8;
 const char* const jahresbeginn = "01.01.2026";
 
-int voelker(const benchmark::State& zustand) { return static_cast<int>(zustand.range(0)); }
+int völker(const benchmark::State& zustand) { return static_cast<int>(zustand.range(0)); }
 
 // Thirty options of eight days each; every third one asks for the newest booking that settles it.
 void vorbereiten(int anzahl) {
-  betriebOeffnen(anzahl);
+  betriebÖffnen(anzahl);
   HeuteText = QString(jahresbeginn);
   DB.Execute("update Bienenvolk set Akt_im_Bestand = 'X'");
   DB.Execute("delete from Arbeitsplanoptionen");
@@ -30,7 +30,7 @@ void vorbereiten(int anzahl) {
 void leeren() { DB.Execute("delete from Termine"); }
 
 void Jahreslauf_programm(benchmark::State& zustand) {
-  vorbereiten(voelker(zustand));
+  vorbereiten(völker(zustand));
   Terminfragen fragen;
   fragen.frage = [](const QString&, bool) { return true; };
   fragen.hinweis = [](const QString&) {};
@@ -47,7 +47,7 @@ void Jahreslauf_programm(benchmark::State& zustand) {
 
 // The same rows, one commit.
 void Jahreslauf_blank(benchmark::State& zustand) {
-  vorbereiten(voelker(zustand));
+  vorbereiten(völker(zustand));
   const Daten ids = DB.Lesen("select ID from Bienenvolk where Akt_im_Bestand = 'X'");
   std::vector<std::string> tage;
   for (int i = 0; i < tageJeOption; ++i)
@@ -62,27 +62,27 @@ void Jahreslauf_blank(benchmark::State& zustand) {
     zustand.PauseTiming();
     leeren();
     zustand.ResumeTiming();
-    blank.fuehreAus("begin immediate");
+    blank.führeAus("begin immediate");
     for (int v = 0; v < ids->zeilen(); ++v)
       for (const std::string& text : texte)
         for (const std::string& tag : tage) {
           zeile.binde(1, tag.c_str());
           zeile.binde(2, text.c_str());
           zeile.binde(3, ids->ganzzahl(v, 0));
-          zeile.fuehreAus();
+          zeile.führeAus();
         }
-    blank.fuehreAus("commit");
+    blank.führeAus("commit");
   }
   zustand.counters["Termine"] =
       static_cast<double>(DB.Lesen("select count(*) as n from Termine")->ganzzahl(0, 0));
   betriebVerwerfen();
 }
 
-void groesse(benchmark::internal::Benchmark* messung) {
+void größe(benchmark::internal::Benchmark* messung) {
   messung->Arg(1000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
 }
 
-BENCHMARK(Jahreslauf_programm)->Name("Jahreslauf30/programm")->Apply(groesse);
-BENCHMARK(Jahreslauf_blank)->Name("Jahreslauf30/blank")->Apply(groesse);
+BENCHMARK(Jahreslauf_programm)->Name("Jahreslauf30/programm")->Apply(größe);
+BENCHMARK(Jahreslauf_blank)->Name("Jahreslauf30/blank")->Apply(größe);
 
 }  // namespace

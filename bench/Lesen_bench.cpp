@@ -1,28 +1,32 @@
 // Reading: opening the database, the list of colonies, the panel.
 
+#include <algorithm>
+#include <numeric>
+
 #include "Messwerk.h"
 #include "core/globals.h"
-#include "core/mainform/Liste.h"
-#include "core/mainform/Volkanzeige.h"
+#include "mainform/Volkanzeige.h"
+#include "mainform/Volkliste.h"
 #include "platform/controls/Grid.h"
+#include "platform/database/werte/Kollation.h"
 
 using namespace TZ_Variablen;
 
 namespace {
 
-int voelker(const benchmark::State& zustand) { return static_cast<int>(zustand.range(0)); }
+int völker(const benchmark::State& zustand) { return static_cast<int>(zustand.range(0)); }
 
 // The program checks the file before it opens it; the bare loop only reads the schema.
-void DatenbankOeffnen_programm(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
+void DatenbankÖffnen_programm(benchmark::State& zustand) {
+  betriebÖffnen(völker(zustand));
   for (auto _ : zustand) {
     Workspace bereich;
     Database db = bereich.OpenDatabase(DatenbankPfad);
     benchmark::DoNotOptimize(db.Lesen("select top 1 * from Bienenvolk"));
   }
 }
-void DatenbankOeffnen_blank(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
+void DatenbankÖffnen_blank(benchmark::State& zustand) {
+  betriebÖffnen(völker(zustand));
   for (auto _ : zustand) {
     Blank blank(DatenbankPfad);
     Blank::Anweisung eine(blank.db(), "select * from Bienenvolk limit 1");
@@ -31,8 +35,8 @@ void DatenbankOeffnen_blank(benchmark::State& zustand) {
 }
 
 void ListeLesen_programm(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
-  listenfelderPruefen();
+  betriebÖffnen(völker(zustand));
+  listenfelderPrüfen();
   Grid gitter;
   for (auto _ : zustand) {
     gitter.setDaten(volkliste(DB, Volkfilter::Alles));
@@ -40,25 +44,22 @@ void ListeLesen_programm(benchmark::State& zustand) {
   }
 }
 void ListeLesen_blank(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
-  listenfelderPruefen();
+  betriebÖffnen(völker(zustand));
+  listenfelderPrüfen();
   Blank blank(DatenbankPfad);
-  Blank::Anweisung liste(blank.db(), EinstellungenText[17].toUtf8().constData());
-  Blank::Anweisung bestand(blank.db(),
-                           "select count(*) from Bienenvolk where Akt_im_Bestand = 'X'");
-  Blank::Anweisung abgang(blank.db(),
-                          "select count(*) from Bienenvolk where Akt_im_Bestand is not 'X'");
+  Blank::Anweisung liste(blank.db(), EinstellungenText[Textslots.volkfelder].toUtf8().constData());
+  // Both counts in one pass.
+  Blank::Anweisung anzahl(blank.db(), "select count(*), sum(Akt_im_Bestand = 'X') from Bienenvolk");
   for (auto _ : zustand) {
     liste.lese();
-    bestand.lese();
-    abgang.lese();
+    anzahl.lese();
   }
 }
 
-// With the sort that the user left; the bare loop lets the engine sort.
+// With the sort that the user left; the bare loop sorts the numbers of the rows by ready keys.
 void ListeSortiert_programm(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
-  listenfelderPruefen();
+  betriebÖffnen(völker(zustand));
+  listenfelderPrüfen();
   Grid gitter;
   for (auto _ : zustand) {
     gitter.setDaten(volkliste(DB, Volkfilter::Alles));
@@ -66,19 +67,31 @@ void ListeSortiert_programm(benchmark::State& zustand) {
   }
 }
 void ListeSortiert_blank(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
-  listenfelderPruefen();
+  betriebÖffnen(völker(zustand));
+  listenfelderPrüfen();
   Blank blank(DatenbankPfad);
-  Blank::Anweisung liste(blank.db(),
-                         (EinstellungenText[17] + " order by Volkname").toUtf8().constData());
-  for (auto _ : zustand) liste.lese();
+  Blank::Anweisung liste(blank.db(), EinstellungenText[Textslots.volkfelder].toUtf8().constData());
+  for (auto _ : zustand) {
+    std::vector<std::string> texte;
+    texte.reserve(static_cast<size_t>(völker(zustand)));
+    const int zeilen = liste.leseMit(1, texte);
+    std::vector<QByteArray> schlüssel;
+    schlüssel.reserve(texte.size());
+    for (const std::string& text : texte)
+      schlüssel.push_back(Kollation::schlüssel(QString::fromStdString(text)));
+    std::vector<size_t> folge(static_cast<size_t>(zeilen));
+    std::iota(folge.begin(), folge.end(), size_t{0});
+    std::sort(folge.begin(), folge.end(),
+              [&](size_t a, size_t b) { return schlüssel[a] < schlüssel[b]; });
+    benchmark::DoNotOptimize(folge.data());
+  }
 }
 
 // The panel of one colony after the other, spread over the register.
 class Volkfolge {
  public:
   explicit Volkfolge(int anzahl) : m_anzahl(anzahl) {}
-  qint64 naechstes() { return m_id = (m_id + 37) % m_anzahl + 1; }
+  qint64 nächstes() { return m_id = (m_id + 37) % m_anzahl + 1; }
 
  private:
   int m_anzahl;
@@ -86,14 +99,14 @@ class Volkfolge {
 };
 
 void InfoFenster_programm(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
-  listenfelderPruefen();
-  stockkartenfelderPruefen();
+  betriebÖffnen(völker(zustand));
+  listenfelderPrüfen();
+  stockkartenfelderPrüfen();
   const Daten liste = volkliste(DB, Volkfilter::Alles);
   const int idSpalte = liste->spaltenNummer(u"ID");
-  Volkfolge folge(voelker(zustand));
+  Volkfolge folge(völker(zustand));
   for (auto _ : zustand) {
-    const int zeile = static_cast<int>(folge.naechstes() - 1);
+    const int zeile = static_cast<int>(folge.nächstes() - 1);
     AktVolkID = liste->anzeige(zeile, idSpalte);
     const auto zelle = [&](const QString& spalte) {
       const int nummer = liste->spaltenNummer(spalte);
@@ -104,11 +117,11 @@ void InfoFenster_programm(benchmark::State& zustand) {
   }
 }
 void InfoFenster_blank(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
+  betriebÖffnen(völker(zustand));
   Blank blank(DatenbankPfad);
-  std::vector<std::unique_ptr<Blank::Anweisung>> bloecke;
+  std::vector<std::unique_ptr<Blank::Anweisung>> blöcke;
   const auto dazu = [&](const char* sql) {
-    bloecke.push_back(std::make_unique<Blank::Anweisung>(blank.db(), sql));
+    blöcke.push_back(std::make_unique<Blank::Anweisung>(blank.db(), sql));
   };
   dazu("select * from Honigernte where Volk_ID = ?1 order by Datum desc, ID limit 1");
   dazu(
@@ -121,27 +134,27 @@ void InfoFenster_blank(benchmark::State& zustand) {
         "Arbeiten", "Wanderung", "Gewichtsmessung", "Behandlung", "Königinwechsel", "Notizen"})
     dazu((std::string("select * from ") + tabelle + " where Volk_ID = ?1 order by Datum desc")
              .c_str());
-  Volkfolge folge(voelker(zustand));
+  Volkfolge folge(völker(zustand));
   for (auto _ : zustand) {
-    const qint64 id = folge.naechstes();
-    for (auto& block : bloecke) {
+    const qint64 id = folge.nächstes();
+    for (auto& block : blöcke) {
       block->binde(1, id);
       block->lese();
     }
   }
 }
 
-void groessen(benchmark::internal::Benchmark* messung) {
+void größen(benchmark::internal::Benchmark* messung) {
   messung->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 }
 
-BENCHMARK(DatenbankOeffnen_programm)->Name("DatenbankOeffnen/programm")->Apply(groessen);
-BENCHMARK(DatenbankOeffnen_blank)->Name("DatenbankOeffnen/blank")->Apply(groessen);
-BENCHMARK(ListeLesen_programm)->Name("ListeLesen/programm")->Apply(groessen);
-BENCHMARK(ListeLesen_blank)->Name("ListeLesen/blank")->Apply(groessen);
-BENCHMARK(ListeSortiert_programm)->Name("ListeSortiert/programm")->Apply(groessen);
-BENCHMARK(ListeSortiert_blank)->Name("ListeSortiert/blank")->Apply(groessen);
-BENCHMARK(InfoFenster_programm)->Name("InfoFenster/programm")->Apply(groessen);
-BENCHMARK(InfoFenster_blank)->Name("InfoFenster/blank")->Apply(groessen);
+BENCHMARK(DatenbankÖffnen_programm)->Name("DatenbankOeffnen/programm")->Apply(größen);
+BENCHMARK(DatenbankÖffnen_blank)->Name("DatenbankOeffnen/blank")->Apply(größen);
+BENCHMARK(ListeLesen_programm)->Name("ListeLesen/programm")->Apply(größen);
+BENCHMARK(ListeLesen_blank)->Name("ListeLesen/blank")->Apply(größen);
+BENCHMARK(ListeSortiert_programm)->Name("ListeSortiert/programm")->Apply(größen);
+BENCHMARK(ListeSortiert_blank)->Name("ListeSortiert/blank")->Apply(größen);
+BENCHMARK(InfoFenster_programm)->Name("InfoFenster/programm")->Apply(größen);
+BENCHMARK(InfoFenster_blank)->Name("InfoFenster/blank")->Apply(größen);
 
 }  // namespace

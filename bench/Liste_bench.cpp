@@ -31,8 +31,8 @@ QString ordner() {
 // As an evaluation makes them: names, whole numbers, weights, prices, dates, notes, empty cells.
 const Ausgabeliste& liste() {
   static const Ausgabeliste fertig = [] {
-    constexpr std::array Typen{Feldtyp::Text,     Feldtyp::Lang,  Feldtyp::Einfach,
-                               Feldtyp::Waehrung, Feldtyp::Datum, Feldtyp::Memo};
+    constexpr std::array Typen{Feldtyp::Text,    Feldtyp::Lang,  Feldtyp::Einfach,
+                               Feldtyp::Währung, Feldtyp::Datum, Feldtyp::Memo};
     std::vector<Spalte> spalten;
     for (size_t i = 0; i < Spalten; ++i)
       spalten.push_back({"Spalte_" + QString::number(i), Typen[i % Typen.size()], 0});
@@ -78,32 +78,32 @@ QByteArray bytes(const QString& pfad) {
 }
 
 // Writes the bytes as a C program would, flushed or not.
-void blankSchreiben(const QString& pfad, const QByteArray& inhalt, bool gespuelt) {
+void blankSchreiben(const QString& pfad, const QByteArray& inhalt, bool gespült) {
   QFile datei(pfad);
   if (!datei.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) throw std::runtime_error("open");
-  constexpr qsizetype Stueck = 1 << 20;
-  for (qsizetype i = 0; i < inhalt.size(); i += Stueck)
-    datei.write(inhalt.constData() + i, std::min(Stueck, inhalt.size() - i));
-  if (gespuelt) fsync(datei.handle());
+  constexpr qsizetype Stück = 1 << 20;
+  for (qsizetype i = 0; i < inhalt.size(); i += Stück)
+    datei.write(inhalt.constData() + i, std::min(Stück, inhalt.size() - i));
+  if (gespült) fsync(datei.handle());
 }
 
-void Uebergeben_programm(benchmark::State& zustand) {
+void Übergeben_programm(benchmark::State& zustand) {
   liste();  // made before the clock runs
-  for (auto _ : zustand) Uebergabe::schreiben(ordner() + "gridli.txt", liste());
+  for (auto _ : zustand) Übergabe::schreiben(ordner() + "gridli.txt", liste());
 }
-void Uebergeben_blank(benchmark::State& zustand) {
-  Uebergabe::schreiben(ordner() + "gridli.txt", liste());
+void Übergeben_blank(benchmark::State& zustand) {
+  Übergabe::schreiben(ordner() + "gridli.txt", liste());
   const QByteArray inhalt = bytes(ordner() + "gridli.txt");
   for (auto _ : zustand) blankSchreiben(ordner() + "blank.txt", inhalt, true);
 }
 
 // The bare loop reads the file and finds the beginning of every cell.
 void Laden_programm(benchmark::State& zustand) {
-  Uebergabe::schreiben(ordner() + "gridli.txt", liste());
-  for (auto _ : zustand) benchmark::DoNotOptimize(Uebergabe::lesen(ordner() + "gridli.txt"));
+  Übergabe::schreiben(ordner() + "gridli.txt", liste());
+  for (auto _ : zustand) benchmark::DoNotOptimize(Übergabe::lesen(ordner() + "gridli.txt"));
 }
 void Laden_blank(benchmark::State& zustand) {
-  Uebergabe::schreiben(ordner() + "gridli.txt", liste());
+  Übergabe::schreiben(ordner() + "gridli.txt", liste());
   for (auto _ : zustand) {
     const QByteArray inhalt = bytes(ordner() + "gridli.txt");
     std::vector<const char*> zellen;
@@ -187,8 +187,8 @@ void einmal(benchmark::internal::Benchmark* messung) {
   messung->Arg(Zeilen)->Unit(benchmark::kMillisecond)->UseRealTime();
 }
 
-BENCHMARK(Uebergeben_programm)->Name("ListeUebergeben/programm")->Apply(einmal);
-BENCHMARK(Uebergeben_blank)->Name("ListeUebergeben/blank")->Apply(einmal);
+BENCHMARK(Übergeben_programm)->Name("ListeUebergeben/programm")->Apply(einmal);
+BENCHMARK(Übergeben_blank)->Name("ListeUebergeben/blank")->Apply(einmal);
 BENCHMARK(Laden_programm)->Name("ListeLaden/programm")->Apply(einmal);
 BENCHMARK(Laden_blank)->Name("ListeLaden/blank")->Apply(einmal);
 BENCHMARK(Sortieren_programm)->Name("ListeSortieren/programm")->Apply(einmal);

@@ -10,7 +10,7 @@
 #include "Betrieb.h"
 #include "core/globals.h"
 #include "core/settings.h"
-#include "platform/database/Kollation.h"
+#include "platform/database/verbindung/Funktionen.h"
 #include "platform/locale/Deutsch.h"
 
 using namespace TZ_Variablen;
@@ -20,18 +20,18 @@ namespace {
 const QDate messtag(2026, 8, 31);
 
 // 200 bookings for each colony.
-QString vorlage(int voelker) {
-  const QString ordner = QStringLiteral(TOVA_BENCH_DATEN "/%1").arg(voelker);
+QString vorlage(int völker) {
+  const QString ordner = QStringLiteral(TOVA_BENCH_DATEN "/%1").arg(völker);
   if (QFile::exists(ordner + "/Einstellungen.TV2")) return ordner;
   QDir(ordner).removeRecursively();
   QDir().mkpath(ordner);
-  std::fprintf(stderr, "Making the sample operation with %d colonies ...\n", voelker);
-  Betriebsgroesse groesse;
-  groesse.voelker = voelker;
-  groesse.jahre = 5;
-  groesse.buchungenJeVolk = 200;
-  groesse.heute = messtag;
-  betriebAnlegen(ordner, groesse);
+  std::fprintf(stderr, "Making the sample operation with %d colonies ...\n", völker);
+  Betriebsgröße größe;
+  größe.völker = völker;
+  größe.jahre = 5;
+  größe.buchungenJeVolk = 200;
+  größe.heute = messtag;
+  betriebAnlegen(ordner, größe);
   DB.Close();
   Arbeitsbereich.Close();
   return ordner;
@@ -40,20 +40,15 @@ QString vorlage(int voelker) {
 std::unique_ptr<QTemporaryDir> arbeitskopie;
 int offen = 0;
 
-int kollation(void*, int n1, const void* a, int n2, const void* b) {
-  return Kollation::vergleicheUtf8(QByteArrayView(static_cast<const char*>(a), n1),
-                                   QByteArrayView(static_cast<const char*>(b), n2));
-}
-
 }  // namespace
 
-void betriebOeffnen(int voelker) {
-  if (offen == voelker) return;
+void betriebÖffnen(int völker) {
+  if (offen == völker) return;
   DB.Close();
   Arbeitsbereich.Close();
-  const QString von = vorlage(voelker);
+  const QString von = vorlage(völker);
   arbeitskopie = std::make_unique<QTemporaryDir>(QStringLiteral(TOVA_BENCH_DATEN "/kopie-XXXXXX"));
-  zuruecksetzen();
+  zurücksetzen();
   AppPfad = arbeitskopie->path() + "/";
   DatenbankPfad = AppPfad + "TOVA2.MDB";
   for (const char* datei : {"TOVA2.MDB", "Einstellungen.TV2"})
@@ -61,7 +56,7 @@ void betriebOeffnen(int voelker) {
   HeuteText = Deutsch::datumText(messtag);
   EinstellungenLesen();
   DB = Arbeitsbereich.OpenDatabase(DatenbankPfad);
-  offen = voelker;
+  offen = völker;
 }
 
 void betriebVerwerfen() { offen = 0; }
@@ -70,40 +65,55 @@ Blank::Blank(const QString& pfad) {
   if (sqlite3_open_v2(pfad.toUtf8().constData(), &m_db, SQLITE_OPEN_READWRITE, nullptr) !=
       SQLITE_OK)
     throw std::runtime_error("open");
-  sqlite3_create_collation(m_db, "tova", SQLITE_UTF8, nullptr, kollation);
-  fuehreAus("pragma journal_mode=delete; pragma synchronous=full; pragma cache_size=-65536");
+  führeAus(
+      "pragma foreign_keys = off; pragma temp_store = memory; pragma cache_size = -65536; "
+      "pragma secure_delete = off; pragma synchronous = extra");
+  Funktionen::registriereFunktionen(m_db);
 }
 
 Blank::~Blank() { sqlite3_close(m_db); }
 
-void Blank::fuehreAus(const char* sql) {
+void Blank::führeAus(const char* sql) {
   char* fehler = nullptr;
   if (sqlite3_exec(m_db, sql, nullptr, nullptr, &fehler) != SQLITE_OK)
     throw std::runtime_error(fehler);
 }
 
+void Blank::Anweisung::berühre() {
+  const int spalten = sqlite3_column_count(m_s);
+  for (int i = 0; i < spalten; ++i) {
+    switch (sqlite3_column_type(m_s, i)) {
+      case SQLITE_INTEGER:
+        benchmark::DoNotOptimize(sqlite3_column_int64(m_s, i));
+        break;
+      case SQLITE_FLOAT:
+        benchmark::DoNotOptimize(sqlite3_column_double(m_s, i));
+        break;
+      case SQLITE_TEXT:
+        benchmark::DoNotOptimize(sqlite3_column_text(m_s, i));
+        benchmark::DoNotOptimize(sqlite3_column_bytes(m_s, i));
+        break;
+      default:
+        break;
+    }
+  }
+}
+
 int Blank::Anweisung::lese() {
   int zeilen = 0;
   int ergebnis;
-  while ((ergebnis = sqlite3_step(m_s)) == SQLITE_ROW) {
-    const int spalten = sqlite3_column_count(m_s);
-    for (int i = 0; i < spalten; ++i) {
-      switch (sqlite3_column_type(m_s, i)) {
-        case SQLITE_INTEGER:
-          benchmark::DoNotOptimize(sqlite3_column_int64(m_s, i));
-          break;
-        case SQLITE_FLOAT:
-          benchmark::DoNotOptimize(sqlite3_column_double(m_s, i));
-          break;
-        case SQLITE_TEXT:
-          benchmark::DoNotOptimize(sqlite3_column_text(m_s, i));
-          benchmark::DoNotOptimize(sqlite3_column_bytes(m_s, i));
-          break;
-        default:
-          break;
-      }
-    }
-    ++zeilen;
+  for (; (ergebnis = sqlite3_step(m_s)) == SQLITE_ROW; ++zeilen) berühre();
+  sqlite3_reset(m_s);
+  return ergebnis == SQLITE_DONE ? zeilen : -1;
+}
+
+int Blank::Anweisung::leseMit(int spalte, std::vector<std::string>& texte) {
+  int zeilen = 0;
+  int ergebnis;
+  for (; (ergebnis = sqlite3_step(m_s)) == SQLITE_ROW; ++zeilen) {
+    berühre();
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(m_s, spalte));
+    texte.emplace_back(text == nullptr ? "" : text);
   }
   sqlite3_reset(m_s);
   return ergebnis == SQLITE_DONE ? zeilen : -1;
@@ -112,17 +122,17 @@ int Blank::Anweisung::lese() {
 namespace {
 
 // Prints the usual table and collects the pairs for the ratios.
-class Verhaeltnisse : public benchmark::ConsoleReporter {
+class Verhältnisse : public benchmark::ConsoleReporter {
  public:
-  void ReportRuns(const std::vector<Run>& laeufe) override {
-    ConsoleReporter::ReportRuns(laeufe);
-    for (const Run& lauf : laeufe) {
+  void ReportRuns(const std::vector<Run>& läufe) override {
+    ConsoleReporter::ReportRuns(läufe);
+    for (const Run& lauf : läufe) {
       if (lauf.run_type != Run::RT_Iteration || lauf.error_occurred) continue;
       const std::string name = lauf.run_name.function_name;  // "Name/programm"
       const size_t strich = name.rfind('/');
-      const std::string schluessel = name.substr(0, strich) + "/" + lauf.run_name.args;
+      const std::string schlüssel = name.substr(0, strich) + "/" + lauf.run_name.args;
       const double zeit = lauf.real_accumulated_time / static_cast<double>(lauf.iterations);
-      (name.substr(strich + 1) == "blank" ? m_blank : m_programm)[schluessel] = zeit;
+      (name.substr(strich + 1) == "blank" ? m_blank : m_programm)[schlüssel] = zeit;
     }
   }
   void Finalize() override {
@@ -146,7 +156,7 @@ class Verhaeltnisse : public benchmark::ConsoleReporter {
 
 int messen(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
-  Verhaeltnisse bericht;
+  Verhältnisse bericht;
   benchmark::RunSpecifiedBenchmarks(&bericht);
   DB.Close();
   Arbeitsbereich.Close();

@@ -16,14 +16,14 @@
 // The folder of a copy of the sample operation of this size, made once and kept in the build.
 // Opens it as the program does (AppPfad, DB, main list); the copy is the program's own until the
 // next call.
-void betriebOeffnen(int voelker);
-// The next betriebOeffnen takes a fresh copy; for a benchmark that changes more than it adds.
+void betriebÖffnen(int völker);
+// The next betriebÖffnen takes a fresh copy; for a benchmark that changes more than it adds.
 void betriebVerwerfen();
 
 // Runs the registered benchmarks and prints the table of ratios; the program's exit code.
 int messen(int argc, char** argv);
 
-// A second, bare connection to the open database.
+// A second, bare connection to the open database, opened with the program's own settings.
 class Blank {
  public:
   explicit Blank(const QString& pfad);
@@ -48,6 +48,8 @@ class Blank {
     }
     // Steps to the end and touches every cell; returns the number of rows.
     int lese();
+    // The same, and adds the text of this column of each row.
+    int leseMit(int spalte, std::vector<std::string>& texte);
     // The first cell of the first row as text; empty for null and for no rows.
     std::string text() {
       std::string wert;
@@ -57,17 +59,40 @@ class Blank {
       sqlite3_reset(m_s);
       return wert;
     }
-    void fuehreAus() {
+    void führeAus() {
       if (lese() < 0) throw std::runtime_error(sqlite3_errmsg(m_db));
     }
 
    private:
+    void berühre();  // every cell of the row
+
     sqlite3* m_db;
     sqlite3_stmt* m_s = nullptr;
   };
 
+  // The values of a field, each once: jumps from one to the next along the field's index.
+  class Sprungliste {
+   public:
+    Sprungliste(sqlite3* db, const std::string& tabelle, const std::string& feld)
+        : m_erster(db, ("select min(" + feld + ") from " + tabelle).c_str()),
+          m_nächster(
+              db,
+              ("select min(" + feld + ") from " + tabelle + " where " + feld + " > ?1").c_str()) {}
+    void lese() {
+      std::string text = m_erster.text();
+      while (!text.empty()) {
+        m_nächster.binde(1, text.c_str());
+        text = m_nächster.text();
+      }
+    }
+
+   private:
+    Anweisung m_erster;
+    Anweisung m_nächster;
+  };
+
   sqlite3* db() const { return m_db; }
-  void fuehreAus(const char* sql);
+  void führeAus(const char* sql);
 
  private:
   sqlite3* m_db = nullptr;

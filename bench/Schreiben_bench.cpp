@@ -2,7 +2,7 @@
 
 #include "Messwerk.h"
 #include "bookings/Buchung.h"
-#include "bookings/Volkfelder.h"
+#include "bookings/Zusammenfassung.h"
 #include "core/globals.h"
 #include "platform/database/Recordset.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 constexpr int markiert = 500;
 
-int voelker(const benchmark::State& zustand) { return static_cast<int>(zustand.range(0)); }
+int völker(const benchmark::State& zustand) { return static_cast<int>(zustand.range(0)); }
 
 // Every second colony of the first thousand.
 QStringList markierte() {
@@ -40,7 +40,7 @@ Buchung ernte() {
 }
 
 void Buchungslauf500_programm(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
+  betriebÖffnen(völker(zustand));
   const QStringList ids = markierte();
   for (auto _ : zustand) {
     Buchung buchung = ernte();
@@ -51,7 +51,7 @@ void Buchungslauf500_programm(benchmark::State& zustand) {
 }
 // The same appointments closed, the same rows added, one commit.
 void Buchungslauf500_blank(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
+  betriebÖffnen(völker(zustand));
   const QStringList ids = markierte();
   Blank blank(DatenbankPfad);
   Blank::Anweisung termine(blank.db(),
@@ -62,14 +62,14 @@ void Buchungslauf500_blank(benchmark::State& zustand) {
                          "Honig_Wert, Charge, Bemerkung, Datum, Volk_ID) values (12.5, 'Raps', "
                          "'I', 0.5, 9.0, 93.75, '2026/RAP', 'Messung', '2026-08-31', ?1)");
   for (auto _ : zustand) {
-    blank.fuehreAus("begin immediate");
+    blank.führeAus("begin immediate");
     for (const QString& id : ids) {
       termine.binde(1, id.toLongLong());
-      termine.fuehreAus();
+      termine.führeAus();
       zeile.binde(1, id.toLongLong());
-      zeile.fuehreAus();
+      zeile.führeAus();
     }
-    blank.fuehreAus("commit");
+    blank.führeAus("commit");
   }
 }
 
@@ -81,29 +81,33 @@ void verstimmen() {
 }
 
 void VolkfelderNachziehen500_programm(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
-  QString geaendert;
-  for (const QString& id : markierte()) geaendert += "/" + id + "/";
+  betriebÖffnen(völker(zustand));
+  QString geändert;
+  for (const QString& id : markierte()) geändert += "/" + id + "/";
   for (auto _ : zustand) {
     zustand.PauseTiming();
     verstimmen();
     zustand.ResumeTiming();
-    VolkfelderNachziehen(DB, geaendert);
+    VolkfelderNachziehen(DB, geändert);
   }
 }
 void VolkfelderNachziehen500_blank(benchmark::State& zustand) {
-  betriebOeffnen(voelker(zustand));
+  betriebÖffnen(völker(zustand));
   const QStringList ids = markierte();
   Blank blank(DatenbankPfad);
   std::vector<std::unique_ptr<Blank::Anweisung>> lesen;
   for (const char* sql :
-       {"select * from Bienenvolk where ID = ?1",
-        "select * from Stockkarte where Volk_ID = ?1 order by Datum desc, ID limit 1",
-        "select * from Honigernte where Volk_ID = ?1 order by Datum desc, ID limit 1",
-        "select sum(Menge_kg) from Honigernte where Volk_ID = ?1",
-        "select * from Wanderung where Volk_ID = ?1 order by Datum desc, ID limit 1",
-        "select Datum from Behandlung where Volk_ID = ?1 order by Datum desc, ID limit 1",
-        "select * from Königinwechsel where Volk_ID = ?1 order by Datum desc, ID limit 1"})
+       {"select Volkstärke, Magazine, Waben, Honigwaben, Brutwaben, Pollenwaben, Drohnenwaben, "
+        "Leerwaben, Mittelwände, Futterwaben, HW_verdeckelt, BW_Stift, BW_offen, BW_verdeckelt, "
+        "Brutstand, Wabensitz, Sanftmut, Schwarmtrieb, Frühjahrsentw, Winterfestigkeit, "
+        "Varroabefall, Belagert, Futter_flüssig_l, Futter_Teig_kg, Eigener_Futtervorrat "
+        "from Stockkarte where Volk_ID = ?1 order by Datum desc, ID limit 1",
+        // The newest one and the sum in one pass.
+        "select Datum, ID, Menge_kg from Honigernte where Volk_ID = ?1",
+        "select Standort from Wanderung where Volk_ID = ?1 order by Datum desc, ID limit 1",
+        "select max(Datum) from Behandlung where Volk_ID = ?1",
+        "select Datum, Nummer, Farbe from Königinwechsel where Volk_ID = ?1 "
+        "order by Datum desc, ID limit 1"})
     lesen.push_back(std::make_unique<Blank::Anweisung>(blank.db(), sql));
   Blank::Anweisung schreiben(blank.db(),
                              "update Bienenvolk set L_Honigernte = '2026-08-31', L_Honigmenge_kg = "
@@ -112,28 +116,28 @@ void VolkfelderNachziehen500_blank(benchmark::State& zustand) {
     zustand.PauseTiming();
     verstimmen();
     zustand.ResumeTiming();
-    blank.fuehreAus("begin immediate");
+    blank.führeAus("begin immediate");
     for (const QString& id : ids) {
       for (auto& eine : lesen) {
         eine->binde(1, id.toLongLong());
         eine->lese();
       }
       schreiben.binde(1, id.toLongLong());
-      schreiben.fuehreAus();
+      schreiben.führeAus();
     }
-    blank.fuehreAus("commit");
+    blank.führeAus("commit");
   }
 }
 
-void groessen(benchmark::internal::Benchmark* messung) {
+void größen(benchmark::internal::Benchmark* messung) {
   messung->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(20);
 }
 
-BENCHMARK(Buchungslauf500_programm)->Name("Buchungslauf500/programm")->Apply(groessen);
-BENCHMARK(Buchungslauf500_blank)->Name("Buchungslauf500/blank")->Apply(groessen);
+BENCHMARK(Buchungslauf500_programm)->Name("Buchungslauf500/programm")->Apply(größen);
+BENCHMARK(Buchungslauf500_blank)->Name("Buchungslauf500/blank")->Apply(größen);
 BENCHMARK(VolkfelderNachziehen500_programm)
     ->Name("VolkfelderNachziehen500/programm")
-    ->Apply(groessen);
-BENCHMARK(VolkfelderNachziehen500_blank)->Name("VolkfelderNachziehen500/blank")->Apply(groessen);
+    ->Apply(größen);
+BENCHMARK(VolkfelderNachziehen500_blank)->Name("VolkfelderNachziehen500/blank")->Apply(größen);
 
 }  // namespace
