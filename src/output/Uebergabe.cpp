@@ -53,13 +53,16 @@ void zelle(std::string& ziel, const Datenblock& block, int zeile, int spalte, bo
     std::array<char, 32> puffer{};
     char* const ende = puffer.data() + puffer.size();
     const double wert = block.zahl(zeile, spalte);
-    // Up to here a whole number is the same as a double; beyond, a 64-bit one is written as it is.
+    // Up to here a whole number is the same as a double; beyond, a 64-bit one is written as it is,
+    // and a double with its exponent, so that it isn't taken for one.
     constexpr double Exakt = 9e15;
-    const bool ganz = std::fabs(wert) < Exakt
-                          ? wert == std::floor(wert)
-                          : block.wert(zeile, spalte).typeId() == QMetaType::LongLong;
+    const bool klein = std::fabs(wert) < Exakt;
+    const bool ganz = klein ? wert == std::floor(wert)
+                            : block.wert(zeile, spalte).typeId() == QMetaType::LongLong;
     const auto bis = ganz ? std::to_chars(puffer.data(), ende, block.ganzzahl(zeile, spalte))
-                          : std::to_chars(puffer.data(), ende, wert);
+                     : klein
+                         ? std::to_chars(puffer.data(), ende, wert)
+                         : std::to_chars(puffer.data(), ende, wert, std::chars_format::scientific);
     ziel.append(puffer.data(), bis.ptr);
   }
 }

@@ -106,6 +106,14 @@ TEST_F(ÜbergabeTest, ZahlenKommenOhneVerlustAn) {
     }
 }
 
+// Its digits alone would be read as a whole number, which shows others.
+TEST_F(ÜbergabeTest, EineGroßeKommazahlBleibtEine) {
+  const Daten daten = Listen::block({{"a", Feldtyp::Ausdruck, 0}}, {{233720368547758071.5}});
+  const Ausgabeliste liste = hinUndHer(Ausgabeliste(daten));
+  EXPECT_EQ(liste.daten()->wert(0, 0).typeId(), QMetaType::Double);
+  EXPECT_EQ(liste.daten()->anzeige(0, 0), daten->anzeige(0, 0));
+}
+
 TEST_F(ÜbergabeTest, EinTextInEinerZahlenspalteBleibtText) {
   const Ausgabeliste liste = hinUndHer(Ausgabeliste(
       Listen::block({{"n", Feldtyp::Lang, 0}, {"t", Feldtyp::Text, 9}}, {{".", 7}, {"12", "12"}})));

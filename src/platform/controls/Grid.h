@@ -68,6 +68,10 @@ class Grid : public QTableView {
   static constexpr int KleinsteBreite = 25;
   // Lists give way before anything else does: the heading and a few rows are enough.
   QSize minimumSizeHint() const override;
+  // Room beyond the least comes from the form's stretch: a list gives way before what stands above.
+  QSize sizeHint() const override {
+    return {QTableView::sizeHint().width(), minimumSizeHint().height()};
+  }
   // Fits each column to its heading and the texts from the first visible row on (some hundreds), at
   // least this wide. These widths aren't kept.
   void passeBreitenAn(int kleinste);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QLayout>
+#include <QScreen>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -23,12 +24,16 @@ Rollbereich::Rollbereich(QWidget* inhalt) {
 // The content's own: a scroll bar stands only where it doesn't get that.
 QSize Rollbereich::sizeHint() const { return widget()->sizeHint(); }
 
-// Lower it may be; narrower than its content only where that is wider than a magnified screen.
+// Lower it may be; narrower than its content only where that leaves no room beside it on the
+// screen.
 QSize Rollbereich::minimumSizeHint() const {
   constexpr int Zeilen = 4;
   constexpr int Zeichen = 95;
   const QSize ganz = widget()->minimumSizeHint();
-  const QSize klein(Zeichen * fontMetrics().averageCharWidth(), Zeilen * fontMetrics().height());
+  constexpr double Bildschirmteil = 0.7;
+  const int breite = std::max(Zeichen * fontMetrics().averageCharWidth(),
+                              int(Bildschirmteil * screen()->availableSize().width()));
+  const QSize klein(breite, Zeilen * fontMetrics().height());
   const int leiste = ganz.height() > klein.height() ? verticalScrollBar()->sizeHint().width() : 0;
   return QSize(ganz.width() + leiste, ganz.height()).boundedTo(klein);
 }
