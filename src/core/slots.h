@@ -50,19 +50,45 @@ struct Textslot {
 };
 
 inline constexpr struct Zahltabelle {
+  Zahlslot statistikSchnitt{0};
+  Zahlslot völkerwahl{2};  // of all evaluations
+  Zahlslot volkdatenSortierung{4};
+  Zahlslot buchungsauswahl{5};
+  Zahlslot ereignisbericht{6};
+  Zahlslot ereignisseNachVölkern{7};
+  Zahlslot buchungenLeerzeile{8};
+  Zahlslot buchungenVolknummer{9};
+  Zahlslot buchungenVolkname{10};
   Zahlslot terminlisteBeimStart{13, 1};
   Zahlslot tastenton{14};  // the box "Volknummer" of the work plan
+  Zahlslot arbeitsplanVolkname{15};
+  Zahlslot arbeitsplanStandort{16};
   Zahlslot termintage{17, 14, {1, 365, 14, 365}};
   Zahlslot textQuer{18};
   Zahlslot textFett{19};
   Zahlslot textKursiv{20};
-  Zahlslot webzeilen{21};  // rows of a page of the web report
+  Zahlslot webzeilen{21};  // rows of a page of the web report; the sort of the work plan
   Zahlslot textGröße{22};
   Zahlslot textRand{23};
   Zahlslot piepton{24, 1};
   Zahlslot sortierspalte{25};    // of the list of colonies, from 1 on
   Zahlslot sortierrichtung{26};  // 1: descending
+  Zahlslot arbeitsplanTage{27};  // that are added to the first day
   Zahlslot terminjahr{28, LaufendesJahr};
+  Zahlslot buchungsauswahlStandard{29};
+  Zahlslot jahrVon{31};
+  Zahlslot jahrBis{32};
+  Zahlslot nachVölkern{33};  // 0: by years
+  Zahlslot listeVolknummer{34};
+  Zahlslot listeVolkname{35};
+  Zahlslot listeStandort{36};
+  Zahlslot nektarpunkte{37};
+  Zahlslot pollenpunkte{38};
+  Zahlslot anteilfaktor{39};
+  Zahlslot entfernungsfaktor{40};
+  Zahlslot anfahrtzuschlag{41};
+  Zahlslot wasserzuschlag{42};
+  Zahlslot prämienzuschlag{43};
   Zahlslot mehrwertsteuer1{44, 0, {1, 50, 19, 19}, Reparatur::AuchStart};
   Zahlslot mehrwertsteuer2{45, 0, {1, 50, 7, 7}, Reparatur::AuchStart};
   Zahlslot datumAlsListenkopf{46, 1};
@@ -83,6 +109,10 @@ inline constexpr struct Zahltabelle {
   Zahlslot grafikZeigen{69};
   Zahlslot sammelbuchungTeilen{72};
   Zahlslot honigInWaben{73};
+  Zahlslot stockkartenAbstand{74};  // empty lines between two colonies, 0 to 2
+  Zahlslot stockkartenÄnderungen{75};
+  Zahlslot stockkartenAbkürzungen{76};
+  Zahlslot stockkartenTrennlinie{77};
   Zahlslot startzähler{78};
 } Zahlslots;
 
@@ -97,11 +127,31 @@ inline constexpr struct Werttabelle {
 
 inline constexpr struct Texttabelle {
   Textslot kopftext{0};
+  Textslot volkdatenFelder{3};
   Textslot trennzeichen{4, u" | "};
+  Textslot stockkarteFelder{5};  // of the booking lists, one for each type but the notes
+  Textslot honigernteFelder{6};
+  Textslot wachsernteFelder{7};
+  Textslot pollenernteFelder{8};
+  Textslot sonstigeernteFelder{9};
+  Textslot arbeitenFelder{10};
+  Textslot wanderungFelder{11};
+  Textslot gewichtsmessungFelder{12};
+  Textslot behandlungFelder{13};
+  Textslot königinwechselFelder{14};
+  Textslot terminZeichen{15};  // of the work plan's table
+  Textslot freiZeichen{16};
   Textslot volkfelder{17};  // the select of the list of colonies
+  Textslot deckungsbeitragPosten{18};  // a character an item: 1 is on
+  Textslot arbeitszeitTabellen{19};
+  Textslot pauschaleEinnahme{20};
+  Textslot pauschaleKosten{21};
   Textslot stockkartenfelder{22};
+  Textslot statistikMaße{23};
   Textslot infofenster{24};  // a character a position: 1 is shown
   Textslot letzteSicherung{26};
+  Textslot datumVon{27};
+  Textslot datumBis{28};
   Textslot sortierung1{33};
   Textslot sortierung2{34};
 } Textslots;

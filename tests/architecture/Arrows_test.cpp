@@ -30,18 +30,21 @@ const QStringList räume = {"platform/locale",
                            "bookings",
                            "stores",
                            "sites",
+                           "evaluations",
                            "planning/forms",
                            "colonies/forms",
                            "bookings/forms",
                            "stores/forms",
                            "sites/forms",
+                           "evaluations/forms",
                            "mainform",
                            "mainform/forms",
                            "app"};
 
 // Subsystems know each other only where one calls the other.
 const QMultiMap<QString, QString> untereinander = {{"colonies", "planning"}};
-const QStringList subsysteme = {"planning", "colonies", "bookings", "stores", "sites"};
+const QStringList subsysteme = {"planning", "colonies", "bookings", "stores", "sites",
+                                "evaluations"};
 
 struct Einbindung {
   QString datei;  // below src/
@@ -88,7 +91,8 @@ QString subsystem(const QString& name) { return name.section('/', 0, 0); }
 
 bool erlaubt(const QString& von, const QString& nach) {
   if (von == nach) return true;
-  if (subsysteme.contains(von) && nach == "output") return false;  // what is put out is the forms'
+  // What is put out is the forms'; an evaluation is a list or a text.
+  if (subsysteme.contains(von) && nach == "output") return von == "evaluations";
   if (subsysteme.contains(subsystem(von)) && subsysteme.contains(subsystem(nach)) &&
       subsystem(von) != subsystem(nach))
     return untereinander.contains(subsystem(von), subsystem(nach));
