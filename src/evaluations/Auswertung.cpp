@@ -56,6 +56,10 @@ Eingabe merkliste(const QString& name, const QString& titel, Postenquelle posten
   return offeneListe(Art::Merkliste, name, titel, std::move(posten));
 }
 
+Eingabe wahltext(const QString& name, const QString& titel, Postenquelle posten) {
+  return offeneListe(Art::Wahltext, name, titel, std::move(posten));
+}
+
 Eingabe text(const QString& name, const QString& titel, int maxLänge) {
   Eingabe e = eingabe(Art::Text, name, titel);
   e.maxLänge = maxLänge;
@@ -251,9 +255,9 @@ void geteilteLeeren(const Eingabe& e) {
   if (e.art == Art::Haken && e.zahlslot && e.slotwert >= 0) EinstellungenZahl[*e.zahlslot] = 0;
 }
 
-void jede(const Beschreibung& beschreibung, const std::function<void(const Eingabe&)>& tue) {
+void jede(const Beschreibung& beschreibung, const std::function<void(const Eingabe&)>& aktion) {
   for (const Gruppe& gruppe : beschreibung.gruppen)
-    for (const Eingabe& e : gruppe.eingaben) tue(e);
+    for (const Eingabe& e : gruppe.eingaben) aktion(e);
 }
 
 }  // namespace

@@ -67,7 +67,8 @@ class Eingaben {
 enum class Art {
   Haken,      // a check box
   Optionen,   // one of several: radio buttons name_0, name_1 ...
-  Auswahl,    // one of a list that folds out
+  Auswahl,    // one of a list that folds out: its index
+  Wahltext,   // a field that takes only the texts of its list: the text
   Liste,      // one of a list that stands open
   Merkliste,  // any of a list that stands open, each with a tick
   Text,
@@ -188,6 +189,7 @@ Eingabe haken(const QString& name, int index, const QString& titel);
 Eingabe haken(const QString& name, const QString& titel);
 Eingabe optionen(const QString& name, const QStringList& titel, int vorgabe = 0);
 Eingabe auswahl(const QString& name, const QString& titel, Postenquelle posten);
+Eingabe wahltext(const QString& name, const QString& titel, Postenquelle posten);
 Eingabe liste(const QString& name, const QString& titel, Postenquelle posten);
 Eingabe merkliste(const QString& name, const QString& titel, Postenquelle posten);
 Eingabe text(const QString& name, const QString& titel, int maxLänge);

@@ -1,13 +1,9 @@
 #include "output/forms/TA_Zwischenliste.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QMenu>
-#include <QProgressBar>
 #include <QPushButton>
-#include <QScopeGuard>
 
 #include "core/globals.h"
 #include "output/Excelausgabe.h"
@@ -17,6 +13,7 @@
 #include "output/forms/TA_Textausgabe.h"
 #include "platform/controls/Bauteile.h"
 #include "platform/controls/Ereignis.h"
+#include "platform/controls/Fortschrittsbalken.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Meldungen.h"
 #include "platform/controls/Oeffnen.h"
@@ -27,9 +24,7 @@ using Bauteile::knopfOhneEnter;
 
 namespace {
 
-constexpr int KleinsteBreite = 27;     // pixels
-constexpr qint64 LangeListe = 200000;  // cells; shorter lists are written in a moment
-constexpr int ZwischenbildMs = 60;
+constexpr int KleinsteBreite = 27;  // pixels
 
 }  // namespace
 
@@ -48,10 +43,7 @@ void TA_Zwischenliste::aufbauen() {
   m_gridli->setContextMenuPolicy(Qt::CustomContextMenu);
   m_kon = new QCheckBox("Automatische Spaltenbreite");
   m_kon->setObjectName("kon");
-  m_meter = new QProgressBar;
-  m_meter->setObjectName("meter");
-  m_meter->setAccessibleName("Fortschritt");
-  m_meter->hide();
+  m_meter = new Fortschrittsbalken;
 
   const QList<QWidget*> knöpfe = knöpfeBauen();
   zusammensetzen(Bauteile::untereinander({{m_gridli, 1}, {m_meter}, {Bauteile::leiste({m_kon})}}),
@@ -117,7 +109,7 @@ void TA_Zwischenliste::füllen() {
 void TA_Zwischenliste::breitenAnpassen() { m_gridli->passeBreitenAn(KleinsteBreite); }
 
 void TA_Zwischenliste::done(int ergebnis) {
-  if (m_läuft) return;
+  if (m_meter->läuft()) return;
   EinstellungenZahl[Zahlslots.spaltenbreiteAutomatisch] = m_kon->isChecked() ? 1 : 0;
   Formular::done(ergebnis);
   m_gridli->setDaten({});
@@ -133,36 +125,10 @@ bool TA_Zwischenliste::istLeer() {
   return true;
 }
 
-void TA_Zwischenliste::laufen(const std::function<void(const Fortschritt&)>& arbeit) {
-  const Ereignis::Sanduhr sanduhr;
-  const bool lang = qint64(m_gridli->zeilen()) * m_gridli->spalten() >= LangeListe;
-  if (!lang) {
-    arbeit({});
-    return;
-  }
-  // The window goes on painting; keys and mouse wait until the run has ended.
-  m_läuft = true;
-  m_meter->setRange(0, m_gridli->zeilen());
-  m_meter->setValue(0);
-  m_meter->show();
-  const auto ende = qScopeGuard([this] {
-    m_meter->hide();
-    m_läuft = false;
-  });
-  QElapsedTimer uhr;
-  uhr.start();
-  arbeit([&](int fertig, int) {
-    if (uhr.elapsed() < ZwischenbildMs) return;
-    m_meter->setValue(fertig);
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    uhr.restart();
-  });
-}
-
 void TA_Zwischenliste::textAuswertung() {
   if (istLeer()) return;
   AusgabeDatei = Textliste::datei();
-  laufen([this](const Fortschritt& fortschritt) {
+  m_meter->laufen([this](const Fortschritt& fortschritt) {
     Textliste::schreiben(AusgabeDatei, liste(), listenkopf(), Textliste::trennzeichen(),
                          fortschritt);
   });
@@ -172,7 +138,7 @@ void TA_Zwischenliste::textAuswertung() {
 void TA_Zwischenliste::excelAuswertung() {
   if (istLeer()) return;
   const QString datei = Excelausgabe::datei();
-  laufen([&](const Fortschritt& fortschritt) {
+  m_meter->laufen([&](const Fortschritt& fortschritt) {
     Excelausgabe::schreiben(datei, liste(), listenkopf(), fortschritt);
   });
   if (Öffnen::datei(datei)) return;
@@ -184,7 +150,7 @@ void TA_Zwischenliste::excelAuswertung() {
 void TA_Zwischenliste::explorerAuswertung() {
   if (istLeer()) return;
   QString seite;
-  laufen([&](const Fortschritt& fortschritt) {
+  m_meter->laufen([&](const Fortschritt& fortschritt) {
     seite = Webbericht::schreiben(AppPfad, liste(), Webbericht::vorgaben(), fortschritt);
   });
   if (Öffnen::datei(seite)) return;

@@ -5,10 +5,10 @@
 #include "output/Ausgabeliste.h"
 #include "platform/controls/Formular.h"
 
+class Fortschrittsbalken;
 class Grid;
 class QCheckBox;
 class QMenu;
-class QProgressBar;
 class QPushButton;
 
 // The last step of the evaluations: shows the list that was handed on in gridli.txt and passes it
@@ -30,13 +30,10 @@ class TA_Zwischenliste : public Formular {
   void breitenAnpassen();
   Ausgabeliste liste() const;
   bool istLeer();  // tells it to the user
-  // Runs with the wait pointer; a long list keeps the window alive and shows how far it is.
-  void laufen(const std::function<void(const Fortschritt&)>& arbeit);
   void textAuswertung();
   void excelAuswertung();
   void explorerAuswertung();
 
-  bool m_läuft = false;
   QStringList m_überschriften;
   Grid* m_gridli = nullptr;
   QCheckBox* m_kon = nullptr;
@@ -44,7 +41,7 @@ class TA_Zwischenliste : public Formular {
   QPushButton* m_comexcel = nullptr;
   std::array<QPushButton*, 2> m_roexplorer{};
   QMenu* m_popzeile = nullptr;
-  QProgressBar* m_meter = nullptr;
+  Fortschrittsbalken* m_meter = nullptr;
 };
 
 // What the evaluations call: hand a list on and show it in TA_Zwischenliste. They throw
