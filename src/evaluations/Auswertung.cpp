@@ -134,6 +134,24 @@ Gruppe volkfelder(const QString& titel, const QList<Zahlslot>& ablage, int spalt
   return gruppe;
 }
 
+Gruppe buchungsauswahl(const QString& titel, const QStringList& texte, const Zahlslot& ablage,
+                       int spalte) {
+  const QString optibuch = QStringLiteral("optibuch");
+  return {titel,
+          {optionen(optibuch, texte).slot(ablage),
+           datum(QStringLiteral("tdat_0"), {}).slot(Textslots.datumVon).wählt(optibuch, 1),
+           datum(QStringLiteral("tdat_1"), QStringLiteral("bis"))
+               .slot(Textslots.datumBis)
+               .wählt(optibuch, 1)
+               .rechtsDavon()},
+          spalte};
+}
+
+QStringList buchungsauswahlTexte() {
+  return {QStringLiteral("Alle Buchungen"), QStringLiteral("Datum von"),
+          QStringLiteral("Nur die letzte (aktuellste) Buchung je Volk")};
+}
+
 // ---- description ----
 
 const Befehl* Beschreibung::befehl(const QString& gesucht) const {
@@ -338,6 +356,13 @@ QStringList zeitraumGründe(const Eingaben& eingaben) {
   if (von.isEmpty() || bis.isEmpty())
     gründe += QStringLiteral("...das Datum von...bis eingegeben werden muß.");
   return gründe;
+}
+
+QString zeitraumRest(const Eingaben& eingaben, const QString& feld) {
+  if (eingaben.wahl(QStringLiteral("optibuch")) != 1) return {};
+  return QStringLiteral(" and %1 >= %2 and %1 <= %3")
+      .arg(feld, SqlDatum(eingaben.text(QStringLiteral("tdat"), 0).trimmed()),
+           SqlDatum(eingaben.text(QStringLiteral("tdat"), 1).trimmed()));
 }
 
 QString jahreRest(const QString& von, const QString& bis) {

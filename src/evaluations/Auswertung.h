@@ -45,6 +45,8 @@ class Eingaben {
   }
   // What a list offers at the moment: set by the form whenever it fills the list.
   QStringList angebot(const QString& name) const { return m_angebote.value(name); }
+  // The key of the current entry of a list or a choice; empty for none.
+  QString posten(const QString& name) const { return angebot(name).value(wahl(name)); }
   void setAngebot(const QString& name, const QStringList& keys) { m_angebote[name] = keys; }
 
   // The colony in the main list's current row; 0 without one.
@@ -225,6 +227,12 @@ Gruppe völkerwahl(int spalte = 0);
 // kontier 0 to 2; as many as there are slots.
 Gruppe volkfelder(const QString& titel, const QList<Zahlslot>& ablage, int spalte = 0);
 
+// optibuch, one option for each text, and in the row of the second tdat 0 and 1.
+Gruppe buchungsauswahl(const QString& titel, const QStringList& texte, const Zahlslot& ablage,
+                       int spalte = 0);
+// The usual three of them.
+QStringList buchungsauswahlTexte();
+
 // ---- commands ----
 
 // One run: what it may read and where it tells how far it is.
@@ -314,6 +322,9 @@ bool inListe(const QString& liste, const QString& name);
 
 // The checks of a period in dates (optibuch 1, tdat 0 and 1).
 QStringList zeitraumGründe(const Eingaben& eingaben);
+// " and Honigernte.Datum >= #05/01/2026# and Honigernte.Datum <= #05/31/2026#" for the field
+// Honigernte.Datum; empty for all bookings.
+QString zeitraumRest(const Eingaben& eingaben, const QString& feld);
 // " and Datum >= #01/01/2025# and Datum <= #12/31/2026#"
 QString jahreRest(const QString& von, const QString& bis);
 // The year of today, "2026".

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "platform/database/werte/Feldregeln.h"
+#include "platform/locale/Deutsch.h"
 
 namespace {
 
@@ -62,6 +63,10 @@ void anhängen(std::string& ziel, const Datenblock& block, int zeile, int spalte
     return;
   }
   ziel.append(text.data(), static_cast<size_t>(text.size()));
+}
+
+void zahlAnhängen(std::string& ziel, double zahl) {
+  if (!kurzeZahl(ziel, zahl, false)) ziel += Deutsch::schlicht(zahl).toStdString();
 }
 
 std::optional<double> zahl(QByteArrayView text) {

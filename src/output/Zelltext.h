@@ -10,6 +10,8 @@ namespace Zelltext {
 
 // Adds to the text (UTF-8) what Datenblock::anzeige gives.
 void anhängen(std::string& ziel, const Datenblock& block, int zeile, int spalte);
+// Adds a number in its shortest form, as Deutsch::schlicht gives it.
+void zahlAnhängen(std::string& ziel, double zahl);
 
 // The number that a shown text is: digits with at most one comma, a sign and blanks around. None
 // for a text with a point (a date, a number with groups) and for one of more than 15 digits, which

@@ -68,6 +68,25 @@ TEST_F(AuswertungTest, OhneZeitraumZählenDieTageNicht) {
   EXPECT_EQ(zeitraumGründe(ohne), QStringList());
 }
 
+TEST_F(AuswertungTest, DerZeitraumStehtInDerAnweisungMitDemMonatVorn) {
+  EXPECT_EQ(zeitraumRest(zeitraum("05.02.2006", "31.12.2006 "), "Datum"),
+            " and Datum >= #02/05/2006# and Datum <= #12/31/2006#");
+  Eingaben ohne = zeitraum("05.02.2006", "31.12.2006");
+  ohne.setWahl("optibuch", 2);
+  EXPECT_EQ(zeitraumRest(ohne, "Datum"), "");
+}
+
+TEST_F(AuswertungTest, EinTagWähltDenZeitraumUndLiegtInSeinemPlatz) {
+  const Gruppe g = buchungsauswahl("Buchungen", buchungsauswahlTexte(), Zahlslots.buchungsauswahl);
+  ASSERT_EQ(g.eingaben.size(), 3);
+  EXPECT_EQ(g.eingaben[0].texte[2], "Nur die letzte (aktuellste) Buchung je Volk");
+  for (int i : {0, 1}) {
+    EXPECT_EQ(g.eingaben[i + 1].name, Eingaben::glied("tdat", i));
+    EXPECT_EQ(g.eingaben[i + 1].fokusWählt, std::pair(QString("optibuch"), 1));
+    EXPECT_EQ(g.eingaben[i + 1].textslot->nummer, 27 + i);
+  }
+}
+
 TEST_F(AuswertungTest, DerNameInDerListeSuchtMitSemikolons) {
   EXPECT_EQ(alsListe({"Volknr", "Standort"}), ";Volknr;Standort;");
   EXPECT_EQ(alsListe({}), "");

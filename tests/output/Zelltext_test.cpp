@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "output/Listen.h"
+#include "platform/locale/Deutsch.h"
 
 namespace {
 
@@ -41,6 +42,14 @@ TEST(Zelltext, ZahlenGleichenDerAnzeigeZiffernFürZiffer) {
   for (int zeile = 0; zeile < d->zeilen(); ++zeile)
     for (int spalte = 0; spalte < 3; ++spalte)
       ASSERT_EQ(text(d, zeile, spalte), d->anzeige(zeile, spalte).toStdString());
+}
+
+TEST(Zelltext, EineZahlStehtInIhrerKürzestenForm) {
+  for (const double wert : {0.0, -0.0, 3.5, -0.0001, 0.1 + 0.2, 1e15, 1e16, 33.333333333}) {
+    std::string t = "VS=";
+    Zelltext::zahlAnhängen(t, wert);
+    EXPECT_EQ(t, "VS=" + Deutsch::schlicht(wert).toStdString());
+  }
 }
 
 TEST(Zelltext, EinGeldbetragZeigtKeinRauschen) {
