@@ -1,0 +1,31 @@
+#include "evaluations/Leseliste.h"
+
+#include "data/helpers.h"
+
+namespace Auswertung {
+
+void zelleLesen(Datenblock::Bauer& ziel, const Datenblock& von, int zeile, int spalte) {
+  const QVariant wert = von.wert(zeile, spalte);
+  if (wert.typeId() == QMetaType::QString)
+    ziel.text(QStringView(TextLesen(wert)));
+  else
+    ziel.wert(wert);
+}
+
+Daten gelesen(const Lauf& lauf, const QString& anweisung, const QVariantList& werte,
+              const QStringList& geld) {
+  const Daten roh = lauf.db.Lesen(anweisung, werte);
+  std::vector<Spalte> spalten;
+  for (int i = 0; i < roh->spalten(); ++i) {
+    spalten.push_back(roh->spalte(i));
+    if (geld.contains(spalten.back().name)) spalten.back().typ = Feldtyp::Währung;
+  }
+  Datenblock::Bauer bauer(std::move(spalten));
+  for (int zeile = 0; zeile < roh->zeilen(); ++zeile) {
+    for (int i = 0; i < roh->spalten(); ++i) zelleLesen(bauer, *roh, zeile, i);
+    if (lauf.fortschritt) lauf.fortschritt(zeile + 1, roh->zeilen());
+  }
+  return bauer.fertig();
+}
+
+}  // namespace Auswertung
