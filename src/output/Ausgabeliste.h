@@ -22,6 +22,7 @@ class Ausgabeliste {
   Ausgabeliste(Daten daten, QStringList überschriften, std::vector<int> ordnung);
 
   const Daten& daten() const { return m_daten; }
+  const std::vector<int>& ordnung() const { return m_ordnung; }
   int zeilen() const { return static_cast<int>(m_ordnung.size()); }
   int spalten() const { return m_daten ? m_daten->spalten() : 0; }
   int blockzeile(int zeile) const { return m_ordnung[static_cast<size_t>(zeile)]; }

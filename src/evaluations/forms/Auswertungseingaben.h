@@ -6,7 +6,6 @@
 #include "evaluations/Auswertung.h"
 
 class QBoxLayout;
-class QGridLayout;
 class QPushButton;
 
 // The inputs of an evaluation's window, made from their description: groups in columns, each input
@@ -29,7 +28,6 @@ class Auswertungseingaben : public QWidget {
 
   // All controls that the Tab key stops at, in the order of the groups.
   QList<QWidget*> tabfolge() const { return m_tabfolge; }
-  QPushButton* nächsterKnopf(int richtung) const { return m_nächster.value(richtung); }
   // The caption and use of the fifth colony choice; without a colony it can't be chosen.
   void setVolk(bool gibtEs, const QString& beschriftung);
 
@@ -50,6 +48,7 @@ class Auswertungseingaben : public QWidget {
   void gemeldet(const QString& name);
   void leseEingabe(const Auswertung::Eingabe& e, Auswertung::Eingaben& eingaben) const;
   void zeigeEingabe(const Auswertung::Eingabe& e, const Auswertung::Eingaben& eingaben);
+  void zeigeOption(const Auswertung::Eingabe& e, int wahl);
   void jede(const std::function<void(const Auswertung::Eingabe&)>& aktion) const;
 
   QList<Auswertung::Gruppe> m_gruppen;

@@ -1,45 +1,34 @@
 #include "evaluations/forms/Merkliste.h"
 
 #include <QScrollBar>
+#include <algorithm>
 
 namespace {
 
 constexpr int SchlüsselRolle = Qt::UserRole;
 
-}  // namespace
-
 QString schlüsselVon(const QListWidgetItem* posten) {
   return posten->data(SchlüsselRolle).toString();
 }
 
-QListWidgetItem* neuerPosten(const QString& schlüssel, const QString& titel) {
-  auto* posten = new QListWidgetItem(titel);
-  posten->setData(SchlüsselRolle, schlüssel);
-  return posten;
-}
+}  // namespace
 
-QSize kleinsteListe(const QListWidget& liste, int zeilen) {
-  const int zeile = liste.fontMetrics().height() + 4;
-  const int rand = 2 * liste.frameWidth();
-  const int breite = liste.sizeHintForColumn(0) + liste.verticalScrollBar()->sizeHint().width() +
-                     2 * liste.fontMetrics().averageCharWidth() + rand;
-  const int schmal = 16 * liste.fontMetrics().averageCharWidth();
-  return {std::max(breite, schmal), zeilen * zeile + rand};
-}
-
-Merkliste::Merkliste(const QString& name, QWidget* eltern) : QListWidget(eltern) {
+Merkliste::Merkliste(const QString& name, Wahl wahl, QWidget* eltern) : QListWidget(eltern) {
   setObjectName(name);
-  setSelectionMode(MultiSelection);
   setTabKeyNavigation(false);
+  if (wahl == Wahl::Eine) return;
+  setSelectionMode(MultiSelection);
   connect(this, &QListWidget::itemSelectionChanged, this, [this] { hakenZeigen(); });
 }
 
 void Merkliste::setPosten(const QStringList& schlüssel, const QStringList& titel) {
   clear();
   for (qsizetype i = 0; i < schlüssel.size(); ++i) {
-    addItem(neuerPosten(schlüssel[i], titel[i]));
-    item(count() - 1)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    auto* posten = new QListWidgetItem(titel[i], this);
+    posten->setData(SchlüsselRolle, schlüssel[i]);
+    posten->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
   }
+  if (selectionMode() != MultiSelection) return;
   if (count() > 0) setCurrentRow(0, QItemSelectionModel::NoUpdate);
   hakenZeigen();
 }
@@ -61,6 +50,15 @@ void Merkliste::hakenZeigen() {
     item(i)->setCheckState(item(i)->isSelected() ? Qt::Checked : Qt::Unchecked);
 }
 
-QSize Merkliste::sizeHint() const { return kleinsteListe(*this, 8); }
+QSize Merkliste::größe(int zeilen) const {
+  constexpr int Zeichen = 16;
+  constexpr int Luft = 4;  // between two rows
+  const int rand = 2 * frameWidth();
+  const int inhalt = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width();
+  const int breite = std::max(inhalt, Zeichen * fontMetrics().averageCharWidth());
+  return {breite + rand, zeilen * (fontMetrics().height() + Luft) + rand};
+}
 
-QSize Merkliste::minimumSizeHint() const { return {kleinsteListe(*this, 3)}; }
+QSize Merkliste::sizeHint() const { return größe(8); }
+
+QSize Merkliste::minimumSizeHint() const { return größe(3); }

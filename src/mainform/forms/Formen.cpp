@@ -9,6 +9,8 @@
 #include "colonies/forms/TV_Neues_Volk.h"
 #include "core/forms/TH_Hilfe.h"
 #include "core/globals.h"
+#include "evaluations/Gruppierungen.h"
+#include "evaluations/forms/Auswertungsformular.h"
 #include "mainform/Menue.h"
 #include "mainform/forms/TH_Hilfe_Wieanfangen.h"
 #include "mainform/forms/TO_Einstellungen.h"
@@ -29,6 +31,12 @@ template <typename Form>
 Formen::Eintrag form(const QString& eintrag, const Einsteller& einstellen = {}) {
   return {eintrag, [](QWidget* öffner) -> Formular* { return new Form(öffner); }, einstellen,
           &typeid(Form)};
+}
+
+// An evaluation, whose form is made from its description.
+template <auto Beschreibung>
+Formen::Eintrag auswertung(const QString& eintrag) {
+  return form<Auswertungsform<Beschreibung>>(eintrag);
 }
 
 // How an entry's value reaches its form.
@@ -84,6 +92,7 @@ const QList<Formen::Eintrag>& Formen::liste() {
       form<TV_EinVerkauf_Lager>("XV_einkauf", alsFormModus),
       form<TV_EinVerkauf_Lager>("XV_verkauf", alsFormModus),
       form<TV_EinVerkauf_Lager>("XV_honiglager", alsFormModus),
+      auswertung<Gruppierungen::beschreibung>("XW_Gruppierungen"),
       form<TO_Einstellungen>("O_Einstellungen"),
       form<TH_Hilfe_Wieanfangen>("hilfewieanfangen"),
   };

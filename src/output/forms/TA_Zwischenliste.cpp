@@ -35,6 +35,11 @@ TA_Zwischenliste::TA_Zwischenliste(QWidget* öffner)
   verbinden();
 }
 
+TA_Zwischenliste::TA_Zwischenliste(QWidget* öffner, Ausgabeliste geschrieben)
+    : TA_Zwischenliste(öffner) {
+  m_geschrieben = std::move(geschrieben);
+}
+
 void TA_Zwischenliste::aufbauen() {
   m_gridli = new Grid;
   m_gridli->setObjectName("gridli");
@@ -95,9 +100,10 @@ void TA_Zwischenliste::verbinden() {
 void TA_Zwischenliste::füllen() {
   {
     const Ereignis::Sanduhr sanduhr;
-    const Ausgabeliste gelesen = Übergabe::lesen(Übergabe::datei());
+    const Ausgabeliste gelesen =
+        m_geschrieben ? *std::exchange(m_geschrieben, {}) : Übergabe::lesen(Übergabe::datei());
     m_überschriften = gelesen.überschriften();
-    m_gridli->setDaten(gelesen.daten());
+    m_gridli->setDaten(gelesen.daten(), gelesen.ordnung());
     for (int i = 0; i < gelesen.spalten(); ++i)
       m_gridli->setÜberschrift(gelesen.daten()->spalte(i).name, m_überschriften.at(i));
   }
@@ -160,12 +166,16 @@ void TA_Zwischenliste::explorerAuswertung() {
                      this);
 }
 
-void zwischenlisteZeigen(QWidget* öffner, const Daten& daten, const QStringList& überschriften) {
+void zwischenlisteZeigen(QWidget* öffner, const Ausgabeliste& liste) {
   {
     const Ereignis::Sanduhr sanduhr;
-    Übergabe::schreiben(Übergabe::datei(), Ausgabeliste(daten, überschriften));
+    Übergabe::schreiben(Übergabe::datei(), liste);
   }
-  TA_Zwischenliste(öffner).zeigen();
+  TA_Zwischenliste(öffner, liste).zeigen();
+}
+
+void zwischenlisteZeigen(QWidget* öffner, const Daten& daten, const QStringList& überschriften) {
+  zwischenlisteZeigen(öffner, Ausgabeliste(daten, überschriften));
 }
 
 namespace {
@@ -200,9 +210,5 @@ Ausgabeliste ausGrid(const Grid& grid) {
 }  // namespace
 
 void zwischenlisteZeigen(QWidget* öffner, const Grid& grid) {
-  {
-    const Ereignis::Sanduhr sanduhr;
-    Übergabe::schreiben(Übergabe::datei(), ausGrid(grid));
-  }
-  TA_Zwischenliste(öffner).zeigen();
+  zwischenlisteZeigen(öffner, ausGrid(grid));
 }

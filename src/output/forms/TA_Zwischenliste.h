@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include "output/Ausgabeliste.h"
 #include "platform/controls/Formular.h"
@@ -17,6 +18,8 @@ class QPushButton;
 class TA_Zwischenliste : public Formular {
  public:
   explicit TA_Zwischenliste(QWidget* öffner = nullptr);
+  // Shows the list that was just written to gridli.txt, which needn't be read again.
+  TA_Zwischenliste(QWidget* öffner, Ausgabeliste geschrieben);
 
  protected:
   void füllen() override;  // the list, the column widths; throws Dateifehler
@@ -34,6 +37,7 @@ class TA_Zwischenliste : public Formular {
   void excelAuswertung();
   void explorerAuswertung();
 
+  std::optional<Ausgabeliste> m_geschrieben;
   QStringList m_überschriften;
   Grid* m_gridli = nullptr;
   QCheckBox* m_kon = nullptr;
@@ -47,6 +51,7 @@ class TA_Zwischenliste : public Formular {
 // What the evaluations call: hand a list on and show it in TA_Zwischenliste. They throw
 // Dateifehler.
 
+void zwischenlisteZeigen(QWidget* öffner, const Ausgabeliste& liste);
 // All rows and columns; a column without a caption is called by its name.
 void zwischenlisteZeigen(QWidget* öffner, const Daten& daten,
                          const QStringList& überschriften = {});

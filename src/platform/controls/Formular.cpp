@@ -45,6 +45,10 @@ Formular::Weiterführung& weiterführung() {
   return weiter;
 }
 
+bool gibtEs(const QString& eintrag) {
+  return weiterführung().gibtEs && weiterführung().gibtEs(eintrag);
+}
+
 // A window kept for a screen that is gone or smaller now comes back onto a screen there is.
 void inSichtbaren(QWidget* fenster) {
   QScreen* schirm = QGuiApplication::screenAt(fenster->frameGeometry().center());
@@ -174,9 +178,12 @@ void Formular::setTabfolge(QList<QWidget*> folge, const QList<QWidget*>& zuletzt
 void Formular::setWeiterführung(Weiterführung weiter) { weiterführung() = std::move(weiter); }
 
 void Formular::führtZu(QPushButton* knopf, const QString& eintrag) {
-  knopf->setEnabled(weiterführung().gibtEs && weiterführung().gibtEs(eintrag));
-  Ereignis::wenn(knopf, &QPushButton::clicked, this,
-                 [this, eintrag] { weiterführung().öffne(this, eintrag); });
+  knopf->setEnabled(gibtEs(eintrag));
+  Ereignis::wenn(knopf, &QPushButton::clicked, this, [this, eintrag] { öffnen(eintrag); });
+}
+
+void Formular::öffnen(const QString& eintrag) {
+  if (gibtEs(eintrag)) weiterführung().öffne(this, eintrag);
 }
 
 void Formular::setHilfe(std::function<void(QWidget*, const QString&)> hilfe) {

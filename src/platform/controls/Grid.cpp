@@ -73,7 +73,7 @@ void Grid::verbinden() {
 
 // ---- rows and cells ----
 
-void Grid::setDaten(Daten daten) {
+void Grid::setDaten(Daten daten, std::vector<int> ordnung) {
   const bool warAktuell = aktuelleZeile() >= 0;
   const bool warMarkiert = selectionModel()->hasSelection();
   QStringList namen;
@@ -84,7 +84,7 @@ void Grid::setDaten(Daten daten) {
   m_sortierRichtung = Qt::AscendingOrder;
   m_suche.neuBeginnen();
   m_breitenGesperrt = true;
-  m_modell->setDaten(std::move(daten));
+  m_modell->setDaten(std::move(daten), std::move(ordnung));
   m_breitenGesperrt = false;
   zeigeSortierung();
   verborgeneAnwenden();

@@ -22,7 +22,8 @@ class Grid : public QTableView {
   explicit Grid(QWidget* eltern = nullptr);
 
   // Shows other rows. No row is current or marked afterwards; the sort is as the rows come.
-  void setDaten(Daten daten);
+  // With an order only the rows that it names, in that order.
+  void setDaten(Daten daten, std::vector<int> ordnung = {});
   int zeilen() const;
   int spalten() const;
   QString spaltenName(int spalte) const;

@@ -29,11 +29,15 @@ QString einzeilig(QString text) {
 
 }  // namespace
 
-void GridModell::setDaten(Daten daten) {
+void GridModell::setDaten(Daten daten, std::vector<int> ordnung) {
   beginResetModel();
   m_daten = std::move(daten);
-  m_ordnung.resize(m_daten ? static_cast<size_t>(m_daten->zeilen()) : 0);
-  std::iota(m_ordnung.begin(), m_ordnung.end(), 0);
+  m_gegeben = std::move(ordnung);
+  m_ordnung = m_gegeben;
+  if (m_ordnung.empty() && m_daten) {
+    m_ordnung.resize(static_cast<size_t>(m_daten->zeilen()));
+    std::iota(m_ordnung.begin(), m_ordnung.end(), 0);
+  }
   anzeigenZuordnen();
   m_rechts.clear();
   for (int i = 0; i < spalten(); ++i) m_rechts.push_back(sindZahlen(*m_daten, i));
@@ -96,6 +100,7 @@ QString GridModell::überschrift(int spalte) const {
 std::vector<int> GridModell::sortierteOrdnung(int spalte, Qt::SortOrder richtung) const {
   std::vector<int> neu = m_ordnung;
   if (spalte < 0 || spalte >= spalten()) {
+    if (!m_gegeben.empty()) return m_gegeben;
     std::sort(neu.begin(), neu.end());
     return neu;
   }

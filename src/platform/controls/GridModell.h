@@ -17,7 +17,8 @@ class GridModell : public QAbstractTableModel {
 
   using QAbstractTableModel::QAbstractTableModel;
 
-  void setDaten(Daten daten);
+  // Without an order all rows as they lie. A row may be shown more than once.
+  void setDaten(Daten daten, std::vector<int> ordnung = {});
   const Daten& daten() const { return m_daten; }
   int zeilen() const { return static_cast<int>(m_ordnung.size()); }
   int spalten() const { return m_daten ? m_daten->spalten() : 0; }
@@ -57,6 +58,7 @@ class GridModell : public QAbstractTableModel {
 
   Daten m_daten;
   std::vector<int> m_ordnung;               // shown row -> row of the block
+  std::vector<int> m_gegeben;               // the order in which they came; empty: as they lie
   QHash<QString, Anzeige> m_anzeigen;       // by column name in lower case
   QHash<QString, QString> m_überschriften;  // likewise
   std::vector<const Anzeige*> m_spaltenanzeige;
