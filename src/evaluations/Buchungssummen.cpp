@@ -1,0 +1,109 @@
+#include "evaluations/Buchungssummen.h"
+
+namespace Auswertung {
+
+Buchungssummen::Buchungssummen(int zeilen, qsizetype felder)
+    : m_felder(static_cast<size_t>(felder)),
+      m_anzahl(static_cast<size_t>(zeilen)),
+      m_stände(static_cast<size_t>(zeilen) * static_cast<size_t>(felder)) {}
+
+double Buchungssummen::mittel(int zeile, int feld) const {
+  const Stand& s = stand(zeile, feld);
+  return s.werte == 0 ? 0 : s.summe.wert() / static_cast<double>(s.werte);
+}
+
+void Buchungssummen::dazu(int zeile, const Laufzeile& buchung) {
+  ++m_anzahl[static_cast<size_t>(zeile)];
+  Stand* s = m_stände.data() + static_cast<size_t>(zeile) * m_felder;
+  for (int feld = 0; feld < static_cast<int>(m_felder); ++feld, ++s) {
+    if (buchung.istNull(feld)) continue;
+    s->summe.dazu(buchung.zahl(feld));
+    ++s->werte;
+  }
+}
+
+namespace {
+
+// Tells how far the passes are, by the IDs of the rows that they have come to.
+class Wegweiser {
+ public:
+  Wegweiser(Lauf& lauf, const QList<Summenauftrag>& aufträge) : m_lauf(lauf) {
+    if (!m_lauf.fortschritt) return;
+    for (const Summenauftrag& auftrag : aufträge) m_ganz += letzteID(auftrag.tabelle);
+  }
+  void beginne(const QString& tabelle) {
+    if (!m_lauf.fortschritt) return;
+    m_vorher += m_länge;
+    m_länge = letzteID(tabelle);
+    melde(0);
+  }
+  void schritt(const Laufzeile& buchung, int spalte) {
+    if (++m_schritte % Abstand == 0 && m_lauf.fortschritt) melde(buchung.ganzzahl(spalte));
+  }
+
+ private:
+  static constexpr int Abstand = 4096;
+
+  qint64 letzteID(const QString& tabelle) {
+    return m_lauf.db.Lesen(QStringLiteral("select max(ID) as letzte from ") + tabelle)
+        ->ganzzahl(0, 0);
+  }
+  void melde(qint64 id) {
+    m_lauf.fortschritt(static_cast<int>((m_vorher + id) / Abstand),
+                       static_cast<int>(m_ganz / Abstand) + 1);
+  }
+
+  Lauf& m_lauf;
+  qint64 m_ganz = 0;
+  qint64 m_vorher = 0;  // in the tables before this one
+  qint64 m_länge = 0;
+  unsigned m_schritte = 0;
+};
+
+// The table in its own order: the signs keep the indexes out.
+QString durchlauf(const Summenauftrag& auftrag, const QStringList& schlüssel) {
+  return QStringLiteral("select ") + (auftrag.felder + schlüssel).join(QStringLiteral(", ")) +
+         QStringLiteral(" from ") + auftrag.tabelle +
+         QStringLiteral(" where +Datum >= ? and +Datum <= ?") + auftrag.bedingung;
+}
+
+Buchungssummen summiere(Lauf& lauf, const Listenzeilen& zeilen, const Summenauftrag& auftrag,
+                        Wegweiser& weg) {
+  Buchungssummen summen(zeilen.anzahl(), auftrag.felder.size());
+  const bool nachVolk = zeilen.brauchtVolk() && !auftrag.ohneVolk;
+  QStringList schlüssel{QStringLiteral("ID")};
+  if (nachVolk) schlüssel += QStringLiteral("Volk_ID");
+  if (!zeilen.jeVolk()) schlüssel += QStringLiteral("Datum");
+  const int id = static_cast<int>(auftrag.felder.size());
+  const int volk = id + 1;
+  const int datum = volk + (nachVolk ? 1 : 0);
+  const auto zeileVon = [&](const Laufzeile& buchung) {
+    if (zeilen.jeVolk()) return zeilen.zeile(buchung.ganzzahl(volk));
+    const int jahr = buchung.jahr(datum);
+    return nachVolk ? zeilen.zeile(buchung.ganzzahl(volk), jahr) : zeilen.zeileVon(jahr);
+  };
+  const Jahre jahre = zeilen.jahre();
+  lauf.db.Durchlaufe(durchlauf(auftrag, schlüssel),
+                     {QDate(jahre.von, 1, 1), QDate(jahre.bis, 12, 31)},
+                     [&](const Laufzeile& buchung) {
+                       weg.schritt(buchung, id);
+                       const int zeile = zeileVon(buchung);
+                       if (zeile >= 0) summen.dazu(zeile, buchung);
+                     });
+  return summen;
+}
+
+}  // namespace
+
+std::vector<Buchungssummen> summiere(Lauf& lauf, const Listenzeilen& zeilen,
+                                     const QList<Summenauftrag>& aufträge) {
+  Wegweiser weg(lauf, aufträge);
+  std::vector<Buchungssummen> alle;
+  for (const Summenauftrag& auftrag : aufträge) {
+    weg.beginne(auftrag.tabelle);
+    alle.push_back(summiere(lauf, zeilen, auftrag, weg));
+  }
+  return alle;
+}
+
+}  // namespace Auswertung

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "evaluations/Listenzeilen.h"
+#include "platform/locale/Dezimalsumme.h"
+
+namespace Auswertung {
+
+// What is added up of a table, all of it in one pass.
+struct Summenauftrag {
+  QString tabelle;
+  QStringList felder;      // or expressions of fields
+  QString bedingung = {};  // " and ..." behind the period
+  bool ohneVolk = false;   // its rows belong to no colony; by years only
+};
+
+// The bookings of a table, counted and added up for each row of a list. The figures are those of
+// count(*), sum and avg in a statement for each row; null counts as 0.
+class Buchungssummen {
+ public:
+  Buchungssummen(int zeilen, qsizetype felder);
+
+  qint64 anzahl(int zeile) const { return m_anzahl[static_cast<size_t>(zeile)]; }
+  double summe(int zeile, int feld) const { return stand(zeile, feld).summe.wert(); }
+  double mittel(int zeile, int feld) const;
+
+  void dazu(int zeile, const Laufzeile& buchung);
+
+ private:
+  struct Stand {
+    Dezimalsumme summe;
+    qint64 werte = 0;  // that aren't null
+  };
+  const Stand& stand(int zeile, int feld) const {
+    return m_stände[static_cast<size_t>(zeile) * m_felder + static_cast<size_t>(feld)];
+  }
+
+  size_t m_felder;
+  std::vector<qint64> m_anzahl;
+  std::vector<Stand> m_stände;  // row by row
+};
+
+// Adds up the bookings of the rows' period, for each order in turn.
+std::vector<Buchungssummen> summiere(Lauf& lauf, const Listenzeilen& zeilen,
+                                     const QList<Summenauftrag>& aufträge);
+
+}  // namespace Auswertung

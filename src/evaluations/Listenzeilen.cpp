@@ -1,0 +1,65 @@
+#include "evaluations/Listenzeilen.h"
+
+#include "data/helpers.h"
+
+namespace Auswertung {
+
+namespace {
+
+constexpr const char16_t* Felder[] = {u"Volknr", u"Volkname", u"Standort"};
+constexpr int Kennung = 3;  // the column behind them
+
+}  // namespace
+
+Listenzeilen Listenzeilen::jeVolk(Lauf& lauf, const QString& rest, Jahre jahre) {
+  Listenzeilen zeilen(jahre);
+  zeilen.m_jeVolk = true;
+  zeilen.völkerLesen(lauf, rest);
+  for (int feld = 0; feld < Kennung; ++feld)
+    if (lauf.eingaben.an(QStringLiteral("kontier"), feld)) zeilen.m_felder += feld;
+  return zeilen;
+}
+
+Listenzeilen Listenzeilen::jeJahr(Jahre jahre) { return Listenzeilen(jahre); }
+
+Listenzeilen Listenzeilen::jeJahr(Lauf& lauf, const QString& rest, Jahre jahre) {
+  Listenzeilen zeilen(jahre);
+  zeilen.völkerLesen(lauf, rest);
+  return zeilen;
+}
+
+Listenzeilen Listenzeilen::wieGewählt(Lauf& lauf) {
+  const QString rest = qualifizierterRest(lauf.eingaben);
+  const Jahre zeitraum = Auswertung::jahre(lauf.eingaben);
+  return nachVölkern(lauf.eingaben) ? jeVolk(lauf, rest, zeitraum) : jeJahr(lauf, rest, zeitraum);
+}
+
+void Listenzeilen::völkerLesen(Lauf& lauf, const QString& rest) {
+  m_nurVölker = true;
+  m_völker =
+      lauf.db.Lesen(QStringLiteral("select Volknr, Volkname, Standort, ID from Bienenvolk") + rest);
+  m_platz.reserve(m_völker->zeilen());
+  for (int i = 0; i < m_völker->zeilen(); ++i) m_platz[m_völker->ganzzahl(i, Kennung)] = i;
+}
+
+int Listenzeilen::anzahl() const { return m_jeVolk ? m_völker->zeilen() : m_jahre.anzahl(); }
+
+void Listenzeilen::kopfspalten(Tabelle& tabelle) const {
+  if (!m_jeVolk) tabelle.spalte(QStringLiteral("jahr"), QStringLiteral("Jahr"));
+  for (const int feld : m_felder) {
+    const auto titel = QString::fromUtf16(Felder[feld]);
+    tabelle.spalte(titel.toLower(), titel);
+  }
+}
+
+void Listenzeilen::kopf(Tabelle& tabelle, int zeile) const {
+  if (!m_jeVolk) tabelle.text(QString::number(m_jahre.von + zeile));
+  for (const int feld : m_felder) tabelle.text(TextLesen(m_völker->wert(zeile, feld)));
+}
+
+void Listenzeilen::schluss(Tabelle& tabelle, const QString& wort) const {
+  const qsizetype spalten = m_jeVolk ? m_felder.size() : 1;
+  for (qsizetype i = 0; i < spalten; ++i) tabelle.text(i == 0 ? wort : QString());
+}
+
+}  // namespace Auswertung
