@@ -17,6 +17,7 @@ class Auswertungsformular : public Datenformular {
  public:
   Auswertungsformular(Auswertung::Beschreibung beschreibung, QWidget* öffner);
 
+  const Auswertung::Beschreibung& beschreibung() const { return m_beschreibung; }
   // What the inputs hold.
   Auswertung::Eingaben eingaben() const;
 
