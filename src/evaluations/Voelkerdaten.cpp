@@ -1,7 +1,6 @@
 #include "evaluations/Voelkerdaten.h"
 
-#include "evaluations/Feldtext.h"
-#include "evaluations/Tabelle.h"
+#include "evaluations/Leseliste.h"
 
 using namespace Auswertung;
 
@@ -16,16 +15,8 @@ QStringList gründe(const Eingaben& eingaben) {
 }
 
 Ergebnis listen(Lauf& lauf) {
-  const Daten völker = lauf.db.Lesen(Völkerdaten::anweisung(lauf.eingaben));
-  Tabelle tabelle;
-  for (int i = 0; i < völker->spalten(); ++i) tabelle.spalte(völker->spalte(i));
-  for (int zeile = 0; zeile < völker->zeilen(); ++zeile) {
-    for (int i = 0; i < völker->spalten(); ++i)
-      Feldtext::kopieren(tabelle.zelle(), *völker, zeile, i);
-    tabelle.zeileEnde();
-  }
   Ergebnis ergebnis;
-  ergebnis.liste = tabelle.fertig();
+  ergebnis.liste = Ausgabeliste(gelesen(lauf, Völkerdaten::anweisung(lauf.eingaben)));
   ergebnis.leer =
       QStringLiteral("Es wurden lt. den aktuellen Einstellungen keine Völker gefunden!");
   return ergebnis;

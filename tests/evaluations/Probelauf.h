@@ -93,6 +93,9 @@ class Probelauf {
     e.setAngebot(eingabe.name, schlüssel);
   }
   void geändert(const QString& name) {
+    for (const auto& gruppe : b.gruppen)
+      for (const auto& eingabe : gruppe.eingaben)
+        if (eingabe.postenVon == name) anbieten(eingabe);
     if (b.beiÄnderung) b.beiÄnderung(name, e);
   }
   bool bereit(const QString& befehl) {

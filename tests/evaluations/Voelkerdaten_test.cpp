@@ -1,7 +1,7 @@
 #include "evaluations/Voelkerdaten.h"
 
 #include "colonies/Testbetrieb.h"
-#include "evaluations/Auswertungslauf.h"
+#include "evaluations/Probelauf.h"
 
 using namespace TZ_Variablen;
 
@@ -25,9 +25,9 @@ class Volkdaten : public Testbetrieb {
         "Volk_Zugangsdatum = ? where ID = ?",
         {name, stärke, preis, zugang, id});
   }
-  Auswertungslauf auswertung(const QStringList& felder, const QString& sortierung = "Volknr",
-                             int völkerwahl = 1) {
-    Auswertungslauf a(db(), Völkerdaten::beschreibung());
+  Probelauf auswertung(const QStringList& felder, const QString& sortierung = "Volknr",
+                       int völkerwahl = 1) {
+    Probelauf a(Völkerdaten::beschreibung());
     a.e.setGewählt("liste", felder);
     a.wähle("komsort", sortierung);
     a.e.setWahl("optitieraus", völkerwahl);
@@ -35,11 +35,18 @@ class Volkdaten : public Testbetrieb {
     return a;
   }
 
+  // The rows of the list, cells parted by "|".
+  static QStringList zeilen(Probelauf a) {
+    QStringList alle;
+    for (const QStringList& z : Probelauf::zeilen(a.liste("ok"))) alle += z.join('|');
+    return alle;
+  }
+
   qint64 m_max = 0;
 };
 
 TEST_F(Volkdaten, BeideListenBietenAlleFelderInDerFolgeDerTabelleMitID) {
-  const Auswertungslauf a(db(), Völkerdaten::beschreibung());
+  const Probelauf a(Völkerdaten::beschreibung());
   QStringList felder;
   for (const Spalte& s : db().Felder("Bienenvolk")) felder += s.name;
   EXPECT_EQ(a.e.angebot("liste"), felder);
@@ -50,20 +57,20 @@ TEST_F(Volkdaten, BeideListenBietenAlleFelderInDerFolgeDerTabelleMitID) {
 
 TEST_F(Volkdaten, GewähltIstWasImPlatzZwischenSemikolonsSteht) {
   EinstellungenText[Textslots.volkdatenFelder] = ";Volknr;Standort;";
-  const Auswertungslauf a(db(), Völkerdaten::beschreibung());
+  const Probelauf a(Völkerdaten::beschreibung());
   EXPECT_EQ(a.e.gewählt("liste"), QStringList({"Volknr", "Standort"}));
 }
 
 TEST_F(Volkdaten, EineNegativeSortierungWirdZumErstenFeld) {
   EinstellungenZahl[Zahlslots.volkdatenSortierung] = -3;
-  EXPECT_EQ(Auswertungslauf(db(), Völkerdaten::beschreibung()).e.posten("komsort"), "Volknr");
+  EXPECT_EQ(Probelauf(Völkerdaten::beschreibung()).e.posten("komsort"), "Volknr");
   EinstellungenZahl[Zahlslots.volkdatenSortierung] = 1;
-  EXPECT_EQ(Auswertungslauf(db(), Völkerdaten::beschreibung()).e.posten("komsort"), "Volkname");
+  EXPECT_EQ(Probelauf(Völkerdaten::beschreibung()).e.posten("komsort"), "Volkname");
 }
 
 TEST_F(Volkdaten, DieWahlGehtBeimSchließenInIhrePlätze) {
-  const Auswertungslauf a = auswertung({"Volknr", "Volkname"}, "Volkname", 3);
-  Auswertung::sichern(a.b, a.e);
+  Probelauf a = auswertung({"Volknr", "Volkname"}, "Volkname", 3);
+  a.schließen();
   EXPECT_EQ(EinstellungenText[Textslots.volkdatenFelder], ";Volknr;Volkname;");
   EXPECT_EQ(EinstellungenZahl[Zahlslots.volkdatenSortierung], 1);
   EXPECT_EQ(EinstellungenZahl[Zahlslots.völkerwahl], 3);
@@ -82,44 +89,44 @@ TEST_F(Volkdaten, AlleVölkerHabenKeineEinschränkung) {
 TEST_F(Volkdaten, JedeVölkerwahlListetIhreVölker) {
   const QStringList erwartet[]{{"10", "3"}, {"10", "2", "3"}, {"3"}, {"2"}, {"10"}};
   for (int wahl = 0; wahl < 5; ++wahl)
-    EXPECT_EQ(auswertung({"Volknr"}, "Volknr", wahl).zeilen(), erwartet[wahl]) << wahl;
+    EXPECT_EQ(zeilen(auswertung({"Volknr"}, "Volknr", wahl)), erwartet[wahl]) << wahl;
 }
 
 TEST_F(Volkdaten, SortiertWirdAuchNachEinemFeldDasNichtGelistetIst) {
-  EXPECT_EQ(auswertung({"Volknr"}, "Volkstärke").zeilen(), QStringList({"3", "2", "10"}));
+  EXPECT_EQ(zeilen(auswertung({"Volknr"}, "Volkstärke")), QStringList({"3", "2", "10"}));
 }
 
 TEST_F(Volkdaten, DieSpaltenHeißenWieDieFelderUndStehenInDerenFolge) {
-  EXPECT_EQ(auswertung({"Standort", "Volknr"}).starten().liste->überschriften(),
+  EXPECT_EQ(auswertung({"Standort", "Volknr"}).liste("ok").überschriften(),
             QStringList({"Standort", "Volknr"}));
 }
 
 TEST_F(Volkdaten, DieWerteStehenDaWieGelesenOhneApostrophUndRand) {
   EXPECT_EQ(
-      auswertung({"Volkname", "Volkstärke", "Volk_Einkaufspreis", "Volk_Zugangsdatum"}).zeilen(),
+      zeilen(auswertung({"Volkname", "Volkstärke", "Volk_Einkaufspreis", "Volk_Zugangsdatum"})),
       QStringList(
           {"Max & Moritz|4,5|120,50|14.05.2005", "Ol`ga|3|80,00|", "Anna|2,5||01.04.2006"}));
 }
 
 TEST_F(Volkdaten, ZahlenUndTageBleibenWelcheDamitDieListeSieSoSortiert) {
-  const Daten liste = auswertung({"Volkstärke", "Volk_Zugangsdatum"}).starten().liste->daten();
+  const Daten liste = auswertung({"Volkstärke", "Volk_Zugangsdatum"}).liste("ok").daten();
   EXPECT_FALSE(liste->istText(0, 0));
   EXPECT_EQ(liste->wert(0, 1).toDate(), QDate(2005, 5, 14));
 }
 
 TEST_F(Volkdaten, OhneFeldWirdNichtGelistet) {
-  const Auswertungslauf a = auswertung({});
-  EXPECT_EQ(Auswertung::ablehnung(a.b, a.gründe()),
-            "Die Daten können nicht gelistet werden, weil...\r\n\r\n"
-            "...keine zu listenden Datenfelder ausgewählt sind.");
-  EXPECT_EQ(auswertung({"Volknr"}).gründe(), QStringList());
+  Probelauf a = auswertung({});
+  EXPECT_FALSE(a.drücke("ok").liste);
+  EXPECT_EQ(a.meldungen, QStringList("Die Daten können nicht gelistet werden, weil...\r\n\r\n"
+                                     "...keine zu listenden Datenfelder ausgewählt sind."));
 }
 
 TEST_F(Volkdaten, OhneVolkSagtDieAuswertungDassKeineGefundenWurden) {
   db().Execute("delete from Bienenvolk");
-  const auto ergebnis = auswertung({"Volknr"}).starten();
-  EXPECT_EQ(ergebnis.liste->zeilen(), 0);
-  EXPECT_EQ(ergebnis.leer, "Es wurden lt. den aktuellen Einstellungen keine Völker gefunden!");
+  Probelauf a = auswertung({"Volknr"});
+  a.drücke("ok");
+  EXPECT_EQ(a.meldungen,
+            QStringList("Es wurden lt. den aktuellen Einstellungen keine Völker gefunden!"));
 }
 
 }  // namespace
