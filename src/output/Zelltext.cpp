@@ -37,8 +37,6 @@ bool kurzeZahl(std::string& ziel, double wert, bool geld) {
   return true;
 }
 
-bool istZiffer(char c) { return c >= '0' && c <= '9'; }
-
 bool kannDatumSein(Feldtyp typ, QByteArrayView text) {
   return text.size() == 10 && text[4] == '-' && text[7] == '-' &&
          (typ == Feldtyp::Datum || typ == Feldtyp::Ausdruck);
@@ -69,38 +67,10 @@ void zahlAnhängen(std::string& ziel, double zahl) {
   if (!kurzeZahl(ziel, zahl, false)) ziel += Deutsch::schlicht(zahl).toStdString();
 }
 
-std::optional<double> zahl(QByteArrayView text) {
-  const char* von = text.data();
-  const char* bis = von + text.size();
-  while (von < bis && *von == ' ') ++von;
-  while (von < bis && bis[-1] == ' ') --bis;
-  const bool negativ = von < bis && *von == '-';
-  if (von < bis && (*von == '-' || *von == '+')) ++von;
-  constexpr int Ziffern = 15;
-  std::array<char, Ziffern + 1> puffer{};
-  size_t länge = 0;
-  int ziffern = 0;
-  bool komma = false;
-  for (; von < bis; ++von) {
-    if (istZiffer(*von) && ziffern < Ziffern) {
-      ++ziffern;
-      puffer[länge++] = *von;
-    } else if (*von == ',' && !komma) {
-      komma = true;
-      puffer[länge++] = '.';
-    } else {
-      return std::nullopt;
-    }
-  }
-  if (ziffern == 0) return std::nullopt;
-  double wert = 0;
-  std::from_chars(puffer.data(), puffer.data() + länge, wert);
-  return negativ ? -wert : wert;
-}
-
 std::optional<double> zahl(const Datenblock& block, int zeile, int spalte) {
   if (block.istNull(zeile, spalte)) return std::nullopt;
-  if (block.istText(zeile, spalte)) return zahl(block.rohtext(zeile, spalte));
+  if (block.istText(zeile, spalte))
+    return Deutsch::gelesen(block.rohtext(zeile, spalte), istZahl(block.spalte(spalte).typ));
   const double wert = block.zahl(zeile, spalte);
   if (!(std::fabs(wert) < GrößteZahl)) return std::nullopt;
   return wert;

@@ -91,6 +91,15 @@ TEST(Zelltext, AnderesIstKeineZahl) {
     EXPECT_FALSE(Zelltext::zahl(t)) << t;
 }
 
+TEST(Zelltext, EinGeldbetragInEinerZahlenspalteIstEineZahl) {
+  const Daten d = Listen::block({{"wert", Feldtyp::Währung, 0}, {"text", Feldtyp::Memo, 0}},
+                                {{"-1.234,50 €", "-1.234,50 €"}, {"04.05.2026", "87,50 €"}});
+  EXPECT_EQ(Zelltext::zahl(*d, 0, 0), -1234.5);
+  EXPECT_FALSE(Zelltext::zahl(*d, 0, 1));
+  EXPECT_FALSE(Zelltext::zahl(*d, 1, 0));
+  EXPECT_FALSE(Zelltext::zahl(*d, 1, 1));
+}
+
 TEST(Zelltext, MehrAlsFünfzehnZiffernBleibenText) {
   EXPECT_EQ(Zelltext::zahl("123456789012345"), 123456789012345.0);
   EXPECT_FALSE(Zelltext::zahl("1234567890123456"));

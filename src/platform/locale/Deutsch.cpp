@@ -1,6 +1,7 @@
 #include "platform/locale/Deutsch.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -204,6 +205,35 @@ QString schlicht(double wert) {
   const std::string nach = nachDemKomma(dezimal);
   if (!nach.empty()) text += "," + nach;
   return QString::fromLatin1(text);
+}
+
+std::optional<double> gelesen(QByteArrayView text, bool geld) {
+  const QByteArrayView euro("€");
+  text = text.trimmed();
+  geld = geld && text.endsWith(euro);
+  if (geld) text = text.chopped(euro.size()).trimmed();
+  const bool negativ = text.startsWith('-');
+  if (negativ || text.startsWith('+')) text = text.sliced(1);
+  constexpr int Ziffern = 15;
+  std::array<char, Ziffern + 1> puffer{};
+  size_t länge = 0;
+  int ziffern = 0;
+  bool komma = false;
+  for (const char c : text) {
+    if (c >= '0' && c <= '9' && ziffern < Ziffern) {
+      ++ziffern;
+      puffer[länge++] = c;
+    } else if (c == ',' && !komma) {
+      komma = true;
+      puffer[länge++] = '.';
+    } else if (!(c == '.' && geld && !komma)) {
+      return std::nullopt;
+    }
+  }
+  if (ziffern == 0) return std::nullopt;
+  double wert = 0;
+  std::from_chars(puffer.data(), puffer.data() + länge, wert);
+  return negativ ? -wert : wert;
 }
 
 double val(QStringView text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QDate>
 #include <QString>
 #include <optional>
@@ -31,6 +32,11 @@ QString festeZahl(int breite, double zahl);
 // The shortest text that gives the number back, with a decimal comma and never an exponent below
 // 1e15: 3.5 gives "3,5", 12 gives "12".
 QString schlicht(double wert);
+
+// The number that a shown text is: digits with at most one comma, a sign and blanks around. With
+// geld an amount of money too, "1.234,50 €". None for any other text with a point (a date) and for
+// one of more than 15 digits, which no number could hold exactly.
+std::optional<double> gelesen(QByteArrayView text, bool geld = false);
 
 // The number value of a text: a leading number with a decimal point, blanks skipped, 0 when there
 // is none. "1,5" gives 1, "1e3" gives 1000. Never fails and never gives inf or nan: a number too

@@ -91,6 +91,17 @@ TEST(Zeilenordnungen, MehrereSpaltenDieWichtigsteZuletzt) {
   EXPECT_EQ(block->geordnet({})->zeilen(), 0);
 }
 
+TEST(Zeilenordnungen, TexteVonZahlenStehenInEinerZahlenspalteNachGröße) {
+  const Daten block = spalte(
+      Feldtyp::Währung, {"1.234,50 €", "9,00 €", "SUMME", "-30,00 €", "", QVariant(100.0), "12,5"});
+  EXPECT_EQ(folge(block), std::vector<int>({4, 3, 1, 6, 5, 0, 2}));
+}
+
+TEST(Zeilenordnungen, TexteVonZahlenBleibenInEinerTextspalteTexte) {
+  const Daten block = spalte(Feldtyp::Text, {"9,00 €", "10,00 €"});
+  EXPECT_EQ(folge(block), std::vector<int>({1, 0}));
+}
+
 TEST(Zeilenordnungen, ZufälligeSpaltenWieZelleFürZelleVerglichen) {
   std::mt19937 zufall(11);
   const QStringList texte = {"Wald", "wald ", "Straße", "STRASSE", "ähre", "Ahre", "10", "2", " "};

@@ -344,4 +344,14 @@ TEST(Gerundet, ZähltDieStellenVomMaßAn) {
   EXPECT_EQ(Deutsch::gerundet(-0.125, 0.5, 2), -0.12);
 }
 
+TEST(Gelesen, GeldbeträgeNurWoSieErwartetWerden) {
+  EXPECT_EQ(Deutsch::gelesen("1.234.567,89 €", true), 1234567.89);
+  EXPECT_EQ(Deutsch::gelesen("-0,50 €", true), -0.5);
+  EXPECT_EQ(Deutsch::gelesen("12,5", true), 12.5);
+  EXPECT_FALSE(Deutsch::gelesen("12,5 €"));
+  EXPECT_FALSE(Deutsch::gelesen("1.234,5", true));
+  EXPECT_FALSE(Deutsch::gelesen("1,234.5 €", true));
+  EXPECT_FALSE(Deutsch::gelesen("€", true));
+}
+
 }  // namespace

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/database/werte/Kollation.h"
+#include "platform/locale/Deutsch.h"
 
 namespace {
 
@@ -99,6 +100,7 @@ Schlüssel Zeilenordnung::schlüssel(const Datenblock& block, int spalte) {
   const bool datum = block.spalte(spalte).typ == Feldtyp::Datum;
   if (datum)
     if (auto alle = tage(block, spalte)) return std::move(*alle);
+  const bool zahlen = istZahl(block.spalte(spalte).typ);
   Schlüssel alle(static_cast<size_t>(block.zeilen()), Leer);
   Ränge texte;
   std::vector<std::pair<size_t, size_t>> offen;  // row and its text's number
@@ -107,7 +109,11 @@ Schlüssel Zeilenordnung::schlüssel(const Datenblock& block, int spalte) {
     if (!block.istText(zeile, spalte)) {
       alle[static_cast<size_t>(zeile)] = zahlschlüssel(block.zahl(zeile, spalte));
     } else if (const QByteArrayView text = block.rohtext(zeile, spalte); !text.isEmpty()) {
-      offen.emplace_back(zeile, texte.nummer(text));
+      const auto zahl = zahlen ? Deutsch::gelesen(text, true) : std::nullopt;
+      if (zahl)
+        alle[static_cast<size_t>(zeile)] = zahlschlüssel(*zahl);
+      else
+        offen.emplace_back(zeile, texte.nummer(text));
     }
   }
   const std::vector<quint64> ränge = texte.ermittle(datum);
