@@ -1,16 +1,8 @@
 #include "evaluations/Leseliste.h"
 
-#include "data/helpers.h"
+#include "evaluations/Feldtext.h"
 
 namespace Auswertung {
-
-void zelleLesen(Datenblock::Bauer& ziel, const Datenblock& von, int zeile, int spalte) {
-  const QVariant wert = von.wert(zeile, spalte);
-  if (wert.typeId() == QMetaType::QString)
-    ziel.text(QStringView(TextLesen(wert)));
-  else
-    ziel.wert(wert);
-}
 
 Daten gelesen(const Lauf& lauf, const QString& anweisung, const QVariantList& werte,
               const QStringList& geld) {
@@ -22,7 +14,7 @@ Daten gelesen(const Lauf& lauf, const QString& anweisung, const QVariantList& we
   }
   Datenblock::Bauer bauer(std::move(spalten));
   for (int zeile = 0; zeile < roh->zeilen(); ++zeile) {
-    for (int i = 0; i < roh->spalten(); ++i) zelleLesen(bauer, *roh, zeile, i);
+    for (int i = 0; i < roh->spalten(); ++i) Feldtext::kopieren(bauer, *roh, zeile, i);
     if (lauf.fortschritt) lauf.fortschritt(zeile + 1, roh->zeilen());
   }
   return bauer.fertig();
