@@ -60,6 +60,10 @@ Eingabe wahltext(const QString& name, const QString& titel, Postenquelle posten)
   return offeneListe(Art::Wahltext, name, titel, std::move(posten));
 }
 
+Eingabe nebenliste(const QString& name, const QString& titel, const QString& liste) {
+  return eingabe(Art::Nebenliste, name, titel).abhängigVon(liste);
+}
+
 Eingabe text(const QString& name, const QString& titel, int maxLänge) {
   Eingabe e = eingabe(Art::Text, name, titel);
   e.maxLänge = maxLänge;
@@ -221,6 +225,7 @@ void eingabeLaden(const Eingabe& e, Eingaben& eingaben) {
       return eingaben.setWahl(e.name, wahlLaden(e, eingaben));
     case Art::Merkliste:
       return eingaben.setGewählt(e.name, merklisteLaden(e, eingaben));
+    case Art::Nebenliste:
     case Art::Lesetext:
     case Art::Befehl:
       return;
@@ -259,6 +264,7 @@ void eingabeSichern(const Eingabe& e, const Eingaben& eingaben) {
     case Art::Merkliste:
       if (e.textslot) EinstellungenText[*e.textslot] = alsListe(eingaben.gewählt(e.name));
       return;
+    case Art::Nebenliste:
     case Art::Lesetext:
     case Art::Befehl:
       return;

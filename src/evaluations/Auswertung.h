@@ -67,12 +67,13 @@ class Eingaben {
 // ---- the inputs as the form describes them ----
 
 enum class Art {
-  Haken,      // a check box
-  Optionen,   // one of several: radio buttons name_0, name_1 ...
-  Auswahl,    // one of a list that folds out: its index
-  Wahltext,   // a field that takes only the texts of its list: the text
-  Liste,      // one of a list that stands open
-  Merkliste,  // any of a list that stands open, each with a tick
+  Haken,       // a check box
+  Optionen,    // one of several: radio buttons name_0, name_1 ...
+  Auswahl,     // one of a list that folds out: its index
+  Wahltext,    // a field that takes only the texts of its list: the text
+  Liste,       // one of a list that stands open
+  Merkliste,   // any of a list that stands open, each with a tick
+  Nebenliste,  // the keys of the list postenVon, right of it: read only, scrolls with it
   Text,
   Betrag,  // money, two decimals
   Ganzzahl,
@@ -194,6 +195,7 @@ Eingabe auswahl(const QString& name, const QString& titel, Postenquelle posten);
 Eingabe wahltext(const QString& name, const QString& titel, Postenquelle posten);
 Eingabe liste(const QString& name, const QString& titel, Postenquelle posten);
 Eingabe merkliste(const QString& name, const QString& titel, Postenquelle posten);
+Eingabe nebenliste(const QString& name, const QString& titel, const QString& liste);
 Eingabe text(const QString& name, const QString& titel, int maxLänge);
 Eingabe betrag(const QString& name, const QString& titel);
 Eingabe ganzzahl(const QString& name, const QString& titel, qint64 bis);

@@ -1,6 +1,22 @@
 #include "evaluations/Buchungssummen.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace Auswertung {
+
+Summenort aufnehmen(QList<Summenauftrag>& aufträge, const Summenauftrag& tabelle,
+                    const QString& feld) {
+  auto auftrag = std::ranges::find(aufträge, tabelle.tabelle, &Summenauftrag::tabelle);
+  if (auftrag == aufträge.end()) {
+    aufträge.append(tabelle);
+    auftrag = std::prev(aufträge.end());
+  }
+  QStringList& felder = auftrag->felder;
+  if (!feld.isEmpty() && !felder.contains(feld)) felder += feld;
+  return {static_cast<size_t>(auftrag - aufträge.begin()),
+          std::max(0, static_cast<int>(felder.indexOf(feld)))};
+}
 
 Buchungssummen::Buchungssummen(int zeilen, qsizetype felder)
     : m_felder(static_cast<size_t>(felder)),

@@ -13,6 +13,17 @@ struct Summenauftrag {
   bool ohneVolk = false;   // its rows belong to no colony; by years only
 };
 
+// Where a figure is found: in which order's sums, and which of its fields.
+struct Summenort {
+  size_t auftrag = 0;
+  int feld = 0;
+};
+
+// Adds a field to the order for its table, unless it is in it, or begins that order; without a
+// field the table alone.
+Summenort aufnehmen(QList<Summenauftrag>& aufträge, const Summenauftrag& tabelle,
+                    const QString& feld = {});
+
 // The bookings of a table, counted and added up for each row of a list. The figures are those of
 // count(*), sum and avg in a statement for each row; null counts as 0.
 class Buchungssummen {

@@ -6,10 +6,23 @@ namespace Auswertung {
 
 namespace {
 
-constexpr const char16_t* Felder[] = {u"Volknr", u"Volkname", u"Standort"};
+struct Feld {
+  QString schlüssel;
+  QString titel;
+};
+
+const Feld Felder[] = {{QStringLiteral("volknr"), QStringLiteral("Volknr")},
+                       {QStringLiteral("volkname"), QStringLiteral("Volkname")},
+                       {QStringLiteral("standort"), QStringLiteral("Standort")}};
 constexpr int Kennung = 3;  // the column behind them
 
 }  // namespace
+
+void kontierWennKeine(Eingaben& eingaben) {
+  const auto an = [&](int feld) { return eingaben.an(QStringLiteral("kontier"), feld); };
+  if (an(0) || an(1) || an(2)) return;
+  for (const int feld : {0, 1, 2}) eingaben.setAn(QStringLiteral("kontier"), feld, true);
+}
 
 Listenzeilen Listenzeilen::jeVolk(Lauf& lauf, const QString& rest, Jahre jahre) {
   Listenzeilen zeilen(jahre);
@@ -44,12 +57,9 @@ void Listenzeilen::völkerLesen(Lauf& lauf, const QString& rest) {
 
 int Listenzeilen::anzahl() const { return m_jeVolk ? m_völker->zeilen() : m_jahre.anzahl(); }
 
-void Listenzeilen::kopfspalten(Tabelle& tabelle) const {
-  if (!m_jeVolk) tabelle.spalte(QStringLiteral("jahr"), QStringLiteral("Jahr"));
-  for (const int feld : m_felder) {
-    const auto titel = QString::fromUtf16(Felder[feld]);
-    tabelle.spalte(titel.toLower(), titel);
-  }
+void Listenzeilen::kopfspalten(Tabelle& tabelle, const QString& jahr) const {
+  if (!m_jeVolk) tabelle.spalte(jahr, QStringLiteral("Jahr"));
+  for (const int feld : m_felder) tabelle.spalte(Felder[feld].schlüssel, Felder[feld].titel);
 }
 
 void Listenzeilen::kopf(Tabelle& tabelle, int zeile) const {

@@ -5,6 +5,9 @@
 
 namespace Auswertung {
 
+// Where none of the boxes kontier is on, all three are switched on.
+void kontierWennKeine(Eingaben& eingaben);
+
 // The rows of a list by colonies or by years: what leads each of them, and in which one a booking
 // of the period counts.
 class Listenzeilen {
@@ -23,7 +26,7 @@ class Listenzeilen {
   int völker() const { return static_cast<int>(m_platz.size()); }
   Jahre jahre() const { return m_jahre; }
 
-  void kopfspalten(Tabelle& tabelle) const;
+  void kopfspalten(Tabelle& tabelle, const QString& jahr = QStringLiteral("jahr")) const;
   void kopf(Tabelle& tabelle, int zeile) const;
   // The word in the first of the leading columns, for a row below all others.
   void schluss(Tabelle& tabelle, const QString& wort) const;

@@ -9,6 +9,8 @@
 #include "evaluations/Auswertung.h"
 #include "gemeinsam/Musterdatenbank.h"
 
+inline void PrintTo(const QString& text, std::ostream* aus) { *aus << text.toStdString(); }
+
 // An evaluation of numbers without its window, on the 15th of June 2006: its inputs, and the run
 // from the button to the list. No run may change a byte of the database.
 class Zahlenbetrieb : public testing::Test {
