@@ -54,7 +54,7 @@ QStringList gesamtinfos() {
           "Honigwaben:   {HW}   Brutwaben:    {BW}   Honigwaben verdeckelt: {HW_v}",
           "Pollenwaben:  {PW}   Drohnenwaben: {DW}   Brutwaben Stifte:      {BW_s}",
           "Leerwaben:    {LW}   Futterwaben:  {FW}   Brutwaben offen:       {BW_o}",
-          "                                         Brutwaben verdeckelt:  {BW_v}",
+          "                                          Brutwaben verdeckelt: {BW_v}",
           "",
           "Letzte Arbeiten",
           "---------------",

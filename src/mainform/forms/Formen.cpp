@@ -11,6 +11,7 @@
 #include "core/globals.h"
 #include "evaluations/Gruppierungen.h"
 #include "evaluations/forms/Auswertungsformular.h"
+#include "evaluations/forms/TW_Listengenerator.h"
 #include "mainform/Menue.h"
 #include "mainform/forms/TH_Hilfe_Wieanfangen.h"
 #include "mainform/forms/TO_Einstellungen.h"
@@ -92,6 +93,7 @@ const QList<Formen::Eintrag>& Formen::liste() {
       form<TV_EinVerkauf_Lager>("XV_einkauf", alsFormModus),
       form<TV_EinVerkauf_Lager>("XV_verkauf", alsFormModus),
       form<TV_EinVerkauf_Lager>("XV_honiglager", alsFormModus),
+      form<TW_Listengenerator>("XW_Listengenerator"),
       auswertung<Gruppierungen::beschreibung>("XW_Gruppierungen"),
       form<TO_Einstellungen>("O_Einstellungen"),
       form<TH_Hilfe_Wieanfangen>("hilfewieanfangen"),
