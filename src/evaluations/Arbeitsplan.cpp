@@ -2,7 +2,6 @@
 
 #include "core/globals.h"
 #include "data/helpers.h"
-#include "evaluations/Feldtext.h"
 #include "evaluations/Leseliste.h"
 #include "evaluations/Tabelle.h"
 #include "platform/locale/Deutsch.h"
@@ -133,10 +132,10 @@ class Tagetabelle {
 
   void dazu(const Datenblock& termine, int zeile) {
     const int letzte = termine.spalten() - 1;
-    for (int i = 1; i < letzte; ++i) Feldtext::kopieren(m_tabelle.zelle(), termine, zeile, i);
+    for (int i = 1; i < letzte; ++i) zelleLesen(m_tabelle.zelle(), termine, zeile, i);
     const qint64 tag = m_erster.daysTo(termine.wert(zeile, 0).toDate());
     for (int i = 0; i < m_tage; ++i) m_tabelle.text(i == tag ? m_vorhanden : m_frei);
-    Feldtext::kopieren(m_tabelle.zelle(), termine, zeile, letzte);
+    zelleLesen(m_tabelle.zelle(), termine, zeile, letzte);
     m_tabelle.zeileEnde();
   }
 

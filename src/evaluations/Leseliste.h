@@ -5,9 +5,12 @@
 namespace Auswertung {
 
 // The rows of a statement as lists show them: texts as TextLesen reads them, dates and numbers with
-// their types, null as empty. The columns named in geld are money though the statement works them
+// their types. The columns named in geld are money though the statement works them
 // out, and have their two decimals. Throws Datenbankfehler.
 Daten gelesen(const Lauf& lauf, const QString& anweisung, const QVariantList& werte = {},
               const QStringList& geld = {});
+
+// Adds a cell to a list in the making: a text as TextLesen reads it, anything else as it lies.
+void zelleLesen(Datenblock::Bauer& ziel, const Datenblock& von, int zeile, int spalte);
 
 }  // namespace Auswertung

@@ -2,7 +2,6 @@
 
 #include "core/globals.h"
 #include "data/helpers.h"
-#include "evaluations/Feldtext.h"
 #include "evaluations/Leseliste.h"
 #include "evaluations/Qualitaetsindex.h"
 #include "evaluations/Tabelle.h"
@@ -53,7 +52,7 @@ Ergebnis pflanzenJeStandort(Lauf& lauf) {
       if (i < Ortsspalten && !neuer)
         tabelle.leer();
       else
-        Feldtext::kopieren(tabelle.zelle(), *zeilen, zeile, i);
+        zelleLesen(tabelle.zelle(), *zeilen, zeile, i);
     }
     tabelle.zeileEnde();
     vorher = ort;
