@@ -106,6 +106,15 @@ void betriebAnlegen(const QString& ordner, const Betriebsgröße& größe,
   EinstellungenStandard(heute);
   EinstellungenPrüfen();
   EinstellungenZahl[Zahlslots.ernteInsHoniglager] = 1;  // harvests go into the honey store
+  // What the keeper had listed last.
+  EinstellungenText[Textslots.volkdatenFelder] = ";Volknr;Volkname;Standort;Volkstärke;Beuteart;";
+  EinstellungenText[Textslots.stockkarteFelder] = ";Datum;Volkstärke;Brutstand;Bemerkung;";
+  EinstellungenText[Textslots.honigernteFelder] = ";Datum;Menge_kg;Honigsorte;";
+  EinstellungenText[Textslots.behandlungFelder] = ";Datum;Mittel;Menge_g;Behandlungsart;";
+  EinstellungenZahl[Zahlslots.listeVolknummer] = 1;
+  EinstellungenZahl[Zahlslots.listeVolkname] = 1;
+  EinstellungenZahl[Zahlslots.buchungenVolknummer] = 1;
+  EinstellungenZahl[Zahlslots.buchungenVolkname] = 1;
   EinstellungenWert = {7.5F, 9.0F, 0.02F, 0.1F, 18.0F, 2.0F};
   DatenbankAnlegen();
 

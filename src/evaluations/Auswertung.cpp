@@ -84,7 +84,17 @@ Eingabe datum(const QString& name, const QString& titel) {
   return eingabe(Art::Datum, name, titel);
 }
 
-Eingabe jahr(const QString& name, const QString& titel) { return eingabe(Art::Jahr, name, titel); }
+Eingabe jahr(const QString& name, const QString& titel) {
+  return offeneListe(Art::Jahr, name, titel, [](Database&, const Eingaben&) {
+    constexpr int Spanne = 10;
+    QList<Posten> jahre;
+    for (int i = -Spanne; i <= Spanne; ++i) {
+      const QString j = QString::number(diesesJahr().toInt() + i);
+      jahre.append({j, j});
+    }
+    return jahre;
+  });
+}
 
 Eingabe anzeige(const QString& name) { return eingabe(Art::Anzeige, name, {}); }
 

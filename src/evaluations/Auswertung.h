@@ -78,7 +78,7 @@ enum class Art {
   Betrag,  // money, two decimals
   Ganzzahl,
   Datum,     // dd.mm.yyyy
-  Jahr,      // completed by JahrErgaenzen on leaving
+  Jahr,      // completed by JahrErgaenzen on leaving; offers ten years before and after this one
   Anzeige,   // a label that a command or another input fills
   Lesetext,  // a longer text, not to be changed
   Befehl     // a command that stands among the inputs

@@ -16,6 +16,7 @@ QString schlüsselVon(const QListWidgetItem* posten) {
 Merkliste::Merkliste(const QString& name, Wahl wahl, QWidget* eltern) : QListWidget(eltern) {
   setObjectName(name);
   setTabKeyNavigation(false);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // it is as wide as its texts
   if (wahl == Wahl::Eine) return;
   setSelectionMode(MultiSelection);
   connect(this, &QListWidget::itemSelectionChanged, this, [this] { hakenZeigen(); });
@@ -28,6 +29,7 @@ void Merkliste::setPosten(const QStringList& schlüssel, const QStringList& tite
     posten->setData(SchlüsselRolle, schlüssel[i]);
     posten->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
   }
+  updateGeometry();
   if (selectionMode() != MultiSelection) return;
   if (count() > 0) setCurrentRow(0, QItemSelectionModel::NoUpdate);
   hakenZeigen();
@@ -54,11 +56,12 @@ QSize Merkliste::größe(int zeilen) const {
   constexpr int Zeichen = 16;
   constexpr int Luft = 4;  // between two rows
   const int rand = 2 * frameWidth();
-  const int inhalt = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width();
+  const int luft = 2 * fontMetrics().averageCharWidth();
+  const int inhalt = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + luft;
   const int breite = std::max(inhalt, Zeichen * fontMetrics().averageCharWidth());
   return {breite + rand, zeilen * (fontMetrics().height() + Luft) + rand};
 }
 
-QSize Merkliste::sizeHint() const { return größe(8); }
+QSize Merkliste::sizeHint() const { return größe(12); }
 
 QSize Merkliste::minimumSizeHint() const { return größe(3); }

@@ -9,7 +9,11 @@
 #include "colonies/forms/TV_Neues_Volk.h"
 #include "core/forms/TH_Hilfe.h"
 #include "core/globals.h"
+#include "evaluations/Arbeitsplan.h"
+#include "evaluations/Arbeitszeiten.h"
 #include "evaluations/Gruppierungen.h"
+#include "evaluations/Stockkarten.h"
+#include "evaluations/Voelkerdaten.h"
 #include "evaluations/forms/Auswertungsformular.h"
 #include "evaluations/forms/TW_Listengenerator.h"
 #include "mainform/Menue.h"
@@ -93,6 +97,10 @@ const QList<Formen::Eintrag>& Formen::liste() {
       form<TV_EinVerkauf_Lager>("XV_einkauf", alsFormModus),
       form<TV_EinVerkauf_Lager>("XV_verkauf", alsFormModus),
       form<TV_EinVerkauf_Lager>("XV_honiglager", alsFormModus),
+      auswertung<Völkerdaten::beschreibung>("XW_Völker"),
+      auswertung<Stockkarten::beschreibung>("XW_Stockkarten"),
+      auswertung<Arbeitsplan::beschreibung>("XW_Arbeitspläne"),
+      auswertung<Arbeitszeiten::beschreibung>("XW_Arbeitszeiten"),
       form<TW_Listengenerator>("XW_Listengenerator"),
       auswertung<Gruppierungen::beschreibung>("XW_Gruppierungen"),
       form<TO_Einstellungen>("O_Einstellungen"),

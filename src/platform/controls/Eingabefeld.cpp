@@ -132,11 +132,17 @@ void Eingabefeld::setSteuersätze(std::function<std::pair<int, int>()> sätze) {
 
 // ---- the button and what it opens ----
 
+// A number with a pick list (a year) is chosen, not computed.
+bool Eingabefeld::bietetListe() const {
+  const bool möglich = art() == Art::Text || art() == Art::Ganzzahl;
+  return art() == Art::Auswahl || (möglich && !m_liste.isEmpty());
+}
+
 void Eingabefeld::knopfEinrichten() {
   const QColor farbe = palette().color(QPalette::Active, QPalette::Text);
   QIcon symbol;
   QString tipp;
-  if (art() == Art::Auswahl || (art() == Art::Text && !m_liste.isEmpty())) {
+  if (bietetListe()) {
     symbol = Feldsymbole::pfeil(farbe);
     tipp = QStringLiteral("Auswahlliste öffnen (F4)");
   } else if (art() == Art::Datum || art() == Art::TagMonat) {
@@ -169,7 +175,7 @@ void Eingabefeld::aufklappen() {
     m_aufklappliste->hide();
   else if (art() == Art::Datum || art() == Art::TagMonat)
     kalenderÖffnen();
-  else if (art() == Art::Dezimal || art() == Art::Ganzzahl)
+  else if ((art() == Art::Dezimal || art() == Art::Ganzzahl) && !bietetListe())
     rechnerÖffnen();
   else
     listeÖffnen();

@@ -115,6 +115,7 @@ class Eingabefeld : public QLineEdit {
   void zeigeHinweis(const QString& text);
   void entsperren();  // takes keys again
   void wählen(const QString& text);
+  bool bietetListe() const;
   void knopfEinrichten();
   void prüfeWarnung();
   void setWarnung(bool ja);
