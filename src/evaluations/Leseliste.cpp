@@ -17,7 +17,9 @@ Daten gelesen(const Lauf& lauf, const QString& anweisung, const QVariantList& we
   std::vector<Spalte> spalten;
   for (int i = 0; i < roh->spalten(); ++i) {
     spalten.push_back(roh->spalte(i));
-    if (geld.contains(spalten.back().name)) spalten.back().typ = Feldtyp::Währung;
+    Spalte& spalte = spalten.back();
+    if (spalte.typ == Feldtyp::Ausdruck)
+      spalte.typ = geld.contains(spalte.name) ? Feldtyp::Währung : Feldtyp::Einfach;
   }
   Datenblock::Bauer bauer(std::move(spalten));
   for (int zeile = 0; zeile < roh->zeilen(); ++zeile) {

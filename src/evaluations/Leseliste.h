@@ -5,8 +5,8 @@
 namespace Auswertung {
 
 // The rows of a statement as lists show them: texts as TextLesen reads them, dates and numbers with
-// their types. The columns named in geld are money though the statement works them
-// out, and have their two decimals. Throws Datenbankfehler.
+// their types. What the statement works out is taken for numbers; the columns named in geld are
+// money and have their two decimals. Throws Datenbankfehler.
 Daten gelesen(const Lauf& lauf, const QString& anweisung, const QVariantList& werte = {},
               const QStringList& geld = {});
 
