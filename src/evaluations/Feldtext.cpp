@@ -35,14 +35,4 @@ void anhängen(std::string& ziel, const Laufzeile& zeile, int spalte) {
     anhängen(ziel, zeile.zahl(spalte));
 }
 
-void kopieren(Datenblock::Bauer& ziel, const Datenblock& block, int zeile, int spalte) {
-  if (block.istText(zeile, spalte) || block.istNull(zeile, spalte)) {
-    std::string text;
-    anhängen(text, block.rohtext(zeile, spalte));
-    ziel.text(text.data(), static_cast<qsizetype>(text.size()));
-  } else {
-    ziel.wert(block.wert(zeile, spalte));
-  }
-}
-
 }  // namespace Feldtext

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "platform/database/verbindung/Laufzeile.h"
-#include "platform/database/werte/Datenblock.h"
 
 // Field values as TextLesen gives them, in UTF-8 and quick enough for millions of rows.
 namespace Feldtext {
@@ -14,8 +13,5 @@ void anhängen(std::string& ziel, QByteArrayView utf8);
 void anhängen(std::string& ziel, double zahl);
 // Null adds nothing. A date stands as it lies, "yyyy-mm-dd": a row doesn't tell it from a text.
 void anhängen(std::string& ziel, const Laufzeile& zeile, int spalte);
-
-// Copies a cell of a block, numbers and dates as they are; null becomes an empty text.
-void kopieren(Datenblock::Bauer& ziel, const Datenblock& block, int zeile, int spalte);
 
 }  // namespace Feldtext

@@ -12,6 +12,8 @@
 #include "evaluations/Arbeitsplan.h"
 #include "evaluations/Arbeitszeiten.h"
 #include "evaluations/Gruppierungen.h"
+#include "evaluations/Standortauswertung.h"
+#include "evaluations/Statistik.h"
 #include "evaluations/Stockkarten.h"
 #include "evaluations/Voelkerdaten.h"
 #include "evaluations/forms/Auswertungsformular.h"
@@ -102,7 +104,9 @@ const QList<Formen::Eintrag>& Formen::liste() {
       auswertung<Arbeitsplan::beschreibung>("XW_Arbeitspläne"),
       auswertung<Arbeitszeiten::beschreibung>("XW_Arbeitszeiten"),
       form<TW_Listengenerator>("XW_Listengenerator"),
+      auswertung<Statistik::beschreibung>("XW_Statistiken"),
       auswertung<Gruppierungen::beschreibung>("XW_Gruppierungen"),
+      auswertung<Standortauswertung::beschreibung>("XW_Standorte"),
       form<TO_Einstellungen>("O_Einstellungen"),
       form<TH_Hilfe_Wieanfangen>("hilfewieanfangen"),
   };

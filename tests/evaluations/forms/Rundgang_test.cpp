@@ -96,6 +96,8 @@ TEST_P(Rundgang, JederLaufErgibtEtwasUndSchreibtNichts) {
   const QByteArray vorher = Beispielordner::dateibytes();
   öffne();
   bildAblegen(*m_form, m_form->objectName());
+  // The report of three years is longer than the text field can hold.
+  if (GetParam() == u"XW_Stockkarten") boxen.hinweisMit("Der Text ist über 32 kB groß.");
   for (const Auswertung::Befehl& b : m_form->beschreibung().befehle) {
     if (!b.lauf) continue;
     Folgefenster fenster(m_form->objectName() + "_" + b.name);
