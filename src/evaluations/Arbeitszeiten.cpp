@@ -88,13 +88,6 @@ Gruppe arbeitszeiten() {
   return gruppe;
 }
 
-Gruppe zeitraum() {
-  return {
-      QStringLiteral("Berechnungszeitraum in Wirtschaftsjahren"),
-      {jahr(QStringLiteral("t_0"), QStringLiteral("Wirtschaftsjahr von")).slot(Zahlslots.jahrVon),
-       jahr(QStringLiteral("t_1"), QStringLiteral("bis")).slot(Zahlslots.jahrBis).rechtsDavon()}};
-}
-
 }  // namespace
 
 Beschreibung beschreibung() {
@@ -105,7 +98,7 @@ Beschreibung beschreibung() {
       völkerwahl(),
       volkfelder(QStringLiteral("Zu listende Datenfelder (Völker)"),
                  {Zahlslots.listeVolknummer, Zahlslots.listeVolkname, Zahlslots.listeStandort}),
-      auswertungNach(), zeitraum(), arbeitszeiten()};
+      auswertungNach(), wirtschaftsjahre(), arbeitszeiten()};
   b.befehle = {{QStringLiteral("ok"), QStringLiteral("&Listen"), listen}};
   b.nachLaden = jahreErgänzen;
   b.prüfe = [](const QString&, const Eingaben& e) { return wirtschaftsjahrGründe(e); };

@@ -48,13 +48,19 @@ void jahreErgänzen(Eingaben& eingaben) {
   if (fehlt(1)) eingaben.setText(QStringLiteral("t"), 1, jahrestext(eingaben, 0));
 }
 
-Gruppe auswertungNach(int spalte) {
+Gruppe wirtschaftsjahre() {
+  return {
+      QStringLiteral("Berechnungszeitraum in Wirtschaftsjahren"),
+      {jahr(QStringLiteral("t_0"), QStringLiteral("Wirtschaftsjahr von")).slot(Zahlslots.jahrVon),
+       jahr(QStringLiteral("t_1"), QStringLiteral("bis")).slot(Zahlslots.jahrBis).rechtsDavon()}};
+}
+
+Gruppe auswertungNach() {
   return {QStringLiteral("Buchungen auswerten (gruppieren) nach"),
           {optionen(QStringLiteral("optiauswertung"),
                     {QStringLiteral("Wirtschaftsjahren"),
                      QStringLiteral("Völker (zu listende Datenfelder siehe oben)")})
-               .slot(Zahlslots.nachVölkern)},
-          spalte};
+               .slot(Zahlslots.nachVölkern)}};
 }
 
 bool nachVölkern(const Eingaben& eingaben) {

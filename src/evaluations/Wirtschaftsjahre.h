@@ -23,7 +23,9 @@ QStringList wirtschaftsjahrGründe(const Eingaben& eingaben);
 // Years never saved: the first becomes this year, the last becomes the first.
 void jahreErgänzen(Eingaben& eingaben);
 
-Gruppe auswertungNach(int spalte = 0);
+// The inputs, one group for the years and one for the choice.
+Gruppe wirtschaftsjahre();
+Gruppe auswertungNach();
 bool nachVölkern(const Eingaben& eingaben);
 
 }  // namespace Auswertung

@@ -1,27 +1,59 @@
 #pragma once
 
 #include <algorithm>
+#include <optional>
 
+#include "evaluations/Wirtschaftsjahre.h"
 #include "evaluations/Zahlenbetrieb.h"
+#include "gemeinsam/Beispielordner.h"
 
-// Colonies of every kind and bookings close together, with what real tables hold besides: fields
-// and days left empty, numbers below zero, thirds, millions, days at both ends of a year, bookings
-// of colonies that are gone from the register. The same on every run.
-class DichterBestand : public Zahlenbetrieb {
+// On what an evaluation is compared with a statement for each cell: the sample operation, and one
+// that is close together and has what real tables hold besides.
+enum class Bestand { Beispiel, Dicht };
+
+class Vergleichsbestand : public Zahlenbetrieb, public testing::WithParamInterface<Bestand> {
  protected:
-  void SetUp() override {
-    static Musterdatenbank muster([] { füllen(); });
-    muster.kopieren();
-  }
+  void SetUp() override;
 
-  static constexpr int Völker = 14;
+  // Several years, one, and some before and behind all bookings.
+  static QList<Auswertung::Jahre> zeiträume() {
+    if (GetParam() == Bestand::Dicht) return {{1999, 2011}, {2004, 2006}, {2006, 2006}};
+    return {{2023, 2027}, {2025, 2026}, {2025, 2025}};
+  }
 
   // The one value of a statement, as a form reads it.
   static double gelesen(const QString& anweisung) {
     return ZahlLesen(TextLesen(db().Lesen(anweisung)->wert(0, 0)));
   }
+  // The rest of a statement that joins a booking table, by the colony choice of the inputs.
+  QString rest() const {
+    return QStringList{" where Bienenvolk.Akt_im_Bestand = 'X'",
+                       " where Bienenvolk.Volknr IS NOT NULL", " where Bienenvolk.Selektiert = 'X'",
+                       " where Bienenvolk.Akt_im_Bestand <> 'X'",
+                       " where Bienenvolk.ID = 4"}[e.wahl("optitieraus")];
+  }
 
  private:
+  std::optional<Beispielordner> m_beispiel;
+};
+
+inline std::string bestandsname(const testing::TestParamInfo<Bestand>& info) {
+  return info.param == Bestand::Dicht ? "Dicht" : "Beispiel";
+}
+
+// Colonies of every kind and bookings close together: fields and days left empty, numbers below
+// zero, thirds, millions, days at both ends of a year, bookings of colonies that are gone from the
+// register. The same on every run.
+class DichterBestand : public Zahlenbetrieb {
+ public:
+  static void kopieren() {
+    static Musterdatenbank muster([] { füllen(); });
+    muster.kopieren();
+  }
+
+ private:
+  static constexpr int Völker = 14;
+
   static quint32 zufall(quint32 unter) {
     static quint32 stand = 1;
     stand = stand * 1664525 + 1013904223;
@@ -107,3 +139,9 @@ class DichterBestand : public Zahlenbetrieb {
     });
   }
 };
+
+inline void Vergleichsbestand::SetUp() {
+  if (GetParam() == Bestand::Dicht) return DichterBestand::kopieren();
+  m_beispiel.emplace();
+  db().Execute("update Bienenvolk set Selektiert = 'X' where ID in (2, 4, 9)");
+}
