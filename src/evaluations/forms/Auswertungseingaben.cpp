@@ -41,7 +41,9 @@ bool istFeld(Art art) {
          art == Art::Datum || art == Art::Jahr;
 }
 
-bool istOffeneListe(Art art) { return art == Art::Liste || art == Art::Merkliste; }
+bool istOffeneListe(Art art) {
+  return art == Art::Liste || art == Art::Merkliste || art == Art::Nebenliste;
+}
 
 Eingabefeld::Beschreibung feldbeschreibung(const Eingabe& e) {
   constexpr qint64 GrößtesJahr = 9999;
@@ -105,6 +107,12 @@ struct Auswertungseingaben::Reihe {
     raster->addLayout(letzte, zeile++, schild != nullptr ? 1 : 0, 1,
                       schild != nullptr ? 1 : Breite);
     return letzte;
+  }
+  // Right of what filled the rows before, caption and list.
+  void daneben(QWidget* schild, QWidget* liste) {
+    raster->addWidget(schild, zeile - 2, Breite);
+    raster->addWidget(liste, zeile - 1, Breite);
+    raster->setColumnStretch(Breite, 1);
   }
   void einer(QWidget* control, int anzahl) {
     if (nebeneinander == nullptr) {
@@ -171,6 +179,8 @@ void Auswertungseingaben::eingabeBauen(const Eingabe& e, const Gruppe& gruppe, R
   const bool beschriftet = !e.titel.isEmpty() && (istFeld(e.art) || e.art == Art::Auswahl);
   if (e.art == Art::Haken || e.art == Art::Befehl)
     return reihe.einer(control, gruppe.nebeneinander);
+  if (e.art == Art::Nebenliste)
+    return reihe.daneben(Formular::beschriften(e.titel, control), control);
   if (istOffeneListe(e.art) || e.art == Art::Lesetext) {
     if (!e.titel.isEmpty() && e.titel != gruppe.titel)
       reihe.ganz(Formular::beschriften(e.titel, control));
@@ -226,6 +236,7 @@ QWidget* Auswertungseingaben::controlBauen(const Eingabe& e) {
     }
     case Art::Liste:
     case Art::Merkliste:
+    case Art::Nebenliste:
       return listeBauen(e);
     case Art::Anzeige: {
       auto* schild = new QLabel;
@@ -263,6 +274,10 @@ QWidget* Auswertungseingaben::feldBauen(const Eingabe& e) {
 QWidget* Auswertungseingaben::listeBauen(const Eingabe& e) {
   auto* liste = new Merkliste(
       e.name, e.art == Art::Merkliste ? Merkliste::Wahl::Viele : Merkliste::Wahl::Eine);
+  if (e.art == Art::Nebenliste) {
+    liste->führeNeben(static_cast<Merkliste*>(m_controls.value(e.postenVon)));
+    return liste;
+  }
   Ereignis::wenn(liste, &QListWidget::itemSelectionChanged, m_formular,
                  [this, e] { gemeldet(e.name); });
   if (!e.doppelklick.isEmpty())
@@ -359,6 +374,10 @@ void Auswertungseingaben::jede(const std::function<void(const Eingabe&)>& aktion
 
 void Auswertungseingaben::listenFüllen(Database& db, Eingaben& eingaben, const QString& nurVon) {
   jede([&](const Eingabe& e) {
+    if (e.art == Art::Nebenliste) {
+      const QStringList schlüssel = eingaben.angebot(e.postenVon);
+      return static_cast<Merkliste*>(m_controls.value(e.name))->setPosten(schlüssel, schlüssel);
+    }
     if (!e.posten || (!nurVon.isEmpty() && e.postenVon != nurVon)) return;
     const QList<Posten> posten = e.posten(db, eingaben);
     const QStringList texte = titel(posten);
@@ -385,6 +404,7 @@ void Auswertungseingaben::listenFüllen(Database& db, Eingaben& eingaben, const 
 }
 
 void Auswertungseingaben::leseEingabe(const Eingabe& e, Eingaben& eingaben) const {
+  if (e.art == Art::Nebenliste) return;
   QWidget* control = m_controls.value(e.name);
   if (e.art == Art::Optionen) {
     int wahl = -1;
@@ -421,6 +441,7 @@ void Auswertungseingaben::zeigeOption(const Eingabe& e, int wahl) {
 }
 
 void Auswertungseingaben::zeigeEingabe(const Eingabe& e, const Eingaben& eingaben) {
+  if (e.art == Art::Nebenliste) return;
   QWidget* control = m_controls.value(e.name);
   if (e.art == Art::Optionen) {
     zeigeOption(e, eingaben.wahl(e.name));

@@ -46,6 +46,7 @@ void Auswertungsformular::aufbauen() {
   QList<QWidget*> folge = m_eingaben->tabfolge();
   if (m_ergebnis != nullptr) folge += m_ergebnis;
   setTabfolge(folge);
+  standardFestlegen();
   setWunschgröße(m_beschreibung.zeichen, m_beschreibung.zeilen);
 }
 
@@ -81,11 +82,19 @@ QList<QWidget*> Auswertungsformular::fußBauen() {
   for (const Befehl& b : m_beschreibung.befehle) {
     if (b.titel.isEmpty()) continue;
     auto* knopf = Bauteile::knopf(b.titel, b.name, b.hinweis);
-    if (knöpfe.isEmpty()) knopf->setDefault(true);
     Ereignis::wenn(knopf, &QPushButton::clicked, this, [this, name = b.name] { befehl(name); });
     knöpfe += knopf;
   }
   return knöpfe;
+}
+
+// What Enter presses: the first command of the foot, else the first run among the inputs.
+void Auswertungsformular::standardFestlegen() {
+  for (const Befehl& b : m_beschreibung.befehle) {
+    auto* knopf = findChild<QPushButton*>(b.name);
+    if (knopf == nullptr || (b.titel.isEmpty() && !b.lauf)) continue;
+    return knopf->setDefault(true);
+  }
 }
 
 // ---- opening and closing ----
@@ -235,7 +244,7 @@ void Auswertungsformular::ergebnisZeigen(const Ergebnis& ergebnis) {
   m_ergebnis->setDaten({});
   if (!ergebnis.liste) return;
   const Ausgabeliste& liste = *ergebnis.liste;
-  m_ergebnis->setDaten(liste.daten(), liste.ordnung());
-  for (int i = 0; i < liste.spalten(); ++i)
+  for (int i = 0; i < liste.spalten(); ++i)  // the widths go by the captions
     m_ergebnis->setÜberschrift(liste.daten()->spalte(i).name, liste.überschrift(i));
+  m_ergebnis->setDaten(liste.daten(), liste.ordnung());
 }

@@ -30,6 +30,7 @@ class Auswertungsformular : public Datenformular {
   QWidget* inhaltBauen();
   QList<QWidget*> fußBauen();
   QWidget* ergebnisBauen();
+  void standardFestlegen();
   void volkZeigen();
   void geändert(const QString& name);
   void befehl(const QString& name);

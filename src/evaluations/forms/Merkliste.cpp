@@ -46,6 +46,17 @@ void Merkliste::setGewählt(const QStringList& schlüssel) {
   for (int i = 0; i < count(); ++i) item(i)->setSelected(schlüssel.contains(schlüsselVon(item(i))));
 }
 
+void Merkliste::führeNeben(Merkliste* andere) {
+  setSelectionMode(NoSelection);
+  setVerticalScrollMode(andere->verticalScrollMode());
+  const auto koppeln = [](const QListWidget* von, const QListWidget* nach) {
+    connect(von->verticalScrollBar(), &QScrollBar::valueChanged, nach->verticalScrollBar(),
+            &QScrollBar::setValue);
+  };
+  koppeln(this, andere);
+  koppeln(andere, this);
+}
+
 // The tick follows the selection, which the keys and the mouse change.
 void Merkliste::hakenZeigen() {
   for (int i = 0; i < count(); ++i)

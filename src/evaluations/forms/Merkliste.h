@@ -15,6 +15,10 @@ class Merkliste : public QListWidget {
   QStringList gewählt() const;  // the keys in the list's order
   void setGewählt(const QStringList& schlüssel);
 
+  // Shows what belongs to the other list's entries, row by row: nothing is chosen here, and what
+  // scrolls one scrolls the other.
+  void führeNeben(Merkliste* andere);
+
   // Lists give way first: the least is a few rows.
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;

@@ -103,9 +103,9 @@ void TA_Zwischenliste::füllen() {
     const Ausgabeliste gelesen =
         m_geschrieben ? *std::exchange(m_geschrieben, {}) : Übergabe::lesen(Übergabe::datei());
     m_überschriften = gelesen.überschriften();
-    m_gridli->setDaten(gelesen.daten(), gelesen.ordnung());
-    for (int i = 0; i < gelesen.spalten(); ++i)
+    for (int i = 0; i < gelesen.spalten(); ++i)  // the widths go by the captions
       m_gridli->setÜberschrift(gelesen.daten()->spalte(i).name, m_überschriften.at(i));
+    m_gridli->setDaten(gelesen.daten(), gelesen.ordnung());
   }
   m_kon->setChecked(EinstellungenZahl[Zahlslots.spaltenbreiteAutomatisch] != 0);
   if (m_kon->isChecked()) breitenAnpassen();
