@@ -153,6 +153,23 @@ Daten gruppiert(const QList<QVariantList>& zeilen) {
   return bauer.fertig();
 }
 
+TEST(Datenblock, EineZelleWieEineFrühereNimmtKeinenTextDazu) {
+  Datenblock::Bauer bauer({{s("Volknr"), Feldtyp::Text, 10}, {s("Menge"), Feldtyp::Einfach, 0}});
+  bauer.text(QStringView(s("Bär")));
+  const size_t menge = bauer.zellen();
+  bauer.gleitkomma(2.5);
+  EXPECT_EQ(menge, 1U);
+  for (int i = 0; i < 1000; ++i) {
+    bauer.wie(0);
+    bauer.wie(menge);
+  }
+  const Daten block = bauer.fertig();
+  EXPECT_EQ(block->zeilen(), 1001);
+  EXPECT_EQ(block->anzeige(1000, 0), "Bär");
+  EXPECT_EQ(block->zahl(1000, 1), 2.5);
+  EXPECT_EQ(block->textbytes(), 4U);
+}
+
 }  // namespace
 
 TEST(Kreuztabelle, ZahlenSpaltenAufsteigendNullZuerstLeereZellenBleibenNull) {

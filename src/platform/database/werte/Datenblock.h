@@ -104,6 +104,10 @@ class Datenblock::Bauer {
   void text(const char* utf8, qsizetype länge);
   void text(QStringView text);
   void wert(const QVariant& wert);  // null, whole number, double, text or date
+  // How many cells there are, which is the number that the next one gets.
+  size_t zellen() const { return m_block->m_zellen.size(); }
+  // The same as that cell; a text takes no further room.
+  void wie(size_t zelle) { m_block->m_zellen.push_back(m_block->m_zellen[zelle]); }
   // Ends the build; the cells given must fill whole rows. The builder is empty afterwards.
   Daten fertig();
 
