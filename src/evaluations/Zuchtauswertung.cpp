@@ -114,6 +114,7 @@ Beschreibung beschreibung() {
   b.befehle = {{.name = "ok", .titel = "&Listen", .übergibt = true},
                {.name = "cmdok", .titel = {}, .lauf = buchungsinhalte},
                {.name = "cmdgruppe", .titel = {}, .lauf = durchschnitte}};
+  b.nachLaden = [](Eingaben& e) { e.setGewählt("liste", e.angebot("liste")); };
   b.prüfe = gründe;
   b.ergebnisliste = "datali";
   return b;

@@ -492,7 +492,7 @@ Formfall zwischenliste() {
 // A form of which the list of forms is all that is known.
 Formfall schlichterFall(const Formen::Eintrag& eintrag) {
   const QString name = std::unique_ptr<Formular>(eintrag.machen(nullptr))->objectName();
-  Formfall f{name + u'_' + schlicht(eintrag.eintrag), name, name, {}, {}};
+  Formfall f{schlicht(name + u'_' + eintrag.eintrag), name, name, {}, {}};
   f.machen = [gemeint = eintrag.eintrag](Betrieb& betrieb) {
     betrieb.liste();
     return ausEintrag(gemeint);

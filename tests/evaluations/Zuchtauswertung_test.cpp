@@ -38,9 +38,9 @@ class ZuchtauswertungTest : public Testbetrieb {
 
 // ---- the form's choices ----
 
-TEST_F(ZuchtauswertungTest, ÖffnetOhneHakenAufAllenJahren) {
+TEST_F(ZuchtauswertungTest, ÖffnetMitAllenFeldernAufAllenJahren) {
   EXPECT_EQ(probe->b.titel, "Auswertungen Zuchtbuch");
-  EXPECT_EQ(probe->e.gewählt("liste"), QStringList());
+  EXPECT_EQ(probe->e.gewählt("liste"), probe->e.angebot("liste"));
   EXPECT_EQ(probe->e.wahl("optizeit"), 1);
   EXPECT_EQ(probe->e.angebot("komjahr"), QStringList({"2003", "2004"}));
 }
@@ -90,6 +90,7 @@ TEST_F(ZuchtauswertungTest, AlleFelderLassenSichListen) {
 }
 
 TEST_F(ZuchtauswertungTest, OhneFelderWirdNichtGelistet) {
+  probe->e.setGewählt("liste", {});
   EXPECT_EQ(zeilen("cmdok"), Zeilen());
   EXPECT_EQ(probe->meldungen,
             QStringList("Die Daten können nicht gelistet werden, weil...\r\n\r\n...keine zu "

@@ -11,11 +11,15 @@
 #include "core/globals.h"
 #include "evaluations/Arbeitsplan.h"
 #include "evaluations/Arbeitszeiten.h"
+#include "evaluations/Deckungsbeitrag.h"
 #include "evaluations/Gruppierungen.h"
+#include "evaluations/Handelsauswertung.h"
+#include "evaluations/Lagerauswertung.h"
 #include "evaluations/Standortauswertung.h"
 #include "evaluations/Statistik.h"
 #include "evaluations/Stockkarten.h"
 #include "evaluations/Voelkerdaten.h"
+#include "evaluations/Zuchtauswertung.h"
 #include "evaluations/forms/Auswertungsformular.h"
 #include "evaluations/forms/TW_Listengenerator.h"
 #include "mainform/Menue.h"
@@ -102,11 +106,15 @@ const QList<Formen::Eintrag>& Formen::liste() {
       auswertung<Völkerdaten::beschreibung>("XW_Völker"),
       auswertung<Stockkarten::beschreibung>("XW_Stockkarten"),
       auswertung<Arbeitsplan::beschreibung>("XW_Arbeitspläne"),
+      auswertung<Deckungsbeitrag::beschreibung>("XW_Deckungsbeiträge"),
       auswertung<Arbeitszeiten::beschreibung>("XW_Arbeitszeiten"),
       form<TW_Listengenerator>("XW_Listengenerator"),
       auswertung<Statistik::beschreibung>("XW_Statistiken"),
       auswertung<Gruppierungen::beschreibung>("XW_Gruppierungen"),
       auswertung<Standortauswertung::beschreibung>("XW_Standorte"),
+      auswertung<Handelsauswertung::beschreibung>("XW_Einverkauf"),
+      auswertung<Lagerauswertung::beschreibung>("XW_Honiglager"),
+      auswertung<Zuchtauswertung::beschreibung>("XW_Zuchtbuch"),
       form<TO_Einstellungen>("O_Einstellungen"),
       form<TH_Hilfe_Wieanfangen>("hilfewieanfangen"),
   };

@@ -45,10 +45,6 @@ Formular::Weiterführung& weiterführung() {
   return weiter;
 }
 
-bool gibtEs(const QString& eintrag) {
-  return weiterführung().gibtEs && weiterführung().gibtEs(eintrag);
-}
-
 // A window kept for a screen that is gone or smaller now comes back onto a screen there is.
 void inSichtbaren(QWidget* fenster) {
   QScreen* schirm = QGuiApplication::screenAt(fenster->frameGeometry().center());
@@ -180,6 +176,10 @@ void Formular::setWeiterführung(Weiterführung weiter) { weiterführung() = std
 void Formular::führtZu(QPushButton* knopf, const QString& eintrag) {
   knopf->setEnabled(gibtEs(eintrag));
   Ereignis::wenn(knopf, &QPushButton::clicked, this, [this, eintrag] { öffnen(eintrag); });
+}
+
+bool Formular::gibtEs(const QString& eintrag) {
+  return weiterführung().gibtEs && weiterführung().gibtEs(eintrag);
 }
 
 void Formular::öffnen(const QString& eintrag) {

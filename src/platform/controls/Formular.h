@@ -71,6 +71,8 @@ class Formular : public QDialog {
   void setWunschgröße(int zeichen, int zeilen);
   // A button that opens the form of a menu entry; it can't be pressed as long as there is none.
   void führtZu(QPushButton* knopf, const QString& eintrag);
+  // Whether the program has the form of a menu entry.
+  static bool gibtEs(const QString& eintrag);
   // Opens that form; nothing happens as long as there is none.
   void öffnen(const QString& eintrag);
 

@@ -52,7 +52,8 @@ void TV_EinVerkauf_Lager::aufbauen() {
 
 QList<QWidget*> TV_EinVerkauf_Lager::fußBauen() {
   m_comlisten = knopf("&Listen", "comlisten");
-  führtZu(m_comlisten, "XW_Einverkauf");
+  m_comlisten->setEnabled(gibtEs("XW_Einverkauf"));
+  m_comlisten->setToolTip("Die Ein- und Verkäufe oder das Honiglager auswerten");
   m_rosumme = knopf("Summen", "rosumme", "Die Summen der Einkäufe und Verkäufe neu ausrechnen");
   m_bezsumme = new QLabel;
   m_bezsumme->setObjectName("bezsumme");
@@ -65,6 +66,9 @@ QList<QWidget*> TV_EinVerkauf_Lager::fußBauen() {
 void TV_EinVerkauf_Lager::verbinden() {
   Ereignis::wenn(m_reiter, &QTabWidget::currentChanged, this,
                  [this](int reiter) { reiterGewechselt(reiter); });
+  Ereignis::wenn(m_comlisten, &QPushButton::clicked, this, [this] {
+    öffnen(m_reiter->currentIndex() == ReiterLager ? "XW_Honiglager" : "XW_Einverkauf");
+  });
   Ereignis::wenn(m_rosumme, &QPushButton::clicked, this, [this] { summenZeigen(); });
 }
 

@@ -66,6 +66,13 @@ class Rundgang : public testing::TestWithParam<QString> {
  protected:
   Rundgang() { Verdrahtung::herstellen(); }
 
+  // The breeding book is the only table that the sample operation leaves empty.
+  static void züchten() {
+    if (GetParam() != u"XW_Zuchtbuch") return;
+    for (const int jahr : {2024, 2025})
+      DB.Execute("insert into Zuchtbuch(Jahr, Zuchtbuchnr, Sanftmut) values (?, ?, 3)",
+                 {QString::number(jahr), "DE-6-" + QString::number(jahr)});
+  }
   void öffne() {
     const auto& alle = Formen::liste();
     const auto eintrag = std::ranges::find(alle, GetParam(), &Formen::Eintrag::eintrag);
@@ -93,6 +100,7 @@ void überallAusgeben(const QString& befehl) {
 }
 
 TEST_P(Rundgang, JederLaufErgibtEtwasUndSchreibtNichts) {
+  züchten();
   const QByteArray vorher = Beispielordner::dateibytes();
   öffne();
   bildAblegen(*m_form, m_form->objectName());
