@@ -24,9 +24,9 @@ class BlankeMaske {
   explicit BlankeMaske(Blank& blank)
       : m_liste(blank.db(), "select * from Honigernte where Volk_ID = ?1 order by Datum") {
     for (const Buchungsslot& platz : buchungstyp(honigernte).plätze)
-      if (!platz.listenFeld.isEmpty())
+      if (platz.hatPickliste())
         m_auswahl.push_back(std::make_unique<Blank::Sprungliste>(blank.db(), "Honigernte",
-                                                                 platz.listenFeld.toStdString()));
+                                                                 platz.feld.toStdString()));
   }
   // Gives the number of bookings.
   int lese(qint64 volkId) {
