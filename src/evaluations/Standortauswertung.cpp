@@ -261,7 +261,7 @@ const QList<Liste>& listen() {
 constexpr int AmTag = 4;
 
 Gruppe listengruppe() {
-  Gruppe gruppe{"Listen", {}, 1};
+  Gruppe gruppe{"Listen", {}};
   for (int i = 0; i < listen().size(); ++i) {
     gruppe.eingaben += knopf(Eingaben::glied("rolisten", i), listen().at(i).titel);
     if (i == AmTag) gruppe.eingaben += datum(Stichtag, "Datum");
@@ -301,6 +301,8 @@ Beschreibung beschreibung() {
                  .befehle = befehle()};
   b.nachLaden = [](Eingaben& e) { e.setText(Stichtag, HeuteText); };
   b.verweigert = ohneStichtag;
+  b.zeichen = 150;
+  b.zeilen = 36;
   return b;
 }
 

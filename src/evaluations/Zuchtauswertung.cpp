@@ -117,6 +117,8 @@ Beschreibung beschreibung() {
   b.nachLaden = [](Eingaben& e) { e.setGewählt("liste", e.angebot("liste")); };
   b.prüfe = gründe;
   b.ergebnisliste = "datali";
+  b.zeichen = 170;
+  b.zeilen = 46;
   return b;
 }
 

@@ -182,8 +182,11 @@ void Auswertungseingaben::eingabeBauen(const Eingabe& e, const Gruppe& gruppe, R
   if (e.art == Art::Nebenliste)
     return reihe.daneben(Formular::beschriften(e.titel, control), control);
   if (istOffeneListe(e.art) || e.art == Art::Lesetext) {
-    if (!e.titel.isEmpty() && e.titel != gruppe.titel)
-      reihe.ganz(Formular::beschriften(e.titel, control));
+    if (!e.titel.isEmpty() && e.titel != gruppe.titel) {
+      QLabel* schild = Formular::beschriften(e.titel, control);
+      schild->setWordWrap(true);  // some tell what is to be done
+      reihe.ganz(schild);
+    }
     return reihe.ganz(control, 1);
   }
   QWidget* schild = beschriftet ? Formular::beschriften(e.titel, control) : nullptr;
