@@ -21,8 +21,8 @@ void füllen(int standorte) {
       DB.Execute(
           "insert into Pflanzen(Pflanze, Weidezeit_von, Weidezeit_bis, Nektarstufe, Pollenstufe) "
           "values (?, ?, ?, ?, ?)",
-          {QString("Pflanze %1").arg(i), QDate(2006, 3, 1).addDays(3 * i),
-           QDate(2006, 4, 10).addDays(3 * i), i % 11, (i * 7) % 11});
+          {QString("Pflanze %1").arg(i), QDate(2006, 3, 1).addDays(qint64{3} * i),
+           QDate(2006, 4, 10).addDays(qint64{3} * i), i % 11, (i * 7) % 11});
     for (int i = 0; i < standorte; ++i) {
       DB.Execute(
           QString("insert into Standorte(Standort, Pkw_anfahrbar, Entfernung_Wasser_m, "

@@ -83,7 +83,7 @@ Ergebnis tabelle(const Lauf& lauf, Stufe stufe, const QString& vonTabelle,
   return ergebnis(tabelle.fertig());
 }
 
-Beschreibung beschreibung(const QString& name, const QString& titel, QList<Gruppe> gruppen,
+Beschreibung beschreibung(const QString& name, const QString& titel, const QList<Gruppe>& gruppen,
                           const QList<Liste>& listen) {
   Beschreibung b{.name = name, .titel = titel};
   Gruppe auswahl{"Listen", {}};
@@ -92,7 +92,7 @@ Beschreibung beschreibung(const QString& name, const QString& titel, QList<Grupp
     auswahl.eingaben += knopf(befehl, listen[i].titel);
     b.befehle.append({.name = befehl, .titel = {}, .lauf = listen[i].lauf});
   }
-  b.gruppen = std::move(gruppen) + QList<Gruppe>{gruppe(), auswahl};
+  b.gruppen = gruppen + QList<Gruppe>{gruppe(), auswahl};
   b.kopf = "Die Auswertung kann nicht ausgeführt werden, weil...";
   b.nachLaden = vorgeben;
   b.prüfe = gründe;

@@ -41,7 +41,7 @@ struct Liste {
 };
 // A description with the groups given, the period and these lists.
 Auswertung::Beschreibung beschreibung(const QString& name, const QString& titel,
-                                      QList<Auswertung::Gruppe> gruppen,
+                                      const QList<Auswertung::Gruppe>& gruppen,
                                       const QList<Liste>& listen);
 
 }  // namespace Handelszeit

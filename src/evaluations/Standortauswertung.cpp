@@ -222,8 +222,8 @@ QStringList beispiel() {
           "Kirsche: Nektarstufe 7, Pollenstufe 3, Entfernung 100 m, Anteil 40 %",
           "Bergahorn: Nektarstufe 4, Pollenstufe 2, Entfernung 880 m, Anteil 20 %",
           "",
-          "Der Standort ist mit dem PKW anfahrbar, das Wasser ist 300 m entfernt, und die "
-          "Standortprämie beträgt 20 Euro je Volk.",
+          "Der Standort ist mit dem PKW anfahrbar, das Wasser ist 300 m entfernt.",
+          "Die Standortprämie beträgt 20 Euro je Volk.",
           "",
           "Am 5. Mai blühen alle drei Pflanzen. Mit den Standardparametern ergibt das:",
           "",

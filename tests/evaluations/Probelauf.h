@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QFile>
+#include <stdexcept>
+
 #include "core/globals.h"
 #include "data/helpers.h"
 #include "evaluations/Auswertung.h"

@@ -89,7 +89,7 @@ TEST_F(QualitätsindexTest, DerEntfernungsfaktorHatEinfacheGenauigkeit) {
 
 // ---- the bloom ----
 
-TEST_F(QualitätsindexTest, AusserhalbAllerWeidezeitenSindAlleDreiNull) {
+TEST_F(QualitätsindexTest, AußerhalbAllerWeidezeitenSindAlleDreiNull) {
   löwenzahn();
   Standort hof{.id = standort("Hof"), .name = "Hof", .pkw = true, .wasser_m = 300, .prämie = 20};
   tracht(hof.id, "Löwenzahn", 40, 200);

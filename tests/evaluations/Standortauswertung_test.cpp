@@ -1,5 +1,7 @@
 #include "evaluations/Standortauswertung.h"
 
+#include <algorithm>
+
 #include "evaluations/Standortbetrieb.h"
 
 // The lists of sites and plants, and the inputs of the quality index.
