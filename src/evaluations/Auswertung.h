@@ -94,12 +94,13 @@ struct Eingabe {
   Art art = Art::Haken;
   QString name;  // objectName; of Optionen without the index
   QString titel;
-  QStringList texte = {};  // Optionen: the captions; Lesetext: the lines
-  int maxLänge = 0;        // Text
-  qint64 bis = 0;          // Ganzzahl: 0 to this
-  QString vorgabe = {};    // what stands in it where no slot does; of Optionen the index
-  QString hinweis = {};    // tool tip
-  QString einheit = {};    // behind the input
+  QStringList texte = {};   // Optionen: the captions; Lesetext: the lines
+  int maxLänge = 0;         // Text
+  qint64 bis = 0;           // Ganzzahl: 0 to this
+  QString vorgabe = {};     // what stands in it where no slot does; of Optionen the index
+  QString hinweis = {};     // tool tip
+  QString gesprochen = {};  // what a screen reader says, else the title
+  QString einheit = {};     // behind the input
 
   // The slot that keeps it. Haken: 1 is on. Optionen, Liste, Auswahl: the index; one that there
   // isn't becomes vorgabe. Ganzzahl, Jahr: the number. Merkliste: ";A;B;".
@@ -167,6 +168,11 @@ struct Eingabe {
   Eingabe mitHinweis(const QString& text) const {
     auto e = *this;
     e.hinweis = text;
+    return e;
+  }
+  Eingabe genannt(const QString& text) const {
+    auto e = *this;
+    e.gesprochen = text;
     return e;
   }
   Eingabe mitEinheit(const QString& text) const {

@@ -172,8 +172,11 @@ Gruppe postenwahl() {
     gruppe.eingaben += haken(Kästchen, i, p.titel).slot(Textslots.deckungsbeitragPosten, i);
     if (!p.tabelle.isEmpty()) continue;
     const Textslot& slot = i < ErsteAusgabe ? pauschalen[0] : pauschalen[1];
-    gruppe.eingaben +=
-        betrag(p.feld, {}).slot(slot).mitVorgabe(QStringLiteral("0,00")).rechtsDavon();
+    gruppe.eingaben += betrag(p.feld, {})
+                           .slot(slot)
+                           .mitVorgabe(QStringLiteral("0,00"))
+                           .genannt(p.titel)
+                           .rechtsDavon();
   }
   return gruppe;
 }

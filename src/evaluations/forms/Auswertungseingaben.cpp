@@ -169,7 +169,8 @@ void Auswertungseingaben::eingabeBauen(const Eingabe& e, const Gruppe& gruppe, R
   if (e.art == Art::Optionen) return optionenBauen(e, reihe);
   QWidget* control = benannt(controlBauen(e), e.name);
   control->setToolTip(e.hinweis);
-  control->setAccessibleName(gesprochen(titelVon(e, gruppe.titel)));
+  control->setAccessibleName(
+      gesprochen(e.gesprochen.isEmpty() ? titelVon(e, gruppe.titel) : e.gesprochen));
   m_controls[e.name] = control;
   if (e.art != Art::Anzeige) m_tabfolge += control;
   if (e.fokusWählt) {

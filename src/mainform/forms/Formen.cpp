@@ -18,6 +18,8 @@
 #include "evaluations/Standortauswertung.h"
 #include "evaluations/Statistik.h"
 #include "evaluations/Stockkarten.h"
+#include "evaluations/VoelkerBuchungen.h"
+#include "evaluations/VoelkerBuchungenStandard.h"
 #include "evaluations/Voelkerdaten.h"
 #include "evaluations/Zuchtauswertung.h"
 #include "evaluations/forms/Auswertungsformular.h"
@@ -104,6 +106,8 @@ const QList<Formen::Eintrag>& Formen::liste() {
       form<TV_EinVerkauf_Lager>("XV_verkauf", alsFormModus),
       form<TV_EinVerkauf_Lager>("XV_honiglager", alsFormModus),
       auswertung<Völkerdaten::beschreibung>("XW_Völker"),
+      auswertung<VölkerBuchungenStandard::beschreibung>("XW_Völkerbuchungenstandard"),
+      auswertung<VölkerBuchungen::beschreibung>("XW_Völkerbuchungen"),
       auswertung<Stockkarten::beschreibung>("XW_Stockkarten"),
       auswertung<Arbeitsplan::beschreibung>("XW_Arbeitspläne"),
       auswertung<Deckungsbeitrag::beschreibung>("XW_Deckungsbeiträge"),
