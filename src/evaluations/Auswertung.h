@@ -116,6 +116,7 @@ struct Eingabe {
   QString postenVon = {};
   QString doppelklick = {};  // a command's name; so does Enter in the list
 
+  bool grün = false;     // on a green ground: parameters that a command sets
   bool daneben = false;  // stands right of the input before
   // The focus on it switches an option on: name and index.
   std::optional<std::pair<QString, int>> fokusWählt = {};

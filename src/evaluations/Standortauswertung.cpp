@@ -204,6 +204,7 @@ Gruppe parametergruppe() {
                            .slot(p.ablage)
                            .nullWirdVorgabe(QString::number(p.standard))
                            .mitEinheit(p.einheit);
+    gruppe.eingaben.last().grün = true;
   }
   gruppe.eingaben += knopf("standardparameter", "Standard-&Parameter setzen");
   return gruppe;

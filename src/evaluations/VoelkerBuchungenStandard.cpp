@@ -64,7 +64,7 @@ QList<Gruppe> gruppen() {
   Gruppe völker = völkerwahl(1);
   völker.titel = QStringLiteral("...von den Völkern...");
   return {{QStringLiteral("Es sollen die Daten aus den Buchungen..."),
-           {wahltext(Tabellenwahl, {}, feste(tabellen()))}},
+           {wahltext(Tabellenwahl, {}, feste(tabellen())).mitVorgabe(tabellen().first())}},
           {QStringLiteral("...und daraus die Datenfelder..."),
            {merkliste(Felder, {}, tabellenfelder).abhängigVon(Tabellenwahl)},
            0,
@@ -95,6 +95,8 @@ Beschreibung beschreibung() {
   b.name = QStringLiteral("TW_Völker_Buchungen_Standard");
   b.titel = QStringLiteral("Völker (Buchungen) Standard");
   b.gruppen = gruppen();
+  // It opens on a table with all its fields, ready to be listed.
+  b.nachLaden = [](Eingaben& e) { e.setGewählt(Felder, e.angebot(Felder)); };
   b.hinweis = QStringLiteral("...gelistet werden.");
   b.beiÄnderung = tabelleGewechselt;
   b.prüfe = [](const QString&, const Eingaben& eingaben) {

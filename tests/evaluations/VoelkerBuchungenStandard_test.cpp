@@ -23,9 +23,14 @@ TEST_F(BuchungenStandard, ZehnTabellenOhneDieNotizenWerdenAngeboten) {
       a.e.angebot("sevt_0"),
       QStringList({"Stockkarte", "Honigernte", "Wachsernte", "Pollenernte", "Sonstigeernte",
                    "Arbeiten", "Wanderung", "Gewichtsmessung", "Behandlung", "Königinwechsel"}));
-  EXPECT_EQ(a.e.text("sevt_0"), "");
-  EXPECT_EQ(a.e.angebot("li"), QStringList());
-  EXPECT_EQ(a.e.angebot("sevt_1"), QStringList());
+}
+
+TEST_F(BuchungenStandard, SieÖffnetMitDerStockkarteUndAllIhrenFeldern) {
+  Probelauf a(VölkerBuchungenStandard::beschreibung());
+  EXPECT_EQ(a.e.text("sevt_0"), "Stockkarte");
+  EXPECT_EQ(a.e.gewählt("li"), a.e.angebot("li"));
+  EXPECT_EQ(a.e.angebot("li").first(), "Datum");
+  EXPECT_FALSE(a.e.angebot("li").contains("Volk_ID"));
 }
 
 TEST_F(BuchungenStandard, DieTabelleBestimmtDieFelderOhneIhreSchlüssel) {
@@ -193,7 +198,7 @@ TEST_F(BuchungenStandard, DieWahlHatEigenenPlatzFürDieBuchungenUndKeinenFürDie
   EXPECT_EQ(EinstellungenZahl[Zahlslots.buchungsauswahlStandard], 0);
   EXPECT_EQ(EinstellungenZahl[Zahlslots.buchungenVolknummer], 1);
   a.öffnen();
-  EXPECT_EQ(a.e.text("sevt_0"), "");
+  EXPECT_EQ(a.e.text("sevt_0"), "Stockkarte");
 }
 
 }  // namespace

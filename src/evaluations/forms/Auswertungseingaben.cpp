@@ -18,6 +18,7 @@
 #include "platform/controls/Eingabefeld.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/controls/Formular.h"
+#include "platform/controls/Gestaltung.h"
 
 using Auswertung::Art;
 using Auswertung::Eingabe;
@@ -66,6 +67,13 @@ Eingabefeld::Beschreibung feldbeschreibung(const Eingabe& e) {
   return b;
 }
 
+void färben(QWidget* feld) {
+  QPalette farben = feld->palette();
+  const bool dunkel = Gestaltung::istDunkel(farben);
+  farben.setColor(QPalette::Base, dunkel ? QColor(38, 66, 38) : QColor(224, 242, 220));
+  feld->setPalette(farben);
+}
+
 QString titelVon(const Eingabe& e, const QString& gruppe) {
   return e.titel.isEmpty() ? gruppe : e.titel;
 }
@@ -94,6 +102,7 @@ struct Auswertungseingaben::Reihe {
   QGridLayout* nebeneinander = nullptr;
 
   static constexpr int Breite = 2;
+  static constexpr int Eng = 2;  // points between check boxes
 
   void ganz(QWidget* control, int anteil = 0) {
     schließen();
@@ -117,11 +126,20 @@ struct Auswertungseingaben::Reihe {
   void einer(QWidget* control, int anzahl) {
     if (nebeneinander == nullptr) {
       nebeneinander = new QGridLayout;
+      if (qobject_cast<QCheckBox*>(control) != nullptr) {
+        nebeneinander->setVerticalSpacing(Eng);
+        nebeneinander->setColumnStretch(anzahl, 1);
+      }
       raster->addLayout(nebeneinander, zeile++, 0, 1, Breite);
       inZeile = 0;
     }
     nebeneinander->addWidget(control, inZeile / anzahl, inZeile % anzahl);
     ++inZeile;
+  }
+  // Right of the last check box.
+  void nebenEinem(QWidget* control) {
+    const int spalte = nebeneinander->columnCount() - 1;
+    nebeneinander->addWidget(control, nebeneinander->rowCount() - 1, spalte, Qt::AlignLeft);
   }
   void schließen() { nebeneinander = nullptr; }
 };
@@ -180,6 +198,7 @@ void Auswertungseingaben::eingabeBauen(const Eingabe& e, const Gruppe& gruppe, R
   const bool beschriftet = !e.titel.isEmpty() && (istFeld(e.art) || e.art == Art::Auswahl);
   if (e.art == Art::Haken || e.art == Art::Befehl)
     return reihe.einer(control, gruppe.nebeneinander);
+  if (e.daneben && reihe.nebeneinander != nullptr) return reihe.nebenEinem(control);
   if (e.art == Art::Nebenliste)
     return reihe.daneben(Formular::beschriften(e.titel, control), control);
   if (istOffeneListe(e.art) || e.art == Art::Lesetext) {
@@ -267,6 +286,7 @@ QWidget* Auswertungseingaben::controlBauen(const Eingabe& e) {
 QWidget* Auswertungseingaben::feldBauen(const Eingabe& e) {
   auto* feld = new Eingabefeld;
   feld->einrichten(feldbeschreibung(e));
+  if (e.grün) färben(feld);
   Ereignis::wenn(feld, &Eingabefeld::verlassen, m_formular, [this, e, feld] {
     if (e.art == Art::Jahr) feld->setInhalt(JahrErgaenzen(feld->inhalt()));
     gemeldet(e.name);

@@ -1,5 +1,7 @@
 #include "evaluations/forms/Auswertungsformular.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -113,6 +115,8 @@ void Auswertungsformular::füllen() {
   m_eingaben->zeigen(e);
   m_angebot = e;
   volkZeigen();
+  // Full lists want other room than empty ones: the window's first size is to count with it.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   if (m_ergebnis == nullptr) return;
   m_ergebnis->setDaten({});
   m_ergebnistitel->setText(Ergebnistitel);

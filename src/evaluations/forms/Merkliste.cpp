@@ -19,7 +19,24 @@ Merkliste::Merkliste(const QString& name, Wahl wahl, QWidget* eltern) : QListWid
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // it is as wide as its texts
   if (wahl == Wahl::Eine) return;
   setSelectionMode(MultiSelection);
+  blassMarkieren();
   connect(this, &QListWidget::itemSelectionChanged, this, [this] { hakenZeigen(); });
+}
+
+// The tick says what is chosen; full colour on most of a list would hide the rest.
+void Merkliste::blassMarkieren() {
+  constexpr double Anteil = 0.18;
+  QPalette farben = palette();
+  const auto gemischt = [&](auto teil) {
+    const double grund = teil(farben.color(QPalette::Base));
+    return int(grund + Anteil * (teil(farben.color(QPalette::Highlight)) - grund));
+  };
+  const QColor blass(gemischt([](const QColor& c) { return c.red(); }),
+                     gemischt([](const QColor& c) { return c.green(); }),
+                     gemischt([](const QColor& c) { return c.blue(); }));
+  farben.setColor(QPalette::Highlight, blass);
+  farben.setColor(QPalette::HighlightedText, farben.color(QPalette::Text));
+  setPalette(farben);
 }
 
 void Merkliste::setPosten(const QStringList& schlüssel, const QStringList& titel) {

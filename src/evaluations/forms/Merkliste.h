@@ -25,5 +25,6 @@ class Merkliste : public QListWidget {
 
  private:
   QSize größe(int zeilen) const;
+  void blassMarkieren();
   void hakenZeigen();
 };
