@@ -104,6 +104,26 @@ void dateiVorschlagen(const QPrintDialog& dialog, const QString& titel) {
   feld->setText(QDir(ordner).filePath(name + QStringLiteral(".pdf")));
 }
 
+using Seitenmaler = std::function<void(QPainter&)>;
+
+QList<Seitenmaler> textseiten(QPrinter& drucker, const Druck::Auftrag& auftrag) {
+  const QFontMetricsF masse(auftrag.schrift, &drucker);
+  Druck::Satzspiegel spiegel;
+  spiegel.zeilen = std::max(1, static_cast<int>(drucker.height() / masse.lineSpacing()));
+  spiegel.passend = passend(masse, drucker.width());
+  QList<Seitenmaler> seiten;
+  for (const QStringList& zeilen : auftrag.umbruch(spiegel))
+    seiten.append([zeilen, masse, schrift = auftrag.schrift](QPainter& maler) {
+      maler.setFont(schrift);
+      double y = masse.ascent();
+      for (const QString& zeile : zeilen) {
+        maler.drawText(QPointF(0, y), zeile);
+        y += masse.lineSpacing();
+      }
+    });
+  return seiten;
+}
+
 }  // namespace
 
 namespace Druck {
@@ -130,30 +150,33 @@ void einrichten(QPrinter& drucker, const Auftrag& auftrag) {
   drucker.setPageMargins(QMarginsF(RandMm, RandMm, RandMm, RandMm), QPageLayout::Millimeter);
 }
 
+QRectF seite(QPainter& maler) {
+  constexpr double JeZoll = 96;
+  const QPaintDevice& blatt = *maler.device();
+  const double x = blatt.logicalDpiX() / JeZoll;
+  const double y = blatt.logicalDpiY() / JeZoll;
+  maler.scale(x, y);
+  return {0, 0, blatt.width() / x, blatt.height() / y};
+}
+
 void ausgeben(QPrinter& drucker, const Auftrag& auftrag) {
   const Ereignis::Sanduhr sanduhr;
   QPainter maler;
   if (!maler.begin(&drucker)) fehlgeschlagen(drucker);
-  maler.setFont(auftrag.schrift);
-  const QFontMetricsF masse(auftrag.schrift, &drucker);
-  const QRectF feld(0, 0, drucker.width(), drucker.height());
-  Satzspiegel spiegel;
-  spiegel.zeilen = std::max(1, static_cast<int>(feld.height() / masse.lineSpacing()));
-  spiegel.passend = passend(masse, feld.width());
-  const QList<QStringList> seiten = auftrag.umbruch(spiegel);
+  const QList<Seitenmaler> seiten =
+      auftrag.malen ? QList<Seitenmaler>{[&](QPainter& m) { auftrag.malen(m, seite(m)); }}
+                    : textseiten(drucker, auftrag);
 
   const auto [von, bis] = bereich(drucker, seiten.size());
   const int exemplare = drucker.supportsMultipleCopies() ? 1 : std::max(1, drucker.copyCount());
   bool erste = true;
   for (int exemplar = 0; exemplar < exemplare; ++exemplar)
-    for (qsizetype seite = von; seite < bis; ++seite) {
+    for (qsizetype nummer = von; nummer < bis; ++nummer) {
       if (!erste && !drucker.newPage()) fehlgeschlagen(drucker);
       erste = false;
-      double y = masse.ascent();
-      for (const QString& zeile : seiten[seite]) {
-        maler.drawText(QPointF(0, y), zeile);
-        y += masse.lineSpacing();
-      }
+      maler.save();
+      seiten[nummer](maler);
+      maler.restore();
     }
   if (!maler.end() || drucker.printerState() == QPrinter::Error || !dateiVollständig(drucker))
     fehlgeschlagen(drucker);
