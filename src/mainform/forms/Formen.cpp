@@ -23,6 +23,7 @@
 #include "evaluations/Voelkerdaten.h"
 #include "evaluations/Zuchtauswertung.h"
 #include "evaluations/forms/Auswertungsformular.h"
+#include "evaluations/forms/TW_Grafiken.h"
 #include "evaluations/forms/TW_Listengenerator.h"
 #include "mainform/Menue.h"
 #include "mainform/forms/TH_Hilfe_Wieanfangen.h"
@@ -114,6 +115,7 @@ const QList<Formen::Eintrag>& Formen::liste() {
       auswertung<Arbeitszeiten::beschreibung>("XW_Arbeitszeiten"),
       form<TW_Listengenerator>("XW_Listengenerator"),
       auswertung<Statistik::beschreibung>("XW_Statistiken"),
+      form<TW_Grafiken>("XW_Grafiken"),
       auswertung<Gruppierungen::beschreibung>("XW_Gruppierungen"),
       auswertung<Standortauswertung::beschreibung>("XW_Standorte"),
       auswertung<Handelsauswertung::beschreibung>("XW_Einverkauf"),

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
 #include <QStringList>
 #include <deque>
 #include <optional>
@@ -52,6 +54,12 @@ void vorbereiten(QFileDialog& dialog, const QString& annehmen) {
   dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Abbrechen"));
 }
 
+// "pdf" of "PDF-Datei (*.pdf)"; nothing of "Alle Dateien (*)".
+QString endungVon(const QString& filter) {
+  static const QRegularExpression muster(QStringLiteral("\\*\\.(\\w+)"));
+  return muster.match(filter).captured(1);
+}
+
 QString gefragt(QFileDialog& dialog, const QString& titel) {
   if (probe != nullptr) return geprobt(titel);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
@@ -77,18 +85,28 @@ QString speichern(QWidget* über, const QString& titel, const QString& vorschlag
   vorbereiten(dialog, QStringLiteral("&Speichern"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
-  dialog.setDefaultSuffix(endung);
+  const auto setEndung = [&](const QString& f) {
+    dialog.setDefaultSuffix(endung.isEmpty() ? endungVon(f) : endung);
+  };
+  setEndung(dialog.selectedNameFilter());
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, setEndung);
   dialog.selectFile(wunsch.fileName());
   for (;;) {
     QString pfad = gefragt(dialog, titel);
     if (pfad.isEmpty()) return {};
-    if (!endung.isEmpty() && QFileInfo(pfad).suffix().isEmpty()) pfad += u'.' + endung;
+    if (!dialog.defaultSuffix().isEmpty() && QFileInfo(pfad).suffix().isEmpty())
+      pfad += u'.' + dialog.defaultSuffix();
     if (!QFileInfo::exists(pfad)) return pfad;
     const QString frage =
         QStringLiteral("Die Datei %1 gibt es schon. Soll sie überschrieben werden?")
             .arg(QDir::toNativeSeparators(pfad));
     if (Meldungen::Frage(frage, Meldungen::Vorgabe::Nein, über)) return pfad;
   }
+}
+
+QString dokumente() {
+  const QString ordner = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return ordner.isEmpty() || !QDir(ordner).exists() ? QDir::homePath() : ordner;
 }
 
 QString ordnerWählen(QWidget* über, const QString& titel, const QString& ordner) {

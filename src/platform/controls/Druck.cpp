@@ -9,11 +9,11 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QStandardPaths>
 #include <algorithm>
 #include <array>
 #include <cmath>
 
+#include "platform/controls/Dateidialoge.h"
 #include "platform/controls/Ereignis.h"
 #include "platform/files/Textdatei.h"
 
@@ -97,11 +97,9 @@ std::pair<qsizetype, qsizetype> bereich(const QPrinter& drucker, qsizetype seite
 void dateiVorschlagen(const QPrintDialog& dialog, const QString& titel) {
   auto* feld = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
   if (feld == nullptr) return;
-  QString ordner = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  if (ordner.isEmpty() || !QDir(ordner).exists()) ordner = QDir::homePath();
   QString name = titel;
   name.replace(u'/', u' ');
-  feld->setText(QDir(ordner).filePath(name + QStringLiteral(".pdf")));
+  feld->setText(QDir(Dateidialoge::dokumente()).filePath(name + QStringLiteral(".pdf")));
 }
 
 using Seitenmaler = std::function<void(QPainter&)>;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
+#include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -11,6 +13,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "platform/controls/Dateidialoge.h"
@@ -328,6 +331,25 @@ TEST(Dateidialoge, VorhandeneDateiWirdErstNachFrageÜberschrieben) {
   EXPECT_EQ(Dateidialoge::speichern(nullptr, QStringLiteral("S"), pfad, {}), pfad);
   EXPECT_EQ(probe.fehler(), QString());
   EXPECT_EQ(meldungen.fehler(), QString());
+}
+
+// The dialog itself, answered as the user does it.
+TEST(Dateidialoge, DieEndungIstDieDesGewähltenFilters) {
+  QTemporaryDir ordner;
+  QTimer::singleShot(0, qApp, [] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    ASSERT_NE(dialog, nullptr);
+    auto* arten = dialog->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    ASSERT_NE(arten, nullptr);
+    arten->setFocus();
+    QTest::keyClick(arten, Qt::Key_Down);
+    dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QStringLiteral("bild"));
+    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+  });
+  EXPECT_EQ(Dateidialoge::speichern(nullptr, QStringLiteral("S"),
+                                    ordner.filePath(QStringLiteral("vorschlag")),
+                                    QStringLiteral("PNG-Bild (*.png);;SVG-Zeichnung (*.svg)")),
+            ordner.filePath(QStringLiteral("bild.svg")));
 }
 
 TEST(Gestaltung, SchriftIstLesbarUndDieSpracheDeutsch) {
