@@ -39,7 +39,7 @@ void TW_Listengenerator::aufbauen() {
 
 QWidget* TW_Listengenerator::textBauen() {
   m_neu = knopf("&Neu", "neu", "Einen leeren Text beginnen");
-  m_laden = knopf("L&aden", "laden", "Einen gesicherten Text holen, auch eines der Beispiele");
+  m_laden = knopf("La&den", "laden", "Einen gesicherten Text holen, auch eines der Beispiele");
   m_speichern = knopf("S&peichern", "speichern");
   m_speichernUnter = knopf("Speichern &unter", "speichernunter");
   m_dateiname = benannt(new QLabel, "dateiname");
@@ -72,7 +72,8 @@ QWidget* TW_Listengenerator::felderBauen() {
   m_kom->setToolTip(
       "Ein Doppelklick oder die Eingabetaste fügt das Feld an der Schreibmarke in den Text ein");
   m_einfügen = knopf("&Einfügen", "einfügen", "Das gewählte Feld in den Text einfügen");
-  return Bauteile::untereinander({{beschriften("Auswahlfeld für &Datenfelder", m_kom)},
-                                  {m_kom, 1},
-                                  {Bauteile::leiste({m_einfügen})}});
+  return Bauteile::untereinander(
+      {{beschriften(u'&' + QStringLiteral("Auswahlfeld für Datenfelder"), m_kom)},
+       {m_kom, 1},
+       {Bauteile::leiste({m_einfügen})}});
 }
