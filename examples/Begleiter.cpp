@@ -3,7 +3,9 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
+#include <QListWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
@@ -88,8 +90,10 @@ void Begleiter::fotografieren(QWidget* form, const QString& name) {
 void Hand::tippen(QWidget* form, const QString& feld, const QString& text) {
   QWidget* eingabe = finde<QWidget>(form, feld);
   eingabe->setFocus(Qt::TabFocusReason);
-  QTest::keyClick(eingabe, Qt::Key_A, Qt::ControlModifier);
-  QTest::keyClick(eingabe, Qt::Key_Delete);
+  if (qobject_cast<QComboBox*>(eingabe) == nullptr) {
+    QTest::keyClick(eingabe, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(eingabe, Qt::Key_Delete);
+  }
   // Umlauts have no key of their own here; they come as an input method gives them.
   for (const QChar& zeichen : text) {
     if (zeichen.unicode() < 128) {
@@ -107,6 +111,19 @@ void Hand::drücken(QWidget* form, const QString& knopf) {
   if (!taste->isEnabled()) abbrechen(knopf + " is disabled");
   QTest::mouseClick(taste, Qt::LeftButton, Qt::NoModifier,
                     QPoint(qMin(12, taste->width() / 2), taste->height() / 2));
+}
+
+void Hand::ankreuzen(QWidget* form, const QString& kästchen) {
+  if (!finde<QAbstractButton>(form, kästchen)->isChecked()) drücken(form, kästchen);
+}
+
+void Hand::anklicken(QWidget* form, const QString& liste, const QString& text) {
+  auto* wahl = finde<QListWidget>(form, liste);
+  const auto treffer = wahl->findItems(text, Qt::MatchExactly);
+  if (treffer.isEmpty()) abbrechen(QStringLiteral("%1 has no entry %2").arg(liste, text));
+  wahl->scrollToItem(treffer.first());
+  QTest::mouseClick(wahl->viewport(), Qt::LeftButton, Qt::NoModifier,
+                    wahl->visualItemRect(treffer.first()).center());
 }
 
 void Hand::wählen(QWidget* form, const QString& eintrag) {

@@ -41,10 +41,13 @@ class Begleiter {
 // What a user's hand does, on controls by their name. A control that isn't there or can't be
 // reached ends the tour with a message.
 namespace Hand {
-void tippen(QWidget* form, const QString& feld, const QString& text);  // replaces what is there
+void tippen(QWidget* form, const QString& feld,
+            const QString& text);  // replaces what is there; of a choice goes to its entry
 void drücken(QWidget* form, const QString& knopf);
-void wählen(QWidget* form, const QString& eintrag);                   // a menu entry
-void reiterWählen(QWidget* form, const QString& reiter, int nummer);  // counts from 0
+void ankreuzen(QWidget* form, const QString& kästchen);  // one that is ticked stays so
+void anklicken(QWidget* form, const QString& liste, const QString& text);  // an entry of a list
+void wählen(QWidget* form, const QString& eintrag);                        // a menu entry
+void reiterWählen(QWidget* form, const QString& reiter, int nummer);       // counts from 0
 // Marks rows of a grid: a click on the first, then clicks with Ctrl.
 void markieren(QWidget* form, const QString& gitter, const QList<int>& zeilen);
 }  // namespace Hand

@@ -13,6 +13,7 @@
 #include "Begleiter.h"
 #include "Betrieb.h"
 #include "Bienenjahr.h"
+#include "Rueckschau.h"
 #include "core/globals.h"
 #include "mainform/forms/TA_TOVA.h"
 #include "output/forms/TA_Zwischenliste.h"
@@ -235,6 +236,7 @@ bool imDrittenJahr(const QString& bilder) {
   planungZeigen(tag);
   standorteZeigen(tag);
   handelZeigen(tag);
+  auswertungenZeigen(tag);
   einstellungenZeigen(tag);
   listeWeitergeben(tag);
   hilfeLesen(tag);
