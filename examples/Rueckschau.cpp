@@ -44,6 +44,7 @@ void dreiJahre(QWidget* form) {
 // ---- colonies and bookings ----
 
 void völkerZeigen(Begleiter& tag) {
+  tag.schritt("TA_TOVA", [](QWidget* form) { Hand::markieren(form, "datali", {0}); });
   frage(tag, {"XW_Völker", "TW_Völkerdaten", "volkdaten", [](QWidget* form) {
                 for (const char* feld : {"Volkstärke", "Bienenrasse", "Königin_Farbe"})
                   Hand::anklicken(form, "liste", feld);
@@ -52,6 +53,7 @@ void völkerZeigen(Begleiter& tag) {
               }});
   frage(tag, {"XW_Völkerbuchungenstandard", "TW_Völker_Buchungen_Standard", "buchungen",
               [](QWidget* form) {
+                Hand::drücken(form, "optitieraus_1");
                 Hand::tippen(form, "sevt_0", "Behandlung");
                 Hand::drücken(form, "alletier_1");
                 for (const char* feld : {"Datum", "Mittel", "Zulassungsnr", "Wartezeit"})
@@ -61,9 +63,8 @@ void völkerZeigen(Begleiter& tag) {
                 Hand::tippen(form, "sevt_1", "Datum");
               }});
   frage(tag, {"XW_Völkerbuchungen", "TW_Völker_Buchungen", "ereignisse", [](QWidget* form) {
+                Hand::drücken(form, "optitieraus_4");
                 Hand::ankreuzen(form, "konereignis");
-                Hand::ankreuzen(form, "kontiergruppe");
-                Hand::ankreuzen(form, "tierleer");
               }});
   frage(tag, {"XW_Stockkarten", "TW_Stockkarten", "stockkarten",
               [](QWidget* form) {
@@ -111,6 +112,7 @@ void zahlenZeigen(Begleiter& tag) {
               },
               "ok_1"});
   frage(tag, {"XW_Deckungsbeiträge", "TW_Deckungsbeitrag", "deckungsbeitrag", [](QWidget* form) {
+                Hand::drücken(form, "optitieraus_1");
                 dreiJahre(form);
                 Hand::drücken(form, "alletier_1");
                 for (const int posten : {0, 6, 10, 13, 15})
