@@ -41,8 +41,8 @@ class Begleiter {
 // What a user's hand does, on controls by their name. A control that isn't there or can't be
 // reached ends the tour with a message.
 namespace Hand {
-void tippen(QWidget* form, const QString& feld,
-            const QString& text);  // replaces what is there; of a choice goes to its entry
+// Replaces what stands in a field; in a list that folds out goes to the entry.
+void tippen(QWidget* form, const QString& feld, const QString& text);
 void drücken(QWidget* form, const QString& knopf);
 void ankreuzen(QWidget* form, const QString& kästchen);  // one that is ticked stays so
 void anklicken(QWidget* form, const QString& liste, const QString& text);  // an entry of a list
