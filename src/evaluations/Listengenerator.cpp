@@ -86,11 +86,6 @@ class Volkzeilen {
   QHash<qint64, Zeilen> m_zeilen;
 };
 
-// Numbers stand on the right, days and texts on the left.
-QString gesetzt(const QString& wert, int breite) {
-  return Zelltext::zahl(wert.toUtf8()) ? TextRechts(wert, breite) : TextLinks(wert, breite);
-}
-
 using Tabellen = QHash<QString, Volkzeilen>;
 
 QString ausgefüllt(const Zeile& zeile, qint64 volk, const Tabellen& tabellen) {
@@ -114,6 +109,10 @@ QStringList gebrauchteTabellen(const QList<Zeile>& vorlage) {
 }
 
 }  // namespace
+
+QString gesetzt(const QString& wert, int breite) {
+  return Zelltext::zahl(wert.toUtf8()) ? TextRechts(wert, breite) : TextLinks(wert, breite);
+}
 
 QString eintrag(const Datenfeld& feld) {
   return feld.bezeichnung + QStringLiteral(" -> ") + feld.platzhalter;

@@ -23,6 +23,10 @@ const QList<Datenfeld>& datenfelder();
 // As the list shows it: "Schwarmtrieb -> {ST}".
 QString eintrag(const Datenfeld& feld);
 
+// A value in the width of its placeholder: a number on the right, a day or a text on the left; what
+// is longer is cut.
+QString gesetzt(const QString& wert, int breite);
+
 // The text for these colonies, in this order; one that the database doesn't have is left out. After
 // each jeSeite colonies comes a line with "#", the page break; with 0 there is none. What stands in
 // braces and is no placeholder stays as it is. Throws Datenbankfehler.

@@ -62,7 +62,7 @@ QList<Datenfeld> stand() {
           volk("Letzte Honigmenge", "{LH_Men}", "L_Honigmenge_kg"),
           volk("Honigmenge gesamt", "{HM_Ges}"),
           volk("Letzte Behandlung", "{L_Behand}", "L_Behandlung"),
-          volk("Standort", "{Standort----------}"),
+          volk("Standort", "{Standort--------------------}"),
           volk("Königin Nr", "{KönNr-------------}"),
           volk("Königin Farbe", "{KönFarbe}"),
           volk("Königin Zugangsdatum", "{KönDatum}"),

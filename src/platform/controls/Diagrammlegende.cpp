@@ -73,9 +73,10 @@ QString Diagrammlegende::nummer(int punkt) const {
 void Diagrammlegende::malen(QPainter& maler, const QPointF& ort) const {
   maler.setFont(m_schrift);
   const auto zeile = [&](int nummer) {
-    return QRectF(
-        ort + QPointF(nummer / m_zeilen * m_spaltenbreite, nummer % m_zeilen * m_zeilenhöhe),
-        QSizeF(m_spaltenbreite, m_zeilenhöhe));
+    const int spalte = nummer / m_zeilen;
+    const int reihe = nummer % m_zeilen;
+    return QRectF(ort + QPointF(spalte * m_spaltenbreite, reihe * m_zeilenhöhe),
+                  QSizeF(m_spaltenbreite, m_zeilenhöhe));
   };
   for (int i = 0; i < m_genannt; ++i) maleEintrag(maler, i, zeile(i));
   const auto übrig = m_inhalt.punkte.size() - m_genannt;
