@@ -67,6 +67,15 @@ void zelle(std::string& ziel, const Datenblock& block, int zeile, int spalte, bo
   }
 }
 
+// A sorted list takes its rows from all over the block.
+void vorholen(const Ausgabeliste& liste, int zeile) {
+  constexpr int Texte = 8;  // rows ahead
+  constexpr int Zellen = 16;
+  if (zeile + Zellen >= liste.zeilen()) return;
+  liste.daten()->holeZellen(liste.blockzeile(zeile + Zellen));
+  liste.daten()->holeTexte(liste.blockzeile(zeile + Texte));
+}
+
 [[noreturn]] void unlesbar(const QString& pfad) {
   throw Dateifehler(QStringLiteral("Die Datei %1 enthält keine Liste, die angezeigt werden kann. "
                                    "Bitte starten Sie die Auswertung noch einmal.")
@@ -221,6 +230,7 @@ void schreiben(const QString& pfad, const Ausgabeliste& liste, const Fortschritt
   const int zeilen = spalten > 0 ? liste.zeilen() : 0;
   for (int zeile = 0; zeile < zeilen; ++zeile) {
     const int block = liste.blockzeile(zeile);
+    vorholen(liste, zeile);
     for (int i = 0; i < spalten; ++i) {
       if (i > 0) puffer += '\t';
       zelle(puffer, *liste.daten(), block, i, zahlenspalte[static_cast<size_t>(i)]);

@@ -130,6 +130,22 @@ TEST_F(ÜbergabeTest, DieZeilenKommenInDerGezeigtenReihenfolge) {
   EXPECT_EQ(liste.daten()->anzeige(1, 0), "Anna");
 }
 
+TEST_F(ÜbergabeTest, EineLangeListeKommtInUmgekehrterReihenfolgeAn) {
+  QList<QVariantList> zeilen;
+  std::vector<int> ordnung;
+  for (int i = 0; i < 100; ++i) {
+    zeilen += QVariantList{"Volk " + QString::number(i), i, QVariant()};
+    ordnung.insert(ordnung.begin(), i);
+  }
+  const Daten block = Listen::block(
+      {{"a", Feldtyp::Text, 9}, {"b", Feldtyp::Lang, 0}, {"c", Feldtyp::Datum, 0}}, zeilen);
+  Übergabe::schreiben(Übergabe::datei(), Ausgabeliste(block, {}, ordnung));
+  const Ausgabeliste zurück = Übergabe::lesen(Übergabe::datei());
+  ASSERT_EQ(zurück.zeilen(), 100);
+  for (int i = 0; i < 100; ++i)
+    EXPECT_EQ(zurück.daten()->anzeige(i, 0), "Volk " + QString::number(99 - i));
+}
+
 TEST_F(ÜbergabeTest, EineListeOhneZeilenBehältIhreSpalten) {
   const Ausgabeliste liste = hinUndHer(Ausgabeliste(Listen::ernte(), {}, {}));
   EXPECT_EQ(liste.zeilen(), 0);

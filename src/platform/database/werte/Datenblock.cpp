@@ -19,6 +19,14 @@ QString geldbetrag(double wert) {
   return komma >= 0 && kurz.size() - komma > 3 ? kurz : Deutsch::zahl(wert, 2);
 }
 
+void hole(const void* ort) {
+#ifdef __GNUC__
+  __builtin_prefetch(ort);
+#else
+  static_cast<void>(ort);
+#endif
+}
+
 }  // namespace
 
 int Datenblock::spaltenNummer(QStringView name) const {
@@ -108,6 +116,17 @@ QString Datenblock::anzeige(int zeile, int spalteNummer) const {
     if (tag.isValid()) return Deutsch::datumText(tag);
   }
   return QString::fromUtf8(text);
+}
+
+void Datenblock::holeZellen(int zeile) const {
+  constexpr int JeZeile = 64 / sizeof(Zelle);  // of the cache
+  for (int i = 0; i < spalten(); i += JeZeile) hole(&zelle(zeile, i));
+  hole(&zelle(zeile, spalten() - 1));
+}
+
+void Datenblock::holeTexte(int zeile) const {
+  for (int i = 0; i < spalten(); ++i)
+    if (const Zelle& z = zelle(zeile, i); z.art == Art::Text) hole(m_texte.data() + z.ort);
 }
 
 Daten Datenblock::geordnet(const std::vector<int>& zeilen) const {

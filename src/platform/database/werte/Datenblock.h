@@ -59,6 +59,10 @@ class Datenblock {
   // For the screen: text as it stands, dates "dd.mm.yyyy", numbers with a decimal comma and no
   // more decimals than they have (CURRENCY at least two), null as an empty text.
   QString anzeige(int zeile, int spalte) const;
+  // For rows that are read in another order than they lie in: brings the cells of one that comes
+  // soon near to the processor, and once they are there its texts. Changes nothing.
+  void holeZellen(int zeile) const;
+  void holeTexte(int zeile) const;
   // A block of these rows, in this order.
   std::shared_ptr<const Datenblock> geordnet(const std::vector<int>& zeilen) const;
 
