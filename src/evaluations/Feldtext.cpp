@@ -28,10 +28,9 @@ void anhängen(std::string& ziel, QByteArrayView utf8) {
 void anhängen(std::string& ziel, double zahl) { Zelltext::zahlAnhängen(ziel, zahl); }
 
 void anhängen(std::string& ziel, const Laufzeile& zeile, int spalte) {
-  if (zeile.istNull(spalte)) return;
   if (zeile.istText(spalte))
     anhängen(ziel, zeile.rohtext(spalte));
-  else
+  else if (!zeile.istNull(spalte))
     anhängen(ziel, zeile.zahl(spalte));
 }
 

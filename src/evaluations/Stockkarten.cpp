@@ -1,6 +1,9 @@
 #include "evaluations/Stockkarten.h"
 
 #include <array>
+#include <map>
+#include <tuple>
+#include <unordered_map>
 
 #include "data/helpers.h"
 #include "platform/locale/Dezimalsumme.h"
@@ -161,8 +164,13 @@ class Schreiber {
   static QString anfang(const QString& volknr, const Durchsicht& d) {
     return TextLinks(volknr, Textbreite) + u'|' + TextLinks(d.datum, Textbreite) + u'|';
   }
-  static void zelle(QString& zeile, const Messspalte& s, double wert, bool plus) {
-    zeile += ZahlFormatBreite(wert, s.nachkommastellen, s.breite, plus ? 1 : 0) + u'|';
+  // Few values come often: each is put into its form once.
+  void zelle(QString& zeile, const Messspalte& s, double wert, bool plus) {
+    auto& bekannte = m_zellen[{s.nachkommastellen, s.breite, plus}];
+    auto [stelle, neu] = bekannte.try_emplace(wert);
+    if (neu)
+      stelle->second = ZahlFormatBreite(wert, s.nachkommastellen, s.breite, plus ? 1 : 0) + u'|';
+    zeile += stelle->second;
   }
 
   void volkEnde() {
@@ -181,6 +189,7 @@ class Schreiber {
   qint64 m_volk = 0;
   int m_anzahl = 0;  // the colony's inspections so far
   Durchsicht m_letzte;
+  std::map<std::tuple<int, int, bool>, std::unordered_map<double, QString>> m_zellen;
 };
 
 // One box at most.
