@@ -92,6 +92,32 @@ std::string feste(const Dezimal& dezimal, int nachkommastellen, char trenner) {
   return text + trenner + nach;
 }
 
+// The number in units of its last decimal, rounded, when it lies so far from a half that its digits
+// needn't be looked at: nearly all that lists show. Its sign is left out; -1 for the others.
+qint64 klarGerundet(double betrag, int nachkommastellen) {
+  constexpr std::array Zehner{1.0, 10.0, 100.0};
+  constexpr double Größter = 1e9;
+  constexpr double Abstand = 1e-3;  // of 1e11, a double is exact to far less
+  if (nachkommastellen >= static_cast<int>(Zehner.size()) || !(betrag < Größter)) return -1;
+  const double viele = betrag * Zehner[static_cast<size_t>(nachkommastellen)];
+  const auto ganze = static_cast<qint64>(viele);
+  const double rest = viele - static_cast<double>(ganze);
+  if (std::fabs(rest - 0.5) < Abstand) return -1;
+  return rest > 0.5 ? ganze + 1 : ganze;
+}
+
+QString festerText(bool negativ, qint64 einheiten, int nachkommastellen) {
+  std::array<char, 24> puffer;
+  size_t i = puffer.size();
+  const bool minus = negativ && einheiten != 0;
+  for (int stelle = 0; stelle <= nachkommastellen || einheiten != 0; ++stelle, einheiten /= 10) {
+    if (stelle == nachkommastellen && stelle > 0) puffer[--i] = ',';
+    puffer[--i] = static_cast<char>('0' + einheiten % 10);
+  }
+  if (minus) puffer[--i] = '-';
+  return QString::fromLatin1(puffer.data() + i, static_cast<qsizetype>(puffer.size() - i));
+}
+
 double alsZahl(const Dezimal& dezimal) {
   if (dezimal.ziffern.empty()) return 0.0;
   const std::string text =
@@ -173,6 +199,8 @@ QString datumText(QDate datum) {
 
 QString zahl(double wert, int nachkommastellen) {
   const int stellen = std::clamp(nachkommastellen, 0, 15);
+  const qint64 einheiten = klarGerundet(std::fabs(wert), stellen);
+  if (einheiten >= 0) return festerText(wert < 0, einheiten, stellen);
   Dezimal dezimal = zerlege(wert);
   runde(dezimal, stellen, Runden::HalbeAufwärts);
   return QString::fromLatin1(feste(dezimal, stellen, ','));

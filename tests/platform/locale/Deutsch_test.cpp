@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLocale>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -83,6 +84,26 @@ TEST(Zahl, HängtNichtVonDerSpracheDesRechnersAb) {
   QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
   EXPECT_EQ(zahl(1234.5, 2), "1234,50");
   QLocale::setDefault(QLocale::c());
+}
+
+// Against whole numbers, also on and right beside the halves.
+TEST(Zahl, ZufälligeDezimalzahlenRundenWieIhreZiffern) {
+  std::mt19937_64 zufall(7);
+  constexpr std::array<qint64, 7> Zehner{1, 10, 100, 1000, 10'000, 100'000, 1'000'000};
+  for (int lauf = 0; lauf < 20'000; ++lauf) {
+    const size_t stellen = zufall() % 4;
+    const size_t hat = stellen + zufall() % (Zehner.size() - stellen);
+    qint64 ziffern = static_cast<qint64>(zufall() % (lauf % 2 == 0 ? 10'000'000 : 100'000'000'000));
+    const qint64 teiler = Zehner[hat - stellen];
+    if (lauf % 3 == 0) ziffern = ziffern / teiler * teiler + teiler / 2 - lauf % 5 / 4;
+    const double wert = static_cast<double>(ziffern) / static_cast<double>(Zehner[hat]);
+    const qint64 gerundet = (2 * ziffern + teiler) / (2 * teiler);
+    std::string erwartet = std::to_string(gerundet / Zehner[stellen]);
+    const std::string rest = std::to_string(gerundet % Zehner[stellen]);
+    if (stellen > 0) erwartet += "," + std::string(stellen - rest.size(), '0') + rest;
+    ASSERT_EQ(zahl(wert, static_cast<int>(stellen)), erwartet);
+    ASSERT_EQ(zahl(-wert, static_cast<int>(stellen)), (gerundet == 0 ? "" : "-") + erwartet);
+  }
 }
 
 TEST(Währung, GruppiertTausenderUndSetztDasZeichenDahinter) {
