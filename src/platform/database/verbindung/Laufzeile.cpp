@@ -15,21 +15,25 @@ bool Laufzeile::istText(int spalte) const {
   return sqlite3_column_type(m_stmt, spalte) == SQLITE_TEXT;
 }
 
+// A value is looked up once and then asked: rows come by the million. The connection has no lock
+// that a value of its own would lack.
 qint64 Laufzeile::ganzzahl(int spalte) const {
-  if (sqlite3_column_type(m_stmt, spalte) == SQLITE_INTEGER)
-    return sqlite3_column_int64(m_stmt, spalte);
+  sqlite3_value* wert = sqlite3_column_value(m_stmt, spalte);
+  if (sqlite3_value_type(wert) == SQLITE_INTEGER) return sqlite3_value_int64(wert);
   return Deutsch::ganzzahl(zahl(spalte));
 }
 
 double Laufzeile::zahl(int spalte) const {
-  if (istText(spalte)) return Deutsch::val(text(spalte));
-  return sqlite3_column_double(m_stmt, spalte);
+  sqlite3_value* wert = sqlite3_column_value(m_stmt, spalte);
+  if (sqlite3_value_type(wert) == SQLITE_TEXT) return Deutsch::val(text(spalte));
+  return sqlite3_value_double(wert);
 }
 
 QByteArrayView Laufzeile::rohtext(int spalte) const {
-  if (!istText(spalte)) return {};
-  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(m_stmt, spalte));
-  return {text, static_cast<qsizetype>(sqlite3_column_bytes(m_stmt, spalte))};
+  sqlite3_value* wert = sqlite3_column_value(m_stmt, spalte);
+  if (sqlite3_value_type(wert) != SQLITE_TEXT) return {};
+  const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(wert));
+  return {text, static_cast<qsizetype>(sqlite3_value_bytes(wert))};
 }
 
 QDate Laufzeile::datum(int spalte) const { return Feldregeln::isoDatum(rohtext(spalte)); }
