@@ -62,8 +62,8 @@ void betriebÖffnen(int völker) {
 void betriebVerwerfen() { offen = 0; }
 
 Blank::Blank(const QString& pfad) {
-  if (sqlite3_open_v2(pfad.toUtf8().constData(), &m_db, SQLITE_OPEN_READWRITE, nullptr) !=
-      SQLITE_OK)
+  if (sqlite3_open_v2(pfad.toUtf8().constData(), &m_db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX,
+                      nullptr) != SQLITE_OK)
     throw std::runtime_error("open");
   führeAus(
       "pragma foreign_keys = off; pragma temp_store = memory; pragma cache_size = -65536; "

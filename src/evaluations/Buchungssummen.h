@@ -31,23 +31,27 @@ class Buchungssummen {
   Buchungssummen(int zeilen, qsizetype felder);
 
   qint64 anzahl(int zeile) const { return m_anzahl[static_cast<size_t>(zeile)]; }
-  double summe(int zeile, int feld) const { return stand(zeile, feld).summe.wert(); }
+  double summe(int zeile, int feld) const { return summe(ort(zeile, feld)); }
   double mittel(int zeile, int feld) const;
 
   void dazu(int zeile, const Laufzeile& buchung);
 
  private:
+  // Small, as there are many and bookings come in any order: what millionths can't hold is kept
+  // beside them.
   struct Stand {
-    Dezimalsumme summe;
+    qint64 millionstel = 0;
     qint64 werte = 0;  // that aren't null
   };
-  const Stand& stand(int zeile, int feld) const {
-    return m_stände[static_cast<size_t>(zeile) * m_felder + static_cast<size_t>(feld)];
+  size_t ort(int zeile, int feld) const {
+    return static_cast<size_t>(zeile) * m_felder + static_cast<size_t>(feld);
   }
+  double summe(size_t ort) const;
 
   size_t m_felder;
   std::vector<qint64> m_anzahl;
   std::vector<Stand> m_stände;  // row by row
+  QHash<size_t, Dezimalsumme> m_übrige;
 };
 
 // Adds up the bookings of the rows' period, for each order in turn.

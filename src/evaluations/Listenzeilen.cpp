@@ -18,6 +18,17 @@ constexpr int Kennung = 3;  // the column behind them
 
 }  // namespace
 
+void Volkplätze::setze(qint64 id, int platz) {
+  constexpr qint64 Grenze = 1 << 20;
+  if (id < 0 || id >= Grenze) {
+    m_große[id] = platz;
+    return;
+  }
+  const auto stelle = static_cast<size_t>(id);
+  if (stelle >= m_kleine.size()) m_kleine.resize(stelle + 1, -1);
+  m_kleine[stelle] = platz;
+}
+
 void kontierWennKeine(Eingaben& eingaben) {
   const auto an = [&](int feld) { return eingaben.an(QStringLiteral("kontier"), feld); };
   if (an(0) || an(1) || an(2)) return;
@@ -51,8 +62,7 @@ void Listenzeilen::völkerLesen(Lauf& lauf, const QString& rest) {
   m_nurVölker = true;
   m_völker =
       lauf.db.Lesen(QStringLiteral("select Volknr, Volkname, Standort, ID from Bienenvolk") + rest);
-  m_platz.reserve(m_völker->zeilen());
-  for (int i = 0; i < m_völker->zeilen(); ++i) m_platz[m_völker->ganzzahl(i, Kennung)] = i;
+  for (int i = 0; i < m_völker->zeilen(); ++i) m_plätze.setze(m_völker->ganzzahl(i, Kennung), i);
 }
 
 int Listenzeilen::anzahl() const { return m_jeVolk ? m_völker->zeilen() : m_jahre.anzahl(); }

@@ -5,6 +5,22 @@
 
 namespace Auswertung {
 
+// Where each colony stands in a list, by its ID. IDs count from 1, so most are found without a
+// search; a booking asks, and there are millions of them.
+class Volkplätze {
+ public:
+  void setze(qint64 id, int platz);
+  int platz(qint64 id) const {  // -1 when it isn't in the list
+    if (id >= 0 && id < static_cast<qint64>(m_kleine.size()))
+      return m_kleine[static_cast<size_t>(id)];
+    return m_große.isEmpty() ? -1 : m_große.value(id, -1);
+  }
+
+ private:
+  std::vector<int> m_kleine;
+  QHash<qint64, int> m_große;
+};
+
 // Where none of the boxes kontier is on, all three are switched on.
 void kontierWennKeine(Eingaben& eingaben);
 
@@ -23,7 +39,7 @@ class Listenzeilen {
   static Listenzeilen wieGewählt(Lauf& lauf);
 
   int anzahl() const;
-  int völker() const { return static_cast<int>(m_platz.size()); }
+  int völker() const { return m_völker ? m_völker->zeilen() : 0; }
   Jahre jahre() const { return m_jahre; }
 
   void kopfspalten(Tabelle& tabelle, const QString& jahr = QStringLiteral("jahr")) const;
@@ -34,8 +50,8 @@ class Listenzeilen {
   // What decides in which row a booking counts, and that row; -1 for none.
   bool jeVolk() const { return m_jeVolk; }
   bool brauchtVolk() const { return m_nurVölker; }
-  int zeile(qint64 volk) const { return m_platz.value(volk, -1); }
-  int zeile(qint64 volk, int jahr) const { return m_platz.contains(volk) ? zeileVon(jahr) : -1; }
+  int zeile(qint64 volk) const { return m_plätze.platz(volk); }
+  int zeile(qint64 volk, int jahr) const { return zeile(volk) < 0 ? -1 : zeileVon(jahr); }
   int zeileVon(int jahr) const { return jahr - m_jahre.von; }
 
  private:
@@ -46,8 +62,8 @@ class Listenzeilen {
   bool m_jeVolk = false;
   bool m_nurVölker = false;
   Daten m_völker;
-  QHash<qint64, int> m_platz;  // a colony's row in m_völker by its ID
-  QList<int> m_felder;         // the leading fields, as columns of m_völker
+  Volkplätze m_plätze;  // in m_völker
+  QList<int> m_felder;  // the leading fields, as columns of m_völker
 };
 
 }  // namespace Auswertung

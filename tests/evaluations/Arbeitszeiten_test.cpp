@@ -91,6 +91,18 @@ TEST_F(ArbeitszeitenTest, BuchungenOhneVolkZählenJeJahrNicht) {
   EXPECT_EQ(starte(), QStringList({"Jahr|Arbeiten|Gesamt", "2004|0,00|0,00", "2005|0,00|0,00"}));
 }
 
+TEST_F(ArbeitszeitenTest, EinVolkMitSehrHoherKennungHatSeineStunden) {
+  volk("1");
+  einfügen("Bienenvolk", {{"Volknr", "2"}, {"Akt_im_Bestand", "X"}, {"ID", 2'000'000'000}});
+  stunden("Arbeiten", 2'000'000'000, "01.01.2004", 5);
+  stunden("Arbeiten", 1'999'999'999, "01.01.2004", 5);
+  hake("konkost", {4});
+  hake("kontier", {0});
+  EXPECT_EQ(starte()[1], "2004|5,00|5,00");
+  e.setWahl("optiauswertung", 1);
+  EXPECT_EQ(starte().mid(1, 2), QStringList({"1|0,00|0,00", "2|5,00|5,00"}));
+}
+
 TEST_F(ArbeitszeitenTest, OhneVolkInDerAuswahlIstNichtsZuListen) {
   volk("1");
   e.setWahl("optitieraus", 3);
