@@ -207,9 +207,9 @@ QList<Gruppe> gruppen() {
   Gruppe felder{"Zu Listende Datenfelder", {}};
   for (int i = 0; i < ablage.size(); ++i)
     felder.eingaben += haken("kon", i, texte.at(i)).slot(ablage.at(i));
-  constexpr int Zeichenlänge = 10;
+  constexpr int OhneGrenze = 0;
   const auto zeichen = [](int index, const QString& titel, const Textslot& ablage) {
-    return text(Eingaben::glied("t", index), titel, Zeichenlänge).slot(ablage);
+    return text(Eingaben::glied("t", index), titel, OhneGrenze).slot(ablage);
   };
   return {
       zeitraumgruppe(),

@@ -4,6 +4,7 @@
 
 #include "core/globals.h"
 #include "data/helpers.h"
+#include "platform/locale/Deutsch.h"
 
 using namespace TZ_Variablen;
 
@@ -284,9 +285,11 @@ void eingabeSichern(const Eingabe& e, const Eingaben& eingaben) {
   }
 }
 
-// Boxes that share a slot leave it at 0 when none is on.
+// Boxes that share a slot leave it at 0 when none is on; a text of boxes is built anew.
 void geteilteLeeren(const Eingabe& e) {
-  if (e.art == Art::Haken && e.zahlslot && e.slotwert >= 0) EinstellungenZahl[*e.zahlslot] = 0;
+  if (e.art != Art::Haken) return;
+  if (e.zahlslot && e.slotwert >= 0) EinstellungenZahl[*e.zahlslot] = 0;
+  if (e.textslot) EinstellungenText[*e.textslot].clear();
 }
 
 void jede(const Beschreibung& beschreibung, const std::function<void(const Eingabe&)>& aktion) {
@@ -358,16 +361,23 @@ bool inListe(const QString& liste, const QString& name) {
   return liste.contains(u';' + name + u';');
 }
 
+// A date in any form that is taken for one, "1.7.06" too.
+static QString sortiert(const QString& tag) {
+  return DatumSortiert(Deutsch::datumText(DatumLesen(tag)));
+}
+
 QStringList zeitraumGründe(const Eingaben& eingaben) {
   QStringList gründe;
   if (eingaben.wahl(QStringLiteral("optibuch")) != 1) return gründe;
   const QString von = eingaben.text(QStringLiteral("tdat"), 0).trimmed();
   const QString bis = eingaben.text(QStringLiteral("tdat"), 1).trimmed();
-  for (const QString& tag : {von, bis})
-    if (!tag.isEmpty() && !IstDatum(tag))
-      gründe += QStringLiteral("...'%1' kein Datum ist.").arg(tag);
-  if (!gründe.isEmpty()) return gründe;
-  if (DatumSortiert(von) > DatumSortiert(bis))
+  bool sindTage = true;
+  for (const QString& tag : {von, bis}) {
+    if (tag.isEmpty() || IstDatum(tag)) continue;
+    sindTage = false;
+    gründe += QStringLiteral("...'%1' kein Datum ist.").arg(tag);
+  }
+  if (sindTage && sortiert(von) > sortiert(bis))
     gründe += QStringLiteral("...das 'Datum von' größer ist als das 'Datum bis'.");
   if (von.isEmpty() || bis.isEmpty())
     gründe += QStringLiteral("...das Datum von...bis eingegeben werden muß.");
@@ -379,10 +389,6 @@ QString zeitraumRest(const Eingaben& eingaben, const QString& feld) {
   return QStringLiteral(" and %1 >= %2 and %1 <= %3")
       .arg(feld, SqlDatum(eingaben.text(QStringLiteral("tdat"), 0).trimmed()),
            SqlDatum(eingaben.text(QStringLiteral("tdat"), 1).trimmed()));
-}
-
-QString jahreRest(const QString& von, const QString& bis) {
-  return QStringLiteral(" and Datum >= #01/01/%1# and Datum <= #12/31/%2#").arg(von, bis);
 }
 
 QString diesesJahr() { return HeuteText.mid(6, 4); }

@@ -334,8 +334,6 @@ QStringList zeitraumGründe(const Eingaben& eingaben);
 // " and Honigernte.Datum >= #05/01/2026# and Honigernte.Datum <= #05/31/2026#" for the field
 // Honigernte.Datum; empty for all bookings.
 QString zeitraumRest(const Eingaben& eingaben, const QString& feld);
-// " and Datum >= #01/01/2025# and Datum <= #12/31/2026#"
-QString jahreRest(const QString& von, const QString& bis);
 // The year of today, "2026".
 QString diesesJahr();
 

@@ -1,5 +1,7 @@
 #include "evaluations/Ereignisbericht.h"
 
+#include <algorithm>
+
 #include <limits>
 #include <numeric>
 #include <string>
@@ -101,13 +103,16 @@ class Bericht {
     return alle;
   }
 
-  // As many rows as there can be; what isn't needed costs no memory.
+  // As many rows as there can be; what isn't needed costs no memory. Numbers of rows with wide gaps
+  // between them ask for no more than a large operation has.
   void platzSchaffen() {
+    constexpr qint64 Höchstens = 4'000'000;
     constexpr size_t TextJeZeile = 40;
+    qint64 gesamt = 0;
     for (const auto& art : Ereignisbericht::arten())
-      m_gesamt += static_cast<int>(
-          m_lauf.db.Lesen(QStringLiteral("select max(ID) as n from ") + art.tabelle)
-              ->ganzzahl(0, 0));
+      gesamt += m_lauf.db.Lesen(QStringLiteral("select max(ID) as n from ") + art.tabelle)
+                    ->ganzzahl(0, 0);
+    m_gesamt = static_cast<int>(std::min(gesamt, Höchstens));
     if (einVolk()) return;
     const auto zeilen = static_cast<size_t>(m_gesamt);
     m_bauer.reserviere(zeilen * static_cast<size_t>(m_titel.size()), zeilen * TextJeZeile);
@@ -121,7 +126,8 @@ class Bericht {
     for (const auto& feld : art.felder) tabelle.vorsätze.push_back(feld.vorsatz.toStdString());
     const auto [anweisung, werte] = lesen(art);
     m_lauf.db.Durchlaufe(anweisung, werte, [&](const Laufzeile& buchung) {
-      if (m_lauf.fortschritt && ++m_fertig % Schritt == 0) m_lauf.fortschritt(m_fertig, m_gesamt);
+      if (m_lauf.fortschritt && ++m_fertig % Schritt == 0)
+        m_lauf.fortschritt(std::min(m_fertig, m_gesamt), m_gesamt);
       const auto volk = m_völker.find(buchung.ganzzahl(VolkID));
       if (volk != m_völker.end()) zeile(tabelle, buchung, *volk);
     });

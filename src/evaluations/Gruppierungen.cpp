@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "evaluations/Leseliste.h"
+
 using namespace Auswertung;
 
 namespace Gruppierungen {
@@ -49,6 +51,14 @@ QList<Posten> gruppenfelder(Database& db, const Eingaben&) {
   return posten;
 }
 
+// And what every kind of booking has.
+QList<Posten> buchungsfelder(Database& db, const Eingaben& e) {
+  QList<Posten> posten = gruppenfelder(db, e);
+  for (const char* feld : {"Datum", "Zeit_h", "Kosten"})
+    posten.append({QString::fromLatin1(feld), QString::fromLatin1(feld)});
+  return posten;
+}
+
 // What is added up and averaged of a harvest: the value's and the quantity's fields with the names
 // that they have in the list.
 QString ernteteil(const QString& wert, const QString& name, const QString& dname,
@@ -74,8 +84,10 @@ QString summenteil(const QString& tabelle) {
 }
 
 Ergebnis ergebnis(Lauf& lauf, const QString& anweisung, const QString& wovon) {
+  static const QStringList geld{"S_Kosten", "Honigwert",   "Wachswert",   "Pollenwert",   "S_Wert",
+                                "D_Kosten", "D_Honigwert", "D_Wachswert", "D_Pollenwert", "D_Wert"};
   Ergebnis e;
-  e.liste = Ausgabeliste(lauf.db.Lesen(anweisung));
+  e.liste = Ausgabeliste(gelesen(lauf, anweisung, {}, geld));
   e.titel = wovon.isEmpty() ? Titel : Titel + " (" + wovon + ")";
   return e;
 }
@@ -127,15 +139,17 @@ QString bestandsalter(Alter einheit, const QString& pivot) {
 
 namespace {
 
-Eingabe feldwahl(int index, const QString& titel) {
-  return auswahl(Eingaben::glied("kom", index), titel, gruppenfelder);
+Eingabe feldwahl(int index, const QString& titel, const Postenquelle& felder) {
+  return auswahl(Eingaben::glied("kom", index), titel, felder);
 }
 
 // The chosen field of the colonies; with its table where the bookings have one of that name.
 QString gruppenfeld(Lauf& lauf, int index, const QString& tabelle) {
   const QString feld = lauf.eingaben.text("kom", index);
-  const auto doppelt = [&](const Spalte& s) { return s.name == feld; };
-  return std::ranges::any_of(lauf.db.Felder(tabelle), doppelt) ? "Bienenvolk." + feld : feld;
+  const auto gleich = [&](const Spalte& s) { return s.name == feld; };
+  const bool inBeiden = std::ranges::any_of(lauf.db.Felder(tabelle), gleich) &&
+                        std::ranges::any_of(lauf.db.Felder("Bienenvolk"), gleich);
+  return inBeiden ? "Bienenvolk." + feld : feld;
 }
 
 // A row of commands of one array, each with its run.
@@ -151,7 +165,7 @@ struct Knopfreihe {
 
 Knopfreihe kostenreihe() {
   Knopfreihe reihe;
-  reihe.eingaben += feldwahl(2, "Gruppiert nach:");
+  reihe.eingaben += feldwahl(2, "Gruppiert nach:", buchungsfelder);
   for (int i = 0; i < kostentabellen().size(); ++i) {
     const QString tabelle = kostentabellen()[i];
     reihe.knopf(Eingaben::glied("gruppekostenjetier", i), tabelle, [tabelle](Lauf& lauf) {
@@ -173,7 +187,7 @@ Knopfreihe sonstigereihe() {
 
 Knopfreihe altersreihe() {
   Knopfreihe reihe;
-  reihe.eingaben += feldwahl(1, "Pivot nach:");
+  reihe.eingaben += feldwahl(1, "Pivot nach:", gruppenfelder);
   const QStringList titel{"Bestandsalter nach Jahren", "Bestandsalter nach Monaten"};
   for (int i = 0; i < titel.size(); ++i)
     reihe.knopf(Eingaben::glied("sonstigeok", i), titel[i], [i, titel](Lauf& lauf) {
@@ -202,7 +216,7 @@ Gruppe volkgruppe() {
 
 Gruppe buchungsgruppe() {
   return {"Buchungen je Volk (aktueller Bestand)",
-          {feldwahl(0, "Gruppiert nach:"),
+          {feldwahl(0, "Gruppiert nach:", buchungsfelder),
            liste("li2", {}, feste(buchungsposten())).beiDoppelklick("auswertungok"),
            knopf("auswertungok", "&Auswerten")},
           1};

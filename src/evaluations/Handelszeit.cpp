@@ -17,7 +17,7 @@ constexpr int Monate = 12;
 }  // namespace
 
 Gruppe gruppe() {
-  return {"Buchungsauswahl",
+  return {"Buchungsauswahl der Bewegungsdaten",
           {optionen("optibuch", {"Alle Buchungen", "Datum von"}),
            datum("tdat_0", {}).wählt("optibuch", InDerZeit),
            datum("tdat_1", "bis").wählt("optibuch", InDerZeit).rechtsDavon()}};

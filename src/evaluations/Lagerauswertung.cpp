@@ -50,13 +50,19 @@ auto zeittabelle(Stufe stufe) {
 }  // namespace
 
 Beschreibung beschreibung() {
-  return Handelszeit::beschreibung("TW_Honiglager", "Honiglager auswerten", {},
-                                   {{"Alle Buchungen listen", alle},
-                                    {"Summen je Produkt", je("Produkt")},
-                                    {"Bestand je Produkt (unabhängig vom Datum)", bestand},
-                                    {"Summen je Produkt und Charge", je("Produkt, Charge")},
-                                    {"Summen je Monat", zeittabelle(Stufe::Monat)},
-                                    {"Summen je Jahr", zeittabelle(Stufe::Jahr)}});
+  Beschreibung b =
+      Handelszeit::beschreibung("TW_Honiglager", "Honiglager auswerten", {},
+                                {{"Alle Buchungen listen", alle},
+                                 {"Summen je Produkt", je("Produkt")},
+                                 {"Bestand je Produkt (unabhängig vom Datum)", bestand},
+                                 {"Summen je Produkt und Charge", je("Produkt, Charge")},
+                                 {"Summen je Monat", zeittabelle(Stufe::Monat)},
+                                 {"Summen je Jahr", zeittabelle(Stufe::Jahr)}});
+  // The stock needs no period, so none can be wrong for it.
+  b.prüfe = [prüfe = b.prüfe](const QString& befehl, const Eingaben& e) {
+    return befehl == u"rolisten_2" ? QStringList() : prüfe(befehl, e);
+  };
+  return b;
 }
 
 }  // namespace Lagerauswertung

@@ -66,7 +66,7 @@ QHash<QByteArray, qint64> völkerJeStandort(Database& db) {
   db.Durchlaufe("select Standort, count(*) as Anzahl from Bienenvolk group by Standort", {},
                 [&](const Laufzeile& zeile) {
                   if (!zeile.istNull(0))
-                    anzahl[Kollation::schlüssel(zeile.text(0))] = zeile.ganzzahl(1);
+                    anzahl[Kollation::schlüssel(zeile.text(0))] += zeile.ganzzahl(1);
                 });
   return anzahl;
 }
@@ -83,7 +83,8 @@ Ergebnis belegung(Lauf& lauf) {
     const qint64 höchstens = orte->ganzzahl(zeile, 2);
     const qint64 ist = völker.value(Kollation::schlüssel(ort));
     tabelle.text(ort);
-    for (const qint64 zahl : {höchstens, ist, höchstens - ist}) tabelle.zelle().ganz(zahl);
+    zelleLesen(tabelle.zelle(), *orte, zeile, 2);
+    for (const qint64 zahl : {ist, höchstens - ist}) tabelle.zelle().ganz(zahl);
     tabelle.zeileEnde();
   }
   return ergebnis(tabelle.fertig());

@@ -1,5 +1,6 @@
 #include "evaluations/VoelkerBuchungen.h"
 
+#include <QMap>
 #include <algorithm>
 
 #include "data/helpers.h"
@@ -37,6 +38,8 @@ QString anweisung(const Eingaben& eingaben, int nummer) {
          tabelle + QStringLiteral(".ID");
 }
 
+constexpr int Schritt = 2000;  // rows between two reports of progress
+
 class Tabellenliste {
  public:
   explicit Tabellenliste(Lauf& lauf)
@@ -45,26 +48,31 @@ class Tabellenliste {
         m_mitLeerzeilen(lauf.eingaben.an(Leerzeile)) {}
 
   Ausgabeliste erstellen() {
-    spalten();
-    const auto tabellen = static_cast<int>(buchungstabellen().size());
-    for (const int nummer : gewählteTabellen(m_lauf.eingaben)) {
-      const Daten buchungen = m_lauf.db.Lesen(anweisung(m_lauf.eingaben, nummer));
-      if (buchungen->zeilen() > 0) tabelle(nummer, *buchungen);
+    const int tabellen = static_cast<int>(buchungstabellen().size());
+    QMap<int, Daten> gelesen;
+    for (int nummer = 0; nummer < tabellen; ++nummer) {
+      if (gewählteTabellen(m_lauf.eingaben).contains(nummer)) {
+        const Daten buchungen = m_lauf.db.Lesen(anweisung(m_lauf.eingaben, nummer));
+        if (buchungen->zeilen() > 0) gelesen[nummer] = buchungen;
+      }
       if (m_lauf.fortschritt) m_lauf.fortschritt(nummer + 1, tabellen);
     }
+    spalten(gelesen.keys());
+    for (auto t = gelesen.cbegin(); t != gelesen.cend(); ++t) tabelle(t.key(), *t.value());
     return m_liste.fertig();
   }
 
  private:
-  // As many as the widest of the tables has. What stands in them is told by the row above each.
-  void spalten() {
+  // As many as the widest of the tables with rows has. What stands in them is told by the row above
+  // each.
+  void spalten(const QList<int>& tabellen) {
     const QString kontier = QStringLiteral("kontier");
     if (m_lauf.eingaben.an(kontier, 0))
       m_liste.spalte(QStringLiteral("volknr"), QStringLiteral("Volknr"));
     if (m_lauf.eingaben.an(kontier, 1))
       m_liste.spalte(QStringLiteral("volkname"), QStringLiteral("Volkname"));
     qsizetype felder = 0;
-    for (const int nummer : gewählteTabellen(m_lauf.eingaben))
+    for (const int nummer : tabellen)
       felder = std::max(felder, m_lauf.eingaben.gewählt(Felder, nummer).size());
     for (qsizetype i = 1; i <= felder; ++i)
       m_liste.spalte(QStringLiteral("feld%1").arg(i), QStringLiteral("Feld %1").arg(i));
@@ -83,6 +91,8 @@ class Tabellenliste {
         continue;
       if (m_mitLeerzeilen && davor >= 0 && !gleichesVolk(buchungen, davor, zeile))
         m_liste.zeileEnde();
+      if (m_lauf.fortschritt && zeile % Schritt == Schritt - 1)
+        m_lauf.fortschritt(nummer + 1, static_cast<int>(buchungstabellen().size()));
       for (int i = 0; i < felder; ++i) m_liste.text(zelle(buchungen, zeile, i));
       m_liste.zeileEnde();
       davor = zeile;

@@ -27,8 +27,13 @@ QStringList Ausgabeliste::überschriften() const {
 
 bool Ausgabeliste::istTrennzeile(int zeile) const {
   if (spalten() == 0) return false;
-  const QByteArrayView erste = m_daten->rohtext(blockzeile(zeile), 0);
-  return erste.size() == 1 && erste[0] == '.';
+  const int block = blockzeile(zeile);
+  if (m_daten->rohtext(block, 0) != QByteArrayView(".")) return false;
+  for (int i = 1; i < spalten(); ++i)
+    if (!m_daten->istNull(block, i) &&
+        !(m_daten->istText(block, i) && m_daten->rohtext(block, i).isEmpty()))
+      return false;
+  return true;
 }
 
 Listenkopf listenkopf() {

@@ -28,7 +28,7 @@ class Ausgabeliste {
   int blockzeile(int zeile) const { return m_ordnung[static_cast<size_t>(zeile)]; }
   QString überschrift(int spalte) const;
   QStringList überschriften() const;
-  // A row whose first cell is ".": an evaluation has put it between two groups.
+  // A row that holds a "." in its first cell and nothing else: it stands between two groups.
   bool istTrennzeile(int zeile) const;
 
  private:

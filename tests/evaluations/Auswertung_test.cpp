@@ -60,6 +60,13 @@ TEST_F(AuswertungTest, OhneEndeStehenBeideGründe) {
 TEST_F(AuswertungTest, EinTagDenEsNichtGibtWirdGenannt) {
   EXPECT_EQ(zeitraumGründe(zeitraum("30.02.2006", "01.03.2006")),
             QStringList("...'30.02.2006' kein Datum ist."));
+  EXPECT_EQ(zeitraumGründe(zeitraum("30.02.2006", "")),
+            QStringList({"...'30.02.2006' kein Datum ist.",
+                         "...das Datum von...bis eingegeben werden muß."}));
+}
+
+TEST_F(AuswertungTest, KurzGeschriebeneTageVergleichenSichAlsTage) {
+  EXPECT_EQ(zeitraumGründe(zeitraum("1.6.06", "01.07.2006")), QStringList());
 }
 
 TEST_F(AuswertungTest, OhneZeitraumZählenDieTageNicht) {

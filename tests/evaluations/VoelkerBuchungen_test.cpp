@@ -139,7 +139,7 @@ TEST_F(BuchungenErweitert, EineTabelleOhneBuchungenHinterlässtKeineSpur) {
   a.e.setGewählt("li", Honigernte, {"Menge_kg"});
   a.e.setGewählt("li", Wachsernte, {"Menge_kg", "Qualität"});
   const QStringList ist = zeilen(a.liste("ok"));
-  EXPECT_EQ(ist.first(), "HONIGERNTE|");
+  EXPECT_EQ(ist.first(), "HONIGERNTE");
   EXPECT_EQ(ist.size(), 2 + 4 + 2);
 }
 

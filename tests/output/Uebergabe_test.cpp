@@ -117,7 +117,7 @@ TEST_F(ÜbergabeTest, EineGroßeKommazahlBleibtEine) {
 TEST_F(ÜbergabeTest, EinTextInEinerZahlenspalteBleibtText) {
   const Ausgabeliste liste = hinUndHer(Ausgabeliste(
       Listen::block({{"n", Feldtyp::Lang, 0}, {"t", Feldtyp::Text, 9}}, {{".", 7}, {"12", "12"}})));
-  EXPECT_TRUE(liste.istTrennzeile(0));
+  EXPECT_TRUE(liste.daten()->istText(0, 0));
   EXPECT_TRUE(liste.daten()->istText(1, 0));
   EXPECT_FALSE(liste.daten()->istText(0, 1));
   EXPECT_EQ(liste.daten()->wert(0, 1).toInt(), 7);

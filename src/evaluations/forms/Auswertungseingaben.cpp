@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -363,7 +364,9 @@ void Auswertungseingaben::gemeldet(const QString& name) {
 }
 
 bool Auswertungseingaben::eventFilter(QObject* objekt, QEvent* event) {
-  if (event->type() == QEvent::FocusIn) {
+  // Not when the window comes to the front again.
+  if (event->type() == QEvent::FocusIn &&
+      static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason) {
     const auto wahl = m_fokusWählt.constFind(static_cast<QWidget*>(objekt));
     if (wahl != m_fokusWählt.constEnd()) {
       auto* option =
@@ -398,11 +401,12 @@ void Auswertungseingaben::jede(const std::function<void(const Eingabe&)>& aktion
 
 void Auswertungseingaben::listenFüllen(Database& db, Eingaben& eingaben, const QString& nurVon) {
   jede([&](const Eingabe& e) {
+    if (!nurVon.isEmpty() && (e.postenVon != nurVon || e.art == Art::Nebenliste)) return;
     if (e.art == Art::Nebenliste) {
       const QStringList schlüssel = eingaben.angebot(e.postenVon);
       return static_cast<Merkliste*>(m_controls.value(e.name))->setPosten(schlüssel, schlüssel);
     }
-    if (!e.posten || (!nurVon.isEmpty() && e.postenVon != nurVon)) return;
+    if (!e.posten) return;
     const QList<Posten> posten = e.posten(db, eingaben);
     const QStringList texte = titel(posten);
     eingaben.setAngebot(e.name, schlüssel(posten));
@@ -443,7 +447,7 @@ void Auswertungseingaben::leseEingabe(const Eingabe& e, Eingaben& eingaben) cons
     eingaben.setText(e.name, klappliste->currentText());
   } else if (auto* liste = dynamic_cast<Merkliste*>(control)) {
     eingaben.setGewählt(e.name, liste->gewählt());
-    eingaben.setText(e.name, liste->gewählt().value(0));
+    eingaben.setText(e.name, liste->aktueller());
     if (e.art == Art::Liste) eingaben.setWahl(e.name, liste->currentRow());
   } else if (auto* feld = qobject_cast<Eingabefeld*>(control)) {
     eingaben.setText(e.name, feld->inhalt());

@@ -1,7 +1,5 @@
 #include "evaluations/forms/Auswertungsformular.h"
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -104,6 +102,7 @@ void Auswertungsformular::standardFestlegen() {
 void Auswertungsformular::füllen() {
   const Ereignis::Sanduhr sanduhr;
   m_schließtNachher = false;
+  m_eingaben->tabfolge().first()->setFocus();  // a date that still has it would choose its period
   Eingaben e;
   m_eingaben->listenFüllen(m_db, e);
   Auswertung::laden(m_beschreibung, e);
@@ -113,10 +112,8 @@ void Auswertungsformular::füllen() {
   m_eingaben->listenFüllen(m_db, e);
   Auswertung::laden(m_beschreibung, e);
   m_eingaben->zeigen(e);
-  m_angebot = e;
+  merken(e);
   volkZeigen();
-  // Full lists want other room than empty ones: the window's first size is to count with it.
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   if (m_ergebnis == nullptr) return;
   m_ergebnis->setDaten({});
   m_ergebnistitel->setText(Ergebnistitel);
@@ -127,6 +124,7 @@ void Auswertungsformular::done(int ergebnis) {
     m_schließtNachher = true;
     return;
   }
+  if (QWidget* zuletzt = focusWidget()) zuletzt->clearFocus();  // what was typed is completed
   Auswertung::sichern(m_beschreibung, eingaben());
   Datenformular::done(ergebnis);
   if (m_ergebnis != nullptr) m_ergebnis->setDaten({});
@@ -156,13 +154,19 @@ void Auswertungsformular::volkZeigen() {
 void Auswertungsformular::geändert(const QString& name) {
   if (name == Völkerwahl) volkZeigen();
   Eingaben e = eingaben();
+  if (e == m_stand) return;  // left as it was
   const Eingaben vorher = e;
   m_eingaben->listenFüllen(m_db, e, name);
   m_angebot = e;
   m_eingaben->lesen(e);
   if (m_beschreibung.beiÄnderung) m_beschreibung.beiÄnderung(name, e);
   if (e != vorher) m_eingaben->zeigen(e);
+  merken(e);
+}
+
+void Auswertungsformular::merken(const Eingaben& e) {
   m_angebot = e;
+  m_stand = eingaben();
 }
 
 // ---- commands ----
@@ -192,7 +196,7 @@ void Auswertungsformular::tun(const Befehl& b) {
   Eingaben e = eingaben();
   b.tat(e);
   m_eingaben->zeigen(e);
-  m_angebot = e;
+  merken(e);
 }
 
 bool Auswertungsformular::bereit(const QString& befehl, Eingaben& e) {
@@ -220,7 +224,7 @@ void Auswertungsformular::laufe(const Befehl& b) {
   if (!bereit(b.name, e)) return;
   Ergebnis ergebnis;
   const auto danach = qScopeGuard([this] {
-    if (m_schließtNachher) reject();
+    if (m_schließtNachher) QMetaObject::invokeMethod(this, &QDialog::reject, Qt::QueuedConnection);
   });
   m_meter->laufen([&](const Fortschritt& fortschritt) {
     Auswertung::Lauf lauf{m_db, e, fortschritt};
@@ -239,7 +243,7 @@ void Auswertungsformular::übergeben(const Ergebnis& ergebnis) {
     return TA_Textausgabe::öffnen(this);
   }
   if (ergebnis.liste && ergebnis.liste->zeilen() > 0)
-    return zwischenlisteZeigen(this, *ergebnis.liste);
+    return zwischenlisteZeigen(this, *ergebnis.liste, m_meter);
   Meldungen::Hinweis(ergebnis.leer.isEmpty() ? Auswertung::NichtsGefunden : ergebnis.leer, this);
 }
 

@@ -33,6 +33,7 @@ class Auswertungsformular : public Datenformular {
   void standardFestlegen();
   void volkZeigen();
   void geändert(const QString& name);
+  void merken(const Auswertung::Eingaben& eingaben);
   void befehl(const QString& name);
   void tun(const Auswertung::Befehl& befehl);
   void laufe(const Auswertung::Befehl& befehl);
@@ -43,6 +44,7 @@ class Auswertungsformular : public Datenformular {
 
   const Auswertung::Beschreibung m_beschreibung;
   Auswertung::Eingaben m_angebot;  // what the lists offer
+  Auswertung::Eingaben m_stand;    // as the inputs were answered last
   Auswertungseingaben* m_eingaben = nullptr;
   Grid* m_ergebnis = nullptr;
   QLabel* m_ergebnistitel = nullptr;

@@ -59,6 +59,10 @@ QStringList Merkliste::gewählt() const {
   return alle;
 }
 
+QString Merkliste::aktueller() const {
+  return currentItem() != nullptr ? schlüsselVon(currentItem()) : QString();
+}
+
 void Merkliste::setGewählt(const QStringList& schlüssel) {
   for (int i = 0; i < count(); ++i) item(i)->setSelected(schlüssel.contains(schlüsselVon(item(i))));
 }

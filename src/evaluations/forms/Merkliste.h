@@ -14,6 +14,7 @@ class Merkliste : public QListWidget {
   void setPosten(const QStringList& schlüssel, const QStringList& titel);
   QStringList gewählt() const;  // the keys in the list's order
   void setGewählt(const QStringList& schlüssel);
+  QString aktueller() const;  // the key of the current entry
 
   // Shows what belongs to the other list's entries, row by row: nothing is chosen here, and what
   // scrolls one scrolls the other.

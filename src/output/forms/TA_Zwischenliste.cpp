@@ -166,10 +166,15 @@ void TA_Zwischenliste::explorerAuswertung() {
                      this);
 }
 
-void zwischenlisteZeigen(QWidget* öffner, const Ausgabeliste& liste) {
-  {
+void zwischenlisteZeigen(QWidget* öffner, const Ausgabeliste& liste, Fortschrittsbalken* meter) {
+  const auto schreiben = [&](const Fortschritt& fortschritt) {
+    Übergabe::schreiben(Übergabe::datei(), liste, fortschritt);
+  };
+  if (meter != nullptr) {
+    meter->laufen(schreiben);
+  } else {
     const Ereignis::Sanduhr sanduhr;
-    Übergabe::schreiben(Übergabe::datei(), liste);
+    schreiben({});
   }
   TA_Zwischenliste(öffner, liste).zeigen();
 }

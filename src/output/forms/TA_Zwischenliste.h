@@ -51,7 +51,9 @@ class TA_Zwischenliste : public Formular {
 // What the evaluations call: hand a list on and show it in TA_Zwischenliste. They throw
 // Dateifehler.
 
-void zwischenlisteZeigen(QWidget* öffner, const Ausgabeliste& liste);
+// meter: the caller's bar, which shows how far the writing of a long list is.
+void zwischenlisteZeigen(QWidget* öffner, const Ausgabeliste& liste,
+                         Fortschrittsbalken* meter = nullptr);
 // All rows and columns; a column without a caption is called by its name.
 void zwischenlisteZeigen(QWidget* öffner, const Daten& daten,
                          const QStringList& überschriften = {});

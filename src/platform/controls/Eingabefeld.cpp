@@ -65,7 +65,7 @@ Eingabefeld::Eingabefeld(QWidget* eltern) : QLineEdit(eltern) {
   });
   connect(this, &QLineEdit::textEdited, this, [this](const QString& neu) {
     m_vorschlag.clear();
-    if (art() == Art::Auswahl || m_liste.isEmpty()) return;
+    if (art() != Art::Text || m_liste.isEmpty()) return;  // no number is completed to another
     if (cursorPosition() == neu.size())
       m_vorschlag = aufklappliste()->ergänzen(m_liste, neu);
     else if (m_aufklappliste != nullptr)

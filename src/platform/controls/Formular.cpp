@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -131,6 +132,13 @@ void Formular::vorgabeFestmachen() {
   }
 }
 
+// Lists that were filled before the window was shown ask for their room only now.
+void Formular::messbarMachen() {
+  for (QWidget* teil : findChildren<QWidget*>()) teil->ensurePolished();
+  for (QListWidget* liste : findChildren<QListWidget*>()) liste->updateGeometry();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+}
+
 // Where it stood when it was closed last, else in the size that it asks for; the toolkit then puts
 // it over its opener.
 void Formular::hinstellen() {
@@ -138,8 +146,10 @@ void Formular::hinstellen() {
   winId();  // only a window that is made knows its frame, which the kept place counts in
   if (!m_lage.isEmpty() && restoreGeometry(m_lage))
     inSichtbaren(this);
-  else if (!m_hingestellt && !testAttribute(Qt::WA_Resized))
+  else if (!m_hingestellt && !testAttribute(Qt::WA_Resized)) {
+    messbarMachen();
     Bauteile::fenstergröße(this, m_wunsch.width(), m_wunsch.height());
+  }
   m_hingestellt = true;
 }
 

@@ -85,6 +85,7 @@ class Formular : public QDialog {
  private:
   void vorgabeFestmachen();
   void hinstellen();
+  void messbarMachen();
 
   QByteArray m_lage;  // size and place when it was closed last
   QSize m_wunsch;     // in characters and lines

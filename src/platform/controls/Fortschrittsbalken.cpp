@@ -1,6 +1,7 @@
 #include "platform/controls/Fortschrittsbalken.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QScopeGuard>
 
 #include "platform/controls/Ereignis.h"
@@ -8,6 +9,33 @@
 namespace {
 
 constexpr int ZwischenbildMs = 60;
+
+// What the user types and clicks while a run lasts is lost, as it was meant for what he saw before
+// it; the closing of a window comes through.
+class Eingabesperre : public QObject {
+ public:
+  Eingabesperre() { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject* /*objekt*/, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+      case QEvent::Shortcut:
+      case QEvent::ShortcutOverride:
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::ContextMenu:
+      case QEvent::Wheel:
+      case QEvent::TouchBegin:
+      case QEvent::TouchUpdate:
+      case QEvent::TouchEnd:
+        return true;
+      default:
+        return false;
+    }
+  }
+};
 
 }  // namespace
 
@@ -22,6 +50,7 @@ Fortschrittsbalken::Fortschrittsbalken(QWidget* eltern) : QProgressBar(eltern) {
 
 void Fortschrittsbalken::laufen(const std::function<void(const Melder&)>& arbeit) {
   const Ereignis::Sanduhr sanduhr;
+  const Eingabesperre sperre;
   setRange(0, 0);
   setValue(0);
   m_läuft = true;
@@ -38,6 +67,6 @@ void Fortschrittsbalken::melden(int fertig, int gesamt) {
   setRange(0, gesamt);
   setValue(fertig);
   show();
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  QCoreApplication::processEvents();
   m_uhr.restart();
 }

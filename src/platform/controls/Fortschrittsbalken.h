@@ -4,8 +4,8 @@
 #include <QProgressBar>
 #include <functional>
 
-// The bar of a long run: hidden but while one lasts. The window goes on painting meanwhile; keys
-// and mouse wait until the run has ended.
+// The bar of a long run: hidden but while one lasts. The window goes on painting meanwhile and may
+// be asked to close; keys and mouse do nothing until the run has ended.
 class Fortschrittsbalken : public QProgressBar {
  public:
   explicit Fortschrittsbalken(QWidget* eltern = nullptr);

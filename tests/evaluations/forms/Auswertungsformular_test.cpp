@@ -50,6 +50,11 @@ Ergebnis keineZeile(Lauf&) {
   return {.liste = t.fertig(), .leer = "Hier ist nichts."};
 }
 
+QList<Posten> felderDer(Database&, const Eingaben& e) {
+  if (e.text("sevt", 0) != u"Honigernte") return {};
+  return {{"Honig", "Honig"}, {"Menge", "Menge"}};
+}
+
 Beschreibung probe() {
   Beschreibung b;
   b.name = "TW_Probe";
@@ -65,12 +70,17 @@ Beschreibung probe() {
       {"Felder",
        {merkliste("liste", "Felder", feste(QStringList{"Volknr", "Volkname"}))
             .slot(Textslots.volkdatenFelder),
+        wahltext("sevt_0", "Tabelle", feste(QStringList{"Arbeiten", "Honigernte"})),
+        merkliste("li", "Tabellenfelder", felderDer).abhängigVon("sevt_0"),
         haken("konschnitt", "Durchschnitt").slot(Zahlslots.statistikSchnitt)},
        1,
        1,
        Gruppe::Alle::Knöpfe}};
   b.befehle = {{.name = "ok", .titel = "&Listen", .lauf = eineZeile},
                {.name = "nichts", .titel = "Nichts", .lauf = keineZeile}};
+  b.beiÄnderung = [](const QString& name, Eingaben& e) {
+    if (name == u"sevt_0") e.setGewählt("li", {});
+  };
   b.prüfe = [](const QString&, const Eingaben& e) {
     QStringList gründe = zeitraumGründe(e);
     if (e.text("t", 0) > e.text("t", 1)) gründe += "...die Jahre verkehrt sind.";
@@ -229,6 +239,25 @@ TEST_F(FormularTest, AlleUndKeineSchaltenListeUndKästchen) {
   EXPECT_FALSE(form->eingaben().an("konschnitt"));
 }
 
+// Its list goes by the field that stands before it.
+TEST_F(FormularTest, EinUnverändertVerlassenesFeldLässtDieHakenStehen) {
+  const Testliste liste = völker(1);
+  öffne();
+  auto* tabelle = feld("sevt_0");
+  tippe(tabelle, "H");
+  kind<QWidget>("t_0")->setFocus();
+  EXPECT_EQ(form->eingaben().gewählt("li"), QStringList());
+  klicke("alletier_0");
+  const QStringList alle = form->eingaben().gewählt("li");
+  EXPECT_EQ(alle, QStringList({"Honig", "Menge"}));
+  tabelle->setFocus();
+  kind<QWidget>("t_0")->setFocus();
+  EXPECT_EQ(form->eingaben().gewählt("li"), alle);
+  tabelle->setFocus();
+  klicke("ok");
+  EXPECT_EQ(spur.eingaben.gewählt("li"), alle);
+}
+
 TEST_F(FormularTest, BeimSchließenGehenDieEingabenInIhrePlätze) {
   const Testliste liste = völker(1);
   öffne();
@@ -267,8 +296,47 @@ TEST_F(FormularTest, WährendDesLaufsGeschlossenSchließtEsDanachOhneÜbergabe) 
   };
   klicke("ok");
   EXPECT_TRUE(währenddessen);
+  QApplication::processEvents();
   EXPECT_FALSE(offen());
   EXPECT_EQ(listen, 0);
+}
+
+TEST_F(FormularTest, TastenWährendDesLaufsGehenVerloren) {
+  const Testliste liste = völker(1);
+  öffne();
+  spur.während = [&](Lauf& lauf) {
+    QApplication::postEvent(kind<QWidget>("ok"),
+                            new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier));
+    QApplication::postEvent(kind<QWidget>("ok"),
+                            new QKeyEvent(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier));
+    QThread::msleep(70);
+    lauf.fortschritt(3, 10);
+  };
+  klicke("ok");
+  QApplication::processEvents();
+  EXPECT_EQ(spur.befehle, QStringList("ok"));
+}
+
+TEST_F(FormularTest, EinWiederGeöffnetesFensterWähltKeinenZeitraumVonSelbst) {
+  const Testliste liste = völker(1);
+  öffne();
+  feld("tdat_1")->setFocus();
+  QTest::keyClick(feld("tdat_1"), Qt::Key_Escape);
+  EXPECT_FALSE(offen());
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.buchungsauswahl], 1);
+  EinstellungenZahl[Zahlslots.buchungsauswahl] = 0;
+  form->laden();
+  form->show();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  EXPECT_TRUE(kind<QRadioButton>("optibuch_0")->isChecked());
+}
+
+TEST_F(FormularTest, EinUnfertigesJahrWirdAuchBeimSchließenVollständig) {
+  const Testliste liste = völker(1);
+  öffne();
+  tippe("t_0", "7");
+  QTest::keyClick(feld("t_0"), Qt::Key_Escape);
+  EXPECT_EQ(EinstellungenZahl[Zahlslots.jahrVon], 2007);
 }
 
 TEST_F(FormularTest, EinFehlerDesLaufsWirdGesagtUndDasFensterBleibtBenutzbar) {
