@@ -13,6 +13,7 @@
 #include "core/forms/TH_Hilfe.h"
 #include "data/forms/TS_Dateiauswahl.h"
 #include "data/forms/TS_Dateispeichern.h"
+#include "evaluations/forms/Auswertungsformular.h"
 #include "mainform/Menue.h"
 #include "mainform/forms/Formen.h"
 #include "mainform/forms/TA_TOVA.h"
@@ -491,7 +492,8 @@ Formfall zwischenliste() {
 
 // A form of which the list of forms is all that is known.
 Formfall schlichterFall(const Formen::Eintrag& eintrag) {
-  const QString name = std::unique_ptr<Formular>(eintrag.machen(nullptr))->objectName();
+  const std::unique_ptr<Formular> form(eintrag.machen(nullptr));
+  const QString name = form->objectName();
   Formfall f{schlicht(name + u'_' + eintrag.eintrag), name, name, {}, {}};
   f.machen = [gemeint = eintrag.eintrag](Betrieb& betrieb) {
     betrieb.liste();
@@ -499,6 +501,7 @@ Formfall schlichterFall(const Formen::Eintrag& eintrag) {
   };
   f.einträge = QStringList{eintrag.eintrag};
   f.schlicht = true;
+  f.befehleRollen = dynamic_cast<Auswertungsformular*>(form.get()) != nullptr;
   return f;
 }
 

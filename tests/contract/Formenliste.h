@@ -49,6 +49,8 @@ struct Formfall {
   // The menu entries that it stands for. One that no case names gets a plain one, which knows
   // nothing of its form but what holds for all.
   QStringList einträge = {};
+  // On a magnified screen its commands, which stand among its inputs, may scroll with them.
+  bool befehleRollen = false;
   bool schlicht = false;
   // What Enter presses in the first input of its kind, where that isn't the standardknopf.
   QString eingabeknopf = {};

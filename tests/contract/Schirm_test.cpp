@@ -62,7 +62,9 @@ class Schirmvertrag : public testing::TestWithParam<size_t> {
 
 TEST_P(Schirmvertrag, ÖffnetSichGanzUndMitAllenKnöpfen) {
   öffnen();
-  Formregeln::jedeSeite(form.get(), [&] { EXPECT_EQ(text(mängel(false)), ""); });
+  const bool vergrößert = !qEnvironmentVariableIsEmpty("TOVA_SCHIRM");
+  const bool rollend = fall().befehleRollen && vergrößert;
+  Formregeln::jedeSeite(form.get(), [&] { EXPECT_EQ(text(mängel(rollend)), ""); });
   bildAblegen(*form, fall().fall + u'_' + qEnvironmentVariable("TOVA_SCHIRM"));
 }
 

@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "data/helpers.h"
+#include "evaluations/forms/Langknopf.h"
 #include "evaluations/forms/Merkliste.h"
 #include "platform/controls/Bauteile.h"
 #include "platform/controls/Eingabefeld.h"
@@ -275,7 +276,9 @@ QWidget* Auswertungseingaben::controlBauen(const Eingabe& e) {
       return text;
     }
     case Art::Befehl: {
-      auto* knopf = Bauteile::knopfOhneEnter(e.titel, e.name);
+      constexpr int Lang = 60;
+      QPushButton* knopf = e.titel.size() > Lang ? new Langknopf(e.titel)
+                                                 : Bauteile::knopfOhneEnter(e.titel, e.name);
       Ereignis::wenn(knopf, &QPushButton::clicked, m_formular, [this, e] { m_befehl(e.name); });
       return knopf;
     }

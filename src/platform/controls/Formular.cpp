@@ -6,7 +6,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -14,6 +13,7 @@
 #include <QSettings>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/controls/Bauteile.h"
 #include "platform/controls/Ereignis.h"
@@ -132,11 +132,15 @@ void Formular::vorgabeFestmachen() {
   }
 }
 
-// Lists that were filled before the window was shown ask for their room only now.
+// What was filled before the window is shown asks for its room only now, from the inside outwards:
+// layouts that can't be seen don't tell each other.
 void Formular::messbarMachen() {
-  for (QWidget* teil : findChildren<QWidget*>()) teil->ensurePolished();
-  for (QListWidget* liste : findChildren<QListWidget*>()) liste->updateGeometry();
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  QList<QWidget*> teile = findChildren<QWidget*>();
+  std::reverse(teile.begin(), teile.end());
+  for (QWidget* teil : teile) {
+    teil->ensurePolished();
+    teil->updateGeometry();
+  }
 }
 
 // Where it stood when it was closed last, else in the size that it asks for; the toolkit then puts
