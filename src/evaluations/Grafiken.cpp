@@ -44,10 +44,16 @@ Grafik lesen(Database& db, int auswahl, const QString& jahr) {
   if (fürEinJahr(auswahl) && (jahr.size() != 4 || !IstDatum("01.01." + jahr))) return grafik;
   const Daten daten = db.Lesen(anweisung(auswahl, jahr));
   for (int i = 0; i < daten->zeilen(); ++i) {
-    const QString name = TextLesen(daten->anzeige(i, 0));
-    grafik.punkte.append({name.isEmpty() ? "ohne Angabe" : name, daten->zahl(i, 1)});
-    if (i == 0 || grafik.punkte[i].wert > grafik.punkte[grafik.größter].wert) grafik.größter = i;
+    const QString gelesen = TextLesen(daten->anzeige(i, 0));
+    const QString name = gelesen.isEmpty() ? "ohne Angabe" : gelesen;
+    // An empty name and none are two groups and one point.
+    if (!grafik.punkte.isEmpty() && grafik.punkte.last().name == name)
+      grafik.punkte.last().wert += daten->zahl(i, 1);
+    else
+      grafik.punkte.append({name, daten->zahl(i, 1)});
   }
+  for (int i = 0; i < grafik.punkte.size(); ++i)
+    if (i == 0 || grafik.punkte[i].wert > grafik.punkte[grafik.größter].wert) grafik.größter = i;
   return grafik;
 }
 

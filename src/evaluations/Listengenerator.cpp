@@ -156,8 +156,20 @@ void listen(Database& db, const QString& text, const QList<qint64>& völker, int
   Textausgabe::listeSchreiben(zeilen(db, Textdatei::lesen(datei), völker, jeSeite));
 }
 
+// An umlaut of two characters becomes the one that the code page has.
+QString fremdeZeichen(const QString& text) {
+  QStringList fremde;
+  for (const char32_t zeichen : text.normalized(QString::NormalizationForm_C).toUcs4()) {
+    const QString einzeln = QString::fromUcs4(&zeichen, 1);
+    const bool fremd = Textdatei::vonCp1252(Textdatei::nachCp1252(einzeln)) != einzeln;
+    if (fremd && !fremde.contains(einzeln)) fremde += einzeln;
+  }
+  return fremde.join(u' ');
+}
+
 void sichern(const QString& name, const QString& text) {
-  Textdatei::schreibenGanz(AppPfad + name, mitZeilenenden(text));
+  Textdatei::schreibenGanz(AppPfad + name,
+                           mitZeilenenden(text.normalized(QString::NormalizationForm_C)));
 }
 
 QString nichtsMarkiertText() {

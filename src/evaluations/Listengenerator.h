@@ -41,6 +41,8 @@ void listen(Database& db, const QString& text, const QList<qint64>& völker, int
 inline const QString Endung = QStringLiteral(".TKS");
 // The line ends become those of a file. Throws Dateifehler.
 void sichern(const QString& name, const QString& text);
+// The characters of a text, each once, that the code page of the files doesn't have.
+QString fremdeZeichen(const QString& text);
 // Writes the two sample texts where they are missing. Throws Dateifehler.
 void beispieleSchreiben();
 

@@ -55,6 +55,14 @@ TEST_F(GrafikenTest, WasKeinenNamenHatStehtDa) {
   EXPECT_EQ(punkte(grafik(Völker)), "ohne Angabe 1");
 }
 
+TEST_F(GrafikenTest, LeererUndFehlenderNameSindEinPunkt) {
+  honig("01.05.2006", QVariant(), 2);
+  honig("02.05.2006", "", 3);
+  honig("03.05.2006", "Raps", 4);
+  EXPECT_EQ(punkte(grafik(Sorten)), "ohne Angabe 5, Raps 4");
+  EXPECT_EQ(grafik(Sorten).größter, 0);
+}
+
 TEST_F(GrafikenTest, HonigNachSortenNurAusDemJahr) {
   honig("31.12.2005", "Raps", 1);
   honig("01.01.2006", "Raps", 2.5);

@@ -230,6 +230,12 @@ TEST_F(ListengeneratorTest, DieListeStehtInLISTETXTUndDerTextInDruckTxt) {
   EXPECT_EQ(datei(AppPfad + "druck.txt"), QString("Völker\r\n{Volknr--}").toStdString());
 }
 
+TEST_F(ListengeneratorTest, ZeichenDieDieDateiNichtHatWerdenGenannt) {
+  EXPECT_EQ(Listengenerator::fremdeZeichen("Völker €ß – „Süd“"), "");
+  EXPECT_EQ(Listengenerator::fremdeZeichen("a → b ≥ c → d"), "→ ≥");
+  EXPECT_EQ(Listengenerator::fremdeZeichen(QString("a") + QChar(0x308)), "");  // ä of two parts
+}
+
 TEST_F(ListengeneratorTest, EinTextWirdGesichertWieErSteht) {
   Listengenerator::sichern("Mein.TKS", "Völker\n\n{VS}\r\n");
   EXPECT_EQ(datei(AppPfad + "Mein.TKS"), QString("Völker\r\n\r\n{VS}\r\n").toStdString());

@@ -56,7 +56,7 @@ void TW_Grafiken::füllen() {
   for (const auto& punkt : Grafiken::lesen(m_db, HonigJeJahr, {}).punkte)
     if (NurZiffern(punkt.name)) jahre.prepend(punkt.name);
   m_t->setListe(jahre);
-  if (m_t->inhalt().isEmpty()) m_t->setInhalt(JahrErgaenzen({}));
+  m_t->setInhalt(JahrErgaenzen(JahrErgaenzen(m_t->inhalt())));  // what was left half typed too
   lesen();
   m_auswahl[static_cast<size_t>(auswahl())]->setFocus();
 }

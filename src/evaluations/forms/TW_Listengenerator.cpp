@@ -126,6 +126,12 @@ bool TW_Listengenerator::speichernUnter() {
 
 bool TW_Listengenerator::schreiben(const QString& name) {
   Listengenerator::sichern(name, text());
+  if (const QString fremde = Listengenerator::fremdeZeichen(text()); !fremde.isEmpty())
+    Meldungen::Hinweis(
+        QString("Diese Zeichen gibt es in der Datei nicht; dort steht für jedes ein Fragezeichen: "
+                "%1")
+            .arg(fremde),
+        this);
   m_datei = name;
   m_textfeld->document()->setModified(false);
   dateiZeigen();
