@@ -141,7 +141,7 @@ inline constexpr struct Texttabelle {
   Textslot königinwechselFelder{14};
   Textslot terminZeichen{15};  // of the work plan's table
   Textslot freiZeichen{16};
-  Textslot volkfelder{17};  // the select of the list of colonies
+  Textslot volkfelder{17};             // the select of the list of colonies
   Textslot deckungsbeitragPosten{18};  // a character an item: 1 is on
   Textslot arbeitszeitTabellen{19};
   Textslot pauschaleEinnahme{20};

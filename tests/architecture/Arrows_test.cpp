@@ -43,8 +43,8 @@ const QStringList räume = {"platform/locale",
 
 // Subsystems know each other only where one calls the other.
 const QMultiMap<QString, QString> untereinander = {{"colonies", "planning"}};
-const QStringList subsysteme = {"planning", "colonies", "bookings", "stores", "sites",
-                                "evaluations"};
+const QStringList subsysteme = {"planning", "colonies", "bookings",
+                                "stores",   "sites",    "evaluations"};
 
 struct Einbindung {
   QString datei;  // below src/
